@@ -1,0 +1,36 @@
+# cardwright_add_room(<room>): the static library cardwright_<room> from src/<room>/*.cpp, linked to the rooms that
+# cmake/Rooms.cmake allows it and to nothing else.
+function(cardwright_add_room room)
+  set(folder "${PROJECT_SOURCE_DIR}/src/${room}")
+  file(GLOB_RECURSE sources CONFIGURE_DEPENDS "${folder}/*.cpp")
+  file(GLOB_RECURSE headers CONFIGURE_DEPENDS "${folder}/*.h")
+  if(NOT sources AND NOT headers)
+    return()
+  endif()
+
+  set(target cardwright_${room})
+  set(reach PUBLIC)
+  if(sources)
+    add_library(${target} STATIC ${sources} ${headers})
+    target_link_libraries(${target} PRIVATE $<BUILD_INTERFACE:cardwright_warnings>)
+  else()
+    add_library(${target} INTERFACE)
+    set(reach INTERFACE)
+  endif()
+  add_library(Cardwright::${room} ALIAS ${target})
+
+  target_include_directories(${target} ${reach} $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/src>
+                                                $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/cardwright>
+                                                $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>)
+  target_compile_features(${target} ${reach} cxx_std_20)
+  foreach(used IN LISTS CARDWRIGHT_USES_${room})
+    target_link_libraries(${target} ${reach} cardwright_${used})
+  endforeach()
+  foreach(external IN LISTS CARDWRIGHT_EXTERNAL_${room})
+    target_link_libraries(${target} ${reach} ${external})
+  endforeach()
+  if("Qt6::Widgets" IN_LIST CARDWRIGHT_EXTERNAL_${room})
+    set_target_properties(${target} PROPERTIES AUTOMOC ON)
+    target_compile_definitions(${target} ${reach} QT_NO_KEYWORDS)
+  endif()
+endfunction()

@@ -1,0 +1,16 @@
+# The map of the house, in one place: each room and the rooms it may link.
+# CMakeLists.txt builds the rooms from it and cmake/CheckRooms.cmake holds the includes against it.
+set(CARDWRIGHT_ROOMS automation platform storage shared orv model runtime qt)
+
+set(CARDWRIGHT_USES_automation)
+set(CARDWRIGHT_USES_platform automation)
+set(CARDWRIGHT_USES_storage platform)
+set(CARDWRIGHT_USES_shared storage)
+set(CARDWRIGHT_USES_orv platform)
+set(CARDWRIGHT_USES_model shared)
+set(CARDWRIGHT_USES_runtime model)
+set(CARDWRIGHT_USES_qt runtime)
+
+# Libraries that only the named rooms may see.
+set(CARDWRIGHT_EXTERNAL_orv GDAL::GDAL)
+set(CARDWRIGHT_EXTERNAL_qt Qt6::Widgets)

@@ -1,0 +1,70 @@
+#pragma once
+
+#include <cstdint>
+#include <utility>
+
+namespace cardwright {
+
+/// Base of everything that is shared by reference count. Counts are not atomic: an object belongs to the one
+/// thread that made it, as all of this library's objects do.
+class RefCounted {
+ public:
+  RefCounted() = default;
+  RefCounted(const RefCounted&) = delete;
+  RefCounted& operator=(const RefCounted&) = delete;
+
+  void AddRef() const noexcept { ++m_Count; }
+  void Release() const noexcept {
+    if (--m_Count == 0) delete this;
+  }
+  /// True when exactly one reference is left, so that its holder may change the object in place.
+  bool IsUnique() const noexcept { return m_Count == 1; }
+
+ protected:
+  virtual ~RefCounted() = default;
+
+ private:
+  mutable std::uint32_t m_Count = 0;
+};
+
+/// Counted reference to a RefCounted object, or nothing.
+template <class T>
+class Ref {
+ public:
+  Ref() noexcept = default;
+  Ref(std::nullptr_t) noexcept {}
+  Ref(T* object) noexcept : m_Object(object) {
+    if (m_Object) m_Object->AddRef();
+  }
+  Ref(const Ref& other) noexcept : Ref(other.m_Object) {}
+  Ref(Ref&& other) noexcept : m_Object(std::exchange(other.m_Object, nullptr)) {}
+  template <class U>
+  Ref(const Ref<U>& other) noexcept : Ref(other.get()) {}
+  ~Ref() {
+    if (m_Object) m_Object->Release();
+  }
+  Ref& operator=(Ref other) noexcept {
+    std::swap(m_Object, other.m_Object);
+    return *this;
+  }
+
+  T* get() const noexcept { return m_Object; }
+  T* operator->() const noexcept { return m_Object; }
+  T& operator*() const noexcept { return *m_Object; }
+  explicit operator bool() const noexcept { return m_Object != nullptr; }
+  /// Gives the reference away without releasing it.
+  T* Detach() noexcept { return std::exchange(m_Object, nullptr); }
+
+  friend bool operator==(const Ref& a, const Ref& b) noexcept { return a.m_Object == b.m_Object; }
+  friend bool operator==(const Ref& a, const T* b) noexcept { return a.m_Object == b; }
+
+ private:
+  T* m_Object = nullptr;
+};
+
+template <class T, class... Args>
+Ref<T> MakeRef(Args&&... args) {
+  return Ref<T>(new T(std::forward<Args>(args)...));
+}
+
+}  // namespace cardwright

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <cstdint>
+
+namespace cardwright {
+
+/// OLE colour number: 0x00BBGGRR, or with the high bit set a system colour index.
+using OleColor = std::int32_t;
+
+/// System colours by their index (0x80000000 + index).
+enum class SystemColor : std::int32_t {
+  Window = 5,
+  WindowText = 8,
+  Highlight = 13,
+  HighlightText = 14,
+  ButtonFace = 15,
+  GrayText = 17,
+  ButtonText = 18,
+};
+
+constexpr OleColor ToOleColor(SystemColor color) noexcept {
+  return static_cast<OleColor>(0x80000000u | static_cast<std::uint32_t>(color));
+}
+constexpr bool IsSystemColor(OleColor color) noexcept { return color < 0; }
+constexpr OleColor Rgb(std::uint8_t red, std::uint8_t green, std::uint8_t blue) noexcept {
+  return red | (green << 8) | (blue << 16);
+}
+
+}  // namespace cardwright

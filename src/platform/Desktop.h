@@ -1,0 +1,48 @@
+#pragma once
+
+#include <string_view>
+
+#include "automation/Object.h"
+#include "platform/Color.h"
+#include "platform/Widget.h"
+
+namespace cardwright {
+
+/// Per-user settings by application, section and key.
+class SettingsStore {
+ public:
+  virtual ~SettingsStore() = default;
+  virtual Text Get(std::u16string_view app, std::u16string_view section, std::u16string_view key,
+                   std::u16string_view fallback) const = 0;
+  /// Error 5 where a name is empty.
+  virtual void Save(std::u16string_view app, std::u16string_view section, std::u16string_view key,
+                    std::u16string_view value) = 0;
+};
+
+/// Style of a message box: a question's buttons plus an icon, as the platform numbers them.
+namespace BoxStyle {
+inline constexpr int OkOnly = 0, OkCancel = 1, YesNoCancel = 3, YesNo = 4;
+inline constexpr int Critical = 16, Question = 32, Exclamation = 48, Information = 64;
+}  // namespace BoxStyle
+
+/// What the library asks of the machine that it runs on, beside surfaces and widgets.
+class Desktop {
+ public:
+  virtual ~Desktop() = default;
+
+  /// Shows a modal message box; the answer is 1 OK, 2 Cancel, 6 Yes, 7 No. An empty title gives the program's
+  /// name.
+  virtual int ShowMessage(const Text& text, int style, const Text& title) = 0;
+  virtual void Beep() = 0;
+  /// The widget that has the focus, or null.
+  virtual Ref<Widget> ActiveControl() const = 0;
+  /// A colour number without system colours: 0x00BBGGRR.
+  virtual OleColor ResolveColor(OleColor color) const = 0;
+  /// True for a handle of a window of this process.
+  virtual bool IsWindow(std::int32_t handle) const = 0;
+  /// Starts a program by its command line and returns at once; a program that is not there is passed over.
+  virtual void Start(const Text& commandLine) = 0;
+  virtual SettingsStore& Settings() = 0;
+};
+
+}  // namespace cardwright

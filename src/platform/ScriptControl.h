@@ -1,0 +1,48 @@
+#pragma once
+
+#include <span>
+#include <string_view>
+
+#include "automation/Object.h"
+
+namespace cardwright {
+
+/// The error that a script engine met last; number 0 where it met none.
+struct ScriptError {
+  int number = 0;
+  Text description;
+  int line = 0;    ///< from 1
+  int column = 0;  ///< from 0
+};
+
+/// A named module of a script engine with code of its own over the shared global one.
+class ScriptModule : public RefCounted {
+ public:
+  virtual void AddCode(std::u16string_view code) = 0;
+  virtual Variant Run(std::u16string_view procedure, Args args = {}) = 0;
+};
+
+/// The script engine that a form drives. Failures are numbered errors; those inside a script stand in
+/// LastError too.
+class ScriptControl : public RefCounted {
+ public:
+  virtual Text Language() const = 0;
+  /// Selects the engine; a new value replaces the old one.
+  virtual void SetLanguage(std::u16string_view language) = 0;
+  /// Window that owns the engine's dialogs; error 380 for a handle that is neither a window nor a connection.
+  virtual void SetSiteWindow(std::int32_t handle) = 0;
+  /// Drops all code and objects.
+  virtual void Reset() = 0;
+  /// Milliseconds; -1 for no limit.
+  virtual void SetTimeout(std::int32_t milliseconds) = 0;
+  virtual void SetAllowUI(bool allowed) = 0;
+  /// Adds an object under a name, its members global where asked for.
+  virtual void AddObject(std::u16string_view name, Ref<Object> object, bool addMembers) = 0;
+  /// Compiles into the global module and runs what stands outside procedures.
+  virtual void AddCode(std::u16string_view code) = 0;
+  virtual Ref<ScriptModule> AddModule(std::u16string_view name) = 0;
+  virtual Variant Run(std::u16string_view procedure, Args args = {}) = 0;
+  virtual ScriptError LastError() const = 0;
+};
+
+}  // namespace cardwright
