@@ -1,0 +1,17 @@
+#pragma once
+
+#include "model/Control.h"
+
+namespace cardwright {
+
+/// A caption on the form.
+class CLabel final : public Control {
+ public:
+  static const ClassTable kTable;
+  CLabel() : Control(kTable) {}
+
+ protected:
+  bool Accepts(const Widget& widget) const override { return dynamic_cast<const CaptionWidget*>(&widget); }
+};
+
+}  // namespace cardwright

@@ -1,0 +1,69 @@
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+
+namespace cardwright {
+
+/// Kinds of control that an author can draw. The numbers are part of the public interface.
+enum class ControlTypeEnum : std::int32_t {
+  ctDefault = 0,  ///< no control: the selection tool
+  ctCheckBox = 1,
+  ctComboBox = 2,
+  ctCommandButton = 3,
+  ctFrame = 4,
+  ctLabel = 5,
+  ctListBox = 6,
+  ctOptionButton = 7,
+  ctTextBox = 8,
+  ctTextBoxMultiline = 9,
+  ctResourceSelector = 10,
+  ctThemeSelector = 11,
+  ctFontSelector = 12,
+  ctColorSelector = 13,
+  ctAttributeSelector = 14,
+  ctDbTableViewer = 15,  ///< declared for hosts that number it; no control class stands behind it
+};
+
+/// What a property grid offers as an editor for a property.
+enum class PropertyTypeEnum : std::int32_t {
+  ptNone = -1,  ///< property not found
+  ptString = 0,
+  ptColor = 1,
+  ptInteger = 2,
+  ptFloat = 3,
+  ptFont = 4,
+  ptBoolean = 5,
+  ptAttribute = 6,
+  ptCollection = 7,
+  ptThemes = 8,
+  ptFeatureType = 9,
+  ptFileName = 10,
+  ptImage = 11,
+  ptName = 12,
+  ptList = 13,
+  ptControls = 14,
+  ptConnectionString = 15,  ///< declared for hosts that number it; no property has it
+};
+
+/// Geometry kind of a theme's features, as form projects store it.
+enum class FeatureTypeEnum : std::int32_t { ftNone = -1, ftPoint = 0, ftArc = 1, ftPolygon = 2 };
+
+/// Kind of a feature attribute.
+enum class AttributeTypeEnum : std::int32_t { atCharacter = 0, atNumeric = 1 };
+
+/// What may be typed into a text field; the number stands in the widget's Tag.
+enum class InputTypeEnum : std::int32_t { itString = 0, itInteger = 1, itFloat = 2 };
+
+/// The host's word for a feature type: "POINT", "ARC", "POLYGON", and "" for any other number.
+constexpr std::u16string_view FeatureTypeText(FeatureTypeEnum type) noexcept {
+  switch (type) {
+    case FeatureTypeEnum::ftPoint: return u"POINT";
+    case FeatureTypeEnum::ftArc: return u"ARC";
+    case FeatureTypeEnum::ftPolygon: return u"POLYGON";
+    case FeatureTypeEnum::ftNone: break;
+  }
+  return u"";
+}
+
+}  // namespace cardwright

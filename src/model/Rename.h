@@ -1,0 +1,11 @@
+#pragma once
+
+#include "automation/Collection.h"
+#include "model/IControl.h"
+
+namespace cardwright {
+
+/// Moves the control to the end of the collection under its new name. The control itself keeps its name.
+void RenameInCollection(Collection& controls, IControl& control, const Text& newName);
+
+}  // namespace cardwright

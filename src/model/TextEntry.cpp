@@ -1,0 +1,34 @@
+#include "model/TextEntry.h"
+
+#include "shared/KeyFilter.h"
+#include "shared/ModuleState.h"
+#include "shared/ScreenKeyboard.h"
+
+namespace cardwright {
+
+void TextEntry::OnGotFocus() {
+  if (Input() && TakesTyping() && Input()->CanRunScripts()) ShowScreenKeyboard();
+  Control::OnGotFocus();
+}
+
+// The Tag picks the filter: "1" lets an integer through, "2" a number with the system's decimal separator.
+// Once a mode stands there it stays, whatever is set on the control later.
+void TextEntry::OnKeyPress(char16_t& key) {
+  if (!Input() || !Bound() || !TakesTyping()) return;
+  ChooseInputMode();
+  const Text mode = Bound()->Tag();
+  const bool integer = mode == u"1";
+  if (!integer && mode != u"2") return;
+  key = FilterKey(key, Ref<Object>(Bound()), integer ? Text() : Module().decimalSeparator,
+                  FlagIsSet(m_MinusSignEnabled));
+}
+
+// The widget is switched off meanwhile, so that its own menu does not open beside the designer's.
+void TextEntry::OpenDesignerMenu() {
+  const Ref<Widget> widget(Bound());
+  widget->SetEnabled(false);
+  Control::OpenDesignerMenu();
+  widget->SetEnabled(true);
+}
+
+}  // namespace cardwright

@@ -1,0 +1,60 @@
+#include "runtime/CAttrib.h"
+
+namespace cardwright {
+namespace {
+
+template <auto Field, class T>
+T Get(CAttrib& attrib) {
+  return attrib.*Field;
+}
+template <auto Field, class T>
+void Let(CAttrib& attrib, T value) {
+  attrib.*Field = std::move(value);
+}
+template <auto Field, class T>
+constexpr Member PlainField(std::u16string_view name) {
+  return Property<&Get<Field, T>, &Let<Field, T>>(name);
+}
+
+constexpr Member kAttribMembers[] = {
+    PlainField<&CAttrib::m_Name, Text>(u"Name"),
+    PlainField<&CAttrib::m_AttribType, AttributeTypeEnum>(u"AttribType"),
+    PlainField<&CAttrib::m_Length, std::int32_t>(u"Length"),
+    PlainField<&CAttrib::m_Decs, std::int32_t>(u"Decs"),
+};
+
+constexpr Member kAttribsMembers[] = {
+    Property<&CAttribs::Count>(u"Count"),
+    Property<&CAttribs::Item>(u"Item"),
+    Method<&CAttribs::Clear>(u"Clear"),
+};
+
+}  // namespace
+
+const MemberTable& CAttrib::Members() const {
+  static const MemberTable table(kAttribMembers);
+  return table;
+}
+
+const MemberTable& CAttribs::Members() const {
+  static const MemberTable table(kAttribsMembers, u"Item");
+  return table;
+}
+
+Ref<CAttrib> CAttribs::Item(const Variant& index) const {
+  return AttemptOr(Ref<CAttrib>(), [&] {
+    Variant found = m_Attribs->Item(index);
+    return FromVariant<Ref<CAttrib>>(found);
+  });
+}
+
+CAttrib* CAttribs::Find(std::u16string_view name) const noexcept {
+  const Variant* found = name.empty() ? nullptr : m_Attribs->Find(name);
+  return found ? static_cast<CAttrib*>(found->ObjectPtr()) : nullptr;
+}
+
+void CAttribs::Add(Ref<CAttrib> attrib) {
+  Attempt([&] { m_Attribs->Add(Variant(attrib), Variant(attrib->m_Name)); });
+}
+
+}  // namespace cardwright

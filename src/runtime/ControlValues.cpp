@@ -1,0 +1,154 @@
+#include "runtime/ControlValues.h"
+
+#include "model/CItems.h"
+#include "platform/Widget.h"
+
+namespace cardwright {
+namespace {
+
+Ref<Widget> WidgetOf(const IControl& control) {
+  return Ref<Widget>(dynamic_cast<Widget*>(control.BoundObject().get()));
+}
+
+template <class Kind>
+Kind& WidgetAs(const IControl& control) {
+  auto* widget = dynamic_cast<Kind*>(control.BoundObject().get());
+  if (!widget) Raise(ErrorNumber::ObjectNotSet);
+  return *widget;
+}
+
+CItems& ItemsOf(const IControl& control) {
+  auto* items = dynamic_cast<CItems*>(&RequireObject(control.PropertyValue(u"Items")));
+  if (!items) Raise(ErrorNumber::TypeMismatch);
+  return *items;
+}
+
+Text RowText(const IControl& control, const char16_t* row) { return ToText(control.PropertyValue(row)); }
+
+// Showing a reply, class by class.
+
+template <const char16_t* Row>
+void ShowInRow(const Collection&, IControl& control, const CAttrib&, const Text& reply) {
+  control.SetPropertyValue(Row, Variant(reply));
+}
+
+void ShowInOptions(const Collection& controls, IControl& control, const CAttrib& attrib, const Text& reply) {
+  const Ref<Widget> container = WidgetAs<Widget>(control).Container();
+  for (const Ref<IControl>& other : ControlsOf(controls)) {
+    const Ref<Widget> widget = WidgetOf(*other);
+    if (!widget || !EqualsNoCase(widget->TypeName(), u"OptionButton") || widget->Container() != container)
+      continue;
+    if (RowText(*other, u"Attribute") != attrib.m_Name || RowText(*other, u"Value") != reply) continue;
+    other->SetPropertyValue(u"Selected", Variant(true));
+    return;
+  }
+}
+
+void ShowInCombo(const Collection&, IControl& control, const CAttrib&, const Text& reply) {
+  const std::int32_t position = ItemsOf(control).FindValue(reply);
+  if (position > 0) WidgetAs<ComboWidget>(control).SetListIndex(position - 1);
+  const bool editable = AttemptOr(false, [&] { return ToBoolean(control.PropertyValue(u"Editable")); });
+  if (editable && RowText(control, u"Text") != reply) control.SetPropertyValue(u"Text", Variant(reply));
+}
+
+void ShowInList(const Collection&, IControl& control, const CAttrib&, const Text& reply) {
+  const std::int32_t position = ItemsOf(control).FindValue(reply);
+  if (position > 0) WidgetAs<ListViewWidget>(control).SelectRow(position);
+}
+
+// Taking a value, class by class.
+
+bool TakeNothing(IControl&, Text&) { return false; }
+
+bool TakeOption(IControl& control, Text& value) {
+  if (WidgetAs<StateWidget>(control).State() == 0) return false;
+  value = RowText(control, u"Value");
+  return true;
+}
+
+bool TakeCombo(IControl& control, Text& value) {
+  const auto& widget = WidgetAs<ComboWidget>(control);
+  const Ref<CItem> item = ItemsOf(control).Item(Variant(std::int32_t{widget.ListIndex() + 1}));
+  value = item ? item->m_Value : widget.DisplayText();
+  return true;
+}
+
+bool TakeList(IControl& control, Text& value) {
+  const std::int32_t row = WidgetAs<ListViewWidget>(control).SelectedRow();
+  if (const Ref<CItem> item = row > 0 ? ItemsOf(control).Item(Variant(row)) : nullptr) value = item->m_Value;
+  return true;
+}
+
+enum class Limit { None, Kind, LengthAndKind };
+
+struct Binding {
+  std::u16string_view className;
+  Limit limit = Limit::None;
+  void (*show)(const Collection&, IControl&, const CAttrib&, const Text&) = nullptr;
+  bool (*take)(IControl&, Text&) = nullptr;  // null: the control's own Value
+};
+
+constexpr char16_t kText[] = u"Text";
+constexpr char16_t kSelected[] = u"Selected";
+
+constexpr Binding kBindings[] = {
+    {u"CTextBox", Limit::LengthAndKind, ShowInRow<kText>},
+    {u"CTextBoxMultiline", Limit::LengthAndKind, ShowInRow<kText>},
+    {u"CCheckBox", Limit::None, ShowInRow<kSelected>},
+    {u"COptionButton", Limit::None, ShowInOptions, TakeOption},
+    {u"CComboBox", Limit::Kind, ShowInCombo, TakeCombo},
+    {u"CListBox", Limit::None, ShowInList, TakeList},
+    {u"CCommandButton", Limit::None, nullptr, TakeNothing},
+};
+
+const Binding* BindingOf(const IControl& control) {
+  const Text className = control.TypeName();
+  for (const Binding& binding : kBindings)
+    if (className == binding.className) return &binding;
+  return nullptr;
+}
+
+InputTypeEnum InputTypeOf(const CAttrib& attrib) {
+  if (attrib.m_AttribType == AttributeTypeEnum::atCharacter) return InputTypeEnum::itString;
+  return attrib.m_Decs < 1 ? InputTypeEnum::itInteger : InputTypeEnum::itFloat;
+}
+
+// The value of a combo box counts as missing while nothing is chosen from a list that has something to
+// choose.
+void TakeRequiredCombo(IControl& control, Text& value) {
+  const auto& widget = WidgetAs<ComboWidget>(control);
+  value = widget.DisplayText();
+  if (ItemsOf(control).Count() > 0 && widget.ListIndex() < 0) value = Text();
+}
+
+}  // namespace
+
+void LimitInput(IControl& control, const CAttrib& attrib) {
+  const Binding* binding = BindingOf(control);
+  if (!binding || binding->limit == Limit::None) return;
+  if (binding->limit == Limit::LengthAndKind) WidgetAs<TextWidget>(control).SetMaxLength(attrib.m_Length);
+  WidgetAs<Widget>(control).SetTag(ToText(Variant(static_cast<std::int32_t>(InputTypeOf(attrib)))));
+}
+
+void ShowReply(const Collection& controls, IControl& control, const CAttrib& attrib, const Text& reply) {
+  const Binding* binding = BindingOf(control);
+  if (binding && binding->show) binding->show(controls, control, attrib, reply);
+}
+
+bool TakeValue(IControl& control, Text& value) {
+  const Binding* binding = BindingOf(control);
+  if (binding && binding->take) return binding->take(control, value);
+  value = control.Value();
+  return true;
+}
+
+void TakeRequiredValue(IControl& control, Text& value) {
+  const Text type = WidgetAs<Widget>(control).TypeName();
+  if (EqualsNoCase(type, u"TextBox") || EqualsNoCase(type, u"MultilineTextBox")) {
+    value = RowText(control, u"Text");
+  } else if (EqualsNoCase(type, u"ComboBox")) {
+    TakeRequiredCombo(control, value);
+  }
+}
+
+}  // namespace cardwright

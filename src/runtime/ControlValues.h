@@ -1,0 +1,24 @@
+#pragma once
+
+#include "model/IControl.h"
+#include "runtime/CAttrib.h"
+
+namespace cardwright {
+
+/// @name How the value of a feature attribute meets each class of control.
+/// @{
+/// Holds what can be typed to the attribute's length and kind, in controls that take typed text.
+void LimitInput(IControl& control, const CAttrib& attrib);
+/// Shows the host's reply in the control; of option buttons, in the one of its group that stands for the
+/// reply.
+void ShowReply(const Collection& controls, IControl& control, const CAttrib& attrib, const Text& reply);
+/// Puts the text for the attribute into `value`; false where the control writes nothing. A list box without a
+/// selection leaves `value` as it is.
+bool TakeValue(IControl& control, Text& value);
+/// @}
+
+/// What the check of required fields looks at; a control of a kind that it does not know leaves `value` as it
+/// is.
+void TakeRequiredValue(IControl& control, Text& value);
+
+}  // namespace cardwright

@@ -1,0 +1,198 @@
+#include "runtime/FormInput.h"
+
+#include "model/Rename.h"
+#include "runtime/AttributeBinding.h"
+#include "runtime/ControlValues.h"
+#include "runtime/ScriptRun.h"
+#include "shared/HostExecutor.h"
+#include "shared/Messages.h"
+#include "shared/ModuleState.h"
+#include "shared/ScriptText.h"
+
+namespace cardwright {
+namespace {
+
+constexpr std::u16string_view kFormName = u"Form";
+
+bool ProjectSave(FormInput& form, const Text& fileName, std::optional<bool> isTemporary) {
+  return form.ProjectSave(fileName, isTemporary.value_or(false));
+}
+
+constexpr Member kMembers[] = {
+    Property<&FormInput::ControlCollection>(u"Controls"),
+    Property<&FormInput::DebugMode, &FormInput::SetDebugMode>(u"DebugMode"),
+    Property<&FormInput::NewFeature, &FormInput::SetNewFeature>(u"NewFeature"),
+    Property<&FormInput::FeatureID, &FormInput::SetFeatureID>(u"FeatureID"),
+    Method<&FormInput::ProjectRead>(u"ProjectRead"),
+    Method<&ProjectSave>(u"ProjectSave"),
+    Property<&FormInput::SetAttributesEnabled, &FormInput::SetSetAttributesEnabled>(u"SetAttributesEnabled"),
+    Method<&FormInput::ChangeControlName>(u"ChangeControlName"),
+    Method<&FormInput::GetThemeName>(u"GetThemeName"),
+    Method<&FormInput::GetFeatureType>(u"GetFeatureType"),
+    Method<&FormInput::GetFeatureTypeString>(u"GetFeatureTypeString"),
+    Property<&FormInput::WindowHandle>(u"hWnd"),
+};
+
+}  // namespace
+
+const MemberTable& FormInput::Members() const {
+  static const MemberTable table(kMembers);
+  return table;
+}
+
+FormInput::FormInput(Surface& surface) : m_Surface(&surface) {
+  Module().formScaleMode = ScaleMode::Pixels;
+  surface.SetScale(ScaleMode::Pixels);
+  m_OkButton.emplace(surface, u"cmdOK", 1051, [this] { Ok(); });
+  m_CancelButton.emplace(surface, u"cmdCancel", 1052, [this] { Cancel(); });
+}
+
+Ref<FormInput> FormInput::Create(Surface& surface) {
+  Ref<FormInput> input(new FormInput(surface));
+  auto form = MakeRef<CForm>();
+  form->SetParentForm(input);
+  form->SetName(kFormName);
+  input->m_Controls->Add(Variant(Ref<Object>(form)), Variant(ToLower(form->UserName())));
+  return input;
+}
+
+FormInput::~FormInput() { DetachSurface(); }
+
+void FormInput::DetachSurface() {
+  for (const Ref<IControl>& control : ControlsOf(*m_Controls)) {
+    auto* table = dynamic_cast<TableControl*>(control.get());
+    if (!table) continue;
+    if (m_Surface && !EqualsNoCase(control->TypeName(), u"CForm"))
+      Attempt([&] { m_Surface->Remove(control->Name()); });
+    table->ForgetOwner();
+  }
+  m_OkButton.reset();
+  m_CancelButton.reset();
+  m_Surface = nullptr;
+}
+
+Ref<IControl> FormInput::Form() const {
+  return m_Controls->Count() > 0 ? Ref<IControl>(AsControl(m_Controls->Item(Variant(1)))) : nullptr;
+}
+
+void FormInput::SetFeatureID(const Text& id) {
+  m_FeatureID = id;
+  if (CanRunScripts()) LoadAttributes(*this);
+}
+
+bool FormInput::ProjectRead(const Text& fileName) {
+  const Ref<FormInput> keepAlive(this);
+  const Ref<IControl> form = Form();
+  if (!form || !form->Read(fileName, {})) return false;
+  if (!CanRunScripts()) return true;
+  if (m_DebugMode) LoadAttributes(*this);
+  RunScript(*this, Module().scriptContent, Module().scriptLanguage, m_DebugMode);
+  RunFormEvent(u"Initialize");
+  return true;
+}
+
+bool FormInput::ProjectSave(const Text& fileName, bool isTemporary) {
+  Module().isTemporarySave = isTemporary;
+  const bool saved = AttemptOr(false, [&] {
+    const Ref<IControl> form = Form();
+    return form && form->Save(fileName, {});
+  });
+  Module().isTemporarySave = false;
+  return saved;
+}
+
+void FormInput::ChangeControlName(Ref<Object> object, const Text& newName) {
+  const Ref<IControl> control(dynamic_cast<IControl*>(object.get()));
+  if (!control || Trim(newName).empty()) return;
+  const IControl* holder = FindControl(*m_Controls, newName);
+  if (holder && holder != control.get()) return;
+  Attempt([&] {
+    const Text oldName = control->UserName();
+    RenameInCollection(*m_Controls, *control, newName);
+    control->SetName(newName);
+    Variant args[] = {Variant(oldName), Variant(Ref<Object>(control))};
+    RaiseEvent(u"ControlNameChanged", args);
+    for (const Ref<IControl>& other : ControlsOf(*m_Controls))
+      Attempt([&] { other->LinkControlNameChanged(oldName, newName); });
+  });
+}
+
+Text FormInput::GetThemeName() const {
+  const Ref<IControl> form = Form();
+  return form ? ToText(form->PropertyValue(u"ThemeName")) : Text();
+}
+
+FeatureTypeEnum FormInput::GetFeatureType() const {
+  const Ref<IControl> form = Form();
+  return form ? static_cast<FeatureTypeEnum>(ToLong(form->PropertyValue(u"FeatureType")))
+              : FeatureTypeEnum::ftNone;
+}
+
+std::int32_t FormInput::WindowHandle() const { return m_Surface ? m_Surface->WindowHandle() : 0; }
+
+bool FormInput::CanRunScripts() const { return !m_DebugMode || Module().debugOutput; }
+
+bool FormInput::RunEvent(const Text& procedure) { return cardwright::RunEvent(procedure); }
+
+bool FormInput::RunFormEvent(std::u16string_view event) { return RunEvent(BuildEventName(kFormName, event)); }
+
+void FormInput::SetCaption(const Text& caption) {
+  m_Caption = caption;
+  Variant args[] = {Variant(caption)};
+  RaiseEvent(u"SetParentCaption", args);
+}
+
+Ref<IControl> FormInput::FirstMissing() const {
+  Text value;  // kept from control to control: one of a kind that has no value of its own takes its
+               // predecessor's
+  for (const Ref<IControl>& control : ControlsOf(*m_Controls)) {
+    const bool needed =
+        AttemptOr(false, [&] { return ToText(control->PropertyValue(u"IsNeeded")) == u"True"; });
+    if (!needed) continue;
+    Attempt([&] { TakeRequiredValue(*control, value); });
+    if (value.IsEmpty()) return control;
+  }
+  return nullptr;
+}
+
+void FormInput::ReportMissing(IControl& control) {
+  const Text attribute = control.AttributeName();
+  const Text message = attribute.IsEmpty() ? GetMessage(102, {Variant(control.Name())})
+                                           : GetMessage(101, {Variant(attribute)});
+  if (Module().desktop) Module().desktop->ShowMessage(message, BoxStyle::Exclamation, GetMessage(100));
+  if (auto* widget = dynamic_cast<Widget*>(control.BoundObject().get())) Attempt([&] { widget->SetFocus(); });
+}
+
+void FormInput::SendRedraw(bool on) {
+  if (!AttributesWritable() || !SharedHost().IsConnected()) return;
+  SharedHost().ORVExecute(Text(on ? commands::kRedrawOn : commands::kRedrawOff));
+  if (on) SharedHost().ORVExecute(Text(commands::kRedraw));
+}
+
+void FormInput::Ok() {
+  const Ref<FormInput> keepAlive(this);  // a host may close the window in any of the events below
+  if (!CanRunScripts()) return RaiseEvent(u"OkClick");
+  if (const Ref<IControl> missing = FirstMissing()) return ReportMissing(*missing);
+  SendRedraw(false);
+  bool proceed = RunFormEvent(u"BeforeOkClick");
+  if (proceed) {
+    if (m_SetAttributesEnabled) WriteAttributes(*this);
+    if (AttributesWritable()) SharedHost().ORVExecute(commands::SelectNone(PlaceOf(*this)));
+    proceed = RunFormEvent(u"AfterOkClick");
+  }
+  SendRedraw(true);
+  if (proceed) RaiseEvent(u"OkClick");
+}
+
+void FormInput::Cancel() {
+  const Ref<FormInput> keepAlive(this);
+  bool proceed = true;
+  if (CanRunScripts()) {
+    SendRedraw(false);
+    proceed = RunFormEvent(u"BeforeCancelClick");
+    SendRedraw(true);
+  }
+  if (proceed) RaiseEvent(u"CancelClick");
+}
+
+}  // namespace cardwright
