@@ -23,7 +23,8 @@ double ToDouble(const Variant& value);
 Currency ToCurrency(const Variant& value);
 Decimal ToDecimal(const Variant& value);
 Date ToDate(const Variant& value);
-/// Plain conversion to text ("CStr"): decimal separator, dates and "True"/"False" by the current locale.
+/// Plain conversion to text ("CStr"): decimal separator and dates by the current locale, "True" and "False"
+/// in every one.
 Text ToText(const Variant& value);
 /// @}
 
@@ -37,7 +38,7 @@ double Val(std::u16string_view text) noexcept;
 bool IsNumericText(std::u16string_view text) noexcept;
 /// The same of any value: true for numbers, Boolean, Empty and numeric texts.
 bool IsNumeric(const Variant& value) noexcept;
-/// True where ToDate would succeed.
+/// True for a Date and for a text that ToDate can read; a number is no date.
 bool IsDate(const Variant& value) noexcept;
 
 /// A Double as the platform prints it: 15 significant digits, "1E+15" style exponents, with `point` as

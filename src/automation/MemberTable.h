@@ -60,7 +60,7 @@ T FromVariant(Variant& value) {
 template <class T>
 struct VariantCast<std::optional<T>> {
   static std::optional<T> From(Variant& value) {
-    if (value.IsMissing()) return std::nullopt;
+    if (value.Deref().IsMissing()) return std::nullopt;
     return FromVariant<T>(value);
   }
 };
@@ -101,6 +101,7 @@ template <class Function>
 struct Signature;
 template <class R, class T, class... A>
 struct Signature<R (T::*)(A...)> {
+  using Result = R;
   using Self = T;
   using Arguments = std::tuple<std::remove_cvref_t<A>...>;
 };
@@ -129,12 +130,22 @@ std::tuple_element_t<I, Tuple> Argument(Args args) {
   }
 }
 
-/// Calls `Function` on the object with the arguments converted to what it takes.
+/// The default member of the object in `result`, called with `args`; error 450 where there is no object.
+Variant CallDefault(const Variant& result, Args args);
+
+/// Calls `Function` on the object with the arguments converted to what it takes. Arguments for a function
+/// that takes none belong to the default member of the object that it returns: `o.Items(1)` is
+/// `o.Items.Item(1)`.
 template <auto Function>
 Variant Thunk(Object& self, Args args) {
   using S = Signature<decltype(Function)>;
   constexpr std::size_t kCount = std::tuple_size_v<typename S::Arguments>;
-  if (args.size() > kCount) Raise(ErrorNumber::WrongArgumentCount);
+  if (args.size() > kCount) {
+    if constexpr (kCount == 0 && !std::is_void_v<typename S::Result>) {
+      return CallDefault(Thunk<Function>(self, {}), args);
+    }
+    Raise(ErrorNumber::WrongArgumentCount);
+  }
   auto& typed = static_cast<typename S::Self&>(self);
   return [&]<std::size_t... I>(std::index_sequence<I...>)->Variant {
     auto call = [&]() -> decltype(auto) {
@@ -189,6 +200,7 @@ class MemberTable {
   MemberId Find(std::u16string_view name) const noexcept;
   MemberId Default() const noexcept { return m_Default; }
   std::span<const Member> Members() const noexcept { return m_Members; }
+  /// A Get of a method calls it; a Set of a property without one is a Let. Errors as Object::Invoke.
   Variant Invoke(Object& self, MemberId member, CallKind kind, Args args) const;
 
  private:

@@ -62,7 +62,7 @@ class Object : public RefCounted {
   Object();
   ~Object() override;
   /// Calls every handler connected at this moment, in order of connection. A handler may connect, disconnect
-  /// or release the object.
+  /// or release the object; one that is disconnected before its turn is passed over.
   void RaiseEvent(std::u16string_view event, Args args = {});
 
  private:

@@ -19,6 +19,8 @@ class RefCounted {
   }
   /// True when exactly one reference is left, so that its holder may change the object in place.
   bool IsUnique() const noexcept { return m_Count == 1; }
+  /// False while it is being made or unmade, and for one that no reference ever held.
+  bool IsHeld() const noexcept { return m_Count != 0; }
 
  protected:
   virtual ~RefCounted() = default;

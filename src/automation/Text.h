@@ -45,6 +45,7 @@ class Text {
   }
   friend bool operator==(const Text& a, std::u16string_view b) noexcept { return a.View() == b; }
   friend bool operator==(const Text& a, const char16_t* b) noexcept { return a.View() == b; }
+  friend bool operator==(const Text& a, const std::u16string& b) noexcept { return a.View() == b; }
 
  private:
   struct Rep;

@@ -3,6 +3,7 @@
 #include "automation/MemberTable.h"
 #include "platform/Color.h"
 #include "platform/Font.h"
+#include "platform/Scale.h"
 #include "platform/WidgetListener.h"
 
 namespace cardwright {
@@ -94,6 +95,27 @@ class TextWidget : public Widget {
   virtual Text SelText() const = 0;
   /// Replaces the selection; with none it inserts at the caret.
   virtual void SetSelText(const Text& text) = 0;
+
+ protected:
+  const MemberTable& Members() const override;
+};
+
+/// Picture box that is drawn on, in a scale of its own.
+class PictureWidget : public Widget {
+ public:
+  virtual void SetScale(ScaleMode mode) = 0;
+  /// Size of the drawing area in the box's scale.
+  virtual float ScaleWidth() const = 0;
+  virtual float ScaleHeight() const = 0;
+  /// With it what is drawn stays; without it a repaint loses it.
+  virtual void SetAutoRedraw(bool keep) = 0;
+  /// Width of drawn lines in pixels.
+  virtual void SetDrawWidth(int pixels) = 0;
+  virtual int DrawWidth() const = 0;
+  /// Clears to the back colour.
+  virtual void Cls() = 0;
+  /// An unfilled box between two corners in the box's scale.
+  virtual void DrawBox(float left, float top, float right, float bottom, OleColor color) = 0;
 
  protected:
   const MemberTable& Members() const override;
