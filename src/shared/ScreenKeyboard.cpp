@@ -1,0 +1,17 @@
+#include "shared/ScreenKeyboard.h"
+
+#include "automation/Errors.h"
+#include "shared/ModuleState.h"
+
+namespace cardwright {
+
+void ShowScreenKeyboard() {
+  const ModuleState& module = Module();
+  if (!module.enableScreenKeyboard || !module.desktop) return;
+  Attempt([&] {
+    Desktop& desktop = *module.desktop;
+    desktop.Start(desktop.Settings().Get(u"Cardwright", u"ScreenKeyboard", u"Command", u"onboard"));
+  });
+}
+
+}  // namespace cardwright
