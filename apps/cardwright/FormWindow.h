@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QWidget>
+
+#include "cardwright/DebugPane.h"
+#include "cardwright/Session.h"
+#include "qt/FormInput.h"
+
+namespace cardwright::app {
+
+/// A window with one form in it, that closes itself after OK and Cancel. Closing the window is Cancel. While
+/// the data source refuses what OK wrote, the window says why and stays.
+class FormWindow final : public QWidget {
+  Q_OBJECT
+ public:
+  explicit FormWindow(Session& session);
+
+  qt::FormInput& Form() noexcept { return *m_Form; }
+  /// Adds a pane below the form, into which a debugging run writes.
+  void ShowDebugOutput();
+  /// True once the form was ended by OK.
+  bool IsAccepted() const noexcept { return m_Accepted; }
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+
+ private:
+  void OnOk();
+  void End();
+
+  Session& m_Session;
+  qt::FormInput* m_Form;
+  Ref<DebugPane> m_DebugPane;
+  bool m_Accepted = false;
+  bool m_Ended = false;
+};
+
+}  // namespace cardwright::app

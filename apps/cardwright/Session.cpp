@@ -1,0 +1,39 @@
+#include "cardwright/Session.h"
+
+#include "automation/Errors.h"
+#include "qt/QtText.h"
+#include "shared/ModuleState.h"
+
+namespace cardwright::app {
+namespace {
+
+bool HasDisplay() {
+  return !qEnvironmentVariableIsEmpty("DISPLAY") || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
+}
+
+}  // namespace
+
+Session::Session(Display display) {
+  const bool chosen = !qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM");
+  if (!chosen && !HasDisplay() && display == Display::Needed)
+    Raise(static_cast<int>(ErrorNumber::InvalidCall), u"there is no display to show the form on");
+  if (!chosen && (!HasDisplay() || display == Display::Unused)) qputenv("QT_QPA_PLATFORM", "offscreen");
+  m_Application = std::make_unique<QApplication>(m_Argc, m_Argv);
+  QApplication::setApplicationDisplayName(QStringLiteral("Cardwright"));
+  m_Library = std::make_unique<qt::Library>();
+}
+
+Session::~Session() {
+  if (m_Log) Module().connections.Close(m_Library->Vellum().TarvoHandle());
+}
+
+void Session::OpenData(const QString& source) {
+  const Ref<EmbeddedHost> host = EmbeddedHost::Open(qt::FromQString(source));
+  host->onRefusal = [this](const Text& reason) { m_Refusals += qt::ToQString(reason); };
+  m_Log = MakeRef<LoggedConnection>(host);
+  host->SetHandle(m_Library->Connect(m_Log));
+}
+
+QStringList Session::TakeRefusals() { return std::exchange(m_Refusals, {}); }
+
+}  // namespace cardwright::app

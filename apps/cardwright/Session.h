@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QApplication>
+#include <QStringList>
+#include <memory>
+
+#include "orv/EmbeddedHost.h"
+#include "qt/Library.h"
+
+namespace cardwright::app {
+
+/// Whether a command shows windows to a person or works without a display.
+enum class Display { Needed, Unused };
+
+/// What a command holds of toolkit and library while it runs.
+class Session {
+ public:
+  /// Error 5 with a description where a display is needed and there is none.
+  explicit Session(Display display);
+  ~Session();
+
+  /// Opens a data source and makes it the host of the forms. Error 53 with a description where it cannot be
+  /// opened.
+  void OpenData(const QString& source);
+  /// Sends a command to the data source.
+  Text Send(std::u16string_view command) { return m_Log->Execute(command); }
+  LoggedConnection& Log() noexcept { return *m_Log; }
+  /// Reasons for which the data source has refused changes, emptied by the call.
+  QStringList TakeRefusals();
+
+ private:
+  int m_Argc = 1;
+  char m_Name[11] = "cardwright";
+  char* m_Argv[2] = {m_Name, nullptr};
+  std::unique_ptr<QApplication> m_Application;
+  std::unique_ptr<qt::Library> m_Library;
+  Ref<LoggedConnection> m_Log;
+  QStringList m_Refusals;
+};
+
+}  // namespace cardwright::app
