@@ -1,0 +1,77 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "Program.h"
+
+namespace cardwright::testing {
+namespace {
+
+using ::testing::HasSubstr;
+
+std::string Project(const std::string& controls, int count, const std::string& form = {}) {
+  return "[FORM]\r\n" + form + "ControlsNumber= " + std::to_string(count) + "\r\n" + controls +
+         "[SCRIPT]\r\n\r\n\r\n";
+}
+
+TEST(Check, FindsNothingInTheExample) {
+  const Outcome outcome =
+      Cardwright({"check", ExampleForm(), "--data", SourceFile("examples/wells/wells.gpkg")});
+  EXPECT_EQ(outcome.status, 0);
+  EXPECT_EQ(outcome.out, "");
+}
+
+struct FaultyProject {
+  std::string name;
+  std::string bytes;
+  std::string line;  ///< behind the file's name
+};
+
+std::vector<FaultyProject> FaultyProjects() {
+  return {
+      {"UnknownType", Project("[CONTROLS_1]\r\nType=Spinner\r\n", 1),
+       ":CONTROLS_1: unknown type Spinner: the control is left out\n"},
+      {"MissingSection", Project("", 1),
+       ":CONTROLS_1: the section is missing or has no Type: there is no such control\n"},
+      {"MissingContainer", Project("[CONTROLS_1]\r\nType=Label\r\nContainer=object_9\r\n", 1),
+       ":CONTROLS_1: the container object_9 does not exist or comes later: the control is left out\n"},
+      {"DoubledName",
+       Project("[CONTROLS_1]\r\nType=Label\r\nName=a\r\nUserName=x\r\n[CONTROLS_2]\r\nType=Label\r\nName="
+               "A\r\nUserName=y\r\n",
+               2),
+       ":CONTROLS_2: the name A is taken: the control is left out\n"},
+      {"DoubledUserName",
+       Project("[CONTROLS_1]\r\nType=Label\r\nName=a\r\nUserName=x\r\n[CONTROLS_2]\r\nType=Label\r\nName="
+               "b\r\nUserName=X\r\n",
+               2),
+       ":CONTROLS_2: the user name X is taken: the control is not part of the form\n"},
+      {"MissingTheme", Project("", 0, "ThemeName=springs\r\n"), ":FORM: the data has no theme springs\n"},
+      {"MissingAttribute",
+       Project("[CONTROLS_1]\r\nType=TextBox\r\nAttribute=COLOUR\r\n", 1,
+               "ThemeName=wells\r\nFeatureType= 0\r\n"),
+       ":CONTROLS_1: the theme wells has no attribute COLOUR\n"},
+      {"LongValue", Project("[CONTROLS_1]\r\nType=Label\r\nText=" + std::string(9000, 'x') + "\r\n", 1),
+       ":CONTROLS_1: the value of Text is cut to 8191 characters\n"},
+      {"SecondLine", Project("[CONTROLS_1]\r\nType=textboxmultiline\r\nText=one\r\ntwo\r\n", 1),
+       ":CONTROLS_1: line 6 is no entry; of a text with several lines only the first is read\n"},
+      {"Utf8", Project("[CONTROLS_1]\r\nType=Label\r\nText=Citt\xc3\xa0\r\n", 1),
+       ":CONTROLS_1: the value of Text is UTF-8 text"},
+      {"LostCharacter", Project("[CONTROLS_1]\r\nType=Label\r\nText=a\x81\r\n", 1),
+       ":CONTROLS_1: the value of Text has a character that the code page lacks\n"},
+  };
+}
+
+class CheckFaultTest : public ::testing::TestWithParam<FaultyProject> {};
+
+TEST_P(CheckFaultTest, IsToldOnALineOfItsOwnWithStatus1) {
+  const TempFolder folder;
+  const std::string form = folder.Write("form è.cwf", GetParam().bytes);
+  const Outcome outcome = Cardwright({"check", form, "--data", SourceFile("examples/wells/wells.gpkg")});
+  EXPECT_EQ(outcome.status, 1);
+  EXPECT_THAT(outcome.out, HasSubstr(form + GetParam().line));
+}
+
+INSTANTIATE_TEST_SUITE_P(Check, CheckFaultTest, ::testing::ValuesIn(FaultyProjects()),
+                         [](const auto& test) { return test.param.name; });
+
+}  // namespace
+}  // namespace cardwright::testing

@@ -1,0 +1,62 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "Program.h"
+
+namespace cardwright::testing {
+namespace {
+
+using ::testing::HasSubstr;
+
+TEST(CommandLine, TellsItsCommandsAndItsVersion) {
+  const Outcome help = Cardwright({"--help"});
+  EXPECT_EQ(help.status, 0);
+  for (const char* command : {"fill", "check", "info", "render", "orv"})
+    EXPECT_THAT(help.out, HasSubstr(command));
+  EXPECT_THAT(Cardwright({"--version"}).out, ::testing::MatchesRegex("cardwright [0-9.]+\n"));
+  EXPECT_EQ(Cardwright({"-v"}).out, Cardwright({"--version"}).out);
+}
+
+TEST(CommandLine, HasHelpAndVersionForEveryCommand) {
+  for (const char* command : {"fill", "check", "info", "render", "orv"}) {
+    const Outcome help = Cardwright({command, "--help"});
+    EXPECT_EQ(help.status, 0) << command;
+    EXPECT_THAT(help.out, HasSubstr(std::string("Usage: cardwright ") + command));
+    EXPECT_THAT(help.out, HasSubstr("--codepage"));
+    EXPECT_THAT(help.out, HasSubstr("--locale"));
+    EXPECT_EQ(Cardwright({command, "-v"}).status, 0);
+  }
+}
+
+struct WrongUse {
+  std::vector<std::string> words;
+  const char* complaint;
+};
+
+class WrongUseTest : public ::testing::TestWithParam<WrongUse> {};
+
+TEST_P(WrongUseTest, EndsWithStatus2AndSaysWhyOnStandardError) {
+  const Outcome outcome = Cardwright(GetParam().words);
+  EXPECT_EQ(outcome.status, 2);
+  EXPECT_EQ(outcome.out, "");
+  EXPECT_THAT(outcome.err, HasSubstr(GetParam().complaint));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    CommandLine, WrongUseTest,
+    ::testing::Values(WrongUse{{}, "Usage"}, WrongUse{{"frobnicate"}, "unknown command: frobnicate"},
+                      WrongUse{{"info"}, "FORM is missing"},
+                      WrongUse{{"info", "a", "b"}, "one word too many: b"},
+                      WrongUse{{"info", "--sideways", "a"}, "sideways"},
+                      WrongUse{{"info", "/no/such/form.cwf"}, "there is no form project /no/such/form.cwf"},
+                      WrongUse{{"info", "--codepage", "utf-8", "x"}, "unknown code page: utf-8"},
+                      WrongUse{{"info", "--locale", "xx-YY", "x"}, "unknown locale: xx-YY"},
+                      WrongUse{{"render", "x"}, "-o FILE.png is missing"},
+                      WrongUse{{"check"}, "FORM… is missing"}, WrongUse{{"orv"}, "--data is missing"},
+                      WrongUse{{"orv", "--data", "/no/such/store.gpkg"}, "/no/such/store.gpkg"},
+                      WrongUse{{"fill", "x"}, "--data is missing"},
+                      WrongUse{{"fill", "x", "--data", "d"}, "--theme is missing"},
+                      WrongUse{{"fill", "x", "--data", "d", "--theme", "t"}, "--id is missing"}));
+
+}  // namespace
+}  // namespace cardwright::testing
