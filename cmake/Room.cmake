@@ -1,5 +1,5 @@
 # cardwright_add_room(<room>): the static library cardwright_<room> from src/<room>/*.cpp, linked to the rooms that
-# cmake/Rooms.cmake allows it and to nothing else.
+# cmake/Rooms.cmake allows it and to nothing else. Outside the project it is Cardwright::<room>.
 function(cardwright_add_room room)
   set(folder "${PROJECT_SOURCE_DIR}/src/${room}")
   file(GLOB_RECURSE sources CONFIGURE_DEPENDS "${folder}/*.cpp")
@@ -18,10 +18,11 @@ function(cardwright_add_room room)
     set(reach INTERFACE)
   endif()
   add_library(Cardwright::${room} ALIAS ${target})
+  set_target_properties(${target} PROPERTIES EXPORT_NAME ${room})
 
-  target_include_directories(${target} ${reach} $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/src>
-                                                $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/cardwright>
-                                                $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>)
+  # The set of headers is what is installed, and what all_verify_interface_header_sets compiles one by one.
+  target_sources(${target} ${reach} FILE_SET HEADERS BASE_DIRS "${PROJECT_SOURCE_DIR}/src" FILES ${headers})
+  target_include_directories(${target} ${reach} $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/src>)
   target_compile_features(${target} ${reach} cxx_std_20)
   foreach(used IN LISTS CARDWRIGHT_USES_${room})
     target_link_libraries(${target} ${reach} cardwright_${used})
@@ -29,8 +30,16 @@ function(cardwright_add_room room)
   foreach(external IN LISTS CARDWRIGHT_EXTERNAL_${room})
     target_link_libraries(${target} ${reach} ${external})
   endforeach()
+  foreach(hidden IN LISTS CARDWRIGHT_HIDDEN_${room})
+    if(sources)
+      target_link_libraries(${target} PRIVATE ${hidden})
+    endif()
+  endforeach()
   if("Qt6::Widgets" IN_LIST CARDWRIGHT_EXTERNAL_${room})
     set_target_properties(${target} PROPERTIES AUTOMOC ON)
     target_compile_definitions(${target} ${reach} QT_NO_KEYWORDS)
   endif()
+
+  install(TARGETS ${target} EXPORT CardwrightTargets FILE_SET HEADERS
+          DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/cardwright")
 endfunction()

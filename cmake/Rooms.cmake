@@ -11,6 +11,6 @@ set(CARDWRIGHT_USES_model shared)
 set(CARDWRIGHT_USES_runtime model)
 set(CARDWRIGHT_USES_qt runtime)
 
-# Libraries that only the named rooms may see.
-set(CARDWRIGHT_EXTERNAL_orv GDAL::GDAL)
+# Foreign libraries that only the named rooms may see: in their headers too, or hidden in their sources.
 set(CARDWRIGHT_EXTERNAL_qt Qt6::Widgets)
+set(CARDWRIGHT_HIDDEN_orv GDAL::GDAL)
