@@ -45,7 +45,7 @@ const std::string& IniStore::Bytes() {
 }
 
 bool IniStore::Change(const std::function<bool(IniFile&)>& change) {
-  Refresh();
+  RefreshFromDisk();
   if (!IsWritable()) return false;
   if (!change(m_Image)) return true;
   m_IsChanged = true;
@@ -83,7 +83,16 @@ void IniStore::DropBatch() {
   }
 }
 
+void IniStore::BeginSnapshot() {
+  Refresh();
+  ++m_SnapshotDepth;
+}
+
 void IniStore::Refresh() {
+  if (m_SnapshotDepth == 0 || !m_IsLoaded) RefreshFromDisk();
+}
+
+void IniStore::RefreshFromDisk() {
   if (m_BatchDepth == 0) {
     const auto stamp = FileStamp::Of(m_Path);
     if (!m_IsLoaded || stamp != m_Stamp || (stamp && !m_IsSettled)) Load();

@@ -40,8 +40,16 @@ class IniStore final : public RefCounted {
   void DropBatch();
   /// @}
 
+  /// @name Snapshot: between begin and end questions are answered from the image of the begin. A change is
+  /// made to the file as it is by then, and shows.
+  /// @{
+  void BeginSnapshot();
+  void EndSnapshot() { --m_SnapshotDepth; }
+  /// @}
+
  private:
   void Refresh();
+  void RefreshFromDisk();
   void Load();
   bool Save();
   void Forget();
@@ -52,6 +60,7 @@ class IniStore final : public RefCounted {
   std::optional<FileStamp> m_Stamp;  // of the file that the image shows; none for a missing file
   bool m_IsSettled = false;          // a later change cannot leave the same stamp
   int m_BatchDepth = 0;
+  int m_SnapshotDepth = 0;
   bool m_IsChanged = false;  // the image holds what the disk does not
   bool m_WasThere = false;   // at the begin of the batch
 };
