@@ -1,0 +1,17 @@
+#pragma once
+
+class QLineEdit;
+
+namespace cardwright::qt {
+
+/// @name Selection of a line edit as the platform counts it. A start beyond the text is its end; negative
+/// numbers are error 380.
+/// @{
+int SelectionStart(const QLineEdit& edit);
+void SetSelectionStart(QLineEdit& edit, int start);
+void SetSelectionLength(QLineEdit& edit, int length);
+/// @}
+/// Limits what can be typed; 0 for no limit. A text that is longer already stays whole.
+void SetLimit(QLineEdit& edit, int length);
+
+}  // namespace cardwright::qt

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "platform/Desktop.h"
+#include "qt/QtSettings.h"
+
+namespace cardwright::qt {
+
+/// The user's desktop by way of the toolkit; needs a QApplication.
+class QtDesktop : public Desktop {
+ public:
+  /// Knows the platform's other button sets too: Abort 3, Retry 4, Ignore 5. A box that is closed is answered
+  /// with Cancel or, where it has none, No or its only button.
+  int ShowMessage(const Text& text, int style, const Text& title) override;
+  void Beep() override;
+  Ref<Widget> ActiveControl() const override;
+  OleColor ResolveColor(OleColor color) const override;
+  bool IsWindow(std::int32_t handle) const override;
+  void Start(const Text& commandLine) override;
+  SettingsStore& Settings() override { return m_Settings; }
+
+ private:
+  QtSettings m_Settings;
+};
+
+}  // namespace cardwright::qt

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QPointer>
+#include <QWidget>
+
+#include "platform/Surface.h"
+
+namespace cardwright::qt {
+
+/// Pixels between a top-level window's outer and inner size; 0 until the window system has framed it.
+FrameSize FrameOf(const QWidget& window);
+
+/// A top-level window around visual controls. Error 91 once it is gone.
+class QtHostWindow final : public HostWindow {
+ public:
+  explicit QtHostWindow(QWidget& window) : m_Window(&window) {}
+
+  Text Caption() const override;
+  void SetCaption(const Text& caption) override;
+  float Width() const override;
+  void SetWidth(float twips) override;
+  float Height() const override;
+  void SetHeight(float twips) override;
+  bool IsVisible() const override;
+  void SetVisible(bool visible) override;
+  void Close() override;
+
+  QWidget* Native() const noexcept { return m_Window; }
+
+ private:
+  QWidget& Window() const;
+
+  QPointer<QWidget> m_Window;
+};
+
+}  // namespace cardwright::qt

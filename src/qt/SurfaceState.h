@@ -1,0 +1,53 @@
+#pragma once
+
+#include <QButtonGroup>
+#include <QPointer>
+#include <QWidget>
+#include <unordered_map>
+#include <vector>
+
+#include "automation/Ref.h"
+#include "qt/FontCache.h"
+
+namespace cardwright::qt {
+
+class QtSurface;
+class WidgetCore;
+
+/// What the widgets of one surface share. It lives as long as the last of them, while the surface and its
+/// toolkit widgets may be gone long before.
+class SurfaceState final : public RefCounted {
+ public:
+  explicit SurfaceState(QtSurface& owner) : surface(&owner) {}
+
+  QtSurface* surface;  ///< null once the surface is gone
+  FontCache fonts;
+  WidgetCore* focused = nullptr;  ///< the widget whose listener was told of the focus last
+
+  /// Marks that a listener runs. A widget that it removes may be the one whose event is being handled, so the
+  /// toolkit's widget stays, hidden, until the outermost listener has returned.
+  class Handling {
+   public:
+    explicit Handling(SurfaceState& state) : m_State(&state) { ++state.m_Depth; }
+    ~Handling();
+    Handling(const Handling&) = delete;
+    Handling& operator=(const Handling&) = delete;
+
+   private:
+    Ref<SurfaceState> m_State;
+  };
+
+  /// The group of the option buttons that stand directly in `container`. The toolkit's own grouping would
+  /// reach into the frames inside it.
+  QButtonGroup& OptionsIn(QWidget& container);
+
+  /// Deletes now or when the handlers are through.
+  void Delete(QWidget* widget);
+
+ private:
+  int m_Depth = 0;
+  std::vector<QPointer<QWidget>> m_Removed;
+  std::unordered_map<QWidget*, QPointer<QButtonGroup>> m_Options;
+};
+
+}  // namespace cardwright::qt

@@ -1,0 +1,49 @@
+#include "qt/WidgetFactory.h"
+
+#include <algorithm>
+#include <array>
+
+#include "automation/Errors.h"
+#include "qt/CaptionWidgets.h"
+#include "qt/ComboBoxWidget.h"
+#include "qt/ListViewBox.h"
+#include "qt/MultilineTextBoxWidget.h"
+#include "qt/StateWidgets.h"
+#include "qt/TextBoxWidget.h"
+
+namespace cardwright::qt {
+
+namespace {
+
+struct Maker {
+  std::u16string_view identifier;
+  Ref<Widget> (*make)(WidgetPlace place);
+};
+
+template <class T>
+Ref<Widget> Make(WidgetPlace place) {
+  return MakeRef<T>(std::move(place));
+}
+
+constexpr std::array kMakers = {
+    Maker{u"VB.Label", &Make<LabelWidget>},
+    Maker{u"VB.Frame", &Make<FrameWidget>},
+    Maker{u"VB.CommandButton", &Make<CommandButtonWidget>},
+    Maker{u"VB.CheckBox", &Make<CheckBoxWidget>},
+    Maker{u"VB.OptionButton", &Make<OptionButtonWidget>},
+    Maker{u"VB.TextBox", &Make<TextBoxWidget>},
+    Maker{u"CardwrightCtrl.MultilineTextBox", &Make<MultilineTextBoxWidget>},
+    Maker{u"VB.ComboBox", &Make<ComboBoxWidget>},
+    Maker{u"MSComctlLib.ListViewCtrl.2", &Make<ListViewBox>},
+};
+
+}  // namespace
+
+Ref<Widget> CreateWidget(std::u16string_view identifier, WidgetPlace place) {
+  const auto maker = std::find_if(kMakers.begin(), kMakers.end(),
+                                  [&](const Maker& m) { return EqualsNoCase(m.identifier, identifier); });
+  if (maker == kMakers.end()) Raise(ErrorNumber::CannotCreateObject);
+  return maker->make(std::move(place));
+}
+
+}  // namespace cardwright::qt
