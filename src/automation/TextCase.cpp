@@ -113,8 +113,10 @@ bool EqualsNoCase(std::u16string_view a, std::u16string_view b) noexcept {
 
 std::size_t FindNoCase(std::u16string_view text, std::u16string_view part, std::size_t from) noexcept {
   if (from > text.size() || part.size() > text.size() - from) return std::u16string_view::npos;
+  if (part.empty()) return from;
+  const char16_t first = ToLower(part.front());
   for (std::size_t last = text.size() - part.size(); from <= last; ++from) {
-    if (EqualsNoCase(text.substr(from, part.size()), part)) return from;
+    if (ToLower(text[from]) == first && EqualsNoCase(text.substr(from, part.size()), part)) return from;
   }
   return std::u16string_view::npos;
 }

@@ -20,7 +20,8 @@ int InnerPixels(float twips, float frame) {
 }  // namespace
 
 FrameSize FrameOf(const QWidget& window) {
-  const QSize outer = window.frameGeometry().size();
+  // The toolkit counts a frame of -1 for a window that it has not made yet.
+  const QSize outer = window.frameGeometry().size().expandedTo(window.size());
   return {static_cast<float>(outer.width() - window.width()),
           static_cast<float>(outer.height() - window.height())};
 }

@@ -37,6 +37,7 @@ QtSurface::QtSurface(QWidget& canvas)
 
 QtSurface::~QtSurface() {
   m_State->surface = nullptr;
+  m_State->SettleNone();
   m_Font->RemoveUser(*this);
   for (const auto& [name, widget] : m_Widgets) CoreOf(*widget).Detach();
 }
@@ -67,7 +68,7 @@ void QtSurface::Remove(std::u16string_view name) {
   if (found == m_Widgets.end()) return;
   const Ref<Widget> widget = found->second;
   m_Widgets.erase(found);
-  RemoveContents(*widget);
+  if (dynamic_cast<const FrameWidget*>(widget.get())) RemoveContents(*widget);
   CoreOf(*widget).Detach();
 }
 

@@ -1,6 +1,10 @@
 #include "qt/SurfaceState.h"
 
+#include <QMetaObject>
 #include <utility>
+
+#include "qt/QtSurface.h"
+#include "qt/WidgetCore.h"
 
 namespace cardwright::qt {
 
@@ -24,7 +28,20 @@ void SurfaceState::Delete(QWidget* widget) {
     return;
   }
   widget->hide();
+  widget->setParent(nullptr);  // or it would go with its parent, when the handler closes the whole window
   m_Removed.emplace_back(widget);
+}
+
+void SurfaceState::SettleSoon(Ref<Widget> widget) {
+  if (m_Unsettled.empty())
+    QMetaObject::invokeMethod(
+        surface, [self = Ref<SurfaceState>(this)] { self->SettleAll(); }, Qt::QueuedConnection);
+  m_Unsettled.push_back(std::move(widget));
+}
+
+void SurfaceState::SettleAll() {
+  for (const Ref<Widget>& widget : std::exchange(m_Unsettled, {}))
+    dynamic_cast<WidgetCore&>(*widget).Settle();
 }
 
 }  // namespace cardwright::qt

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "automation/Ref.h"
+#include "platform/Widget.h"
 #include "qt/FontCache.h"
 
 namespace cardwright::qt {
@@ -44,10 +45,18 @@ class SurfaceState final : public RefCounted {
   /// Deletes now or when the handlers are through.
   void Delete(QWidget* widget);
 
+  /// Has the widget settle with the next turn of the event loop.
+  void SettleSoon(Ref<Widget> widget);
+  /// Forgets who waits; for a surface that ends.
+  void SettleNone() { m_Unsettled.clear(); }
+
  private:
+  void SettleAll();
+
   int m_Depth = 0;
   std::vector<QPointer<QWidget>> m_Removed;
   std::unordered_map<QWidget*, QPointer<QButtonGroup>> m_Options;
+  std::vector<Ref<Widget>> m_Unsettled;
 };
 
 }  // namespace cardwright::qt

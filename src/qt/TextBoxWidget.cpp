@@ -1,6 +1,8 @@
 #include "qt/TextBoxWidget.h"
 
 #include <QLineEdit>
+#include <algorithm>
+#include <utility>
 
 #include "qt/FieldKind.h"
 #include "qt/LineEditText.h"
@@ -25,20 +27,38 @@ void TextBoxWidget::OnTextChanged() {
   NotifyChange();
 }
 
+QLineEdit& TextBoxWidget::Edit() const {
+  if (const auto waiting = std::exchange(m_Waiting, std::nullopt)) {
+    // The caret goes to the start, so that a text too long for the box shows its beginning.
+    const QSignalBlocker silence(m_Edit);
+    m_Edit->setText(ToQString(*waiting));
+    m_Edit->setCursorPosition(0);
+  }
+  return *m_Edit;
+}
+
+void TextBoxWidget::Settle() {
+  if (Native()) Edit();
+}
+
+// Only a text that the toolkit's widget would hold unchanged, as the answer to a question has to be the same.
+bool TextBoxWidget::CanWait(const Text& text) const {
+  const std::u16string_view view = text;
+  return !m_Edit->isVisible() && static_cast<int>(view.size()) <= m_Edit->maxLength() &&
+         std::all_of(view.begin(), view.end(), [](char16_t c) { return c >= u' '; });
+}
+
 Text TextBoxWidget::DisplayText() const {
   RequireAlive();
-  return FromQString(m_Edit->text());
+  return m_Waiting ? *m_Waiting : FromQString(m_Edit->text());
 }
 
 void TextBoxWidget::SetDisplayText(const Text& text) {
   RequireAlive();
-  const QString wanted = ToQString(text);
-  if (m_Edit->text() == wanted) return;
-  // The caret goes to the start, so that a text too long for the box shows its beginning. It has to stand
-  // there before the listener hears of the change, as that may set it.
-  const QSignalBlocker silence(m_Edit);
-  m_Edit->setText(wanted);
-  m_Edit->setCursorPosition(0);
+  if (DisplayText() == text) return;
+  if (!m_Waiting) SettleSoon();
+  m_Waiting = text;
+  if (!CanWait(text)) Edit();
   NotifyChange();
 }
 
@@ -59,38 +79,39 @@ int TextBoxWidget::MaxLength() const {
 
 void TextBoxWidget::SetMaxLength(int length) {
   RequireAlive();
-  SetLimit(*m_Edit, length);
+  if (length == m_MaxLength) return;
+  SetLimit(Edit(), length);
   m_MaxLength = length;
 }
 
 int TextBoxWidget::SelStart() const {
   RequireAlive();
-  return SelectionStart(*m_Edit);
+  return SelectionStart(Edit());
 }
 
 void TextBoxWidget::SetSelStart(int start) {
   RequireAlive();
-  SetSelectionStart(*m_Edit, start);
+  SetSelectionStart(Edit(), start);
 }
 
 int TextBoxWidget::SelLength() const {
   RequireAlive();
-  return static_cast<int>(m_Edit->selectedText().size());
+  return static_cast<int>(Edit().selectedText().size());
 }
 
 void TextBoxWidget::SetSelLength(int length) {
   RequireAlive();
-  SetSelectionLength(*m_Edit, length);
+  SetSelectionLength(Edit(), length);
 }
 
 Text TextBoxWidget::SelText() const {
   RequireAlive();
-  return FromQString(m_Edit->selectedText());
+  return FromQString(Edit().selectedText());
 }
 
 void TextBoxWidget::SetSelText(const Text& text) {
   RequireAlive();
-  m_Edit->insert(ToQString(text));
+  Edit().insert(ToQString(text));
 }
 
 }  // namespace cardwright::qt

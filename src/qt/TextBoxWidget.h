@@ -7,6 +7,10 @@ class QLineEdit;
 namespace cardwright::qt {
 
 /// A text box of one line. Pasted text passes the key filter by, as it does on the platform.
+///
+/// While the box is not on the screen, a text that code sets waits here: laying text out is what makes
+/// opening a feature dear, and a form is usually filled before it is shown. The text reaches the toolkit's
+/// widget with the next turn of the event loop at the latest.
 class TextBoxWidget final : public QtWidget<TextWidget> {
  public:
   explicit TextBoxWidget(WidgetPlace place);
@@ -25,9 +29,14 @@ class TextBoxWidget final : public QtWidget<TextWidget> {
 
  private:
   void OnTextChanged();
+  void Settle() override;
+  /// The toolkit's widget with the text in it that it should show.
+  QLineEdit& Edit() const;
+  bool CanWait(const Text& text) const;
 
   QLineEdit* m_Edit;
   int m_MaxLength = 0;
+  mutable std::optional<Text> m_Waiting;
 };
 
 }  // namespace cardwright::qt

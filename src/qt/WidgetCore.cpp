@@ -230,6 +230,8 @@ bool WidgetCore::eventFilter(QObject* target, QEvent* event) {
     case QEvent::ContextMenu: return std::exchange(m_DropsMenu, false);
     case QEvent::KeyPress: return OnKey(widget, static_cast<QKeyEvent&>(*event));
     case QEvent::InputMethod: return OnInputMethod(widget, static_cast<QInputMethodEvent&>(*event));
+    case QEvent::Show:
+    case QEvent::Paint: Settle(); return false;
     case QEvent::FocusIn: OnFocusIn(); return false;
     case QEvent::FocusOut: OnFocusOut(static_cast<QFocusEvent*>(event)->reason()); return false;
     case QEvent::PaletteChange:

@@ -109,6 +109,9 @@ class WidgetCore : public QObject, private Font::User {
   /// Adds the colours that differ from what the widget would inherit.
   virtual void CollectColors(QPalette& own, const QPalette& inherited) const;
   virtual void OnFontApplied() {}
+  /// Hands on to the toolkit's widget what was put off with SettleSoon: before it is seen, and with the next
+  /// turn of the event loop.
+  virtual void Settle() {}
   /// True while the widget takes neither mouse nor keys from the user.
   virtual bool IsBlocked() const { return false; }
   virtual bool TakesWheel() const { return true; }
@@ -117,6 +120,7 @@ class WidgetCore : public QObject, private Font::User {
 
   void ApplyGeometry();
   void ApplyColors();
+  void SettleSoon() { m_Place.state->SettleSoon(Ref<Widget>(&Self())); }
 
   struct State {
     float left = 0, top = 0, width = 0, height = 0;
@@ -130,6 +134,7 @@ class WidgetCore : public QObject, private Font::User {
   WidgetListener* m_Listener = nullptr;
 
  private:
+  friend class SurfaceState;
   bool eventFilter(QObject* target, QEvent* event) override;
   void OnFontChanged(const Font& font) override;
   void ApplyFont();

@@ -1,6 +1,8 @@
 #include "runtime/HostCommands.h"
 
-#include <array>
+#include <algorithm>
+#include <span>
+#include <string>
 
 #include "automation/Conversions.h"
 
@@ -11,17 +13,39 @@ struct Placeholder {
   std::u16string_view mark;
   std::u16string_view value;
 };
+using Placeholders = std::span<const Placeholder>;
 
 // Placeholders are replaced one after the other over the whole text, so a theme named like a later one is
-// filled in again; hosts never meet such a theme.
+// filled in again.
+Text ReplaceOneByOne(std::u16string_view pattern, Placeholders placeholders) {
+  Text command(pattern);
+  for (const Placeholder& each : placeholders) command = Replace(command, each.mark, each.value, true);
+  return command;
+}
+
+// The same for values that name no placeholder themselves, as nearly all do: a form sends a few hundred
+// commands to open one feature.
+Text FillInOnePass(std::u16string_view pattern, Placeholders placeholders) {
+  static thread_local std::u16string command;
+  command.clear();
+  while (true) {
+    const std::size_t mark = pattern.find(u"%%");
+    command += pattern.substr(0, mark);
+    if (mark == pattern.npos) return Text(command);
+    pattern.remove_prefix(mark);
+    const auto named = std::ranges::find_if(
+        placeholders, [&](const Placeholder& each) { return pattern.starts_with(each.mark); });
+    command += named->value;
+    pattern.remove_prefix(named->mark.size());
+  }
+}
+
 template <class... Others>
 Text Fill(std::u16string_view pattern, const FeaturePlace& place, Others... others) {
-  Text command(pattern);
-  for (const Placeholder& each : {Placeholder{u"%%t%%", place.theme},
-                                  Placeholder{u"%%ft%%", place.featureType}, Placeholder(others)...})
-    if (FindNoCase(command, each.mark) != std::u16string_view::npos)
-      command = Replace(command, each.mark, each.value, true);
-  return command;
+  const Placeholder placeholders[] = {{u"%%t%%", place.theme}, {u"%%ft%%", place.featureType}, others...};
+  const bool nested = std::ranges::any_of(
+      placeholders, [](const Placeholder& each) { return each.value.find(u"%%") != each.value.npos; });
+  return nested ? ReplaceOneByOne(pattern, placeholders) : FillInOnePass(pattern, placeholders);
 }
 
 }  // namespace
