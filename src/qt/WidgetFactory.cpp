@@ -8,6 +8,7 @@
 #include "qt/ComboBoxWidget.h"
 #include "qt/ListViewBox.h"
 #include "qt/MultilineTextBoxWidget.h"
+#include "qt/PictureBoxWidget.h"
 #include "qt/StateWidgets.h"
 #include "qt/TextBoxWidget.h"
 
@@ -35,6 +36,7 @@ constexpr std::array kMakers = {
     Maker{u"CardwrightCtrl.MultilineTextBox", &Make<MultilineTextBoxWidget>},
     Maker{u"VB.ComboBox", &Make<ComboBoxWidget>},
     Maker{u"MSComctlLib.ListViewCtrl.2", &Make<ListViewBox>},
+    Maker{u"VB.PictureBox", &Make<PictureBoxWidget>},
 };
 
 }  // namespace
