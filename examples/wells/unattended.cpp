@@ -1,6 +1,6 @@
-// Fills in the example form as a person would, on a machine without a display: the same window, widgets, keys and
-// mouse, on the toolkit's offscreen platform. Prints every host command, writes a picture of the form and shows the
-// feature's row before and after.
+// Fills in the example form as a person would, on a machine without a display: the same window, widgets, keys
+// and mouse, on the toolkit's offscreen platform. Prints every host command, writes a picture of the form and
+// shows the feature's row before and after.
 
 #include <QApplication>
 #include <QDir>
@@ -56,7 +56,8 @@ void Type(QWidget& field, const QString& text) {
 void Click(QWidget& widget, QPoint at) {
   QMouseEvent press(QEvent::MouseButtonPress, at, widget.mapToGlobal(at), Qt::LeftButton, Qt::LeftButton, {});
   QApplication::sendEvent(&widget, &press);
-  QMouseEvent release(QEvent::MouseButtonRelease, at, widget.mapToGlobal(at), Qt::LeftButton, Qt::NoButton, {});
+  QMouseEvent release(QEvent::MouseButtonRelease, at, widget.mapToGlobal(at), Qt::LeftButton, Qt::NoButton,
+                      {});
   QApplication::sendEvent(&widget, &release);
 }
 

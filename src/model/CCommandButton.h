@@ -19,7 +19,7 @@ class CCommandButton final : public Control {
   Text Value(std::optional<Variant> = {}) const override { return {}; }
 
  protected:
-  bool Accepts(const Widget& widget) const override { return dynamic_cast<const CaptionWidget*>(&widget); }
+  bool Accepts(const Widget& widget) const override { return widget.TypeName() == kTable.typeText; }
 };
 
 }  // namespace cardwright

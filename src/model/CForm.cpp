@@ -80,6 +80,11 @@ Surface& CForm::Canvas() const {
   return *surface;
 }
 
+Collection& CForm::Elements() const {
+  if (!Owner()) Raise(ErrorNumber::ObjectNotSet);
+  return Owner()->Controls();
+}
+
 Ref<HostWindow> CForm::Host() const {
   Surface* surface = OwnerSurface();
   return surface ? surface->Host() : nullptr;
@@ -137,6 +142,7 @@ void CForm::SetHeight(float value) {
 OleColor CForm::BackColor() const { return OwnerSurface() ? OwnerSurface()->BackColor() : 0; }
 
 void CForm::SetBackColor(OleColor color) {
+  if (!Owner()) return;
   Canvas().SetBackColor(color);
   if (Designer()) Designer()->RepaintGrid();
 }
@@ -168,8 +174,9 @@ void CForm::RefreshAttributeList() {
   if (!Designer()) return;
   std::vector<Text> names;
   if (!m_ThemeName.IsEmpty()) {
-    const auto type = static_cast<FeatureTypeEnum>(
-        ToLong(AsControl(Designer()->Controls().Item(Variant(1)))->PropertyValue(u"FeatureType")));
+    IControl* root = AsControl(Elements().Item(Variant(1)));
+    if (!root) Raise(ErrorNumber::ObjectNotSet);
+    const auto type = static_cast<FeatureTypeEnum>(ToLong(root->PropertyValue(u"FeatureType")));
     const Text answer = SharedHost().ORVRequest(Text(u"THEME_ATTRIBUTE_NAMES |") + m_ThemeName + u"| |" +
                                                 FeatureTypeText(type) + u"|");
     names = Split(answer, u',');

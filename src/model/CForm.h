@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/Steps.h"
 #include "model/TableControl.h"
 #include "platform/Picture.h"
 #include "storage/CIni.h"
@@ -45,6 +46,9 @@ class CForm final : public TableControl {
   Ref<HostWindow> Host() const;
   /// The surface of whichever owner there is; error 91 without one.
   Surface& Canvas() const;
+  /// All objects of the owner; error 91 without one. An owner can end while its form is read: hosts answer
+  /// events and requests as they like.
+  Collection& Elements() const;
   Text Caption() const;
   void SetCaption(const Text& caption);
   float HostSize(float (HostWindow::*size)() const, float (FormOwner::*outer)() const) const;
@@ -53,6 +57,7 @@ class CForm final : public TableControl {
   void SetImage(const Variant& picture);
   void RefreshAttributeList();
 
+  void ReadProject(const Text& filePath, const CIni& ini, Steps& step);
   void ReadAppearance(const CIni& ini);
   void ReadTitle(const CIni& ini);
   void ReadTheme(const CIni& ini);

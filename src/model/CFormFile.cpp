@@ -10,6 +10,7 @@
 #include "shared/HostExecutor.h"
 #include "shared/ModuleState.h"
 #include "storage/IniBatch.h"
+#include "storage/IniSnapshot.h"
 #include "storage/ProjectFile.h"
 
 namespace cardwright {
@@ -44,6 +45,15 @@ bool CForm::Read(const Text& filePath, const Text&) {
   Module().scriptContent = Text();
   Module().scriptLanguage = Text();
   Steps step;
+  {
+    const IniSnapshot asOfNow(filePath);
+    ReadProject(filePath, ini, step);
+  }
+  step([&] { FinishRead(); });
+  return step.Result();
+}
+
+void CForm::ReadProject(const Text& filePath, const CIni& ini, Steps& step) {
   step([&] { Module().formScaleMode = ScaleMode::Twips; });
   step([&] {
     Module().formScaleMode =
@@ -60,8 +70,6 @@ bool CForm::Read(const Text& filePath, const Text&) {
   for (int i = 1; i <= count; ++i) Attempt([&] { ReadControl(filePath, ini, i); });
   step([&] { ReadStacking(ini); });
   step([&] { ReadScript(filePath); });
-  step([&] { FinishRead(); });
-  return step.Result();
 }
 
 void CForm::ReadAppearance(const CIni& ini) {
@@ -128,7 +136,7 @@ void CForm::ReadControl(const Text& filePath, const CIni& ini, int number) {
   Attempt([&] { control->SetParentForm(ParentForm()); });
   Attempt([&] { control->SetName(widget->Name()); });
   if (control->Read(filePath, section))
-    Owner()->Controls().Add(Variant(Ref<Object>(control)), Variant(ToLower(control->UserName())));
+    Elements().Add(Variant(Ref<Object>(control)), Variant(ToLower(control->UserName())));
 }
 
 void CForm::ReadStacking(const CIni& ini) {
@@ -136,13 +144,14 @@ void CForm::ReadStacking(const CIni& ini) {
   const Ref<Collection> names = ini.Keys(kStacking);
   for (std::int32_t i = 1; i <= names->Count(); ++i) {
     const Text name = ToText(names->Item(Variant(i)));
-    const Ref<IControl> control(FindControl(Owner()->Controls(), name));
+    const Ref<IControl> control(FindControl(Elements(), name));
     if (!control) continue;
     Attempt([&] {
       const auto position = ToInteger(Variant(Val(ToText(ini.GetValue(kStacking, name, Variant(u"0"))))));
       control->SetZOrder(position);
-      if (auto* widget = dynamic_cast<Widget*>(control->BoundObject().get()))
-        widget->SetZOrder(position == 0 ? StackPosition::Front : StackPosition::Back);
+      // A widget knows two positions only and stays where it is for any other.
+      auto* widget = dynamic_cast<Widget*>(control->BoundObject().get());
+      if (widget && (position == 0 || position == 1)) widget->SetZOrder(static_cast<StackPosition>(position));
     });
     if (Designer()) Designer()->AppendToZList(control);
   }
@@ -156,9 +165,9 @@ void CForm::ReadScript(const Text& filePath) {
 
 void CForm::FinishRead() {
   if (Input()) {
-    for (const Ref<IControl>& control : ControlsOf(Input()->Controls()))
-      Attempt([&] { control->AttachControls(Input()->Controls()); });
-    Input()->LayOut();
+    for (const Ref<IControl>& control : ControlsOf(Elements()))
+      Attempt([&] { control->AttachControls(Elements()); });
+    if (Input()) Input()->LayOut();
   }
   if (Designer()) Designer()->RaiseRefreshPropertyList();
 }
@@ -168,7 +177,7 @@ bool CForm::Save(const Text& filePath, const Text&) {
   if (!Owner() || (!folder.IsEmpty() && !FolderExists(folder))) return false;
   Steps step;
   step([&] {
-    if (Owner()->Controls().Count() <= 1) {
+    if (Elements().Count() <= 1) {
       std::error_code ignored;
       if (!IsReadOnly(filePath)) std::filesystem::remove(ToPath(filePath), ignored);
       return;
@@ -187,7 +196,7 @@ void CForm::WriteProject(const Text& filePath, CIni& ini) {
   ini.Reset();
   step([&] { WriteSettings(ini); });
   if (Designer()) step([&] { SaveFormImage(filePath, m_Image.get()); });
-  const std::vector<Ref<IControl>> controls = ControlsOf(Owner()->Controls());
+  const std::vector<Ref<IControl>> controls = ControlsOf(Elements());
   step([&] {
     ini.WriteValue(kForm, u"ControlsNumber", Variant(static_cast<std::int32_t>(controls.size()) - 1));
   });

@@ -20,14 +20,14 @@ bool CFrame::IsDrawing() const {
 }
 
 void CFrame::OnClick() {
-  RunScriptEvent(u"OnClick");
-  if (!Designer()) return;
+  if (!Designer()) return RunScriptEvent(u"OnClick");
   if (!m_ClickConsumed) SelectInDesigner();
   m_ClickConsumed = false;
 }
 
 void CFrame::OnMouseDown(int button, int shift, float x, float y) {
   if (!Designer()) return;
+  const Ref<Control> keepAlive(this);  // drawing runs its own loop, in which anything may happen
   m_ClickConsumed = IsDrawing();
   if (m_ClickConsumed) {
     Designer()->SetIntoFrame(true);

@@ -11,7 +11,7 @@ class CFrame final : public Control {
   CFrame() : Control(kTable) {}
 
  protected:
-  bool Accepts(const Widget& widget) const override { return dynamic_cast<const CaptionWidget*>(&widget); }
+  bool Accepts(const Widget& widget) const override { return widget.TypeName() == kTable.typeText; }
   void OnClick() override;
   void OnMouseDown(int button, int shift, float x, float y) override;
   void OnMouseMove(int button, int shift, float x, float y) override;

@@ -11,7 +11,7 @@ class CLabel final : public Control {
   CLabel() : Control(kTable) {}
 
  protected:
-  bool Accepts(const Widget& widget) const override { return dynamic_cast<const CaptionWidget*>(&widget); }
+  bool Accepts(const Widget& widget) const override { return widget.TypeName() == kTable.typeText; }
 };
 
 }  // namespace cardwright

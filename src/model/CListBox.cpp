@@ -112,7 +112,7 @@ void CListBox::FinishRead(const CIni& ini, const Text& sectionName) {
   } else {
     FillWidget();
   }
-  FitColumn();
+  Attempt([&] { FitColumn(); });  // a list narrower than the margin keeps its column
   if (!Input() || m_Text.IsEmpty()) return;
   SelectStoredText();
   const int selected = View().SelectedRow();

@@ -109,7 +109,7 @@ void Control::Refresh() {
 }
 
 void Control::OnClick() {
-  RunScriptEvent(u"OnClick");
+  if (!Designer()) return RunScriptEvent(u"OnClick");
   if (ClickSelects() && !Module().designDragging) SelectInDesigner();
 }
 
@@ -119,6 +119,7 @@ void Control::OnGotFocus() {
 
 void Control::OnMouseDown(int button, int shift, float, float) {
   if (!Designer() || button != MouseButton::Right || shift != 0) return;
+  const Ref<Control> keepAlive(this);  // the menu can delete the very control that it is opened for
   SelectInDesigner();
   OpenDesignerMenu();
 }

@@ -56,7 +56,7 @@ FontValues ReadFontKeys(const FontValues& current, const CIni& ini, const Text& 
     Attempt([&] { member = convert(ReadValue(ini, section, key, [&] { return Variant(member); })); });
   };
   read(u"FontName", font.name, [](const Variant& value) { return ToText(value); });
-  read(u"FontSize", font.size, [](const Variant& value) { return Val(ToText(value)); });
+  read(u"FontSize", font.size, [](const Variant& value) { return ToFontSize(Val(ToText(value))); });
   read(u"FontBold", font.bold, ToBoolean);
   read(u"FontItalic", font.italic, ToBoolean);
   read(u"FontUnderline", font.underline, ToBoolean);

@@ -1,5 +1,7 @@
 #include "model/TableControl.h"
 
+#include <algorithm>
+
 #include "shared/Lookups.h"
 #include "shared/Messages.h"
 
@@ -151,8 +153,11 @@ std::vector<Text> TableControl::Events() const { return {m_Table.events.begin(),
 
 void TableControl::RaisePropertyChanged(std::u16string_view row, const Variant& value) const {
   if (!m_Designer) return;
-  const PropertyRow* changed = RowNamed(row);
-  m_Designer->RaisePropertyChanged(static_cast<int>(changed - m_Table.rows.data()), value);
+  // What stands in no row of the grid, as a combo box's height, is nothing that the grid could show anew.
+  const auto names = m_Table.rowNames;
+  const auto changed = std::ranges::find(names, row);
+  if (changed != names.end())
+    m_Designer->RaisePropertyChanged(static_cast<int>(changed - names.begin()), value);
 }
 
 }  // namespace cardwright

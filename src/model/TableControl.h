@@ -56,7 +56,8 @@ class TableControl : public IControl {
   Surface* OwnerSurface() const;
   /// Value of the row of that name as text, "" where it has none.
   Text RowText(std::u16string_view name) const;
-  /// Tells the designer's host that a row has changed; nothing outside the designer.
+  /// Tells the designer's host that a row has changed; nothing outside the designer or for a class without
+  /// that row.
   void RaisePropertyChanged(std::u16string_view row, const Variant& value) const;
 
   Text m_UserName;

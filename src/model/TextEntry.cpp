@@ -26,9 +26,9 @@ void TextEntry::OnKeyPress(char16_t& key) {
 // The widget is switched off meanwhile, so that its own menu does not open beside the designer's.
 void TextEntry::OpenDesignerMenu() {
   const Ref<Widget> widget(Bound());
-  widget->SetEnabled(false);
-  Control::OpenDesignerMenu();
-  widget->SetEnabled(true);
+  Attempt([&] { widget->SetEnabled(false); });
+  Attempt([&] { Control::OpenDesignerMenu(); });
+  Attempt([&] { widget->SetEnabled(true); });
 }
 
 }  // namespace cardwright

@@ -28,13 +28,15 @@ constexpr Member FontProperty(std::u16string_view name) {
 // A size is a Currency to scripts, which is what keeps it at four decimals.
 Currency GetSize(const Font& font) { return ToCurrency(font.Values().size); }
 
-void LetSize(Font& font, const Variant& value) {
-  const double size = ToDouble(ToCurrency(value));
-  if (size <= 0 || size > kLargestSize) Raise(ErrorNumber::InvalidPropertyValue);
-  Let<&FontValues::size>(font, size);
-}
+void LetSize(Font& font, const Variant& value) { Let<&FontValues::size>(font, ToFontSize(ToDouble(value))); }
 
 }  // namespace
+
+double ToFontSize(double points) {
+  const double size = ToDouble(ToCurrency(points));
+  if (size <= 0 || size > kLargestSize) Raise(ErrorNumber::InvalidPropertyValue);
+  return size;
+}
 
 void Font::Assign(FontValues values) {
   if (values == m_Values) return;

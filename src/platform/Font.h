@@ -18,6 +18,9 @@ struct FontValues {
   friend bool operator==(const FontValues&, const FontValues&) = default;
 };
 
+/// A size in points as a font keeps it, at four decimals. Error 380 for one that no font has.
+double ToFontSize(double points);
+
 /// The platform's font object: shared, not copied, by everything that shows its text with it. Default member:
 /// Name.
 class Font final : public TableObject {

@@ -5,6 +5,7 @@
 #include "automation/Split.h"
 #include "runtime/ControlValues.h"
 #include "runtime/FormInput.h"
+#include "runtime/RedrawPause.h"
 #include "shared/HostExecutor.h"
 #include "shared/Messages.h"
 #include "shared/ModuleState.h"
@@ -30,7 +31,7 @@ double SelectFeature(const FeaturePlace& place, const Text& id) {
   return RequestNumber(commands::CurrentIsValid(place)) == 0 ? 0 : count;
 }
 
-// A record that has not exactly four fields leaves an attribute without a name, which no control can be bound
+// A record that has not exactly four fields makes an attribute without a name, which no control can be bound
 // to.
 Ref<CAttrib> ParseRecord(const Text& record) {
   auto attrib = MakeRef<CAttrib>();
@@ -129,16 +130,10 @@ void LoadAttributes(FormInput& form) {
   const bool hasFeature = !IsBlank(form.FeatureID());
   if (!host.IsConnected() || (!hasFeature && !form.DebugMode())) return;
   const FeaturePlace place = PlaceOf(form);
-  double count = 1;
-  if (hasFeature) {
-    host.ORVExecute(Text(commands::kRedrawOff));
-    count = SelectFeature(place, form.FeatureID());
-  }
-  if (count >= 1) {
-    LoadControls(form, place, *ReadAttribs(place));
-    if (hasFeature) host.ORVExecute(commands::SelectNone(place));
-  }
-  if (hasFeature) host.ORVExecute(Text(commands::kRedrawOn));
+  const RedrawPause pause(hasFeature, RedrawPause::End::Resume);
+  if (hasFeature && SelectFeature(place, form.FeatureID()) < 1) return;
+  LoadControls(form, place, *ReadAttribs(place));
+  if (hasFeature) host.ORVExecute(commands::SelectNone(place));
 }
 
 void WriteAttributes(FormInput& form) {

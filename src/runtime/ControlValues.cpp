@@ -90,6 +90,7 @@ struct Binding {
 
 constexpr char16_t kText[] = u"Text";
 constexpr char16_t kSelected[] = u"Selected";
+constexpr char16_t kPath[] = u"Path";
 
 constexpr Binding kBindings[] = {
     {u"CTextBox", Limit::LengthAndKind, ShowInRow<kText>},
@@ -99,6 +100,9 @@ constexpr Binding kBindings[] = {
     {u"CComboBox", Limit::Kind, ShowInCombo, TakeCombo},
     {u"CListBox", Limit::None, ShowInList, TakeList},
     {u"CCommandButton", Limit::None, nullptr, TakeNothing},
+    {u"CResourceSelector", Limit::None, ShowInRow<kPath>},
+    {u"CThemeSelector", Limit::None, ShowInRow<kText>},
+    {u"CAttributeSelector", Limit::None, ShowInRow<kText>},
 };
 
 const Binding* BindingOf(const IControl& control) {
@@ -113,20 +117,43 @@ InputTypeEnum InputTypeOf(const CAttrib& attrib) {
   return attrib.m_Decs < 1 ? InputTypeEnum::itInteger : InputTypeEnum::itFloat;
 }
 
-// The value of a combo box counts as missing while nothing is chosen from a list that has something to
-// choose.
-void TakeRequiredCombo(IControl& control, Text& value) {
+// What the check of required fields looks at, type of widget by type.
+
+void RequireRow(IControl& control, const char16_t* row, Text& value) { value = RowText(control, row); }
+
+// The value of a list counts as missing while nothing is chosen from a list that has something to choose.
+void RequireChoice(IControl& control, const char16_t*, Text& value) {
   const auto& widget = WidgetAs<ComboWidget>(control);
   value = widget.DisplayText();
   if (ItemsOf(control).Count() > 0 && widget.ListIndex() < 0) value = Text();
 }
+
+struct Requirement {
+  std::u16string_view widgetType;
+  void (*take)(IControl& control, const char16_t* row, Text& value);
+  const char16_t* row = nullptr;
+};
+
+// A list view is not among them: a needed list box is judged by the field before it, as forms have always
+// been.
+constexpr Requirement kRequirements[] = {
+    {u"TextBox", RequireRow, kText},
+    {u"MultilineTextBox", RequireRow, kText},
+    {u"ComboBox", RequireChoice},
+    {u"ListBox", RequireChoice},
+    {u"ResourceSelector", RequireRow, kPath},
+    {u"ThemeSelector", RequireRow, kText},
+    {u"AttributeSelector", RequireRow, kText},
+    {u"DbTableViewer", RequireRow, kText},
+};
 
 }  // namespace
 
 void LimitInput(IControl& control, const CAttrib& attrib) {
   const Binding* binding = BindingOf(control);
   if (!binding || binding->limit == Limit::None) return;
-  if (binding->limit == Limit::LengthAndKind) WidgetAs<TextWidget>(control).SetMaxLength(attrib.m_Length);
+  if (binding->limit == Limit::LengthAndKind)
+    Attempt([&] { WidgetAs<TextWidget>(control).SetMaxLength(attrib.m_Length); });
   WidgetAs<Widget>(control).SetTag(ToText(Variant(static_cast<std::int32_t>(InputTypeOf(attrib)))));
 }
 
@@ -144,11 +171,8 @@ bool TakeValue(IControl& control, Text& value) {
 
 void TakeRequiredValue(IControl& control, Text& value) {
   const Text type = WidgetAs<Widget>(control).TypeName();
-  if (EqualsNoCase(type, u"TextBox") || EqualsNoCase(type, u"MultilineTextBox")) {
-    value = RowText(control, u"Text");
-  } else if (EqualsNoCase(type, u"ComboBox")) {
-    TakeRequiredCombo(control, value);
-  }
+  for (const Requirement& requirement : kRequirements)
+    if (EqualsNoCase(type, requirement.widgetType)) return requirement.take(control, requirement.row, value);
 }
 
 }  // namespace cardwright

@@ -3,6 +3,7 @@
 #include "model/Rename.h"
 #include "runtime/AttributeBinding.h"
 #include "runtime/ControlValues.h"
+#include "runtime/RedrawPause.h"
 #include "runtime/ScriptRun.h"
 #include "shared/HostExecutor.h"
 #include "shared/Messages.h"
@@ -76,6 +77,7 @@ Ref<IControl> FormInput::Form() const {
 }
 
 void FormInput::SetFeatureID(const Text& id) {
+  const Ref<FormInput> keepAlive(this);  // a script may close the window when a value changes
   m_FeatureID = id;
   if (CanRunScripts()) LoadAttributes(*this);
 }
@@ -106,15 +108,17 @@ void FormInput::ChangeControlName(Ref<Object> object, const Text& newName) {
   if (!control || Trim(newName).empty()) return;
   const IControl* holder = FindControl(*m_Controls, newName);
   if (holder && holder != control.get()) return;
+  const Ref<FormInput> keepAlive(this);
+  const Text oldName = control->UserName();
+  // Without a place under the new name the control keeps its old one.
+  if (!Attempt([&] { RenameInCollection(*m_Controls, *control, newName); })) return;
+  Attempt([&] { control->SetName(newName); });
   Attempt([&] {
-    const Text oldName = control->UserName();
-    RenameInCollection(*m_Controls, *control, newName);
-    control->SetName(newName);
     Variant args[] = {Variant(oldName), Variant(Ref<Object>(control))};
     RaiseEvent(u"ControlNameChanged", args);
-    for (const Ref<IControl>& other : ControlsOf(*m_Controls))
-      Attempt([&] { other->LinkControlNameChanged(oldName, newName); });
   });
+  for (const Ref<IControl>& other : ControlsOf(*m_Controls))
+    Attempt([&] { other->LinkControlNameChanged(oldName, newName); });
 }
 
 Text FormInput::GetThemeName() const {
@@ -138,7 +142,8 @@ bool FormInput::RunFormEvent(std::u16string_view event) { return RunEvent(BuildE
 
 void FormInput::SetCaption(const Text& caption) {
   m_Caption = caption;
-  Variant args[] = {Variant(caption)};
+  Variant text(caption);
+  Variant args[] = {Variant::ByRef(text)};
   RaiseEvent(u"SetParentCaption", args);
 }
 
@@ -163,36 +168,30 @@ void FormInput::ReportMissing(IControl& control) {
   if (auto* widget = dynamic_cast<Widget*>(control.BoundObject().get())) Attempt([&] { widget->SetFocus(); });
 }
 
-void FormInput::SendRedraw(bool on) {
-  if (!AttributesWritable() || !SharedHost().IsConnected()) return;
-  SharedHost().ORVExecute(Text(on ? commands::kRedrawOn : commands::kRedrawOff));
-  if (on) SharedHost().ORVExecute(Text(commands::kRedraw));
+bool FormInput::RunOk() {
+  const RedrawPause pause(AttributesWritable(), RedrawPause::End::Redraw);
+  if (!RunFormEvent(u"BeforeOkClick")) return false;
+  if (m_SetAttributesEnabled) WriteAttributes(*this);
+  if (AttributesWritable()) SharedHost().ORVExecute(commands::SelectNone(PlaceOf(*this)));
+  return RunFormEvent(u"AfterOkClick");
+}
+
+bool FormInput::RunCancel() {
+  if (!CanRunScripts()) return true;
+  const RedrawPause pause(AttributesWritable(), RedrawPause::End::Redraw);
+  return RunFormEvent(u"BeforeCancelClick");
 }
 
 void FormInput::Ok() {
   const Ref<FormInput> keepAlive(this);  // a host may close the window in any of the events below
   if (!CanRunScripts()) return RaiseEvent(u"OkClick");
   if (const Ref<IControl> missing = FirstMissing()) return ReportMissing(*missing);
-  SendRedraw(false);
-  bool proceed = RunFormEvent(u"BeforeOkClick");
-  if (proceed) {
-    if (m_SetAttributesEnabled) WriteAttributes(*this);
-    if (AttributesWritable()) SharedHost().ORVExecute(commands::SelectNone(PlaceOf(*this)));
-    proceed = RunFormEvent(u"AfterOkClick");
-  }
-  SendRedraw(true);
-  if (proceed) RaiseEvent(u"OkClick");
+  if (RunOk()) RaiseEvent(u"OkClick");
 }
 
 void FormInput::Cancel() {
   const Ref<FormInput> keepAlive(this);
-  bool proceed = true;
-  if (CanRunScripts()) {
-    SendRedraw(false);
-    proceed = RunFormEvent(u"BeforeCancelClick");
-    SendRedraw(true);
-  }
-  if (proceed) RaiseEvent(u"CancelClick");
+  if (RunCancel()) RaiseEvent(u"CancelClick");
 }
 
 }  // namespace cardwright

@@ -77,7 +77,10 @@ class FormInput final : public TableObject, public InputOwner {
   Ref<IControl> FirstMissing() const;
   void ReportMissing(IControl& control);
   bool RunFormEvent(std::u16string_view event);
-  void SendRedraw(bool on);
+  /// The part of OK and Cancel during which the host does not redraw: its scripts and what it writes. False
+  /// where a script refused.
+  bool RunOk();
+  bool RunCancel();
   Ref<IControl> Form() const;
 
   Surface* m_Surface;

@@ -40,8 +40,8 @@ void FormInput::LayOut() {
   if (!m_Surface) return;
   const ScaleMode scale = m_Surface->Scale();
   auto pixels = [scale](float count) { return PixelsToScale(count, scale); };
-  Widget& ok = m_OkButton->Button();
-  Widget& cancel = m_CancelButton->Button();
+  const Ref<Widget> ok(&m_OkButton->Button());  // the host may close the window when it is asked for room
+  const Ref<Widget> cancel(&m_CancelButton->Button());
   const float buttonWidth = pixels(kButtonWidth);
   const float buttonHeight = pixels(kButtonHeight);
   const float frameX = pixels(m_Surface->HostFrame().width);
@@ -55,14 +55,14 @@ void FormInput::LayOut() {
   if (left < 0) SetOuterSize(need, OuterHeight());
   if (left <= 0) left = pixels(kLeastLeft);
   const float top = OuterHeight() + pixels(kRoomAbove);
-  ok.Move(left - offX, top - offY, buttonWidth, buttonHeight);
-  cancel.Move(ok.Left() + buttonWidth + pixels(kButtonGap), top - offY, buttonWidth, buttonHeight);
+  ok->Move(left - offX, top - offY, buttonWidth, buttonHeight);
+  cancel->Move(ok->Left() + buttonWidth + pixels(kButtonGap), top - offY, buttonWidth, buttonHeight);
   SetOuterSize(OuterWidth(), top + buttonHeight + pixels(kRoomBelow) + frameY);
 
   Variant size[] = {Variant(m_Surface->Width() + frameX), Variant(m_Surface->Height() + frameY)};
   RaiseEvent(u"NeedResize", size);
-  ok.SetZOrder(StackPosition::Front);
-  cancel.SetZOrder(StackPosition::Front);
+  ok->SetZOrder(StackPosition::Front);
+  cancel->SetZOrder(StackPosition::Front);
 }
 
 void FormInput::PlaceButtonsForDesign() {

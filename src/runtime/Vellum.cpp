@@ -75,6 +75,7 @@ Vellum::Vellum() {
   module.resizeHandleBackColor = fresh.resizeHandleBackColor;
   module.resizeHandleBorderColor = fresh.resizeHandleBorderColor;
   module.attachedEditor = nullptr;
+  module.scriptControl = module.makeScriptControl ? module.makeScriptControl() : nullptr;
   module.formControlsObject = MakeRef<FormControls>();
   module.isTemporarySave = false;
   module.decimalSeparator = FindDecimalSeparator();

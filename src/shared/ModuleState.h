@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+
 #include "automation/Object.h"
 #include "platform/Color.h"
 #include "platform/Desktop.h"
@@ -7,6 +9,7 @@
 #include "platform/Scale.h"
 #include "platform/ScriptControl.h"
 #include "shared/HostExecutor.h"
+#include "shared/ScriptText.h"
 
 namespace cardwright {
 
@@ -37,10 +40,13 @@ struct ModuleState {
   OleColor defaultBackColor = 0;
   OleColor defaultForeColor = 0;
   std::int32_t scriptLineOffset = 0;  ///< declaration lines put before the user's script
+  ProcedureMemory procedures;         ///< of the script read last
 
   std::int32_t vellumCount = 0;  ///< application objects alive
   Connections connections;
   Desktop* desktop = nullptr;  ///< installed by the application; null without one
+  /// Makes a script engine; installed by the application before the first Vellum, none without one.
+  std::function<Ref<ScriptControl>()> makeScriptControl;
   Ref<HostExecutor> hostExecutor;
 };
 

@@ -67,6 +67,17 @@ std::size_t FindProcedure(std::u16string_view script, std::u16string_view name,
   return EqualsNoCase(script.substr(0, firstLine.size()), firstLine) ? 1 : 0;
 }
 
+bool ProcedureMemory::Has(const Text& script, const Text& name, const Text& language) {
+  if (m_Script != script || m_Language != language) {
+    m_Script = script;
+    m_Language = language;
+    m_Answers.clear();
+  }
+  const auto [answer, isNew] = m_Answers.try_emplace(name, false);
+  if (isNew) answer->second = FindProcedure(script, name, language) != 0;
+  return answer->second;
+}
+
 ComposedScript ComposeScript(std::u16string_view script, std::u16string_view language,
                              std::span<const Text> userNames) {
   ComposedScript composed;

@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <span>
 #include <string_view>
+#include <unordered_map>
 
 #include "automation/Text.h"
 
@@ -17,6 +18,21 @@ Text BuildProcedureHeader(std::u16string_view name, std::u16string_view language
 /// start of a line, with one blank behind the keyword and the bracket right behind the name; case does not
 /// matter.
 std::size_t FindProcedure(std::u16string_view script, std::u16string_view name, std::u16string_view language);
+
+/// Whether a script has a procedure, for callers that ask again and again: every change of a field asks.
+class ProcedureMemory {
+ public:
+  bool Has(const Text& script, const Text& name, const Text& language);
+
+ private:
+  struct Hash {
+    std::size_t operator()(const Text& name) const noexcept { return HashNoCase(name); }
+  };
+
+  Text m_Script;
+  Text m_Language;
+  std::unordered_map<Text, bool, Hash> m_Answers;
+};
 
 /// A script made ready for the engine.
 struct ComposedScript {

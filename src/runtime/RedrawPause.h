@@ -1,0 +1,23 @@
+#pragma once
+
+namespace cardwright {
+
+/// Keeps the host from redrawing for its life. The host redraws again even where a command in between failed:
+/// its map would stand still for good otherwise.
+class RedrawPause {
+ public:
+  /// What the end asks of the host: to redraw when it has to, or at once as well.
+  enum class End { Resume, Redraw };
+
+  /// Does nothing unless `active`.
+  RedrawPause(bool active, End end);
+  ~RedrawPause();
+  RedrawPause(const RedrawPause&) = delete;
+  RedrawPause& operator=(const RedrawPause&) = delete;
+
+ private:
+  const bool m_Active;
+  const End m_End;
+};
+
+}  // namespace cardwright

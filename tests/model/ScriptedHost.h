@@ -1,0 +1,42 @@
+#pragma once
+
+#include <functional>
+#include <map>
+#include <string>
+
+#include "shared/HostExecutor.h"
+#include "shared/ModuleState.h"
+
+namespace cardwright {
+
+/// A host that answers as it was told and keeps what it was asked.
+class ScriptedHost final : public HostConnection {
+ public:
+  Text Execute(std::u16string_view) override { return {}; }
+  Text Request(std::u16string_view command) override {
+    asked = command;
+    if (onRequest) onRequest();
+    const auto found = answers.find(std::u16string(command));
+    return found == answers.end() ? answer : found->second;
+  }
+  Text answer;  ///< to whatever has no answer of its own
+  std::map<std::u16string, Text> answers;
+  Text asked;  ///< last
+  std::function<void()> onRequest;
+};
+
+/// A scripted host that the thread is connected to.
+struct Connected {
+  Connected() {
+    handle = Module().connections.Register(host);
+    SharedHost().SetHandle(handle);
+  }
+  ~Connected() {
+    SharedHost().SetHandle(0);
+    Module().connections.Close(handle);
+  }
+  Ref<ScriptedHost> host = MakeRef<ScriptedHost>();
+  std::int32_t handle;
+};
+
+}  // namespace cardwright

@@ -1,0 +1,104 @@
+#include <cstdlib>
+#include <fstream>
+#include <iterator>
+#include <sstream>
+
+#include "automation/Printing.h"
+#include "model/CForm.h"
+#include "model/ControlClasses.h"
+#include "shared/Messages.h"
+
+namespace cardwright {
+namespace {
+
+std::string Utf8(std::u16string_view text) { return Text(text).ToUtf8(); }
+
+std::string_view NameOf(PropertyTypeEnum type) {
+  static constexpr std::string_view kNames[] = {
+      "ptNone",    "ptString",    "ptColor",      "ptInteger",  "ptFloat",           "ptFont",
+      "ptBoolean", "ptAttribute", "ptCollection", "ptThemes",   "ptFeatureType",     "ptFileName",
+      "ptImage",   "ptName",      "ptList",       "ptControls", "ptConnectionString"};
+  return kNames[static_cast<int>(type) + 1];
+}
+
+std::string_view NameOf(KeyForm form) {
+  switch (form) {
+    case KeyForm::Text: return "text";
+    case KeyForm::Number: return "number";
+    case KeyForm::Color: return "colour";
+    case KeyForm::Font: return "font, six keys";
+    case KeyForm::Items: return "items, two keys each";
+  }
+  return "";
+}
+
+// One line for each message: a line break in it stands as "\n".
+std::string Message(int id) {
+  std::string text = Utf8(Replace(GetMessage(id), u"\r\n", u"\\n"));
+  return std::to_string(id) + " \"" + text + "\"";
+}
+
+void WriteRow(std::ostream& out, std::size_t number, const PropertyRow& row) {
+  out << "  " << number << " " << Utf8(row.name) << " " << NameOf(row.type);
+  if (row.description) out << " " << Message(row.description);
+  if (!row.field.set) out << " [read only]";
+  for (std::size_t i = 0; i < row.choices.size(); ++i)
+    out << (i == 0 ? " choices: " : ", ") << Utf8(row.choices[i]);
+  if (row.filter) out << " filter: " << Message(row.filter);
+  out << "\n";
+}
+
+void WriteKey(std::ostream& out, const FileKey& key) {
+  out << "  " << Utf8(key.name) << ", " << NameOf(key.form);
+  if (key.fallback) out << ", default \"" << Utf8(key.fallback) << "\"";
+  if (!key.field.set && key.form != KeyForm::Font) out << ", read last by the class";
+  out << "\n";
+}
+
+std::string Dump(const ClassTable& table) {
+  std::ostringstream out;
+  out << "class " << Utf8(table.className) << "\n";
+  out << "identifier " << Utf8(table.widgetIdentifier) << "\n";
+  out << "type " << Utf8(table.typeText) << "\n";
+  out << "rows\n";
+  for (std::size_t i = 0; i < table.rows.size(); ++i) WriteRow(out, i, table.rows[i]);
+  out << "hidden rows \"" << Utf8(table.hiddenNames) << "\"\n";
+  for (std::size_t i = 0; i < table.hidden.size(); ++i) WriteRow(out, table.rows.size() + i, table.hidden[i]);
+  out << "file keys\n";
+  for (const FileKey& key : table.keys) WriteKey(out, key);
+  out << "events\n";
+  for (std::u16string_view event : table.events) out << "  " << Utf8(event) << "\n";
+  return out.str();
+}
+
+std::vector<const ClassTable*> AllTables() {
+  std::vector<const ClassTable*> tables = {&CForm::kTable};
+  for (const ControlClass& entry : ControlClasses()) tables.push_back(entry.table);
+  return tables;
+}
+
+}  // namespace
+
+class EveryClassTable : public testing::TestWithParam<const ClassTable*> {};
+INSTANTIATE_TEST_SUITE_P(, EveryClassTable, testing::ValuesIn(AllTables()),
+                         [](const auto& test) { return Utf8(test.param->className); });
+
+// CARDWRIGHT_PROMOTE=1 makes what the tables say now the truth: read the change before it is kept.
+TEST_P(EveryClassTable, IsAsItsPageSays) {
+  const ClassTable& table = *GetParam();
+  const std::string path = CARDWRIGHT_SOURCE_DIR "/tests/model/golden/" + Utf8(table.className) + ".txt";
+  const std::string dump = Dump(table);
+  if (std::getenv("CARDWRIGHT_PROMOTE")) std::ofstream(path, std::ios::binary) << dump;
+  std::ifstream golden(path, std::ios::binary);
+  ASSERT_TRUE(golden) << path << " is missing; CARDWRIGHT_PROMOTE=1 writes it";
+  EXPECT_EQ(std::string(std::istreambuf_iterator<char>(golden), {}), dump);
+}
+
+TEST_P(EveryClassTable, HasADescriptionForEveryRowOfTheGrid) {
+  for (const PropertyRow& row : GetParam()->rows) {
+    EXPECT_GT(row.description, 0) << Utf8(row.name);
+    EXPECT_NE(row.type, PropertyTypeEnum::ptNone) << Utf8(row.name);
+  }
+}
+
+}  // namespace cardwright
