@@ -92,7 +92,7 @@ void Run(Environment& environment, std::string_view bytes) {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  static Environment environment;
+  static thread_local Environment environment;  // goes before the state that the library keeps for the thread
   Run(environment, {reinterpret_cast<const char*>(data), size});
   return 0;
 }

@@ -34,6 +34,8 @@ class Control : public TableControl, protected WidgetListener {
   bool Read(const Text& filePath, const Text& sectionName) override;
   bool Save(const Text& filePath, const Text& sectionName) override;
   void Refresh() override;
+  /// What the row `Attribute` holds; a class without that row never has one.
+  Text AttributeName() const override { return m_Attribute; }
 
   /// The bound widget, or null.
   Widget* Bound() const noexcept { return m_Obj.get(); }

@@ -9,10 +9,23 @@
 
 namespace cardwright {
 
+class FormOwner;
+
+/// Where the elements of a form find their owner, for as long as there is one: a script may hold an element
+/// beyond the form's end.
+struct OwnerLink final : RefCounted {
+  explicit OwnerLink(FormOwner* at) : owner(at) {}
+  FormOwner* owner;  ///< null once the owner is gone
+};
+
 /// What a form element calls back in the visual control that holds it: the side that designer and run time
 /// share.
 class FormOwner {
  public:
+  FormOwner(const FormOwner&) = delete;
+  FormOwner& operator=(const FormOwner&) = delete;
+
+  Ref<OwnerLink> Link() const noexcept { return m_Link; }
   /// All objects of the form, the CForm first, keyed by lower-case user name.
   virtual Collection& Controls() = 0;
   /// Null once the visual control is gone while a script still holds its objects.
@@ -25,7 +38,11 @@ class FormOwner {
   virtual void SetOuterSize(float width, float height) = 0;
 
  protected:
-  ~FormOwner() = default;
+  FormOwner() : m_Link(MakeRef<OwnerLink>(this)) {}
+  ~FormOwner() { m_Link->owner = nullptr; }
+
+ private:
+  Ref<OwnerLink> m_Link;
 };
 
 /// The form being filled in, as its elements see it.

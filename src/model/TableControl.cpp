@@ -59,8 +59,10 @@ Ref<Object> TableControl::ParentForm() const { return Ref<Object>(dynamic_cast<O
 void TableControl::SetParentForm(Ref<Object> form) {
   if (!form) return;
   const Text type = ToLower(form->TypeName());
-  if (type == u"formdesigner") m_Designer = dynamic_cast<DesignerOwner*>(form.get());
-  if (type == u"forminput") m_FormInput = dynamic_cast<InputOwner*>(form.get());
+  const auto* designer = dynamic_cast<DesignerOwner*>(form.get());
+  const auto* input = dynamic_cast<InputOwner*>(form.get());
+  if (type == u"formdesigner" && designer) m_Designer = designer->Link();
+  if (type == u"forminput" && input) m_FormInput = input->Link();
 }
 
 void TableControl::ForgetOwner() {
@@ -69,8 +71,8 @@ void TableControl::ForgetOwner() {
 }
 
 FormOwner* TableControl::Owner() const noexcept {
-  if (m_Designer) return m_Designer;
-  return m_FormInput;
+  if (Designer()) return Designer();
+  return Input();
 }
 
 Surface* TableControl::OwnerSurface() const {
@@ -129,6 +131,11 @@ void TableControl::SetPropertyValue(const Variant& index, const Variant& value) 
   if (row && row->field.set) row->field.set(*this, value);
 }
 
+void TableControl::SetRow(std::u16string_view name, const Variant& value) {
+  const PropertyRow* row = RowNamed(name);
+  if (row && row->field.set) row->field.set(*this, value);
+}
+
 std::vector<Text> TableControl::PropertyList(const Variant& index) const {
   const PropertyRow* row = AnyRow(index);
   if (!row) return {};
@@ -152,12 +159,12 @@ Text TableControl::AttributeName() const { return RowText(u"Attribute"); }
 std::vector<Text> TableControl::Events() const { return {m_Table.events.begin(), m_Table.events.end()}; }
 
 void TableControl::RaisePropertyChanged(std::u16string_view row, const Variant& value) const {
-  if (!m_Designer) return;
+  if (!Designer()) return;
   // What stands in no row of the grid, as a combo box's height, is nothing that the grid could show anew.
   const auto names = m_Table.rowNames;
   const auto changed = std::ranges::find(names, row);
   if (changed != names.end())
-    m_Designer->RaisePropertyChanged(static_cast<int>(changed - names.begin()), value);
+    Designer()->RaisePropertyChanged(static_cast<int>(changed - names.begin()), value);
 }
 
 }  // namespace cardwright

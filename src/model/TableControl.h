@@ -25,7 +25,7 @@ class TableControl : public IControl {
   Ref<Object> ParentForm() const override;
   void SetParentForm(Ref<Object> form) override;
   /// Called by an owner that ends while others still hold its controls.
-  virtual void ForgetOwner();
+  void ForgetOwner();
 
   std::uint8_t PropertyCount() const override { return static_cast<std::uint8_t>(m_Table.rows.size()); }
   Text PropertyName(const Variant& index) const override;
@@ -35,6 +35,8 @@ class TableControl : public IControl {
   void SetPropertyValue(const Variant& index, const Variant& value) override;
   std::vector<Text> PropertyList(const Variant& index) const override;
   Text FilenameFilter(const Variant& index) const override;
+  /// SetPropertyValue for a name that is known, without the search for what else an index may be.
+  void SetRow(std::u16string_view name, const Variant& value);
 
   std::int16_t ZOrder() const override { return m_ZOrder; }
   void SetZOrder(std::int16_t position) override { m_ZOrder = position; }
@@ -45,8 +47,8 @@ class TableControl : public IControl {
   std::vector<Text> Events() const override;
 
   /// The owner by its kind; both null while there is none.
-  DesignerOwner* Designer() const noexcept { return m_Designer; }
-  InputOwner* Input() const noexcept { return m_FormInput; }
+  DesignerOwner* Designer() const noexcept { return OwnerAt<DesignerOwner>(m_Designer); }
+  InputOwner* Input() const noexcept { return OwnerAt<InputOwner>(m_FormInput); }
 
  protected:
   explicit TableControl(const ClassTable& table) : m_Table(table) {}
@@ -71,9 +73,14 @@ class TableControl : public IControl {
   const PropertyRow* RowAt(int position) const;
   const PropertyRow* RowNamed(std::u16string_view name) const;
 
+  template <class Kind>
+  static Kind* OwnerAt(const Ref<OwnerLink>& link) noexcept {
+    return link ? static_cast<Kind*>(link->owner) : nullptr;
+  }
+
   const ClassTable& m_Table;
-  DesignerOwner* m_Designer = nullptr;
-  InputOwner* m_FormInput = nullptr;
+  Ref<OwnerLink> m_Designer;
+  Ref<OwnerLink> m_FormInput;
 };
 
 }  // namespace cardwright

@@ -99,9 +99,13 @@ Text EmbeddedHost::Session::FinishEdits() {
   }
 }
 
+// A form asks about one theme a few hundred times on end.
 orv::Theme* EmbeddedHost::Session::FindTheme(std::u16string_view name) {
+  if (m_LastTheme && m_LastTheme->Name() == name) return m_LastTheme;
   const int position = m_Index.Find(name);
-  return position == orv::NameIndex::kNone ? nullptr : m_Themes[static_cast<std::size_t>(position)].get();
+  m_LastTheme =
+      position == orv::NameIndex::kNone ? nullptr : m_Themes[static_cast<std::size_t>(position)].get();
+  return m_LastTheme;
 }
 
 orv::Theme& EmbeddedHost::Session::ReadTheme(CommandReader& parts) {

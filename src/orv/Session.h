@@ -88,6 +88,7 @@ class EmbeddedHost::Session {
   orv::Store m_Store;
   std::vector<std::unique_ptr<Theme>> m_Themes;
   orv::NameIndex m_Index;
+  Theme* m_LastTheme = nullptr;
   orv::Edits m_Edits;
   /// Why the values of another feature could not be stored when a value for the next one came.
   Text m_LateFailure;

@@ -24,9 +24,17 @@ bool IsReadOnly(std::u16string_view path);
 
 /// All bytes of a file; none where it cannot be read.
 std::optional<std::string> ReadFile(const std::filesystem::path& path);
+
+/// What a replaced file outlives.
+enum class Durability {
+  Crash,      ///< the end of the program at any moment; a power cut soon after may cost the content
+  PowerLoss,  ///< that of the machine too, which takes a wait for the disk
+};
+
 /// Puts the bytes in the file's place in one step: a reader or a crash meets the old file or the new one,
 /// never a part. Links are followed, the mode is kept. False where it cannot be done; the old file then
 /// stands.
-bool ReplaceFile(const std::filesystem::path& path, std::string_view bytes);
+bool ReplaceFile(const std::filesystem::path& path, std::string_view bytes,
+                 Durability durability = Durability::PowerLoss);
 
 }  // namespace cardwright

@@ -67,8 +67,10 @@ class Sibling {
     return true;
   }
 
+  bool Sync() { return ::fsync(m_Descriptor) == 0; }
+
   bool Place() {
-    m_Placed = ::fsync(m_Descriptor) == 0 && ::rename(m_Path.c_str(), m_Target.c_str()) == 0;
+    m_Placed = ::rename(m_Path.c_str(), m_Target.c_str()) == 0;
     return m_Placed;
   }
 
@@ -79,7 +81,7 @@ class Sibling {
   bool m_Placed = false;
 };
 
-// Makes the new name last through a crash; the file itself is safe already.
+// Makes the new name last through a power cut; the file itself is safe already.
 void SyncFolder(const fs::path& file) {
   const fs::path folder = file.has_parent_path() ? file.parent_path() : fs::path(".");
   const int descriptor = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
@@ -90,7 +92,7 @@ void SyncFolder(const fs::path& file) {
 
 }  // namespace
 
-bool ReplaceFile(const fs::path& path, std::string_view bytes) {
+bool ReplaceFile(const fs::path& path, std::string_view bytes, Durability durability) {
   const fs::path target = FollowLinks(path);
   if (!target.has_filename()) return false;
   struct stat old {};
@@ -102,8 +104,9 @@ bool ReplaceFile(const fs::path& path, std::string_view bytes) {
   }
   Sibling sibling(target, exists ? kPrivate : kNewFile);
   if (!sibling.IsOpen() || (exists && !sibling.TakeOver(old))) return false;
-  if (!sibling.Write(bytes) || !sibling.Place()) return false;
-  SyncFolder(target);
+  const bool isSynced = durability == Durability::PowerLoss;
+  if (!sibling.Write(bytes) || (isSynced && !sibling.Sync()) || !sibling.Place()) return false;
+  if (isSynced) SyncFolder(target);
   return true;
 }
 

@@ -1,8 +1,5 @@
 #include "runtime/AttributeBinding.h"
 
-#include <algorithm>
-
-#include "automation/Split.h"
 #include "runtime/ControlValues.h"
 #include "runtime/FormInput.h"
 #include "runtime/RedrawPause.h"
@@ -13,9 +10,6 @@
 
 namespace cardwright {
 namespace {
-
-// More attributes than any store has columns: a host's reply must not keep the form asking for ever.
-constexpr double kMostAttributes = 65535;
 
 bool IsBlank(const Text& text) { return Trim(text).empty(); }
 
@@ -31,36 +25,24 @@ double SelectFeature(const FeaturePlace& place, const Text& id) {
   return RequestNumber(commands::CurrentIsValid(place)) == 0 ? 0 : count;
 }
 
-// A record that has not exactly four fields makes an attribute without a name, which no control can be bound
-// to.
-Ref<CAttrib> ParseRecord(const Text& record) {
-  auto attrib = MakeRef<CAttrib>();
-  const std::vector<Text> fields = Split(record, u',');
-  if (fields.size() != 4) return attrib;
-  attrib->m_Name = fields[0];
-  attrib->m_AttribType =
-      static_cast<AttributeTypeEnum>(AttemptOr(0, [&] { return ToLong(Variant(Val(fields[1]))); }));
-  attrib->m_Length = AttemptOr(0, [&] { return ToLong(Variant(Val(fields[2]))); });
-  attrib->m_Decs = AttemptOr(0, [&] { return ToLong(Variant(Val(fields[3]))); });
-  return attrib;
-}
-
-const CAttrib* AttribOf(const IControl& control, const CAttribs& attribs) {
-  const CAttrib* attrib = nullptr;
-  Attempt([&] { attrib = attribs.Find(ToText(control.PropertyValue(u"Attribute"))); });
-  return attrib;
+// Each control whose attribute the theme has, as it is bound when its turn comes.
+template <class Use>
+void ForEachBound(FormInput& form, const CAttribs& attribs, Use&& use) {
+  for (const Ref<IControl>& each : ControlsOf(form.Controls())) {
+    auto* control = dynamic_cast<Control*>(each.get());
+    const CAttrib* attrib = control ? attribs.Find(control->AttributeName()) : nullptr;
+    if (attrib) use(*control, *attrib);
+  }
 }
 
 void LoadControls(FormInput& form, const FeaturePlace& place, const CAttribs& attribs) {
   const bool limitsOnly = IsBlank(form.FeatureID()) || form.NewFeature();
-  for (const Ref<IControl>& control : ControlsOf(form.Controls())) {
-    const CAttrib* attrib = AttribOf(*control, attribs);
-    if (!attrib) continue;
-    Attempt([&] { LimitInput(*control, *attrib); });
-    if (limitsOnly) continue;
-    const Text reply = SharedHost().ORVRequest(commands::GetAttribute(place, attrib->m_Name));
-    Attempt([&] { ShowReply(form.Controls(), *control, *attrib, reply); });
-  }
+  ForEachBound(form, attribs, [&](Control& control, const CAttrib& attrib) {
+    Attempt([&] { LimitInput(control, attrib); });
+    if (limitsOnly) return;
+    const Text reply = SharedHost().ORVRequest(commands::GetAttribute(place, attrib.m_Name));
+    Attempt([&] { ShowReply(form.Controls(), control, attrib, reply); });
+  });
 }
 
 // The value as it stands in the command: texts between bars, a blank clearing the attribute; numbers with a
@@ -96,33 +78,21 @@ void PrintClosing() {
 void WriteControls(FormInput& form, const FeaturePlace& place, const CAttribs& attribs) {
   Text value;  // kept from control to control: a list box without a selection writes its predecessor's value
                // again
-  for (const Ref<IControl>& control : ControlsOf(form.Controls())) {
-    const CAttrib* attrib = AttribOf(*control, attribs);
-    if (!attrib) continue;
-    if (!AttemptOr(false, [&] { return TakeValue(*control, value); })) continue;
-    const Text command = commands::SetAttribute(place, attrib->m_Name, CommandValue(*attrib, value));
+  ForEachBound(form, attribs, [&](Control& control, const CAttrib& attrib) {
+    if (!AttemptOr(false, [&] { return TakeValue(control, value); })) return;
+    const Text command = commands::SetAttribute(place, attrib.m_Name, CommandValue(attrib, value));
     if (form.DebugMode()) {
       Print(Text(u"     ") + command + u"\r\n");
     } else {
       SharedHost().ORVExecute(command);
     }
-  }
+  });
 }
 
 }  // namespace
 
 FeaturePlace PlaceOf(const FormInput& form) {
   return {form.GetThemeName(), FeatureTypeText(form.GetFeatureType())};
-}
-
-Ref<CAttribs> ReadAttribs(const FeaturePlace& place) {
-  auto attribs = MakeRef<CAttribs>();
-  const double count = std::min(RequestNumber(commands::AttributeNumber(place)), kMostAttributes);
-  for (int number = 1; number <= count; ++number) {
-    const Text record = SharedHost().ORVRequest(commands::Attribute(place, number));
-    if (!record.IsEmpty()) attribs->Add(ParseRecord(record));
-  }
-  return attribs;
 }
 
 void LoadAttributes(FormInput& form) {
@@ -132,7 +102,7 @@ void LoadAttributes(FormInput& form) {
   const FeaturePlace place = PlaceOf(form);
   const RedrawPause pause(hasFeature, RedrawPause::End::Resume);
   if (hasFeature && SelectFeature(place, form.FeatureID()) < 1) return;
-  LoadControls(form, place, *ReadAttribs(place));
+  LoadControls(form, place, *form.Attributes().Read(place));
   if (hasFeature) host.ORVExecute(commands::SelectNone(place));
 }
 
@@ -149,7 +119,7 @@ void WriteAttributes(FormInput& form) {
   }
   if (!(count > 0)) return;
   if (!form.DebugMode()) host.ORVExecute(commands::MoveFirst(place));
-  WriteControls(form, place, *ReadAttribs(place));
+  WriteControls(form, place, *form.Attributes().Read(place));
   if (form.DebugMode()) PrintClosing();
   form.RunEvent(BuildEventName(u"Form", u"AfterSetAttributes"));
 }

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "runtime/CAttrib.h"
 #include "runtime/HostCommands.h"
 
 namespace cardwright {
@@ -17,8 +16,6 @@ void LoadAttributes(FormInput& form);
 void WriteAttributes(FormInput& form);
 /// The form's theme and feature type.
 FeaturePlace PlaceOf(const FormInput& form);
-/// The attributes that the host has for a theme.
-Ref<CAttribs> ReadAttribs(const FeaturePlace& place);
 /// @}
 
 }  // namespace cardwright

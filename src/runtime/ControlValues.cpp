@@ -1,6 +1,7 @@
 #include "runtime/ControlValues.h"
 
 #include "model/CItems.h"
+#include "model/Control.h"
 #include "platform/Widget.h"
 
 namespace cardwright {
@@ -11,13 +12,13 @@ Ref<Widget> WidgetOf(const IControl& control) {
 }
 
 template <class Kind>
-Kind& WidgetAs(const IControl& control) {
-  auto* widget = dynamic_cast<Kind*>(control.BoundObject().get());
+Kind& WidgetAs(const Control& control) {
+  auto* widget = dynamic_cast<Kind*>(control.Bound());
   if (!widget) Raise(ErrorNumber::ObjectNotSet);
   return *widget;
 }
 
-CItems& ItemsOf(const IControl& control) {
+CItems& ItemsOf(const Control& control) {
   auto* items = dynamic_cast<CItems*>(&RequireObject(control.PropertyValue(u"Items")));
   if (!items) Raise(ErrorNumber::TypeMismatch);
   return *items;
@@ -28,11 +29,11 @@ Text RowText(const IControl& control, const char16_t* row) { return ToText(contr
 // Showing a reply, class by class.
 
 template <const char16_t* Row>
-void ShowInRow(const Collection&, IControl& control, const CAttrib&, const Text& reply) {
-  control.SetPropertyValue(Row, Variant(reply));
+void ShowInRow(const Collection&, Control& control, const CAttrib&, const Text& reply) {
+  control.SetRow(Row, Variant(reply));
 }
 
-void ShowInOptions(const Collection& controls, IControl& control, const CAttrib& attrib, const Text& reply) {
+void ShowInOptions(const Collection& controls, Control& control, const CAttrib& attrib, const Text& reply) {
   const Ref<Widget> container = WidgetAs<Widget>(control).Container();
   for (const Ref<IControl>& other : ControlsOf(controls)) {
     const Ref<Widget> widget = WidgetOf(*other);
@@ -44,36 +45,36 @@ void ShowInOptions(const Collection& controls, IControl& control, const CAttrib&
   }
 }
 
-void ShowInCombo(const Collection&, IControl& control, const CAttrib&, const Text& reply) {
+void ShowInCombo(const Collection&, Control& control, const CAttrib&, const Text& reply) {
   const std::int32_t position = ItemsOf(control).FindValue(reply);
   if (position > 0) WidgetAs<ComboWidget>(control).SetListIndex(position - 1);
   const bool editable = AttemptOr(false, [&] { return ToBoolean(control.PropertyValue(u"Editable")); });
   if (editable && RowText(control, u"Text") != reply) control.SetPropertyValue(u"Text", Variant(reply));
 }
 
-void ShowInList(const Collection&, IControl& control, const CAttrib&, const Text& reply) {
+void ShowInList(const Collection&, Control& control, const CAttrib&, const Text& reply) {
   const std::int32_t position = ItemsOf(control).FindValue(reply);
   if (position > 0) WidgetAs<ListViewWidget>(control).SelectRow(position);
 }
 
 // Taking a value, class by class.
 
-bool TakeNothing(IControl&, Text&) { return false; }
+bool TakeNothing(Control&, Text&) { return false; }
 
-bool TakeOption(IControl& control, Text& value) {
+bool TakeOption(Control& control, Text& value) {
   if (WidgetAs<StateWidget>(control).State() == 0) return false;
   value = RowText(control, u"Value");
   return true;
 }
 
-bool TakeCombo(IControl& control, Text& value) {
+bool TakeCombo(Control& control, Text& value) {
   const auto& widget = WidgetAs<ComboWidget>(control);
   const Ref<CItem> item = ItemsOf(control).Item(Variant(std::int32_t{widget.ListIndex() + 1}));
   value = item ? item->m_Value : widget.DisplayText();
   return true;
 }
 
-bool TakeList(IControl& control, Text& value) {
+bool TakeList(Control& control, Text& value) {
   const std::int32_t row = WidgetAs<ListViewWidget>(control).SelectedRow();
   if (const Ref<CItem> item = row > 0 ? ItemsOf(control).Item(Variant(row)) : nullptr) value = item->m_Value;
   return true;
@@ -84,8 +85,8 @@ enum class Limit { None, Kind, LengthAndKind };
 struct Binding {
   std::u16string_view className;
   Limit limit = Limit::None;
-  void (*show)(const Collection&, IControl&, const CAttrib&, const Text&) = nullptr;
-  bool (*take)(IControl&, Text&) = nullptr;  // null: the control's own Value
+  void (*show)(const Collection&, Control&, const CAttrib&, const Text&) = nullptr;
+  bool (*take)(Control&, Text&) = nullptr;  // null: the control's own Value
 };
 
 constexpr char16_t kText[] = u"Text";
@@ -105,8 +106,8 @@ constexpr Binding kBindings[] = {
     {u"CAttributeSelector", Limit::None, ShowInRow<kText>},
 };
 
-const Binding* BindingOf(const IControl& control) {
-  const Text className = control.TypeName();
+const Binding* BindingOf(const Control& control) {
+  const std::u16string_view className = control.Table().className;
   for (const Binding& binding : kBindings)
     if (className == binding.className) return &binding;
   return nullptr;
@@ -119,10 +120,10 @@ InputTypeEnum InputTypeOf(const CAttrib& attrib) {
 
 // What the check of required fields looks at, type of widget by type.
 
-void RequireRow(IControl& control, const char16_t* row, Text& value) { value = RowText(control, row); }
+void RequireRow(Control& control, const char16_t* row, Text& value) { value = RowText(control, row); }
 
 // The value of a list counts as missing while nothing is chosen from a list that has something to choose.
-void RequireChoice(IControl& control, const char16_t*, Text& value) {
+void RequireChoice(Control& control, const char16_t*, Text& value) {
   const auto& widget = WidgetAs<ComboWidget>(control);
   value = widget.DisplayText();
   if (ItemsOf(control).Count() > 0 && widget.ListIndex() < 0) value = Text();
@@ -130,7 +131,7 @@ void RequireChoice(IControl& control, const char16_t*, Text& value) {
 
 struct Requirement {
   std::u16string_view widgetType;
-  void (*take)(IControl& control, const char16_t* row, Text& value);
+  void (*take)(Control& control, const char16_t* row, Text& value);
   const char16_t* row = nullptr;
 };
 
@@ -149,27 +150,27 @@ constexpr Requirement kRequirements[] = {
 
 }  // namespace
 
-void LimitInput(IControl& control, const CAttrib& attrib) {
+void LimitInput(Control& control, const CAttrib& attrib) {
   const Binding* binding = BindingOf(control);
-  if (!binding || binding->limit == Limit::None) return;
+  if (!binding || binding->limit == Limit::None || !control.Bound()) return;
   if (binding->limit == Limit::LengthAndKind)
     Attempt([&] { WidgetAs<TextWidget>(control).SetMaxLength(attrib.m_Length); });
-  WidgetAs<Widget>(control).SetTag(ToText(Variant(static_cast<std::int32_t>(InputTypeOf(attrib)))));
+  control.Bound()->SetTag(ToText(Variant(static_cast<std::int32_t>(InputTypeOf(attrib)))));
 }
 
-void ShowReply(const Collection& controls, IControl& control, const CAttrib& attrib, const Text& reply) {
+void ShowReply(const Collection& controls, Control& control, const CAttrib& attrib, const Text& reply) {
   const Binding* binding = BindingOf(control);
   if (binding && binding->show) binding->show(controls, control, attrib, reply);
 }
 
-bool TakeValue(IControl& control, Text& value) {
+bool TakeValue(Control& control, Text& value) {
   const Binding* binding = BindingOf(control);
   if (binding && binding->take) return binding->take(control, value);
   value = control.Value();
   return true;
 }
 
-void TakeRequiredValue(IControl& control, Text& value) {
+void TakeRequiredValue(Control& control, Text& value) {
   const Text type = WidgetAs<Widget>(control).TypeName();
   for (const Requirement& requirement : kRequirements)
     if (EqualsNoCase(type, requirement.widgetType)) return requirement.take(control, requirement.row, value);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "model/IControl.h"
+#include "model/Control.h"
 #include "runtime/CAttrib.h"
 
 namespace cardwright {
@@ -8,17 +8,17 @@ namespace cardwright {
 /// @name How the value of a feature attribute meets each class of control.
 /// @{
 /// Holds what can be typed to the attribute's length and kind, in controls that take typed text.
-void LimitInput(IControl& control, const CAttrib& attrib);
+void LimitInput(Control& control, const CAttrib& attrib);
 /// Shows the host's reply in the control; of option buttons, in the one of its group that stands for the
 /// reply.
-void ShowReply(const Collection& controls, IControl& control, const CAttrib& attrib, const Text& reply);
+void ShowReply(const Collection& controls, Control& control, const CAttrib& attrib, const Text& reply);
 /// Puts the text for the attribute into `value`; false where the control writes nothing. A list box without a
 /// selection leaves `value` as it is.
-bool TakeValue(IControl& control, Text& value);
+bool TakeValue(Control& control, Text& value);
 /// @}
 
 /// What the check of required fields looks at; a control of a kind that it does not know leaves `value` as it
 /// is.
-void TakeRequiredValue(IControl& control, Text& value);
+void TakeRequiredValue(Control& control, Text& value);
 
 }  // namespace cardwright

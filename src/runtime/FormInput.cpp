@@ -154,7 +154,8 @@ Ref<IControl> FormInput::FirstMissing() const {
     const bool needed =
         AttemptOr(false, [&] { return ToText(control->PropertyValue(u"IsNeeded")) == u"True"; });
     if (!needed) continue;
-    Attempt([&] { TakeRequiredValue(*control, value); });
+    if (auto* bound = dynamic_cast<Control*>(control.get()))
+      Attempt([&] { TakeRequiredValue(*bound, value); });
     if (value.IsEmpty()) return control;
   }
   return nullptr;

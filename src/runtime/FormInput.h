@@ -2,6 +2,7 @@
 
 #include "model/CForm.h"
 #include "model/FormOwner.h"
+#include "runtime/AttributeList.h"
 #include "runtime/FormButton.h"
 
 namespace cardwright {
@@ -58,6 +59,9 @@ class FormInput final : public TableObject, public InputOwner {
   /// The surface ends: the form's objects stay for whoever holds them, without widgets.
   void DetachSurface();
 
+  /// The attributes of the form's theme, as the host last had them.
+  AttributeList& Attributes() noexcept { return m_Attributes; }
+
   Surface* GetSurface() override { return m_Surface; }
   float OuterWidth() const override;
   float OuterHeight() const override;
@@ -89,6 +93,7 @@ class FormInput final : public TableObject, public InputOwner {
   bool m_NewFeature = false;
   Text m_FeatureID;
   Text m_Caption;
+  AttributeList m_Attributes;
   bool m_SetAttributesEnabled = true;
   std::optional<FormButton> m_OkButton;  // none once the surface has ended
   std::optional<FormButton> m_CancelButton;

@@ -87,8 +87,8 @@ bool RunScript(FormInput& form, const Text& script, const Text& language, bool d
 bool RunEvent(const Text& procedure) {
   if (!SharedHost().IsConnected()) return false;
   const Ref<ScriptControl> engine = Module().scriptControl;
-  const bool exists = Module().procedures.Has(Module().scriptContent, procedure, Module().scriptLanguage);
-  if (!exists || !engine) return true;
+  if (!engine) return true;
+  if (!Module().procedures.Has(Module().scriptContent, procedure, Module().scriptLanguage)) return true;
   FormControls* controls = ScriptControls();
   if (controls) controls->SetResponse(true);
   try {

@@ -6,8 +6,8 @@
 namespace cardwright {
 
 /// While it lives, this thread's CIni calls on the file of that name work on an image in memory, and Commit
-/// puts the result on disk in one step. Without a Commit the old file stands. Batches on one file nest: the
-/// outermost decides. What others write to the file meanwhile is overwritten.
+/// puts the result on disk in one step, where it outlives a power cut. Without a Commit the old file stands.
+/// Batches on one file nest: the outermost decides. What others write to the file meanwhile is overwritten.
 class IniBatch {
  public:
   explicit IniBatch(const Text& fileName);

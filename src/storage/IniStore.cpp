@@ -6,8 +6,6 @@
 #include <map>
 #include <system_error>
 
-#include "platform/Files.h"
-
 namespace cardwright {
 namespace {
 
@@ -49,7 +47,7 @@ bool IniStore::Change(const std::function<bool(IniFile&)>& change) {
   if (!IsWritable()) return false;
   if (!change(m_Image)) return true;
   m_IsChanged = true;
-  return m_BatchDepth > 0 || Save();
+  return m_BatchDepth > 0 || Save(Durability::Crash);
 }
 
 bool IniStore::IsWritable() const {
@@ -69,7 +67,7 @@ void IniStore::BeginBatch() {
 
 bool IniStore::CommitBatch() {
   if (--m_BatchDepth > 0) return true;
-  return !m_IsChanged || Save();
+  return !m_IsChanged || Save(Durability::PowerLoss);
 }
 
 void IniStore::DropBatch() {
@@ -113,9 +111,9 @@ void IniStore::Load() {
   m_IsLoaded = true;
 }
 
-bool IniStore::Save() {
+bool IniStore::Save(Durability durability) {
   m_IsChanged = false;
-  if (!IsWritable() || !ReplaceFile(m_Path, m_Image.Bytes())) {
+  if (!IsWritable() || !ReplaceFile(m_Path, m_Image.Bytes(), durability)) {
     Forget();
     return false;
   }

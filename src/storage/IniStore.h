@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "automation/Ref.h"
+#include "platform/Files.h"
 #include "storage/FileStamp.h"
 #include "storage/IniFile.h"
 
@@ -24,9 +25,9 @@ class IniStore final : public RefCounted {
   const IniFile& Image();
   /// The whole file as it is now. Valid until the next call.
   const std::string& Bytes();
-  /// Runs `change` on the image and, where it answers true, puts the result on disk or leaves that to the
-  /// batch that is open. False, with the file as it was, where the file is missing, is read-only or cannot be
-  /// replaced.
+  /// Runs `change` on the image and, where it answers true, puts the result in the file's place in one step,
+  /// without a wait for the disk, or leaves that to the batch that is open. False, with the file as it was,
+  /// where the file is missing, is read-only or cannot be replaced.
   bool Change(const std::function<bool(IniFile&)>& change);
   /// True where the file is there and carries no read-only attribute.
   bool IsWritable() const;
@@ -34,7 +35,8 @@ class IniStore final : public RefCounted {
   /// @name Batch: between the outermost begin and end the image stays in memory and the disk is left alone.
   /// @{
   void BeginBatch();
-  /// Ends a batch; the outermost one writes the file where anything has changed. False where it could not.
+  /// Ends a batch; the outermost one writes the file where anything has changed, and waits until the disk has
+  /// it. False where it could not.
   bool CommitBatch();
   /// Ends a batch; the outermost one forgets what was changed.
   void DropBatch();
@@ -51,7 +53,7 @@ class IniStore final : public RefCounted {
   void Refresh();
   void RefreshFromDisk();
   void Load();
-  bool Save();
+  bool Save(Durability durability);
   void Forget();
 
   std::filesystem::path m_Path;

@@ -53,11 +53,14 @@ Text ReadScriptSection(std::u16string_view fileName) {
   return page.Decode(bytes.substr(static_cast<std::size_t>(marker.end() - bytes.begin())));
 }
 
+// Like the other writes it goes through a batch, even of one change: each replaces the whole project, which
+// is to outlive a power cut.
 void WriteScriptSection(std::u16string_view fileName, std::u16string_view language,
                         std::u16string_view content) {
   if (!IsProject(fileName)) return;
   const Ref<IniStore> store = IniStore::Open(fileName);
   if (!store) return;
+  IniBatch batch{Text(fileName)};
   const CodePage& page = CodePage::Current();
   std::string tail(kScriptMarker);
   tail += page.Encode(language);
@@ -65,6 +68,7 @@ void WriteScriptSection(std::u16string_view fileName, std::u16string_view langua
   tail += page.Encode(content);
   tail += page.Encode(kLineEnd);
   store->Change([&](IniFile& file) { return file.Append(tail); });
+  batch.Commit();
 }
 
 Text SplitFirstLine(std::u16string_view text, Text& first) {
@@ -125,7 +129,9 @@ bool GetShowMenu(std::u16string_view fileName) {
 
 void SetShowMenu(std::u16string_view fileName, bool value) {
   if (!IsProject(fileName)) return;
+  IniBatch batch{Text(fileName)};
   OpenIni(fileName)->WriteValue(kForm, kShowMenu, std::int32_t{value});
+  batch.Commit();
 }
 
 }  // namespace cardwright

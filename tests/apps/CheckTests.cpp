@@ -26,6 +26,8 @@ struct FaultyProject {
   std::string line;  ///< behind the file's name
 };
 
+void PrintTo(const FaultyProject& project, std::ostream* out) { *out << project.name; }
+
 std::vector<FaultyProject> FaultyProjects() {
   return {
       {"UnknownType", Project("[CONTROLS_1]\r\nType=Spinner\r\n", 1),

@@ -6,6 +6,7 @@
 #include <cstdlib>
 
 #include "automation/Printing.h"
+#include "platform/SyncCount.h"
 
 namespace cardwright {
 namespace {
@@ -48,6 +49,18 @@ TEST_F(Files, ReplaceFileWritesANewFileAndReplacesAnOldOne) {
   EXPECT_EQ(ReadFile(Path("new")), bytes);
   EXPECT_TRUE(ReplaceFile(Path("new"), ""));
   EXPECT_EQ(ReadFile(Path("new")), "");
+  EXPECT_EQ(Entries(), 1u);
+}
+
+TEST_F(Files, ReplaceFileWaitsForTheDiskOnlyToOutliveAPowerCut) {
+  const fs::path file = Written("file", "old");
+  g_SyncCount = 0;
+  EXPECT_TRUE(ReplaceFile(file, "new", Durability::Crash));
+  EXPECT_EQ(g_SyncCount, 0);
+  EXPECT_EQ(ReadFile(file), "new");
+  EXPECT_TRUE(ReplaceFile(file, "newer", Durability::PowerLoss));
+  EXPECT_EQ(g_SyncCount, 2);  // the file, then the folder that names it
+  EXPECT_EQ(ReadFile(file), "newer");
   EXPECT_EQ(Entries(), 1u);
 }
 

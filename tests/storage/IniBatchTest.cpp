@@ -3,10 +3,12 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
+#include <functional>
 #include <random>
 
 #include "automation/Printing.h"
 #include "platform/Files.h"
+#include "platform/SyncCount.h"
 #include "storage/CIni.h"
 #include "storage/ProjectFile.h"
 #include "storage/TempFolder.h"
@@ -53,6 +55,26 @@ TEST_F(IniBatchCommit, TakesTheScriptTailWithIt) {
   EXPECT_EQ(File(), "[A]\r\nk=1\r\n");
   EXPECT_TRUE(batch.Commit());
   EXPECT_EQ(File(), "[FORM]\r\nControlsNumber= 0\r\n[SCRIPT]\r\nVBScript\r\nx = 1\r\n");
+}
+
+TEST_F(IniBatchCommit, WaitsForTheDiskOnceWhereASingleWriteDoesNot) {
+  const auto syncs = [](const std::function<void()>& write) {
+    g_SyncCount = 0;
+    write();
+    return g_SyncCount;
+  };
+  EXPECT_EQ(syncs([&] { ini->WriteValue(u"A", u"k", u"2"); }), 0);
+  EXPECT_EQ(File(), "[A]\r\nk=2\r\n");
+  EXPECT_EQ(syncs([&] { ini->DeleteKey(u"A", u"k"); }), 0);
+  EXPECT_EQ(syncs([&] { ini->Reset(); }), 0);
+  const int once = syncs([&] {
+    IniBatch batch(name);
+    for (std::int32_t i = 0; i < 10; ++i) ini->WriteValue(u"A", u"k", i);
+    EXPECT_TRUE(batch.Commit());
+  });
+  EXPECT_EQ(once, 2);  // the file and its folder
+  EXPECT_EQ(syncs([&] { SetShowMenu(name, true); }), once);
+  EXPECT_EQ(syncs([&] { WriteScriptSection(name, u"VBScript", u"x = 1"); }), once);
 }
 
 TEST_F(IniBatchCommit, LeavesAFileAloneThatNothingChanges) {
