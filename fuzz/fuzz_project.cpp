@@ -52,6 +52,8 @@ class NoisyHost final : public HostConnection {
 };
 
 struct Environment {
+  bool hasPlatform =
+      !qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM") || qputenv("QT_QPA_PLATFORM", "offscreen");
   int argc = 1;
   char name[5] = "fuzz";
   char* argv[2] = {name, nullptr};

@@ -19,13 +19,25 @@ constexpr std::size_t kLongestValue = kBuffer - 1;
 
 constexpr bool IsDigit(char16_t c) noexcept { return c >= u'0' && c <= u'9'; }
 
+// Where the digits end that a separator may stand in: at an exponent, or before "&H" and "&O". A parcel
+// number like "2E5,7" is no number anywhere and keeps its comma.
+std::size_t EndOfMantissa(std::u16string_view text) {
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    const bool isExponent =
+        i > 0 && IsDigit(text[i - 1]) && (ToLower(text[i]) == u'e' || ToLower(text[i]) == u'd');
+    if (isExponent || text[i] == u'&') return i;
+  }
+  return text.size();
+}
+
 // A comma between digits separates decimals or groups, under whatever locale a project was made.
 bool IsNumberWithCommas(std::u16string_view text) {
   if (IsNumericText(text)) return true;
+  const std::size_t end = EndOfMantissa(text);
   std::u16string joined;
   for (std::size_t i = 0; i < text.size(); ++i) {
-    const bool isSeparator =
-        text[i] == u',' && i > 0 && IsDigit(text[i - 1]) && i + 1 < text.size() && IsDigit(text[i + 1]);
+    const bool isSeparator = text[i] == u',' && i < end && i > 0 && IsDigit(text[i - 1]) &&
+                             i + 1 < text.size() && IsDigit(text[i + 1]);
     if (!isSeparator) joined += text[i];
   }
   return joined.size() < text.size() && IsNumericText(joined);

@@ -108,6 +108,7 @@ TEST_F(CIniGetValue, TurnsCommaIntoPointInNumbersOnly) {
   } rows[] = {
       {"0,25", u"0.25"},     {"-1,5", u"-1.5"},   {"abc,def", u"abc,def"}, {"1,234,567", u"1.234.567"},
       {"12, 13", u"12, 13"}, {"1,2 m", u"1,2 m"}, {"3.5", u"3.5"},         {"1,2,x", u"1,2,x"},
+      {"1,5E3", u"1.5E3"},   {"2E5,7", u"2E5,7"}, {"2d5,7", u"2d5,7"},     {"&H1,2", u"&H1,2"},
   };
   for (const char16_t* locale : {u"en-US", u"it-IT", u"de-CH"}) {
     const InLocale selected(locale);
