@@ -191,6 +191,31 @@ constexpr Member Property(std::u16string_view name) {
           .set = detail::ThunkOrNone<Set>()};
 }
 
+namespace detail {
+template <class>
+struct FieldOf;
+template <class C, class T>
+struct FieldOf<T C::*> {
+  using Class = C;
+  using Value = T;
+};
+template <auto Member>
+typename FieldOf<decltype(Member)>::Value GetField(typename FieldOf<decltype(Member)>::Class& object) {
+  return object.*Member;
+}
+template <auto Member>
+void LetField(typename FieldOf<decltype(Member)>::Class& object,
+              typename FieldOf<decltype(Member)>::Value value) {
+  object.*Member = std::move(value);
+}
+}  // namespace detail
+
+/// A property that is a plain field of the class: `PlainField<&CItem::m_Text>(u"Text")`.
+template <auto Member>
+constexpr cardwright::Member PlainField(std::u16string_view name) {
+  return Property<&detail::GetField<Member>, &detail::LetField<Member>>(name);
+}
+
 /// The members of one class in declared order, with an index by name. Built once for each class:
 /// `static const MemberTable table(kMembers, u"Item");`
 class MemberTable {

@@ -3,19 +3,10 @@
 namespace cardwright {
 namespace {
 
-template <auto Field, class T>
-T Get(CItem& item) {
-  return item.*Field;
-}
-template <auto Field, class T>
-void Let(CItem& item, T value) {
-  item.*Field = std::move(value);
-}
-
 constexpr Member kMembers[] = {
-    Property<&Get<&CItem::m_Value, Text>, &Let<&CItem::m_Value, Text>>(u"Value"),
-    Property<&Get<&CItem::m_Text, Text>, &Let<&CItem::m_Text, Text>>(u"Text"),
-    Property<&Get<&CItem::m_Checked, bool>, &Let<&CItem::m_Checked, bool>>(u"Checked"),
+    PlainField<&CItem::m_Value>(u"Value"),
+    PlainField<&CItem::m_Text>(u"Text"),
+    PlainField<&CItem::m_Checked>(u"Checked"),
 };
 
 }  // namespace

@@ -3,24 +3,11 @@
 namespace cardwright {
 namespace {
 
-template <auto Field, class T>
-T Get(CAttrib& attrib) {
-  return attrib.*Field;
-}
-template <auto Field, class T>
-void Let(CAttrib& attrib, T value) {
-  attrib.*Field = std::move(value);
-}
-template <auto Field, class T>
-constexpr Member PlainField(std::u16string_view name) {
-  return Property<&Get<Field, T>, &Let<Field, T>>(name);
-}
-
 constexpr Member kAttribMembers[] = {
-    PlainField<&CAttrib::m_Name, Text>(u"Name"),
-    PlainField<&CAttrib::m_AttribType, AttributeTypeEnum>(u"AttribType"),
-    PlainField<&CAttrib::m_Length, std::int32_t>(u"Length"),
-    PlainField<&CAttrib::m_Decs, std::int32_t>(u"Decs"),
+    PlainField<&CAttrib::m_Name>(u"Name"),
+    PlainField<&CAttrib::m_AttribType>(u"AttribType"),
+    PlainField<&CAttrib::m_Length>(u"Length"),
+    PlainField<&CAttrib::m_Decs>(u"Decs"),
 };
 
 constexpr Member kAttribsMembers[] = {
