@@ -20,6 +20,9 @@ function(cardwright_add_room room)
   add_library(Cardwright::${room} ALIAS ${target})
   set_target_properties(${target} PROPERTIES EXPORT_NAME ${room})
 
+  if(CARDWRIGHT_SHOWN_${room})
+    list(TRANSFORM CARDWRIGHT_SHOWN_${room} PREPEND "${folder}/" OUTPUT_VARIABLE headers)
+  endif()
   # The set of headers is what is installed, and what all_verify_interface_header_sets compiles one by one.
   target_sources(${target} ${reach} FILE_SET HEADERS BASE_DIRS "${PROJECT_SOURCE_DIR}/src" FILES ${headers})
   target_include_directories(${target} ${reach} $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/src>)

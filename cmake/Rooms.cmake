@@ -14,3 +14,6 @@ set(CARDWRIGHT_USES_qt runtime)
 # Foreign libraries that only the named rooms may see: in their headers too, or hidden in their sources.
 set(CARDWRIGHT_EXTERNAL_qt Qt6::Widgets)
 set(CARDWRIGHT_HIDDEN_orv GDAL::GDAL)
+
+# The headers that a room with hidden libraries shows to the others; its further ones are its own affair.
+set(CARDWRIGHT_SHOWN_orv EmbeddedHost.h)

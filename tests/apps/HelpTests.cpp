@@ -33,6 +33,11 @@ struct WrongUse {
   const char* complaint;
 };
 
+void PrintTo(const WrongUse& use, std::ostream* out) {
+  *out << "cardwright";
+  for (const std::string& word : use.words) *out << ' ' << word;
+}
+
 class WrongUseTest : public ::testing::TestWithParam<WrongUse> {};
 
 TEST_P(WrongUseTest, EndsWithStatus2AndSaysWhyOnStandardError) {
