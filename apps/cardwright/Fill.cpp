@@ -7,6 +7,7 @@
 #include "cardwright/Options.h"
 #include "cardwright/Session.h"
 #include "qt/QtText.h"
+#include "runtime/AttributeBinding.h"
 
 namespace cardwright::app {
 namespace {
@@ -24,14 +25,15 @@ bool ThemeExists(Session& session, const QString& theme) {
 }  // namespace
 
 int RunFill(const QStringList& words) {
-  Options options(QStringLiteral("fill"),
-                  QStringLiteral("Fills in a form for one feature. Status 0 after OK, 3 after Cancel."),
-                  QStringLiteral("FORM"),
-                  {{"data", "SOURCE", "the data source, as a GeoPackage's path"},
-                   {"theme", "NAME", "the theme that the feature is in"},
-                   {"id", "N", "the feature's identifier"},
-                   {"new", "", "the feature is new: its attributes are not loaded"},
-                   {"debug", "", "only show what would be stored, in a pane below the form"}});
+  Options options(
+      QStringLiteral("fill"),
+      QStringLiteral("Fills in a form for one feature. Status 0 after OK, 3 after Cancel."),
+      QStringLiteral("FORM"),
+      {{"data", "SOURCE", "the data source, as a GeoPackage's path"},
+       {"theme", "NAME", "the theme that the feature is in"},
+       {"id", "N", "the feature's identifier"},
+       {"new", "", "the feature is new: its attributes are not loaded"},
+       {"debug", "", "only show what would be stored, in a pane below the form, which stays open after OK"}});
   if (const auto status = options.Parse(words, 1, 1)) return *status;
   for (const char* needed : {"data", "theme", "id"})
     if (!options.Has(QLatin1String(needed)))
@@ -60,8 +62,14 @@ int RunFill(const QStringList& words) {
     return kFaultsFound;
   }
   ChooseTheme(window.Form(), theme);
+  const QString id = options.Value(QStringLiteral("id"));
+  if (!session.HasFeature(PlaceOf(*window.Form().Object()), qt::FromQString(id))) {
+    PrintError(QStringLiteral("cardwright fill: the theme %1 has no feature %2 of the form's feature type")
+                   .arg(theme, id));
+    return kWrongUse;
+  }
   window.Form().SetNewFeature(options.Has(QStringLiteral("new")));
-  window.Form().SetFeatureID(options.Value(QStringLiteral("id")));
+  window.Form().SetFeatureID(id);
   window.show();
   QApplication::exec();
   return window.IsAccepted() ? kDone : kCancelled;

@@ -4,6 +4,8 @@
 #include <QMessageBox>
 #include <QVBoxLayout>
 
+#include "qt/QtText.h"
+#include "runtime/AttributeBinding.h"
 #include "shared/ModuleState.h"
 
 namespace cardwright::app {
@@ -26,14 +28,23 @@ void FormWindow::ShowDebugOutput() {
 }
 
 void FormWindow::OnOk() {
-  const QStringList refusals = m_Session.TakeRefusals();
-  if (!refusals.isEmpty()) {
-    QMessageBox::warning(this, windowTitle(),
-                         tr("Nothing was stored.") + QStringLiteral("\n\n") + refusals.join(u'\n'));
+  const QString failure = Failure();
+  if (!failure.isEmpty()) {
+    QMessageBox::warning(this, windowTitle(), failure);
     return;
   }
   m_Accepted = true;
-  End();
+  if (!m_DebugPane) End();
+}
+
+// A form passes over a feature that is gone without a word, so this is asked here.
+QString FormWindow::Failure() {
+  const QStringList refusals = m_Session.TakeRefusals();
+  if (!refusals.isEmpty()) return refusals.join(u'\n');
+  const Ref<FormInput> form = m_Form->Object();
+  if (form->DebugMode() || m_Session.HasFeature(PlaceOf(*form), form->FeatureID())) return {};
+  return tr("Nothing was stored. The data source no longer has feature %1 of \"%2\".")
+      .arg(qt::ToQString(form->FeatureID()), qt::ToQString(form->GetThemeName()));
 }
 
 void FormWindow::End() {

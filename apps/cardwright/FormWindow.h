@@ -9,7 +9,8 @@
 namespace cardwright::app {
 
 /// A window with one form in it, that closes itself after OK and Cancel. Closing the window is Cancel. While
-/// the data source refuses what OK wrote, the window says why and stays.
+/// the data source refuses what OK wrote, the window says why and stays. A debugging run stays after OK, too,
+/// so that its output can be read.
 class FormWindow final : public QWidget {
   Q_OBJECT
  public:
@@ -26,6 +27,8 @@ class FormWindow final : public QWidget {
 
  private:
   void OnOk();
+  /// Why what OK wrote is not stored; empty if it is.
+  QString Failure();
   void End();
 
   Session& m_Session;

@@ -25,6 +25,7 @@ void SendLines(EmbeddedHost& host) {
     const QString command = QString::fromUtf8(line.data(), static_cast<qsizetype>(line.size())).trimmed();
     if (!command.isEmpty()) Send(host, command);
   }
+  if (isPrompt) std::cout << std::endl;  // the shell's own prompt begins a line
 }
 
 }  // namespace

@@ -24,11 +24,11 @@ class LineFaults {
   LineFaults(std::vector<Fault>& faults, const Text& file) : m_Faults(faults) {
     const std::string bytes = ReadFile(ToPath(file)).value_or(std::string());
     for (std::size_t at = 0; at < bytes.size() && !m_InScript;) {
-      const std::size_t end = std::min(bytes.find('\n', at), bytes.size());
+      const std::size_t end = std::min(bytes.find_first_of("\r\n", at), bytes.size());
       Look(QByteArrayView(bytes)
                .sliced(static_cast<qsizetype>(at), static_cast<qsizetype>(end - at))
                .trimmed());
-      at = end + 1;
+      at = end + (std::string_view(bytes).substr(end).starts_with("\r\n") ? 2 : 1);
     }
   }
 
@@ -86,8 +86,7 @@ class SectionFaults {
       : m_Faults(faults), m_Data(data) {
     m_Ini.SetFileName(file);
     LookAtForm();
-    const double count = Val(m_Ini.GetText(u"FORM", u"ControlsNumber"));
-    for (int i = 1; i <= count && i <= INT16_MAX; ++i) LookAtControl(i);
+    LookAtControls();
   }
 
  private:
@@ -98,6 +97,7 @@ class SectionFaults {
     m_Section = u"FORM";
     if (!m_Ini.Find(m_Section, u"ControlsNumber"))
       Add(QStringLiteral("there is no ControlsNumber: the form has no controls"));
+    LookAtNumbers();
     m_Theme = m_Ini.GetText(m_Section, u"ThemeName");
     if (!m_Data || m_Theme.IsEmpty()) return;
     if (Val(m_Data->Request(Text(u"THEME_NUMBER |") + m_Theme + u"|")) > 0) {
@@ -112,7 +112,33 @@ class SectionFaults {
     const Text names =
         m_Data->Request(Text(u"THEME_ATTRIBUTE_NAMES |") + m_Theme + u"| |" + FeatureTypeText(type) + u"|");
     for (const Text& name : Split(names, u',')) m_Attributes.insert(qt::ToQString(name).toLower());
-    m_KnowsAttributes = true;
+    m_KnowsAttributes = !m_Attributes.isEmpty();
+    if (!m_KnowsAttributes)
+      Add(QStringLiteral("the theme %1 has no features of the form's feature type")
+              .arg(qt::ToQString(m_Theme)));
+  }
+
+  // A size or place that cannot be read leaves a control where nobody sees it.
+  void LookAtNumbers() {
+    for (const char16_t* key : {u"Left", u"Top", u"ItemsNumber"}) LookAtNumber(key, false);
+    for (const char16_t* key : {u"Width", u"Height", u"FontSize"}) LookAtNumber(key, true);
+  }
+
+  void LookAtNumber(const char16_t* key, bool isSize) {
+    const QString value = Value(key).trimmed();
+    if (value.isEmpty()) return;
+    bool isNumber = false;
+    const double number = QString(value).replace(u',', u'.').toDouble(&isNumber);
+    if (!isNumber || (isSize && number <= 0))
+      Add(QStringLiteral("the value of %1 is no %2: %3")
+              .arg(QStringView(key), isSize ? QStringLiteral("size") : QStringLiteral("number"), value));
+  }
+
+  void LookAtControls() {
+    const double count = Val(m_Ini.GetText(m_Section, u"ControlsNumber"));
+    if (count > INT16_MAX)
+      return Add(QStringLiteral("ControlsNumber is more than %1: the form has no controls").arg(INT16_MAX));
+    for (int i = 1; i <= count; ++i) LookAtControl(i);
   }
 
   void LookAtControl(int number) {
@@ -123,6 +149,7 @@ class SectionFaults {
     if (!FindControlClass(WidgetIdentifier(qt::ViewOf(type))))
       return Add(QStringLiteral("unknown type %1: the control is left out").arg(type));
     LookAtNames(number);
+    LookAtNumbers();
     const QString attribute = Value(u"Attribute");
     if (m_KnowsAttributes && !attribute.isEmpty() && !m_Attributes.contains(attribute.toLower()))
       Add(QStringLiteral("the theme %1 has no attribute %2").arg(qt::ToQString(m_Theme), attribute));

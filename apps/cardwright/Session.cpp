@@ -1,5 +1,6 @@
 #include "cardwright/Session.h"
 
+#include "automation/Conversions.h"
 #include "automation/Errors.h"
 #include "qt/QtText.h"
 #include "shared/ModuleState.h"
@@ -32,6 +33,13 @@ void Session::OpenData(const QString& source) {
   host->onRefusal = [this](const Text& reason) { m_Refusals += qt::ToQString(reason); };
   m_Log = MakeRef<LoggedConnection>(host);
   host->SetHandle(m_Library->Connect(m_Log));
+}
+
+bool Session::HasFeature(const FeaturePlace& place, const Text& id) {
+  m_Log->Execute(commands::SelectByValue(place, id));
+  const bool found = Val(m_Log->Request(commands::SelectedNumber(place))) > 0;
+  m_Log->Execute(commands::SelectNone(place));
+  return found;
 }
 
 QStringList Session::TakeRefusals() { return std::exchange(m_Refusals, {}); }

@@ -6,6 +6,7 @@
 
 #include "orv/EmbeddedHost.h"
 #include "qt/Library.h"
+#include "runtime/HostCommands.h"
 
 namespace cardwright::app {
 
@@ -24,6 +25,8 @@ class Session {
   void OpenData(const QString& source);
   /// Sends a command to the data source.
   Text Send(std::u16string_view command) { return m_Log->Execute(command); }
+  /// Whether the data source has the feature. Ends the selection in its theme.
+  bool HasFeature(const FeaturePlace& place, const Text& id);
   LoggedConnection& Log() noexcept { return *m_Log; }
   /// Reasons for which the data source has refused changes, emptied by the call.
   QStringList TakeRefusals();

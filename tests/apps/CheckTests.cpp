@@ -20,6 +20,27 @@ TEST(Check, FindsNothingInTheExample) {
   EXPECT_EQ(outcome.out, "");
 }
 
+TEST(Check, ReadsAProjectWhoseLinesEndInAnyWay) {
+  const TempFolder folder;
+  for (const std::string end : {"\n", "\r", "\r\n"}) {
+    const std::string project =
+        "[FORM]" + end + "ControlsNumber= 1" + end + "[CONTROLS_1]" + end + "Type=Label" + end;
+    const Outcome outcome = Cardwright({"check", folder.Write("a.cwf", project)});
+    EXPECT_EQ(outcome.out, "");
+    EXPECT_EQ(outcome.status, 0);
+  }
+}
+
+TEST(Check, TellsOnceThatTheThemeHasNoFeaturesOfTheFormsType) {
+  const TempFolder folder;
+  const std::string control = "[CONTROLS_1]\r\nType=TextBox\r\nAttribute=NAME\r\n";
+  const std::string file =
+      folder.Write("a.cwf", Project(control, 1, "ThemeName=wells\r\nFeatureType= 1\r\n"));
+  const Outcome outcome = Cardwright({"check", file, "--data", SourceFile("examples/wells/wells.gpkg")});
+  EXPECT_EQ(outcome.out, file + ":FORM: the theme wells has no features of the form's feature type\n");
+  EXPECT_EQ(outcome.status, 1);
+}
+
 struct FaultyProject {
   std::string name;
   std::string bytes;
@@ -30,6 +51,13 @@ void PrintTo(const FaultyProject& project, std::ostream* out) { *out << project.
 
 std::vector<FaultyProject> FaultyProjects() {
   return {
+      {"TooManyControls", Project("", 32768),
+       ":FORM: ControlsNumber is more than 32767: the form has no controls\n"},
+      {"UnreadableWidth", Project("", 0, "Width= wide\r\n"), ":FORM: the value of Width is no size: wide\n"},
+      {"NegativeHeight", Project("[CONTROLS_1]\r\nType=Label\r\nHeight=-5\r\n", 1),
+       ":CONTROLS_1: the value of Height is no size: -5\n"},
+      {"UnreadableItemsNumber", Project("[CONTROLS_1]\r\nType=ListBox\r\nItemsNumber=few\r\n", 1),
+       ":CONTROLS_1: the value of ItemsNumber is no number: few\n"},
       {"UnknownType", Project("[CONTROLS_1]\r\nType=Spinner\r\n", 1),
        ":CONTROLS_1: unknown type Spinner: the control is left out\n"},
       {"MissingSection", Project("", 1),

@@ -22,6 +22,26 @@ TEST(Fill, RefusesAFormOrAThemeThatIsNotThere) {
   EXPECT_THAT(noTheme.err, HasSubstr("the data source has no theme springs"));
 }
 
+// A form passes over a feature that is not there without a word: what was typed would be lost at OK.
+TEST(Fill, RefusesAFeatureThatIsNotThereBeforeAnythingIsTyped) {
+  const std::string data = SourceFile("examples/wells/wells.gpkg");
+  for (const char* id : {"999", "abc", "", "3 OR 1=1"})
+    for (const char* option : {"--new", "--debug"}) {
+      const Outcome outcome =
+          Cardwright({"fill", ExampleForm(), "--data", data, "--theme", "wells", "--id", id, option});
+      EXPECT_EQ(outcome.status, 2) << id;
+      EXPECT_THAT(outcome.err, HasSubstr(std::string("the theme wells has no feature ") + id));
+    }
+}
+
+TEST(Fill, RefusesAFormForAnotherFeatureType) {
+  const Outcome outcome =
+      Cardwright({"fill", ExampleForm(), "--data", SourceFile("examples/wells/wells.gpkg"), "--theme",
+                  "pipelines", "--id", "1"});
+  EXPECT_EQ(outcome.status, 2);
+  EXPECT_THAT(outcome.err, HasSubstr("the theme pipelines has no feature 1 of the form's feature type"));
+}
+
 TEST(Fill, WithoutADisplaySaysSoAndEnds) {
   const Outcome outcome =
       RunProgram("/usr/bin/env", {"-u", "QT_QPA_PLATFORM", "-u", "DISPLAY", "-u", "WAYLAND_DISPLAY",
