@@ -2,6 +2,8 @@
 
 #include <QCloseEvent>
 #include <QMessageBox>
+#include <QScreen>
+#include <QStyle>
 #include <QVBoxLayout>
 
 #include "qt/QtText.h"
@@ -10,15 +12,31 @@
 
 namespace cardwright::app {
 
-FormWindow::FormWindow(Session& session) : m_Session(session), m_Form(new qt::FormInput(this)) {
+FormWindow::FormWindow(Session& session)
+    : m_Session(session), m_Scroll(new QScrollArea(this)), m_Form(new qt::FormInput(m_Scroll)) {
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins({});
-  layout->setSizeConstraint(QLayout::SetMinimumSize);
-  layout->addWidget(m_Form);
-  connect(m_Form, &qt::FormInput::NeedResize, this, [this] { adjustSize(); });
+  layout->addWidget(m_Scroll);
+  m_Scroll->setFrameShape(QFrame::NoFrame);
+  m_Scroll->setFocusPolicy(Qt::NoFocus);
+  m_Scroll->setWidgetResizable(true);
+  m_Scroll->setWidget(m_Form);
+  connect(m_Form, &qt::FormInput::NeedResize, this, &FormWindow::Fit);
   connect(m_Form, &qt::FormInput::SetParentCaption, this, &QWidget::setWindowTitle);
   connect(m_Form, &qt::FormInput::OkClick, this, &FormWindow::OnOk);
   connect(m_Form, &qt::FormInput::CancelClick, this, &FormWindow::End);
+}
+
+// As large as the form, but not larger than the screen, less what a window's frame and title take of it.
+void FormWindow::Fit() {
+  constexpr QSize kFrame(16, 48);
+  QSize wanted = m_Form->sizeHint();
+  if (m_DebugPane) wanted.rheight() += m_DebugPane->Pane()->minimumHeight();
+  const QSize room = screen()->availableGeometry().size() - kFrame;
+  const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+  if (wanted.height() > room.height()) wanted.rwidth() += bar;
+  if (wanted.width() > room.width()) wanted.rheight() += bar;
+  resize(wanted.boundedTo(room));
 }
 
 void FormWindow::ShowDebugOutput() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QScrollArea>
 #include <QWidget>
 
 #include "cardwright/DebugPane.h"
@@ -8,9 +9,9 @@
 
 namespace cardwright::app {
 
-/// A window with one form in it, that closes itself after OK and Cancel. Closing the window is Cancel. While
-/// the data source refuses what OK wrote, the window says why and stays. A debugging run stays after OK, too,
-/// so that its output can be read.
+/// A window with one form in it, scrolled where the screen is too small for it, that closes itself after OK
+/// and Cancel. Closing the window is Cancel. While the data source refuses what OK wrote, the window says why
+/// and stays. A debugging run stays after OK, too, so that its output can be read.
 class FormWindow final : public QWidget {
   Q_OBJECT
  public:
@@ -26,12 +27,14 @@ class FormWindow final : public QWidget {
   void closeEvent(QCloseEvent* event) override;
 
  private:
+  void Fit();
   void OnOk();
   /// Why what OK wrote is not stored; empty if it is.
   QString Failure();
   void End();
 
   Session& m_Session;
+  QScrollArea* m_Scroll;
   qt::FormInput* m_Form;
   Ref<DebugPane> m_DebugPane;
   bool m_Accepted = false;

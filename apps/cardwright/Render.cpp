@@ -27,7 +27,7 @@ int RunRender(const QStringList& words) {
     return kFaultsFound;
   }
   window.show();
-  if (window.grab().save(target)) return kDone;
+  if (window.Form().grab().save(target)) return kDone;
   PrintError(QStringLiteral("cardwright render: %1 could not be written").arg(target));
   return kFaultsFound;
 }

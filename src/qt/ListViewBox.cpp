@@ -7,6 +7,7 @@
 #include <functional>
 
 #include "qt/FieldKind.h"
+#include "qt/FocusFramed.h"
 #include "qt/QtText.h"
 
 namespace cardwright::qt {
@@ -20,9 +21,9 @@ constexpr float kWidestColumn = 100000.0F;
 }  // namespace
 
 /// Tells of a click after the tree has taken it in, so that the listener finds the new selection.
-class ListViewBox::Tree final : public QTreeWidget {
+class ListViewBox::Tree final : public FocusFramed<QTreeWidget> {
  public:
-  using QTreeWidget::QTreeWidget;
+  using FocusFramed::FocusFramed;
   std::function<void()> onClick;
 
  protected:

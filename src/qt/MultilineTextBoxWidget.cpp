@@ -8,6 +8,7 @@
 #include <algorithm>
 
 #include "qt/FieldKind.h"
+#include "qt/FocusFramed.h"
 #include "qt/Keys.h"
 #include "qt/QtText.h"
 
@@ -62,9 +63,9 @@ QString CutTo(const QString& text, qsizetype room) {
 }  // namespace
 
 /// Holds typed and pasted text to a greatest length.
-class MultilineTextBoxWidget::Edit final : public QPlainTextEdit {
+class MultilineTextBoxWidget::Edit final : public FocusFramed<QPlainTextEdit> {
  public:
-  using QPlainTextEdit::QPlainTextEdit;
+  using FocusFramed::FocusFramed;
 
   int limit = 0;
 
