@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QMessageBox>
+#include <QPointer>
 #include <QProcess>
 #include <algorithm>
 #include <array>
@@ -51,15 +52,17 @@ QMessageBox::Icon IconOf(int style) {
 
 int QtDesktop::ShowMessage(const Text& text, int style, const Text& title) {
   const std::vector<Answer> answers = AnswersOf(style);
-  QMessageBox box(QApplication::activeWindow());
-  box.setIcon(IconOf(style));
-  box.setTextFormat(Qt::PlainText);
-  box.setText(ToQString(text));
-  box.setWindowTitle(title.IsEmpty() ? QGuiApplication::applicationDisplayName() : ToQString(title));
-  for (const Answer& answer : answers) box.addButton(answer.button);
+  // Not on the stack: the window that it belongs to can be closed under it, and takes it along.
+  const QPointer<QMessageBox> box = new QMessageBox(QApplication::activeWindow());
+  box->setIcon(IconOf(style));
+  box->setTextFormat(Qt::PlainText);
+  box->setText(ToQString(text));
+  box->setWindowTitle(title.IsEmpty() ? QGuiApplication::applicationDisplayName() : ToQString(title));
+  for (const Answer& answer : answers) box->addButton(answer.button);
   const auto defaultPlace = static_cast<std::size_t>((style >> 8) & 0x3);
-  box.setDefaultButton(answers[std::min(defaultPlace, answers.size() - 1)].button);
-  const int pressed = box.exec();
+  box->setDefaultButton(answers[std::min(defaultPlace, answers.size() - 1)].button);
+  const int pressed = box->exec();
+  delete box.data();
   const auto given =
       std::find_if(answers.begin(), answers.end(), [&](const Answer& a) { return a.button == pressed; });
   return given == answers.end() ? answers.back().number : given->number;

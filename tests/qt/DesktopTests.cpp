@@ -89,6 +89,19 @@ TEST_F(DesktopTest, AnswersABoxThatIsClosedAsIfItWereCancelled) {
   EXPECT_EQ(desktop.ShowMessage(u"x", BoxStyle::OkOnly, u"t"), 1);
 }
 
+TEST_F(DesktopTest, AnswersABoxWhoseWindowGoesAwayAsIfItWereCancelled) {
+  QtDesktop desktop;
+  auto window = std::make_unique<QWidget>();
+  window->show();
+  window->activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+  OnNextBox([&](QMessageBox& box) {
+    ASSERT_EQ(box.parentWidget(), window.get());
+    window.reset();
+  });
+  EXPECT_EQ(desktop.ShowMessage(u"x", BoxStyle::OkCancel, u"t"), 2);
+}
+
 TEST_F(DesktopTest, NamesABoxWithoutATitleAfterTheProgram) {
   QtDesktop desktop;
   OnNextBox([](QMessageBox& box) {
