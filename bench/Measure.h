@@ -21,6 +21,15 @@ inline double Median(std::vector<double> times) {
   return times[times.size() / 2];
 }
 
+inline const char* Verdict(double value, double target) { return value <= target ? "kept" : "MISSED"; }
+
+/// Prints one row: a value that stands for itself. A target of 0 only tells.
+inline void Report(const std::string& what, double value, const std::string& unit, double target) {
+  std::printf("%-50s %10.1f %s", what.c_str(), value, unit.c_str());
+  if (target > 0) std::printf(" | target <= %.0f: %s", target, Verdict(value, target));
+  std::printf("\n");
+}
+
 /// Runs both sides in turn, so that a busy machine slows both, and prints one row: medians in milliseconds,
 /// their ratio, and the ratio that is to be kept. A target of 0 only tells.
 template <class Ours, class Peer>
@@ -39,7 +48,7 @@ void Compare(const std::string& what, const std::string& peerName, double target
   const double ratio = oursMedian / peerMedian;
   std::printf("%-46s %9.3f ms | %-24s %9.3f ms | ratio %5.2f", what.c_str(), oursMedian, peerName.c_str(),
               peerMedian, ratio);
-  if (target > 0) std::printf(" | target <= %.1f: %s", target, ratio <= target ? "kept" : "MISSED");
+  if (target > 0) std::printf(" | target <= %.1f: %s", target, Verdict(ratio, target));
   std::printf("\n");
 }
 

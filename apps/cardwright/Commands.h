@@ -1,16 +1,11 @@
 #pragma once
 
-#include <QStringList>
+#include <span>
+#include <string>
 
 namespace cardwright::app {
 
-/// @name The commands; each takes the words behind its name and gives the exit status.
-/// @{
-int RunFill(const QStringList& words);
-int RunInfo(const QStringList& words);
-int RunRender(const QStringList& words);
-int RunOrv(const QStringList& words);
-int RunCheck(const QStringList& words);
-/// @}
+/// Runs a script; takes the words behind the command's name and gives the exit status.
+int RunScriptCommand(std::span<const std::string> words);
 
 }  // namespace cardwright::app

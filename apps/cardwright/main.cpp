@@ -1,63 +1,61 @@
-#include <QApplication>
-
 #include "automation/Errors.h"
+#include "cardwright/CommandLine.h"
 #include "cardwright/Commands.h"
-#include "cardwright/Console.h"
-#include "qt/QtText.h"
+#include "cardwright/DesktopModule.h"
 
 namespace cardwright::app {
 namespace {
 
+using Words = std::span<const std::string>;
+
 struct Command {
-  const char* name;
-  const char* summary;
-  int (*run)(const QStringList& words);
+  std::string_view name;
+  std::string_view summary;
+  int (*run)(Words words);  ///< null for one of the desktop module
 };
 
 constexpr Command kCommands[] = {
-    {"fill", "fill in a form for one feature", RunFill},
-    {"check", "tell the faults of form projects", RunCheck},
-    {"info", "show what a form project holds", RunInfo},
-    {"render", "make a picture of a form", RunRender},
-    {"orv", "send host commands to a data source", RunOrv},
+    {"fill", "fill in a form for one feature", nullptr},
+    {"check", "tell the faults of form projects", nullptr},
+    {"info", "show what a form project holds", nullptr},
+    {"render", "make a picture of a form", nullptr},
+    {"orv", "send host commands to a data source", nullptr},
+    {"script", "run a script", RunScriptCommand},
 };
 
-QString Help() {
-  QString text = QStringLiteral("Usage: cardwright COMMAND [options]\n\nCommands:\n");
-  for (const Command& command : kCommands)
-    text += QStringLiteral("  %1 %2\n")
-                .arg(QString::fromLatin1(command.name), -8)
-                .arg(QLatin1String(command.summary));
+std::string Help() {
+  std::string text = "Usage: cardwright COMMAND [options]\n\nCommands:\n";
+  for (const Command& command : kCommands) {
+    std::string name(command.name);
+    name.resize(9, ' ');
+    text += "  " + name + std::string(command.summary) + "\n";
+  }
   return text +
-         QStringLiteral(
-             "\ncardwright COMMAND --help tells a command's options.\n"
-             "Exit status: 0 done, 1 faults found or an error met, 2 wrong use, 3 the form was cancelled.");
+         "\ncardwright COMMAND --help tells a command's options.\n"
+         "Exit status: 0 done, 1 faults found or an error met, 2 wrong use, 3 the form was cancelled.";
 }
 
-int Run(const QStringList& words) {
-  const QString first = words.value(0);
-  if (first == u"--help" || first == u"-h") {
+int Run(Words words) {
+  const std::string first = words.empty() ? std::string() : words[0];
+  if (first == "--help" || first == "-h") {
     PrintLine(Help());
     return kDone;
   }
-  if (first == u"--version" || first == u"-v") {
-    PrintLine(QStringLiteral("cardwright " CARDWRIGHT_VERSION));
+  if (first == "--version" || first == "-v") {
+    PrintLine("cardwright " CARDWRIGHT_VERSION);
     return kDone;
   }
-  for (const Command& command : kCommands)
-    if (first == QLatin1String(command.name)) return command.run(words.mid(1));
-  if (words.isEmpty()) {
+  for (const Command& command : kCommands) {
+    if (first != command.name) continue;
+    const Words rest = words.subspan(1);
+    return command.run ? command.run(rest) : LoadDesktopModule().run(first, rest);
+  }
+  if (words.empty()) {
     PrintError(Help());
   } else {
-    PrintError(QStringLiteral("cardwright: unknown command: %1\nTry: cardwright --help").arg(first));
+    PrintError("cardwright: unknown command: " + first + "\nTry: cardwright --help");
   }
   return kWrongUse;
-}
-
-QStringList Words(int argc, char** argv) {
-  QStringList words;
-  for (int i = 1; i < argc; ++i) words += QString::fromLocal8Bit(argv[i]);
-  return words;
 }
 
 }  // namespace
@@ -66,9 +64,10 @@ QStringList Words(int argc, char** argv) {
 int main(int argc, char** argv) {
   using namespace cardwright;
   try {
-    return app::Run(app::Words(argc, argv));
+    const std::vector<std::string> words(argv + (argc > 0 ? 1 : 0), argv + argc);
+    return app::Run(words);
   } catch (const Error& error) {
-    app::PrintError(QStringLiteral("cardwright: ") + qt::ToQString(error.Description()));
+    app::PrintError("cardwright: " + error.Description().ToUtf8());
     return app::kWrongUse;
   }
 }

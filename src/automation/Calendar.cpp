@@ -37,6 +37,7 @@ CalendarTime ToCalendar(Date date) {
   if (seconds == kSecondsPerDay) {
     seconds = 0;
     ++day;
+    if (day > kLastDay) Raise(ErrorNumber::Overflow);
   }
   const chrono::sys_days days = kDayZero + chrono::days{day};
   const chrono::year_month_day calendar{days};

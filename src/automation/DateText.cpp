@@ -1,11 +1,11 @@
 #include "automation/DateText.h"
 
-#include <algorithm>
-#include <array>
 #include <vector>
 
 #include "automation/Calendar.h"
 #include "automation/Conversions.h"
+#include "automation/DateClock.h"
+#include "automation/DateTokens.h"
 #include "automation/Errors.h"
 #include "automation/Object.h"
 
@@ -13,114 +13,8 @@ namespace cardwright {
 
 namespace {
 
-enum class Kind { Number, Month, Weekday, Am, Pm, Separator, Colon };
-
-struct Token {
-  Kind kind;
-  int value = 0;  // of a number or a month
-  std::size_t digits = 0;
-  char16_t separator = u'\0';
-};
-
-bool IsDigit(char16_t c) noexcept { return c >= u'0' && c <= u'9'; }
-bool IsSeparator(char16_t c) noexcept { return c == u'/' || c == u'-' || c == u'.' || c == u','; }
-bool IsLetter(char16_t c) noexcept { return ToLower(c) != ToUpper(c); }
-
-template <std::size_t N>
-int IndexOf(const std::array<std::u16string_view, N>& names, std::u16string_view word) noexcept {
-  const auto found = std::ranges::find_if(names, [&](auto name) {
-    // Short names carry a point in some languages, which the text's own point stands for.
-    if (name.ends_with(u'.')) name.remove_suffix(1);
-    return !name.empty() && EqualsNoCase(name, word);
-  });
-  return found == names.end() ? -1 : static_cast<int>(found - names.begin());
-}
-
-std::optional<Token> NameIn(const Locale& locale, std::u16string_view word) noexcept {
-  for (const auto* months : {&locale.months, &locale.shortMonths}) {
-    if (const int month = IndexOf(*months, word); month >= 0) return Token{Kind::Month, month + 1};
-  }
-  for (const auto* days : {&locale.weekdays, &locale.shortWeekdays}) {
-    if (IndexOf(*days, word) >= 0) return Token{Kind::Weekday};
-  }
-  if (!locale.am.empty() && EqualsNoCase(word, locale.am)) return Token{Kind::Am};
-  if (!locale.pm.empty() && EqualsNoCase(word, locale.pm)) return Token{Kind::Pm};
-  return std::nullopt;
-}
-
-std::optional<Token> NameToken(const Locale& locale, std::u16string_view word) noexcept {
-  if (auto token = NameIn(locale, word)) return token;
-  if (EqualsNoCase(word, u"a")) return Token{Kind::Am};
-  if (EqualsNoCase(word, u"p")) return Token{Kind::Pm};
-  return NameIn(*Locale::Find(u"en-us"), word);
-}
-
-// Reads one token from the front of `text`, which is not empty and does not start with a blank.
-std::optional<Token> TakeToken(std::u16string_view& text, const Locale& locale) noexcept {
-  std::size_t length = 1;
-  std::optional<Token> token;
-  if (IsDigit(text.front())) {
-    int value = 0;
-    for (length = 0; length < text.size() && IsDigit(text[length]); ++length) {
-      value = std::min(value * 10 + (text[length] - u'0'), 99999);
-    }
-    token = Token{Kind::Number, value, length};
-  } else if (text.front() == u':') {
-    token = Token{Kind::Colon};
-  } else if (IsSeparator(text.front())) {
-    token = Token{Kind::Separator, 0, 0, text.front()};
-  } else {
-    while (length < text.size() && IsLetter(text[length])) ++length;
-    token = NameToken(locale, text.substr(0, length));
-  }
-  text.remove_prefix(length);
-  return token;
-}
-
-std::optional<std::vector<Token>> Tokens(std::u16string_view text, const Locale& locale) {
-  std::vector<Token> tokens;
-  for (text = Trim(text); !text.empty(); text = Trim(text)) {
-    const auto token = TakeToken(text, locale);
-    if (!token) return std::nullopt;
-    tokens.push_back(*token);
-  }
-  return tokens;
-}
-
-bool IsMarker(const Token& token) noexcept { return token.kind == Kind::Am || token.kind == Kind::Pm; }
-
-// Second of the day of the clock time that starts at `tokens[at]`, which it takes out; none where there is no
-// clock time, -1 where it is impossible.
-std::optional<int> TakeClock(std::vector<Token>& tokens, std::size_t at) {
-  std::array<int, 3> parts{tokens[at].value, 0, 0};
-  std::size_t count = 1;
-  std::size_t end = at + 1;
-  while (count < 3 && end + 1 < tokens.size() && tokens[end].kind == Kind::Colon &&
-         tokens[end + 1].kind == Kind::Number) {
-    parts[count++] = tokens[end + 1].value;
-    end += 2;
-  }
-  const bool hasMarker = end < tokens.size() && IsMarker(tokens[end]);
-  if (count == 1 && !hasMarker) return std::nullopt;
-  if (hasMarker) {
-    if (parts[0] > 12) return -1;
-    parts[0] = parts[0] % 12 + (tokens[end].kind == Kind::Pm ? 12 : 0);
-    ++end;
-  }
-  tokens.erase(tokens.begin() + static_cast<std::ptrdiff_t>(at),
-               tokens.begin() + static_cast<std::ptrdiff_t>(end));
-  if (parts[0] > 23 || parts[1] > 59 || parts[2] > 59) return -1;
-  return (parts[0] * 60 + parts[1]) * 60 + parts[2];
-}
-
-// Takes the first clock time of the text out of the tokens.
-std::optional<int> TakeFirstClock(std::vector<Token>& tokens) {
-  for (std::size_t i = 0; i < tokens.size(); ++i) {
-    if (tokens[i].kind != Kind::Number) continue;
-    if (const auto seconds = TakeClock(tokens, i)) return seconds;
-  }
-  return std::nullopt;
-}
+using Kind = DateToken::Kind;
+using Token = DateToken;
 
 struct DayParts {
   std::vector<Token> numbers;
@@ -128,12 +22,20 @@ struct DayParts {
   char16_t separator = u'\0';
 };
 
+// Whether the text may end here with a point: behind a short name, or behind a number where days have points.
+bool EndsInPoint(const std::vector<Token>& tokens, const Locale& locale) noexcept {
+  if (tokens.size() < 2 || !tokens.back().IsPoint()) return false;
+  const Token& before = tokens[tokens.size() - 2];
+  return before.IsNumber() ? locale.dateSeparator == u'.' : before.kind != Kind::Separator;
+}
+
 // What is left when the clock time is out: names, numbers, and at most one separator between two of them.
-std::optional<DayParts> ReadDayParts(const std::vector<Token>& tokens) {
+std::optional<DayParts> ReadDayParts(const std::vector<Token>& tokens, const Locale& locale) {
   DayParts parts;
-  for (std::size_t i = 0; i < tokens.size(); ++i) {
+  const std::size_t count = tokens.size() - (EndsInPoint(tokens, locale) ? 1 : 0);
+  for (std::size_t i = 0; i < count; ++i) {
     const Token& token = tokens[i];
-    const bool isEdge = i == 0 || i + 1 == tokens.size();
+    const bool isEdge = i == 0 || i + 1 == count;
     switch (token.kind) {
       case Kind::Number: parts.numbers.push_back(token); break;
       case Kind::Month:
@@ -161,24 +63,27 @@ int FullYear(const Token& token) noexcept {
 
 bool LooksLikeYear(const Token& token) noexcept { return token.digits > 2 || token.value > 31; }
 
-std::optional<double> FromNamedMonth(const DayParts& parts) {
-  const auto& numbers = parts.numbers;
-  if (numbers.size() == 1) {
-    if (LooksLikeYear(numbers[0])) return DaysOf(FullYear(numbers[0]), parts.month, 1);
-    return DaysOf(CurrentYear(), parts.month, numbers[0].value);
-  }
-  if (numbers.size() != 2) return std::nullopt;
-  const bool yearFirst = LooksLikeYear(numbers[0]);
-  const Token& year = numbers[yearFirst ? 0 : 1];
-  const Token& day = numbers[yearFirst ? 1 : 0];
-  return DaysOf(FullYear(year), parts.month, day.value);
-}
-
 std::optional<double> FirstOf(std::initializer_list<std::optional<double>> readings) {
   for (const auto& reading : readings) {
     if (reading) return reading;
   }
   return std::nullopt;
+}
+
+std::optional<double> FromNamedMonth(const DayParts& parts) {
+  const auto& numbers = parts.numbers;
+  const int month = parts.month;
+  if (numbers.size() == 1) {
+    const auto ofYear = DaysOf(FullYear(numbers[0]), month, 1);
+    if (LooksLikeYear(numbers[0])) return ofYear;
+    return FirstOf({DaysOf(CurrentYear(), month, numbers[0].value), ofYear});
+  }
+  if (numbers.size() != 2) return std::nullopt;
+  const auto dayFirst = DaysOf(FullYear(numbers[1]), month, numbers[0].value);
+  const auto yearFirst = DaysOf(FullYear(numbers[0]), month, numbers[1].value);
+  if (LooksLikeYear(numbers[0])) return yearFirst;
+  // "29-Feb-01" is no day of 2001, but the first of February 2029.
+  return LooksLikeYear(numbers[1]) ? dayFirst : FirstOf({dayFirst, yearFirst});
 }
 
 std::optional<double> FromThreeNumbers(const std::vector<Token>& n, Locale::DateOrder order) {
@@ -196,37 +101,60 @@ std::optional<double> FromThreeNumbers(const std::vector<Token>& n, Locale::Date
 }
 
 std::optional<double> FromTwoNumbers(const std::vector<Token>& n, Locale::DateOrder order) {
-  if (LooksLikeYear(n[1])) return DaysOf(FullYear(n[1]), n[0].value, 1);
-  if (LooksLikeYear(n[0])) return DaysOf(FullYear(n[0]), n[1].value, 1);
+  const auto monthYear = DaysOf(FullYear(n[1]), n[0].value, 1);
+  const auto yearMonth = DaysOf(FullYear(n[0]), n[1].value, 1);
+  if (LooksLikeYear(n[1])) return monthYear;
+  if (LooksLikeYear(n[0])) return yearMonth;
   const auto monthDay = DaysOf(CurrentYear(), n[0].value, n[1].value);
   const auto dayMonth = DaysOf(CurrentYear(), n[1].value, n[0].value);
-  if (order == Locale::DateOrder::DayMonthYear) return FirstOf({dayMonth, monthDay});
-  return FirstOf({monthDay, dayMonth});
+  if (order == Locale::DateOrder::DayMonthYear) return FirstOf({dayMonth, monthDay, monthYear, yearMonth});
+  return FirstOf({monthDay, dayMonth, monthYear, yearMonth});
+}
+
+// Whether two numbers with that between them are a day. Where numbers are written with it, they are a number.
+bool SeparatesTwo(char16_t separator, const std::vector<Token>& n, const Locale& locale) noexcept {
+  if (separator == u'/' || separator == u'-' || separator == locale.dateSeparator) return true;
+  if (LooksLikeYear(n[0]) || LooksLikeYear(n[1])) return false;
+  if (separator == u',') return locale.decimal != u',';
+  return separator == u'\0' && locale.group != u'\u00A0';
+}
+
+// In America three numbers with points are a time or nothing; elsewhere people do write dates so.
+bool SeparatesThree(const DayParts& parts, const Locale& locale) noexcept {
+  return parts.separator != u'.' || locale.dateOrder != Locale::DateOrder::MonthDayYear;
 }
 
 std::optional<double> ReadDay(const std::vector<Token>& tokens, const Locale& locale) {
-  const auto parts = ReadDayParts(tokens);
+  const auto parts = ReadDayParts(tokens, locale);
   if (!parts) return std::nullopt;
+  const auto& numbers = parts->numbers;
   if (parts->month != 0) return FromNamedMonth(*parts);
-  if (parts->numbers.size() == 3) return FromThreeNumbers(parts->numbers, locale.dateOrder);
-  if (parts->numbers.size() != 2) return std::nullopt;
-  // "1.5" and "1,5" are numbers before they are days, unless days are written so.
-  const bool isDay =
-      parts->separator == u'/' || parts->separator == u'-' || parts->separator == locale.dateSeparator;
-  return isDay ? FromTwoNumbers(parts->numbers, locale.dateOrder) : std::nullopt;
+  if (numbers.size() == 3 && SeparatesThree(*parts, locale)) {
+    return FromThreeNumbers(numbers, locale.dateOrder);
+  }
+  if (numbers.size() != 2 || !SeparatesTwo(parts->separator, numbers, locale)) return std::nullopt;
+  return FromTwoNumbers(numbers, locale.dateOrder);
+}
+
+std::optional<Date> WithClock(const std::optional<DateClock>& clock, const Locale& locale) {
+  if (!clock) return std::nullopt;
+  if (clock->rest.empty()) return Join(0, clock->second);
+  const auto days = ReadDay(clock->rest, locale);
+  return days ? std::optional(Join(*days, clock->second)) : std::nullopt;
+}
+
+std::optional<Date> DayAlone(const std::vector<Token>& tokens, const Locale& locale) {
+  const auto days = ReadDay(tokens, locale);
+  return days ? std::optional(Date{*days}) : std::nullopt;
 }
 
 }  // namespace
 
 std::optional<Date> ReadDateText(std::u16string_view text, const Locale& locale) {
-  auto tokens = Tokens(text, locale);
+  const auto tokens = ReadDateTokens(text, locale);
   if (!tokens || tokens->empty()) return std::nullopt;
-  const auto seconds = TakeFirstClock(*tokens);
-  if (seconds == -1) return std::nullopt;
-  if (tokens->empty()) return Join(0, *seconds);
-  const auto days = ReadDay(*tokens, locale);
-  if (!days) return std::nullopt;
-  return Join(*days, seconds.value_or(0));
+  const auto plain = HasClock(*tokens) ? WithClock(TakeClock(*tokens), locale) : DayAlone(*tokens, locale);
+  return plain ? plain : WithClock(TakeDottedClock(*tokens), locale);
 }
 
 Date ToDate(const Variant& value) {

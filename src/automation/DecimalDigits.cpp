@@ -87,19 +87,30 @@ DecimalDigits DecimalDigits::Of(double value, int significant) { return FromFloa
 DecimalDigits DecimalDigits::Shortest(double value) { return FromFloat(value); }
 DecimalDigits DecimalDigits::Shortest(float value) { return FromFloat(value); }
 
-void DecimalDigits::RoundTo(int unit) {
-  if (exponent >= unit) return;
+std::string DecimalDigits::CutTo(int unit) {
+  if (exponent >= unit) return {};
   const auto dropped = static_cast<std::size_t>(unit - exponent);
   exponent = unit;
   if (dropped > digits.size()) {
     digits.clear();
-    return;
+    return {};
   }
-  const std::string tail = digits.substr(digits.size() - dropped);
+  std::string tail = digits.substr(digits.size() - dropped);
   digits.resize(digits.size() - dropped);
+  return tail;
+}
+
+void DecimalDigits::RoundTo(int unit) {
+  const std::string tail = CutTo(unit);
+  if (tail.empty()) return;
   const bool tailHasMore = tail.find_first_not_of('0', 1) != std::string::npos;
   const bool isOdd = !digits.empty() && (digits.back() - '0') % 2 == 1;
   if (tail.front() > '5' || (tail.front() == '5' && (tailHasMore || isOdd))) Increment(digits);
+}
+
+void DecimalDigits::RoundAwayTo(int unit) {
+  const std::string tail = CutTo(unit);
+  if (!tail.empty() && tail.front() >= '5') Increment(digits);
 }
 
 void DecimalDigits::DropTrailingZeros() {

@@ -24,6 +24,8 @@ struct DecimalDigits {
 
   /// Rounds half to even to a multiple of 10^unit.
   void RoundTo(int unit);
+  /// The same, but half away from zero.
+  void RoundAwayTo(int unit);
   void DropTrailingZeros();
   /// Multiples of 10^unit, rounded half to even; none where 64 bits do not hold them.
   std::optional<std::int64_t> Count(int unit) const;
@@ -33,6 +35,10 @@ struct DecimalDigits {
   Decimal ToDecimal() const;
   /// Plain notation with a point, as "-12.5".
   std::string Plain() const;
+
+ private:
+  // Takes the digits below 10^unit off and answers them, unless they are too small to round up.
+  std::string CutTo(int unit);
 };
 
 }  // namespace cardwright

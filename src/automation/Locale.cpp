@@ -17,6 +17,7 @@ using Days = std::array<std::u16string_view, 7>;
 struct Language {
   Months months, shortMonths;
   Days weekdays, shortWeekdays;
+  Months monthsInDates{};  // where a day changes the form of its month
 };
 
 constexpr Language kEnglish{
@@ -81,7 +82,9 @@ constexpr Language kPolish{
      u"październik", u"listopad", u"grudzień"},
     {u"sty", u"lut", u"mar", u"kwi", u"maj", u"cze", u"lip", u"sie", u"wrz", u"paź", u"lis", u"gru"},
     {u"niedziela", u"poniedziałek", u"wtorek", u"środa", u"czwartek", u"piątek", u"sobota"},
-    {u"niedz.", u"pon.", u"wt.", u"śr.", u"czw.", u"pt.", u"sob."}};
+    {u"niedz.", u"pon.", u"wt.", u"śr.", u"czw.", u"pt.", u"sob."},
+    {u"stycznia", u"lutego", u"marca", u"kwietnia", u"maja", u"czerwca", u"lipca", u"sierpnia", u"września",
+     u"października", u"listopada", u"grudnia"}};
 
 constexpr Language kDanish{
     {u"januar", u"februar", u"marts", u"april", u"maj", u"juni", u"juli", u"august", u"september", u"oktober",
@@ -96,7 +99,9 @@ constexpr Language kFinnish{
     {u"tammi", u"helmi", u"maalis", u"huhti", u"touko", u"kesä", u"heinä", u"elo", u"syys", u"loka",
      u"marras", u"joulu"},
     {u"sunnuntai", u"maanantai", u"tiistai", u"keskiviikko", u"torstai", u"perjantai", u"lauantai"},
-    {u"su", u"ma", u"ti", u"ke", u"to", u"pe", u"la"}};
+    {u"su", u"ma", u"ti", u"ke", u"to", u"pe", u"la"},
+    {u"tammikuuta", u"helmikuuta", u"maaliskuuta", u"huhtikuuta", u"toukokuuta", u"kesäkuuta", u"heinäkuuta",
+     u"elokuuta", u"syyskuuta", u"lokakuuta", u"marraskuuta", u"joulukuuta"}};
 
 constexpr Language kNorwegian{
     {u"januar", u"februar", u"mars", u"april", u"mai", u"juni", u"juli", u"august", u"september", u"oktober",
@@ -119,8 +124,21 @@ struct DayStyle {
 constexpr DayStyle kSlashes{Order::DayMonthYear, u'/', true}, kPoints{Order::DayMonthYear, u'.', true},
     kDashes{Order::DayMonthYear, u'-', true}, kIso{Order::YearMonthDay, u'-', true};
 
+struct Money {
+  std::u16string_view symbol, form, negativeForm;
+};
+constexpr Money InFront(std::u16string_view symbol) { return {symbol, u"$n", u"-$n"}; }
+constexpr Money InFrontWithBlank(std::u16string_view symbol) { return {symbol, u"$ n", u"-$ n"}; }
+constexpr Money Behind(std::u16string_view symbol) { return {symbol, u"n $", u"-n $"}; }
+
+struct Weeks {
+  int firstDay;
+  bool fourDaysInFirst;
+};
+constexpr Weeks kFromSunday{0, false}, kFromMonday{1, true};
+
 constexpr Locale Make(std::u16string_view name, int lcid, const Language& language, Numbers numbers,
-                      DayStyle days, std::u16string_view currency) {
+                      DayStyle days, std::u16string_view longDate, Money money, Weeks weeks = kFromMonday) {
   return {.name = name,
           .lcid = lcid,
           .decimal = numbers.decimal,
@@ -131,30 +149,40 @@ constexpr Locale Make(std::u16string_view name, int lcid, const Language& langua
           .clock24 = days.order != Order::MonthDayYear,
           .am = u"AM",
           .pm = u"PM",
-          .currency = currency,
+          .currency = money.symbol,
+          .currencyForm = money.form,
+          .negativeCurrencyForm = money.negativeForm,
+          .longDate = longDate,
+          .firstWeekday = weeks.firstDay,
+          .fourDaysInFirstWeek = weeks.fourDaysInFirst,
           .months = language.months,
           .shortMonths = language.shortMonths,
+          .monthsInDates = language.monthsInDates,
           .weekdays = language.weekdays,
           .shortWeekdays = language.shortWeekdays};
 }
 
 // The first country of a language is the one that the language's bare name means.
 constexpr Locale kLocales[] = {
-    Make(u"en-us", 1033, kEnglish, kPoint, {Order::MonthDayYear, u'/', false}, u"$"),
-    Make(u"en-gb", 2057, kEnglish, kPoint, kSlashes, u"£"),
-    Make(u"it-it", 1040, kItalian, kComma, kSlashes, u"€"),
-    Make(u"de-de", 1031, kGerman, kComma, kPoints, u"€"),
-    Make(u"de-ch", 2055, kGerman, kSwiss, kPoints, u"CHF"),
-    Make(u"fr-fr", 1036, kFrench, kCommaAndBlank, kSlashes, u"€"),
-    Make(u"es-es", 3082, kSpanish, kComma, kSlashes, u"€"),
-    Make(u"pt-br", 1046, kPortuguese, kComma, kSlashes, u"R$"),
-    Make(u"pt-pt", 2070, kPortuguese, kCommaAndBlank, kSlashes, u"€"),
-    Make(u"nl-nl", 1043, kDutch, kComma, {Order::DayMonthYear, u'-', false}, u"€"),
-    Make(u"sv-se", 1053, kSwedish, kCommaAndBlank, kIso, u"kr"),
-    Make(u"pl-pl", 1045, kPolish, kCommaAndBlank, kPoints, u"zł"),
-    Make(u"da-dk", 1030, kDanish, kComma, kDashes, u"kr."),
-    Make(u"fi-fi", 1035, kFinnish, kCommaAndBlank, {Order::DayMonthYear, u'.', false}, u"€"),
-    Make(u"nb-no", 1044, kNorwegian, kCommaAndBlank, kPoints, u"kr"),
+    Make(u"en-us", 1033, kEnglish, kPoint, {Order::MonthDayYear, u'/', false}, u"dddd, MMMM d, yyyy",
+         {u"$", u"$n", u"($n)"}, kFromSunday),
+    Make(u"en-gb", 2057, kEnglish, kPoint, kSlashes, u"dd MMMM yyyy", InFront(u"£")),
+    Make(u"it-it", 1040, kItalian, kComma, kSlashes, u"dddd d MMMM yyyy", Behind(u"€")),
+    Make(u"de-de", 1031, kGerman, kComma, kPoints, u"dddd, d. MMMM yyyy", Behind(u"€")),
+    Make(u"de-ch", 2055, kGerman, kSwiss, kPoints, u"dddd, d. MMMM yyyy", {u"CHF", u"$ n", u"$-n"}),
+    Make(u"fr-fr", 1036, kFrench, kCommaAndBlank, kSlashes, u"dddd d MMMM yyyy", Behind(u"€")),
+    Make(u"es-es", 3082, kSpanish, kComma, kSlashes, u"dddd, d 'de' MMMM 'de' yyyy", Behind(u"€")),
+    Make(u"pt-br", 1046, kPortuguese, kComma, kSlashes, u"dddd, d 'de' MMMM 'de' yyyy",
+         InFrontWithBlank(u"R$"), kFromSunday),
+    Make(u"pt-pt", 2070, kPortuguese, kCommaAndBlank, kSlashes, u"dddd, d 'de' MMMM 'de' yyyy", Behind(u"€")),
+    Make(u"nl-nl", 1043, kDutch, kComma, {Order::DayMonthYear, u'-', false}, u"dddd d MMMM yyyy",
+         {u"€", u"$ n", u"$ -n"}),
+    Make(u"sv-se", 1053, kSwedish, kCommaAndBlank, kIso, u"'den' d MMMM yyyy", Behind(u"kr")),
+    Make(u"pl-pl", 1045, kPolish, kCommaAndBlank, kPoints, u"dddd, d MMMM yyyy", Behind(u"zł")),
+    Make(u"da-dk", 1030, kDanish, kComma, kDashes, u"d. MMMM yyyy", Behind(u"kr.")),
+    Make(u"fi-fi", 1035, kFinnish, kCommaAndBlank, {Order::DayMonthYear, u'.', false}, u"d. MMMM yyyy",
+         Behind(u"€")),
+    Make(u"nb-no", 1044, kNorwegian, kCommaAndBlank, kPoints, u"dddd d. MMMM yyyy", InFrontWithBlank(u"kr")),
 };
 
 thread_local const Locale* t_Current = nullptr;

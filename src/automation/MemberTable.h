@@ -243,6 +243,7 @@ class TableObject : public Object {
     return Members().Invoke(*this, member, kind, args);
   }
   std::vector<Text> MemberNames() const override;
+  const void* Shape() const override { return &Members(); }
 
  protected:
   virtual const MemberTable& Members() const = 0;

@@ -11,6 +11,7 @@ namespace {
 
 constexpr int kDoubleDigits = 15;
 constexpr int kSingleDigits = 7;
+constexpr int kAnyDecimals = 400;
 
 Text FromAscii(const std::string& text, char16_t point) {
   std::u16string result(text.begin(), text.end());
@@ -24,11 +25,12 @@ Text FormatNotFinite(double value, char16_t point) {
   return FromAscii(value > 0 ? "1.#INF" : "-1.#INF", point);
 }
 
-// Plain between 0.0001 and 10^significant, else "1.5E+20".
-std::string Layout(DecimalDigits number, int significant) {
+// Plain between 0.0001 and 10^significant with at most so many decimals, else "1.5E+20".
+std::string Layout(DecimalDigits number, int significant, int maxDecimals) {
   number.DropTrailingZeros();
   const int leading = number.exponent + static_cast<int>(number.digits.size()) - 1;
-  if (number.digits.empty() || (leading >= -4 && leading < significant)) return number.Plain();
+  const bool isPlain = leading >= -4 && leading < significant && -number.exponent <= maxDecimals;
+  if (number.digits.empty() || isPlain) return number.Plain();
   std::string text = number.negative ? "-" : "";
   text += number.digits.front();
   if (number.digits.size() > 1) text += "." + number.digits.substr(1);
@@ -47,17 +49,17 @@ Text StrOf(const std::string& plain) {
 
 Text FormatDouble(double value, char16_t point) {
   if (!std::isfinite(value)) return FormatNotFinite(value, point);
-  return FromAscii(Layout(DecimalDigits::Of(value, kDoubleDigits), kDoubleDigits), point);
+  return FromAscii(Layout(DecimalDigits::Of(value, kDoubleDigits), kDoubleDigits, kDoubleDigits), point);
 }
 
 Text FormatSingle(float value, char16_t point) {
   if (!std::isfinite(value)) return FormatNotFinite(value, point);
-  return FromAscii(Layout(DecimalDigits::Of(value, kSingleDigits), kSingleDigits), point);
+  return FromAscii(Layout(DecimalDigits::Of(value, kSingleDigits), kSingleDigits, kSingleDigits), point);
 }
 
 Text FormatExact(double value) {
   if (!std::isfinite(value)) return FormatNotFinite(value, u'.');
-  return FromAscii(Layout(DecimalDigits::Shortest(value), kDoubleDigits), u'.');
+  return FromAscii(Layout(DecimalDigits::Shortest(value), kDoubleDigits, kAnyDecimals), u'.');
 }
 
 Text Str(const Variant& number) {
@@ -66,7 +68,7 @@ Text Str(const Variant& number) {
     case VarType::Boolean: return plain.Boolean() ? u"True" : u"False";
     case VarType::Single:
       if (!std::isfinite(plain.Single())) return FormatNotFinite(plain.Single(), u'.');
-      return StrOf(Layout(DecimalDigits::Shortest(plain.Single()), kSingleDigits));
+      return StrOf(Layout(DecimalDigits::Shortest(plain.Single()), kSingleDigits, kAnyDecimals));
     case VarType::Currency: return StrOf(DecimalDigits::Of(plain.CurrencyValue()).Plain());
     case VarType::Decimal: return StrOf(DecimalDigits::Of(plain.DecimalValue()).Plain());
     case VarType::Object: return Str(DefaultValue(plain));
@@ -74,7 +76,7 @@ Text Str(const Variant& number) {
     default: {
       const double value = ToDouble(plain);
       if (!std::isfinite(value)) return FormatNotFinite(value, u'.');
-      return StrOf(Layout(DecimalDigits::Shortest(value), kDoubleDigits));
+      return StrOf(Layout(DecimalDigits::Shortest(value), kDoubleDigits, kAnyDecimals));
     }
   }
 }

@@ -23,7 +23,7 @@ struct Object::Connections {
   }
 };
 
-Object::Object() = default;
+Object::Object(const void* family) : m_Family(family) {}
 Object::~Object() = default;
 
 std::unique_ptr<Enumerator> Object::Enumerate() { Raise(ErrorNumber::NotACollection); }

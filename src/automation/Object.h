@@ -49,6 +49,11 @@ class Object : public RefCounted {
   /// Calls a member. Errors: 438 for an unknown number or a kind that the member does not offer, 450 for a
   /// wrong count of arguments, 449 for a missing one, and whatever the member itself raises.
   virtual Variant Invoke(MemberId member, CallKind kind, Args args) = 0;
+  /// Objects of one shape answer the same numbers to the same names, so that a caller may keep a number for all of
+  /// them; null for an object whose names are its own.
+  virtual const void* Shape() const { return nullptr; }
+  /// Mark by which an engine knows the objects that it made itself; null for all others.
+  const void* Family() const noexcept { return m_Family; }
   /// Names of the public members, in declared order, for documentation and completion.
   virtual std::vector<Text> MemberNames() const { return {}; }
   /// For Each; error 451 where the object is no collection.
@@ -59,7 +64,7 @@ class Object : public RefCounted {
   void Disconnect(int connection);
 
  protected:
-  Object();
+  explicit Object(const void* family = nullptr);
   ~Object() override;
   /// Calls every handler connected at this moment, in order of connection. A handler may connect, disconnect
   /// or release the object; one that is disconnected before its turn is passed over.
@@ -67,6 +72,7 @@ class Object : public RefCounted {
 
  private:
   struct Connections;
+  const void* m_Family;
   std::unique_ptr<Connections> m_Connections;
 };
 

@@ -5,6 +5,7 @@
 #include <new>
 
 #include "automation/Errors.h"
+#include "automation/MemoryBudget.h"
 #include "automation/TextRep.h"
 
 namespace cardwright {
@@ -23,11 +24,16 @@ void CopyCharacters(char16_t* to, std::u16string_view from) noexcept {
 
 Text::Rep* Text::Rep::Allocate(std::size_t capacity) {
   if (capacity > kMaxLength) Raise(ErrorNumber::OutOfMemory);
-  void* block = ::operator new(sizeof(Rep) + capacity * sizeof(char16_t));
+  const std::size_t bytes = sizeof(Rep) + capacity * sizeof(char16_t);
+  MemoryBudget::Charge(bytes);
+  void* block = ::operator new(bytes);
   return new (block) Rep{1, 0, capacity};
 }
 
-void Text::Rep::Free(Rep* rep) noexcept { ::operator delete(rep); }
+void Text::Rep::Free(Rep* rep) noexcept {
+  MemoryBudget::Refund(sizeof(Rep) + rep->capacity * sizeof(char16_t));
+  ::operator delete(rep);
+}
 
 Text::Text(std::u16string_view characters) {
   if (characters.empty()) return;
@@ -36,15 +42,11 @@ Text::Text(std::u16string_view characters) {
   m_Rep->length = characters.size();
 }
 
-Text::Text(const Text& other) noexcept : m_Rep(other.m_Rep) {
-  if (m_Rep) m_Rep->AddRef();
+char16_t* Text::Allocate(std::size_t size) {
+  m_Rep = Rep::Allocate(size);
+  m_Rep->length = size;
+  return m_Rep->Characters();
 }
-
-Text::~Text() {
-  if (m_Rep) m_Rep->Release();
-}
-
-std::u16string_view Text::View() const noexcept { return m_Rep ? m_Rep->View() : std::u16string_view(); }
 
 Text& Text::operator+=(std::u16string_view tail) {
   if (tail.empty()) return *this;
@@ -74,7 +76,7 @@ std::u16string_view Trim(std::u16string_view text) noexcept {
 
 Text Replace(std::u16string_view text, std::u16string_view from, std::u16string_view to, bool noCase) {
   const auto find = [&](std::size_t start) {
-    return noCase ? FindNoCase(text, from, start) : text.find(from, start);
+    return noCase ? FindNoCase(text, from, start) : Find(text, from, start);
   };
   Text result;
   std::size_t done = 0;

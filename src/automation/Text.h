@@ -17,12 +17,23 @@ class Text {
   Text(std::u16string_view characters);
   Text(const char16_t* characters) : Text(std::u16string_view(characters)) {}
   Text(const std::u16string& characters) : Text(std::u16string_view(characters)) {}
-  Text(const Text& other) noexcept;
+  Text(const Text& other) noexcept : m_Rep(other.m_Rep) { Retain(); }
   Text(Text&& other) noexcept : m_Rep(std::exchange(other.m_Rep, nullptr)) {}
-  ~Text();
+  ~Text() {
+    if (m_Rep) Drop();
+  }
   Text& operator=(Text other) noexcept {
     std::swap(m_Rep, other.m_Rep);
     return *this;
+  }
+
+  /// A text of `size` characters, which `fill` writes: it is called once with a pointer to them, unless there
+  /// are none. Error 7 where the size is beyond all bounds.
+  template <class Fill>
+  static Text OfSize(std::size_t size, Fill&& fill) {
+    Text text;
+    if (size != 0) std::forward<Fill>(fill)(text.Allocate(size));
+    return text;
   }
 
   /// From UTF-8; an invalid sequence becomes U+FFFD.
@@ -50,8 +61,16 @@ class Text {
  private:
   struct Rep;
   friend class Variant;
+
+  char16_t* Allocate(std::size_t size);
+  inline void Retain() const noexcept;
+  inline void Drop() noexcept;
+
   Rep* m_Rep = nullptr;  // null stands for the empty text
 };
+
+/// Position of the first occurrence of `part` from `from` on, or npos. An empty part is found at once.
+std::size_t Find(std::u16string_view text, std::u16string_view part, std::size_t from = 0) noexcept;
 
 /// @name Case. One mapping for the whole library, independent of the process's locale: simple case mapping of
 /// the Latin, Greek and Cyrillic blocks; every other code unit maps to itself.
@@ -73,3 +92,6 @@ std::u16string_view Trim(std::u16string_view text) noexcept;
 Text Replace(std::u16string_view text, std::u16string_view from, std::u16string_view to, bool noCase = false);
 
 }  // namespace cardwright
+
+// The operations that must not cost a call.
+#include "automation/TextRep.h"  // IWYU pragma: export

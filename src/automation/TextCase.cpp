@@ -85,9 +85,7 @@ constexpr CaseTable kUpper = UpperTable();
 
 template <class Map>
 Text Mapped(std::u16string_view text, Map map) {
-  std::u16string result(text);
-  std::transform(result.begin(), result.end(), result.begin(), map);
-  return Text(result);
+  return Text::OfSize(text.size(), [&](char16_t* to) { std::transform(text.begin(), text.end(), to, map); });
 }
 
 }  // namespace
@@ -109,16 +107,6 @@ bool EqualsNoCase(std::u16string_view a, std::u16string_view b) noexcept {
     if (a[i] != b[i] && ToLower(a[i]) != ToLower(b[i])) return false;
   }
   return true;
-}
-
-std::size_t FindNoCase(std::u16string_view text, std::u16string_view part, std::size_t from) noexcept {
-  if (from > text.size() || part.size() > text.size() - from) return std::u16string_view::npos;
-  if (part.empty()) return from;
-  const char16_t first = ToLower(part.front());
-  for (std::size_t last = text.size() - part.size(); from <= last; ++from) {
-    if (ToLower(text[from]) == first && EqualsNoCase(text.substr(from, part.size()), part)) return from;
-  }
-  return std::u16string_view::npos;
 }
 
 std::size_t HashNoCase(std::u16string_view text) noexcept {

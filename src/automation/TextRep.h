@@ -24,4 +24,12 @@ struct Text::Rep {
   static void Free(Rep* rep) noexcept;
 };
 
+inline void Text::Retain() const noexcept {
+  if (m_Rep) m_Rep->AddRef();
+}
+inline void Text::Drop() noexcept { m_Rep->Release(); }
+inline std::u16string_view Text::View() const noexcept {
+  return m_Rep ? m_Rep->View() : std::u16string_view();
+}
+
 }  // namespace cardwright

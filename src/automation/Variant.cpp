@@ -19,14 +19,6 @@ Variant::Variant(Ref<cardwright::Array> array) noexcept : m_Type(VarType::Array)
   m_Data.array = array.Detach();
 }
 
-void Variant::Swap(Variant& other) noexcept {
-  std::swap(m_Type, other.m_Type);
-  std::swap(m_Scale, other.m_Scale);
-  std::swap(m_Negative, other.m_Negative);
-  std::swap(m_High, other.m_High);
-  std::swap(m_Data, other.m_Data);
-}
-
 Variant Variant::Null() noexcept {
   Variant null;
   null.m_Type = VarType::Null;
@@ -43,9 +35,37 @@ Variant Variant::Nothing() noexcept {
 Variant Variant::ByRef(Variant& target) noexcept {
   // A reference to a reference would outlive its middle, so it refers to the end of the chain.
   Variant reference;
-  reference.m_Type = VarType::ByRef;
-  reference.m_Data.reference = &target.Deref();
+  if (target.IsByRef()) {
+    reference.TakeBits(target);
+  } else {
+    reference.m_Type = VarType::ByRef;
+    reference.m_Data.reference = &target;
+  }
   return reference;
+}
+
+Variant Variant::ByRefElement(Variant& holder, std::uint32_t position) noexcept {
+  Variant reference;
+  reference.m_Type = VarType::ByRefElement;
+  reference.m_High = position;
+  reference.m_Data.reference = &holder;
+  return reference;
+}
+
+const Variant& Variant::ReadElement() const noexcept {
+  static const Variant gone{};
+  const Variant& holder = *m_Data.reference;
+  if (!holder.IsArray() || m_High >= holder.ArrayPtr()->Values().size()) return gone;
+  return holder.ArrayPtr()->Values()[m_High];
+}
+
+Variant& Variant::WriteElement() {
+  Variant& holder = *m_Data.reference;
+  if (holder.IsArray() && m_High < holder.ArrayPtr()->Values().size())
+    return cardwright::Array::Writable(holder).Values()[m_High];
+  static thread_local Variant nowhere;
+  nowhere.Reset();
+  return nowhere;
 }
 
 std::u16string_view Variant::StringView() const noexcept {
@@ -57,6 +77,18 @@ Text Variant::String() const noexcept {
   text.m_Rep = m_Data.text;
   if (text.m_Rep) text.m_Rep->AddRef();
   return text;
+}
+
+void Variant::Append(std::u16string_view tail) {
+  Text text;
+  std::swap(text.m_Rep, m_Data.text);
+  try {
+    text += tail;
+  } catch (...) {
+    std::swap(text.m_Rep, m_Data.text);
+    throw;
+  }
+  std::swap(text.m_Rep, m_Data.text);
 }
 
 void Variant::Retain() const noexcept {

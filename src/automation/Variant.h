@@ -30,6 +30,7 @@ enum class VarType : std::uint16_t {
   Byte = 17,
   Array = 0x2000,
   ByRef = 0x4000,  ///< refers to another Variant that outlives the call
+  ByRefElement = 0x4001,  ///< refers to an element of the array in such a Variant
 };
 
 /// Days since 1899-12-30; a type of its own so that a date is never taken for a number.
@@ -59,9 +60,9 @@ inline constexpr std::int32_t kMissingArgument = static_cast<std::int32_t>(0x800
 class Variant {
  public:
   Variant() noexcept = default;
-  Variant(bool value) noexcept : m_Type(VarType::Boolean) { m_Data.boolean = value; }
-  Variant(std::uint8_t value) noexcept : m_Type(VarType::Byte) { m_Data.byte = value; }
-  Variant(std::int16_t value) noexcept : m_Type(VarType::Integer) { m_Data.integer = value; }
+  Variant(bool value) noexcept : m_Type(VarType::Boolean) { m_Data.longValue = value; }
+  Variant(std::uint8_t value) noexcept : m_Type(VarType::Byte) { m_Data.longValue = value; }
+  Variant(std::int16_t value) noexcept : m_Type(VarType::Integer) { m_Data.longValue = value; }
   Variant(std::int32_t value) noexcept : m_Type(VarType::Long) { m_Data.longValue = value; }
   Variant(float value) noexcept : m_Type(VarType::Single) { m_Data.single = value; }
   Variant(double value) noexcept : m_Type(VarType::Double) { m_Data.real = value; }
@@ -99,11 +100,64 @@ class Variant {
   ~Variant() {
     if (IsCounted()) Drop();
   }
-  Variant& operator=(Variant other) noexcept {
-    Swap(other);
+  // What is overwritten goes last: its release may run code that looks at this very variable.
+  Variant& operator=(const Variant& other) noexcept {
+    if (IsCounted() || other.IsCounted()) {
+      Variant copy(other);
+      Swap(copy);
+    } else {
+      TakeBits(other);
+    }
     return *this;
   }
-  void Swap(Variant& other) noexcept;
+  Variant& operator=(Variant&& other) noexcept {
+    if (IsCounted()) {
+      Variant taken(std::move(other));
+      Swap(taken);
+    } else {
+      TakeBits(other);
+      if (&other != this) other.m_Type = VarType::Empty;
+    }
+    return *this;
+  }
+  void Swap(Variant& other) noexcept {
+    const Variant* const self = this;
+    Variant held;
+    held.TakeBits(*self);
+    TakeBits(other);
+    other.TakeBits(held);
+    held.m_Type = VarType::Empty;
+  }
+
+  /// @name Assignment of a plain value in place, without a temporary
+  /// @{
+  void Reset() noexcept {
+    if (IsCounted()) {
+      const Variant old(std::move(*this));
+    } else {
+      m_Type = VarType::Empty;
+    }
+  }
+  void Put(bool value) noexcept {
+    Reset();
+    m_Type = VarType::Boolean;
+    m_Data.longValue = value;
+  }
+  void Put(double value) noexcept {
+    Reset();
+    m_Type = VarType::Double;
+    m_Data.real = value;
+  }
+  void Put(std::int32_t value) noexcept { PutWhole(value, VarType::Long); }
+  /// `type` is Long, or Integer or Byte where the value fits one.
+  void PutWhole(std::int32_t value, VarType type) noexcept {
+    Reset();
+    m_Type = type;
+    m_Data.longValue = value;
+  }
+  /// @}
+  /// Adds characters to the text held, in place where nobody shares it. The type must be String.
+  void Append(std::u16string_view tail);
 
   static Variant Null() noexcept;
   /// The object reference that refers to none.
@@ -111,6 +165,9 @@ class Variant {
   static Variant Missing() noexcept { return ErrorValue{kMissingArgument}; }
   /// A reference to `target`, which must outlive it: an argument passed by reference.
   static Variant ByRef(Variant& target) noexcept;
+  /// Likewise to the element at a position of the array that `holder` has: the array may be resized or replaced
+  /// meanwhile; an element that is gone reads as Empty.
+  static Variant ByRefElement(Variant& holder, std::uint32_t position) noexcept;
 
   VarType Type() const noexcept { return m_Type; }
   bool IsEmpty() const noexcept { return m_Type == VarType::Empty; }
@@ -118,19 +175,26 @@ class Variant {
   bool IsString() const noexcept { return m_Type == VarType::String; }
   bool IsObject() const noexcept { return m_Type == VarType::Object; }
   bool IsArray() const noexcept { return m_Type == VarType::Array; }
-  bool IsByRef() const noexcept { return m_Type == VarType::ByRef; }
+  bool IsByRef() const noexcept { return m_Type == VarType::ByRef || m_Type == VarType::ByRefElement; }
   bool IsMissing() const noexcept { return m_Type == VarType::Error && m_Data.longValue == kMissingArgument; }
 
   /// The value itself, or what a by-reference value refers to.
-  const Variant& Deref() const noexcept { return IsByRef() ? *m_Data.reference : *this; }
-  Variant& Deref() noexcept { return IsByRef() ? *m_Data.reference : *this; }
+  const Variant& Deref() const noexcept {
+    if (m_Type == VarType::ByRef) return *m_Data.reference;
+    return m_Type == VarType::ByRefElement ? ReadElement() : *this;
+  }
+  /// For writing: an element's array is made the holder's own first.
+  Variant& Deref() {
+    if (m_Type == VarType::ByRef) return *m_Data.reference;
+    return m_Type == VarType::ByRefElement ? WriteElement() : *this;
+  }
 
   /// @name Access without conversion; the type must be the one asked for.
   /// @{
-  bool Boolean() const noexcept { return m_Data.boolean; }
-  std::uint8_t Byte() const noexcept { return m_Data.byte; }
-  std::int16_t Integer() const noexcept { return m_Data.integer; }
-  std::int32_t Long() const noexcept { return m_Data.longValue; }
+  bool Boolean() const noexcept { return m_Data.longValue != 0; }
+  std::uint8_t Byte() const noexcept { return static_cast<std::uint8_t>(m_Data.longValue); }
+  std::int16_t Integer() const noexcept { return static_cast<std::int16_t>(m_Data.longValue); }
+  std::int32_t Long() const noexcept { return m_Data.longValue; }  ///< Long, Integer and Byte
   float Single() const noexcept { return m_Data.single; }
   double Double() const noexcept { return m_Data.real; }  ///< Double and Date
   cardwright::Currency CurrencyValue() const noexcept { return {m_Data.currency}; }
@@ -146,6 +210,15 @@ class Variant {
   bool IsCounted() const noexcept {
     return m_Type == VarType::String || m_Type == VarType::Object || m_Type == VarType::Array;
   }
+  void TakeBits(const Variant& other) noexcept {
+    m_Type = other.m_Type;
+    m_Scale = other.m_Scale;
+    m_Negative = other.m_Negative;
+    m_High = other.m_High;
+    m_Data = other.m_Data;
+  }
+  const Variant& ReadElement() const noexcept;
+  Variant& WriteElement();
   void Retain() const noexcept;
   void Drop() noexcept;
 
@@ -155,10 +228,7 @@ class Variant {
   std::uint32_t m_High = 0;
   union {
     std::uint64_t low = 0;
-    bool boolean;
-    std::uint8_t byte;
-    std::int16_t integer;
-    std::int32_t longValue;
+    std::int32_t longValue;  // sign-extended for the narrower types, so that all whole numbers read alike
     float single;
     double real;
     std::int64_t currency;

@@ -33,6 +33,10 @@ class Desktop {
   /// Shows a modal message box; the answer is 1 OK, 2 Cancel, 6 Yes, 7 No. An empty title gives the program's
   /// name.
   virtual int ShowMessage(const Text& text, int style, const Text& title) = 0;
+  /// Shows a box to type one line into, at a place of the screen in twips or Missing; the text, or Empty
+  /// where it was cancelled. An empty title gives the program's name.
+  virtual Variant AskText(const Text& prompt, const Text& title, const Text& initial, const Variant& x,
+                          const Variant& y) = 0;
   virtual void Beep() = 0;
   /// The widget that has the focus, or null.
   virtual Ref<Widget> ActiveControl() const = 0;

@@ -13,6 +13,8 @@ struct ScriptError {
   Text description;
   int line = 0;    ///< from 1
   int column = 0;  ///< from 0
+  Text source;     ///< "Microsoft VBScript runtime error", or what the script gave
+  bool isSyntax = false;
 };
 
 /// A named module of a script engine with code of its own over the shared global one.

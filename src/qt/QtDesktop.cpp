@@ -1,6 +1,7 @@
 #include "qt/QtDesktop.h"
 
 #include <QApplication>
+#include <QInputDialog>
 #include <QMessageBox>
 #include <QPointer>
 #include <QProcess>
@@ -8,6 +9,8 @@
 #include <array>
 #include <vector>
 
+#include "automation/Conversions.h"
+#include "platform/Scale.h"
 #include "qt/Colors.h"
 #include "qt/QtText.h"
 #include "qt/WidgetCore.h"
@@ -66,6 +69,23 @@ int QtDesktop::ShowMessage(const Text& text, int style, const Text& title) {
   const auto given =
       std::find_if(answers.begin(), answers.end(), [&](const Answer& a) { return a.button == pressed; });
   return given == answers.end() ? answers.back().number : given->number;
+}
+
+Variant QtDesktop::AskText(const Text& prompt, const Text& title, const Text& initial, const Variant& x,
+                           const Variant& y) {
+  const QPointer<QInputDialog> box = new QInputDialog(QApplication::activeWindow());
+  box->setWindowTitle(title.IsEmpty() ? QGuiApplication::applicationDisplayName() : ToQString(title));
+  box->setLabelText(ToQString(prompt));
+  box->setTextValue(ToQString(initial));
+  const auto pixels = [](const Variant& twips) {
+    return static_cast<int>(ScaleToPixels(static_cast<float>(ToInteger(twips)), ScaleMode::Twips));
+  };
+  if (!x.Deref().IsMissing() && !y.Deref().IsMissing()) box->move(pixels(x), pixels(y));
+  const bool isAccepted = box->exec() == QDialog::Accepted;
+  if (!box) return {};
+  const Text typed = FromQString(box->textValue());
+  delete box.data();
+  return isAccepted ? Variant(typed) : Variant();
 }
 
 void QtDesktop::Beep() { QApplication::beep(); }

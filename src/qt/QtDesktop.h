@@ -11,6 +11,8 @@ class QtDesktop : public Desktop {
   /// Knows the platform's other button sets too: Abort 3, Retry 4, Ignore 5. A box that is closed is answered
   /// with Cancel or, where it has none, No or its only button.
   int ShowMessage(const Text& text, int style, const Text& title) override;
+  Variant AskText(const Text& prompt, const Text& title, const Text& initial, const Variant& x,
+                  const Variant& y) override;
   void Beep() override;
   Ref<Widget> ActiveControl() const override;
   OleColor ResolveColor(OleColor color) const override;

@@ -11,14 +11,14 @@ using ::testing::HasSubstr;
 TEST(CommandLine, TellsItsCommandsAndItsVersion) {
   const Outcome help = Cardwright({"--help"});
   EXPECT_EQ(help.status, 0);
-  for (const char* command : {"fill", "check", "info", "render", "orv"})
+  for (const char* command : {"fill", "check", "info", "render", "orv", "script"})
     EXPECT_THAT(help.out, HasSubstr(command));
   EXPECT_THAT(Cardwright({"--version"}).out, ::testing::MatchesRegex("cardwright [0-9.]+\n"));
   EXPECT_EQ(Cardwright({"-v"}).out, Cardwright({"--version"}).out);
 }
 
 TEST(CommandLine, HasHelpAndVersionForEveryCommand) {
-  for (const char* command : {"fill", "check", "info", "render", "orv"}) {
+  for (const char* command : {"fill", "check", "info", "render", "orv", "script"}) {
     const Outcome help = Cardwright({command, "--help"});
     EXPECT_EQ(help.status, 0) << command;
     EXPECT_THAT(help.out, HasSubstr(std::string("Usage: cardwright ") + command));

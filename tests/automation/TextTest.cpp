@@ -1,5 +1,7 @@
 #include "automation/Text.h"
 
+#include <algorithm>
+
 #include "automation/Printing.h"
 
 namespace cardwright {
@@ -42,6 +44,58 @@ TEST(Text, GrowsByManySmallPieces) {
     expected += piece;
   }
   EXPECT_EQ(text, expected);
+}
+
+TEST(Text, MovesOnlyNowAndThenWhenItGrowsCharacterByCharacter) {
+  Text text;
+  const char16_t* place = nullptr;
+  int moves = 0;
+  for (int i = 0; i < 200000; ++i) {
+    text += u"x";
+    if (text.View().data() != place) ++moves;
+    place = text.View().data();
+  }
+  EXPECT_EQ(text.Size(), 200000u);
+  EXPECT_LE(moves, 20);
+}
+
+TEST(Text, IsWrittenInPlaceWhenItsSizeIsKnown) {
+  const Text text = Text::OfSize(3, [](char16_t* to) { std::copy_n(u"abc", 3, to); });
+  EXPECT_EQ(text, u"abc");
+  EXPECT_TRUE(Text::OfSize(0, [](char16_t*) { FAIL() << "there is nothing to write"; }).IsEmpty());
+}
+
+TEST(Find, FindsTheFirstOccurrenceFromAPlaceOn) {
+  EXPECT_EQ(Find(u"abcabc", u"bc"), 1u);
+  EXPECT_EQ(Find(u"abcabc", u"bc", 2), 4u);
+  EXPECT_EQ(Find(u"abcabc", u"bc", 5), std::u16string_view::npos);
+  EXPECT_EQ(Find(u"abcabc", u"BC"), std::u16string_view::npos);
+  EXPECT_EQ(Find(u"abc", u"", 3), 3u);
+  EXPECT_EQ(Find(u"abc", u"", 4), std::u16string_view::npos);
+  EXPECT_EQ(Find(u"", u"a"), std::u16string_view::npos);
+}
+
+TEST(Find, AgreesWithTheNaiveSearch) {
+  // A small alphabet, so that parts are nearly found often; sizes on both sides of a block of places.
+  unsigned random = 1;
+  const auto next = [&random] { return (random = random * 1103515245 + 12345) >> 16; };
+  for (int round = 0; round < 2000; ++round) {
+    std::u16string text, part;
+    for (unsigned i = next() % 120; i > 0; --i) text += static_cast<char16_t>(u'a' + next() % 3);
+    for (unsigned i = next() % 6; i > 0; --i) part += static_cast<char16_t>(u'a' + next() % 3);
+    const std::size_t from = next() % 130;
+    EXPECT_EQ(Find(text, part, from), text.find(part, from));
+    EXPECT_EQ(FindNoCase(ToUpper(text), part, from), text.find(part, from));
+  }
+}
+
+TEST(FindNoCase, MeetsEveryCharacterThatFoldsToTheSame) {
+  for (unsigned c = 1; c < 0x600; ++c) {
+    const char16_t unit = static_cast<char16_t>(c);
+    const char16_t lower[] = {u'一', ToLower(unit), u'一', 0};
+    const char16_t self[] = {unit, 0};
+    EXPECT_EQ(FindNoCase(std::u16string(40, u'一') + lower, self), 41u) << c;
+  }
 }
 
 TEST(Text, SharesItsCharactersWithACopy) {

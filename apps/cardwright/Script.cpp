@@ -1,0 +1,49 @@
+#include <cstdlib>
+
+#include "cardwright/CommandLine.h"
+#include "cardwright/Commands.h"
+#include "cardwright/DesktopModule.h"
+#include "hosting/ScriptHosting.h"
+
+namespace cardwright::app {
+namespace {
+
+bool IsSet(const char* variable) {
+  const char* value = std::getenv(variable);
+  return value && *value != '\0';
+}
+
+}  // namespace
+
+int RunScriptCommand(std::span<const std::string> words) {
+  CommandLine line(
+      "script",
+      "Runs a VBScript file. Status 1 after an error that the script did not catch, 130 after Ctrl+C,\n"
+      "else what WScript.Quit said, or 0.",
+      "FILE [ARG…]",
+      {{"check", "", "only compile the script"},
+       {"trace", "", "tell each statement on standard error before it runs"},
+       {"profile", "", "tell on standard error how long each line took"},
+       {"display", "", "insist on a display for windows"}});
+  if (const auto status = line.Parse(words)) return *status;
+  if (line.Has("display") && !IsSet("DISPLAY") && !IsSet("WAYLAND_DISPLAY"))
+    return line.Refuse("there is no display");
+
+  ScriptJob job;
+  job.file = Text::FromUtf8(line.Operands().front());
+  for (const std::string& word : line.Operands().subspan(1)) job.arguments.push_back(Text::FromUtf8(word));
+  if (line.Has("check")) job.task = ScriptJob::Task::Compile;
+  job.traces = line.Has("trace");
+  job.profiles = line.Has("profile");
+
+  ScriptSurroundings surroundings;
+  surroundings.program = Text::FromUtf8(ProgramPath());
+  AddLightClasses(surroundings.classes);
+  const ScriptDisplay display = line.Has("display") ? ScriptDisplay::Required : ScriptDisplay::IfThere;
+  surroundings.classes.SetLoader(u"Cardwright.", [&surroundings, display](ClassRegistry& classes) {
+    surroundings.desktop = LoadDesktopModule().startForScript(display, classes);
+  });
+  return RunScript(job, surroundings);
+}
+
+}  // namespace cardwright::app

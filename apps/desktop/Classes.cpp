@@ -1,0 +1,30 @@
+#include "desktop/Classes.h"
+
+#include "model/CForm.h"
+#include "model/CItems.h"
+#include "model/ControlClasses.h"
+#include "runtime/CAttrib.h"
+#include "runtime/Vellum.h"
+
+namespace cardwright::desktop {
+namespace {
+
+template <class C>
+Ref<Object> Make() {
+  return MakeRef<C>();
+}
+
+}  // namespace
+
+void AddDesktopClasses(ClassRegistry& classes) {
+  classes.Add(u"Cardwright.Vellum", Make<Vellum>);
+  classes.Add(u"Cardwright.CForm", Make<CForm>);
+  classes.Add(u"Cardwright.CItem", Make<CItem>);
+  classes.Add(u"Cardwright.CItems", Make<CItems>);
+  classes.Add(u"Cardwright.CAttrib", Make<CAttrib>);
+  classes.Add(u"Cardwright.CAttribs", Make<CAttribs>);
+  for (const ControlClass& control : ControlClasses())
+    classes.Add(Text(u"Cardwright.") + control.table->className, [make = control.create] { return make(); });
+}
+
+}  // namespace cardwright::desktop

@@ -1,0 +1,37 @@
+#include <QString>
+
+#include "cardwright/DesktopModule.h"
+#include "desktop/Commands.h"
+#include "desktop/ScriptWindows.h"
+
+namespace cardwright::desktop {
+namespace {
+
+struct Command {
+  const char* name;
+  int (*run)(const QStringList& words);
+};
+
+constexpr Command kCommands[] = {
+    {"fill", RunFill}, {"check", RunCheck}, {"info", RunInfo}, {"render", RunRender}, {"orv", RunOrv},
+};
+
+int Run(const std::string& command, std::span<const std::string> words) {
+  QStringList list;
+  for (const std::string& word : words) list += QString::fromLocal8Bit(word);
+  for (const Command& known : kCommands)
+    if (command == known.name) return known.run(list);
+  qFatal("the desktop module has no command %s", command.c_str());
+}
+
+std::unique_ptr<ScriptDesktop> Start(app::ScriptDisplay display, ClassRegistry& classes) {
+  return std::make_unique<ScriptWindows>(display, classes);
+}
+
+}  // namespace
+}  // namespace cardwright::desktop
+
+extern "C" __attribute__((visibility("default")))
+const cardwright::app::DesktopModule cardwrightDesktopModule;
+const cardwright::app::DesktopModule cardwrightDesktopModule = {cardwright::desktop::Run,
+                                                                cardwright::desktop::Start};

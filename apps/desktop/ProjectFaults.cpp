@@ -1,0 +1,196 @@
+#include "desktop/ProjectFaults.h"
+
+#include <QSet>
+#include <QStringDecoder>
+#include <QStringList>
+
+#include "automation/Conversions.h"
+#include "automation/Split.h"
+#include "model/ControlClasses.h"
+#include "model/Enums.h"
+#include "platform/Files.h"
+#include "qt/QtText.h"
+#include "storage/CIni.h"
+#include "storage/CodePage.h"
+
+namespace cardwright::desktop {
+namespace {
+
+constexpr qsizetype kLongestValue = 8191;  // what a value reads back as at most
+
+/// What the project's own lines tell, byte by byte.
+class LineFaults {
+ public:
+  LineFaults(std::vector<Fault>& faults, const Text& file) : m_Faults(faults) {
+    const std::string bytes = ReadFile(ToPath(file)).value_or(std::string());
+    for (std::size_t at = 0; at < bytes.size() && !m_InScript;) {
+      const std::size_t end = std::min(bytes.find_first_of("\r\n", at), bytes.size());
+      Look(QByteArrayView(bytes)
+               .sliced(static_cast<qsizetype>(at), static_cast<qsizetype>(end - at))
+               .trimmed());
+      at = end + (std::string_view(bytes).substr(end).starts_with("\r\n") ? 2 : 1);
+    }
+  }
+
+ private:
+  void Look(QByteArrayView line) {
+    ++m_Number;
+    if (line.isEmpty() || line.startsWith(';')) return;
+    if (line.startsWith('[') && line.endsWith(']')) {
+      m_Section = Decode(line.sliced(1, line.size() - 2));
+      m_InScript = line.compare("[SCRIPT]", Qt::CaseInsensitive) == 0;
+      return;
+    }
+    const qsizetype equals = line.indexOf('=');
+    if (equals < 0)
+      return Add(QStringLiteral("line %1 is no entry; of a text with several lines only the first is read")
+                     .arg(m_Number));
+    const QString key = Decode(line.first(equals).trimmed());
+    const QByteArrayView value = line.sliced(equals + 1).trimmed();
+    if (value.size() > kLongestValue)
+      Add(QStringLiteral("the value of %1 is cut to %2 characters").arg(key).arg(kLongestValue));
+    LookAtCharacters(key, value);
+  }
+
+  // A project in UTF-8 is what editors of today leave behind; the form would show each accent as two
+  // characters.
+  void LookAtCharacters(const QString& key, QByteArrayView value) {
+    const bool isPlain =
+        std::all_of(value.begin(), value.end(), [](char c) { return static_cast<signed char>(c) >= 0; });
+    if (isPlain) return;
+    QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
+    const QString asUtf8 = decoder(value);
+    if (!decoder.hasError())
+      return Add(QStringLiteral("the value of %1 is UTF-8 text and shows as \"%2\"").arg(key, Decode(value)));
+    for (const QChar c : Decode(value)) {
+      if (c.category() != QChar::Other_Control) continue;
+      return Add(QStringLiteral("the value of %1 has a character that the code page lacks").arg(key));
+    }
+  }
+
+  void Add(const QString& text) { m_Faults.push_back({m_Section, text}); }
+  static QString Decode(QByteArrayView bytes) {
+    return qt::ToQString(CodePage::Current().Decode({bytes.data(), static_cast<std::size_t>(bytes.size())}));
+  }
+
+  std::vector<Fault>& m_Faults;
+  QString m_Section;
+  int m_Number = 0;
+  bool m_InScript = false;
+};
+
+/// What the sections tell together.
+class SectionFaults {
+ public:
+  SectionFaults(std::vector<Fault>& faults, const Text& file, EmbeddedHost* data)
+      : m_Faults(faults), m_Data(data) {
+    m_Ini.SetFileName(file);
+    LookAtForm();
+    LookAtControls();
+  }
+
+ private:
+  QString Value(std::u16string_view key) const { return qt::ToQString(m_Ini.GetText(m_Section, key)); }
+  void Add(const QString& text) { m_Faults.push_back({qt::ToQString(m_Section), text}); }
+
+  void LookAtForm() {
+    m_Section = u"FORM";
+    if (!m_Ini.Find(m_Section, u"ControlsNumber"))
+      Add(QStringLiteral("there is no ControlsNumber: the form has no controls"));
+    LookAtNumbers();
+    m_Theme = m_Ini.GetText(m_Section, u"ThemeName");
+    if (!m_Data || m_Theme.IsEmpty()) return;
+    if (Val(m_Data->Request(Text(u"THEME_NUMBER |") + m_Theme + u"|")) > 0) {
+      LoadAttributeNames();
+    } else {
+      Add(QStringLiteral("the data has no theme %1").arg(qt::ToQString(m_Theme)));
+    }
+  }
+
+  void LoadAttributeNames() {
+    const auto type = static_cast<FeatureTypeEnum>(Val(m_Ini.GetText(m_Section, u"FeatureType", u"-1")));
+    const Text names =
+        m_Data->Request(Text(u"THEME_ATTRIBUTE_NAMES |") + m_Theme + u"| |" + FeatureTypeText(type) + u"|");
+    for (const Text& name : Split(names, u',')) m_Attributes.insert(qt::ToQString(name).toLower());
+    m_KnowsAttributes = !m_Attributes.isEmpty();
+    if (!m_KnowsAttributes)
+      Add(QStringLiteral("the theme %1 has no features of the form's feature type")
+              .arg(qt::ToQString(m_Theme)));
+  }
+
+  // A size or place that cannot be read leaves a control where nobody sees it.
+  void LookAtNumbers() {
+    for (const char16_t* key : {u"Left", u"Top", u"ItemsNumber"}) LookAtNumber(key, false);
+    for (const char16_t* key : {u"Width", u"Height", u"FontSize"}) LookAtNumber(key, true);
+  }
+
+  void LookAtNumber(const char16_t* key, bool isSize) {
+    const QString value = Value(key).trimmed();
+    if (value.isEmpty()) return;
+    bool isNumber = false;
+    const double number = QString(value).replace(u',', u'.').toDouble(&isNumber);
+    if (!isNumber || (isSize && number <= 0))
+      Add(QStringLiteral("the value of %1 is no %2: %3")
+              .arg(QStringView(key), isSize ? QStringLiteral("size") : QStringLiteral("number"), value));
+  }
+
+  void LookAtControls() {
+    const double count = Val(m_Ini.GetText(m_Section, u"ControlsNumber"));
+    if (count > INT16_MAX)
+      return Add(QStringLiteral("ControlsNumber is more than %1: the form has no controls").arg(INT16_MAX));
+    for (int i = 1; i <= count; ++i) LookAtControl(i);
+  }
+
+  void LookAtControl(int number) {
+    m_Section = Text(u"CONTROLS_") + ToText(Variant(std::int32_t{number}));
+    const QString type = Value(u"Type");
+    if (type.isEmpty())
+      return Add(QStringLiteral("the section is missing or has no Type: there is no such control"));
+    if (!FindControlClass(WidgetIdentifier(qt::ViewOf(type))))
+      return Add(QStringLiteral("unknown type %1: the control is left out").arg(type));
+    LookAtNames(number);
+    LookAtNumbers();
+    const QString attribute = Value(u"Attribute");
+    if (m_KnowsAttributes && !attribute.isEmpty() && !m_Attributes.contains(attribute.toLower()))
+      Add(QStringLiteral("the theme %1 has no attribute %2").arg(qt::ToQString(m_Theme), attribute));
+  }
+
+  void LookAtNames(int number) {
+    QString name = Value(u"Name");
+    if (name.isEmpty()) name = QStringLiteral("object_%1").arg(number + 1);
+    QString userName = Value(u"UserName");
+    if (userName.isEmpty()) userName = name;
+    const QString container = Value(u"Container");
+    if (!container.isEmpty() && !m_Names.contains(container.toLower()))
+      Add(QStringLiteral("the container %1 does not exist or comes later: the control is left out")
+              .arg(container));
+    if (m_Names.contains(name.toLower()))
+      Add(QStringLiteral("the name %1 is taken: the control is left out").arg(name));
+    if (m_UserNames.contains(userName.toLower()) || userName.compare(u"Form", Qt::CaseInsensitive) == 0)
+      Add(QStringLiteral("the user name %1 is taken: the control is not part of the form").arg(userName));
+    if (userName.contains(u'='))
+      Add(QStringLiteral("the user name %1 has a \"=\": its stacking is lost").arg(userName));
+    m_Names.insert(name.toLower());
+    m_UserNames.insert(userName.toLower());
+  }
+
+  std::vector<Fault>& m_Faults;
+  EmbeddedHost* m_Data;
+  CIni m_Ini;
+  Text m_Section;
+  Text m_Theme;
+  QSet<QString> m_Attributes, m_Names, m_UserNames;
+  bool m_KnowsAttributes = false;
+};
+
+}  // namespace
+
+std::vector<Fault> FindFaults(const QString& file, EmbeddedHost* data) {
+  std::vector<Fault> faults;
+  const Text path = qt::FromQString(file);
+  LineFaults(faults, path);
+  SectionFaults(faults, path, data);
+  return faults;
+}
+
+}  // namespace cardwright::desktop

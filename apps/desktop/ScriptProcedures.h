@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QString>
+#include <vector>
+
+namespace cardwright::desktop {
+
+/// A procedure that a form's script defines.
+struct ScriptProcedure {
+  QString name;
+  int line = 0;  ///< from 1, in the script
+};
+
+/// The procedures of a script in VBScript or JScript, by their headers, in order.
+std::vector<ScriptProcedure> ProceduresOf(const QString& script, const QString& language);
+
+}  // namespace cardwright::desktop

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "cardwright/DesktopModule.h"
+#include "desktop/Session.h"
+
+namespace cardwright::desktop {
+
+/// The toolkit and the library as a script holds them once it has asked for one of their classes. Without a
+/// display the windows are drawn where nobody sees them.
+class ScriptWindows final : public ScriptDesktop {
+ public:
+  /// Error 5 with a description where a display is required and there is none.
+  ScriptWindows(app::ScriptDisplay display, ClassRegistry& classes);
+
+  void Serve(std::chrono::milliseconds time) override;
+  bool HasDisplay() const override;
+
+ private:
+  Session m_Session;
+};
+
+}  // namespace cardwright::desktop

@@ -1,0 +1,2 @@
+// Starts and ends: what every other program here costs before its own work.
+console.log("0");

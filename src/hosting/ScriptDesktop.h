@@ -1,0 +1,27 @@
+#pragma once
+
+#include <chrono>
+#include <memory>
+
+#include "hosting/ClassRegistry.h"
+
+namespace cardwright {
+
+/// What a script run asks of the toolkit, once a class that needs it was asked for.
+class ScriptDesktop {
+ public:
+  virtual ~ScriptDesktop() = default;
+  /// Serves the events of windows for that time.
+  virtual void Serve(std::chrono::milliseconds time) = 0;
+  /// Whether a person sees the windows.
+  virtual bool HasDisplay() const = 0;
+};
+
+/// What surrounds a script run and outlives it.
+struct ScriptSurroundings {
+  ClassRegistry classes;
+  std::unique_ptr<ScriptDesktop> desktop;  ///< null until a class has needed it
+  Text program;                            ///< path of the program that runs the script
+};
+
+}  // namespace cardwright

@@ -1,0 +1,141 @@
+#include "hosting/ScriptRun.h"
+
+#include <algorithm>
+#include <thread>
+
+#include "hosting/ErrorLine.h"
+#include "hosting/MessageBoxes.h"
+#include "hosting/StatementLog.h"
+#include "hosting/WScript.h"
+#include "shared/ModuleState.h"
+#include "vbscript/Engine.h"
+
+namespace cardwright {
+namespace {
+
+constexpr int kErrorMet = 1, kInterrupted = 130;
+constexpr int kNoSuchServer = 462, kNoSuchFileOrClass = 432;
+// As long as Ctrl+C may have to wait.
+constexpr std::chrono::milliseconds kSlice{50};
+
+}  // namespace
+
+ScriptRun::ScriptRun(const ScriptJob& job, ScriptSurroundings& surroundings, const StandardStreams& streams)
+    : m_Job(job),
+      m_Surroundings(surroundings),
+      m_Streams(streams),
+      m_Events([this](std::u16string_view procedure, Args args) { CallEvent(procedure, args); }),
+      m_Engine(vbscript::MakeEngine(*this)) {
+  m_Signal.emplace(*m_Engine);
+  m_Engine->SetTimeout(-1);
+  m_Engine->AddObject(u"WScript", MakeRef<WScript>(*this), false);
+}
+
+ScriptRun::~ScriptRun() { m_Signal.reset(); }
+
+int ScriptRun::Run(const Text& source) {
+  StatementLog log(m_Job.file, source, m_Streams, m_Job.traces, m_Job.profiles);
+  if (m_Job.traces || m_Job.profiles) m_Engine->SetObserver(&log);
+  try {
+    m_Engine->AddCode({}, source);
+  } catch (const Error& error) {
+    if (!IsStopping()) m_Failure = FailureOf(error);
+  }
+  m_Engine->SetObserver(nullptr);
+  m_Events.Clear();
+  m_IsOver = true;
+  log.TellTimes();
+  return Status();
+}
+
+int ScriptRun::Status() const {
+  if (m_Quit) return *m_Quit;
+  if (m_Failure) {
+    m_Streams.Tell(ErrorLine(m_Job.file, *m_Failure));
+    return kErrorMet;
+  }
+  if (!InterruptSignal::WasRaised()) return 0;
+  m_Streams.Tell(m_Job.file + u": interrupted");
+  return kInterrupted;
+}
+
+bool ScriptRun::IsStopping() const noexcept {
+  return m_IsOver || m_Quit || m_Failure || InterruptSignal::WasRaised();
+}
+
+ScriptError ScriptRun::FailureOf(const Error& error) const {
+  ScriptError failure = m_Engine->LastError();
+  if (failure.number != 0) return failure;
+  failure.number = error.Number();
+  failure.description = error.Description();
+  failure.source = error.Source();
+  return failure;
+}
+
+void ScriptRun::Quit(int status) {
+  if (m_IsOver) return;
+  m_Quit = status;
+  m_Engine->Interrupt();
+}
+
+void ScriptRun::Sleep(std::chrono::milliseconds time) {
+  Attempt([&] { m_Streams.out->Flush(); });
+  const auto end = std::chrono::steady_clock::now() + time;
+  do {
+    const auto left = std::chrono::ceil<std::chrono::milliseconds>(end - std::chrono::steady_clock::now());
+    const auto slice = std::clamp(left, std::chrono::milliseconds(0), kSlice);
+    if (m_Surroundings.desktop) {
+      m_Surroundings.desktop->Serve(slice);
+    } else {
+      std::this_thread::sleep_for(slice);
+    }
+  } while (!IsStopping() && std::chrono::steady_clock::now() < end);
+}
+
+// An error in an event procedure must not reach the object that raised the event, which could swallow it, and
+// which the toolkit may have called. It ends the run instead.
+void ScriptRun::CallEvent(std::u16string_view procedure, Args args) {
+  if (IsStopping() || !Defines(procedure)) return;
+  try {
+    m_Engine->Run({}, procedure, args);
+  } catch (const Error& error) {
+    if (!IsStopping()) m_Failure = FailureOf(error);
+  }
+  if (IsStopping()) m_Engine->Interrupt();
+}
+
+bool ScriptRun::Defines(std::u16string_view procedure) const {
+  const std::vector<ScriptProcedure> procedures = m_Engine->Procedures({});
+  return std::ranges::any_of(
+      procedures, [&](const ScriptProcedure& known) { return EqualsNoCase(known.name, procedure); });
+}
+
+Ref<Object> ScriptRun::CreateObject(std::u16string_view progid, std::u16string_view server) {
+  if (!server.empty()) Raise(kNoSuchServer);
+  return Create(progid);
+}
+
+Ref<Object> ScriptRun::GetObject(std::u16string_view path, std::u16string_view) {
+  // No class keeps a running object or makes one of a file.
+  if (!path.empty()) Raise(kNoSuchFileOrClass);
+  Raise(ErrorNumber::CannotCreateObject);
+}
+
+bool ScriptRun::ShowsBoxes() const {
+  return m_Surroundings.desktop && m_Surroundings.desktop->HasDisplay() && Module().desktop;
+}
+
+int ScriptRun::ShowMessage(const Text& text, int style, const Text& title) {
+  if (ShowsBoxes()) return Module().desktop->ShowMessage(text, style, title);
+  m_Streams.out->WriteLine(text);
+  return DefaultButton(style);
+}
+
+Variant ScriptRun::AskText(const Text& prompt, const Text& title, const Text& initial, const Variant& x,
+                           const Variant& y) {
+  if (ShowsBoxes()) return Module().desktop->AskText(prompt, title, initial, x, y);
+  m_Streams.out->WriteLine(prompt);
+  return initial;
+}
+
+}  // namespace cardwright

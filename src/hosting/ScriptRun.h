@@ -1,0 +1,65 @@
+#pragma once
+
+#include <memory>
+#include <optional>
+
+#include "automation/Errors.h"
+#include "hosting/EventSinks.h"
+#include "hosting/InterruptSignal.h"
+#include "hosting/ScriptDesktop.h"
+#include "hosting/ScriptJob.h"
+#include "hosting/StandardStreams.h"
+#include "platform/ScriptEngine.h"
+
+namespace cardwright {
+
+/// One run of a script with all that belongs to it. What stops it stops it for good: nothing in the script
+/// can catch WScript.Quit, Ctrl+C or the failure of an event procedure.
+class ScriptRun final : public ScriptHost {
+ public:
+  ScriptRun(const ScriptJob& job, ScriptSurroundings& surroundings, const StandardStreams& streams);
+  ~ScriptRun() override;
+
+  /// Runs the source; gives the exit status.
+  int Run(const Text& source);
+
+  /// @name What the object WScript does
+  /// @{
+  const ScriptJob& Job() const noexcept { return m_Job; }
+  const Text& Program() const noexcept { return m_Surroundings.program; }
+  const StandardStreams& Streams() const noexcept { return m_Streams; }
+  EventSinks& Events() noexcept { return m_Events; }
+  Ref<Object> Create(std::u16string_view progid) { return m_Surroundings.classes.Create(progid); }
+  /// Waits and serves events meanwhile; a stop ends it.
+  void Sleep(std::chrono::milliseconds time);
+  void Quit(int status);
+  /// @}
+
+  Ref<Object> CreateObject(std::u16string_view progid, std::u16string_view server) override;
+  Ref<Object> GetObject(std::u16string_view path, std::u16string_view progid) override;
+  int ShowMessage(const Text& text, int style, const Text& title) override;
+  Variant AskText(const Text& prompt, const Text& title, const Text& initial, const Variant& x,
+                  const Variant& y) override;
+
+ private:
+  bool IsStopping() const noexcept;
+  int Status() const;
+  void CallEvent(std::u16string_view procedure, Args args);
+  bool Defines(std::u16string_view procedure) const;
+  ScriptError FailureOf(const Error& error) const;
+  /// Whether a message can be shown to a person in a window.
+  bool ShowsBoxes() const;
+
+  const ScriptJob& m_Job;
+  ScriptSurroundings& m_Surroundings;
+  const StandardStreams& m_Streams;
+  EventSinks m_Events;
+  std::optional<InterruptSignal> m_Signal;
+  std::optional<int> m_Quit;
+  std::optional<ScriptError> m_Failure;
+  bool m_IsOver = false;  // only what objects do at their own end may still run
+  // Goes first, as objects of the script may use all the others at their end.
+  const std::unique_ptr<ScriptEngine> m_Engine;
+};
+
+}  // namespace cardwright

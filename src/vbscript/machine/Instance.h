@@ -1,0 +1,56 @@
+#pragma once
+
+#include <memory>
+
+#include "automation/Object.h"
+#include "vbscript/machine/ClassInfo.h"
+
+namespace cardwright::vbscript {
+
+class Machine;
+
+/// Link from what a script made to its machine, which may go first.
+struct MachineLink : RefCounted {
+  Machine* machine = nullptr;
+};
+
+/// An object of a script's class. The machine works on it directly; everybody else calls it by name.
+class Instance final : public Object {
+ public:
+  Instance(Ref<ClassInfo> cls, Ref<MachineLink> link);
+  ~Instance() override;
+
+  static constexpr char kFamily = 0;
+  static Instance* From(Object* object) noexcept {
+    return object && object->Family() == &kFamily ? static_cast<Instance*>(object) : nullptr;
+  }
+
+  const ClassInfo& Class() const noexcept { return *m_Class; }
+  Variant& Field(std::size_t index) noexcept { return m_Fields[index]; }
+  /// Runs Class_Terminate once; its errors go nowhere, as nobody is left to hear them.
+  void Terminate() noexcept;
+  /// Lets go of everything that the object holds.
+  void ClearFields() noexcept;
+
+  Text TypeName() const override { return m_Class->spelling; }
+  MemberId FindMember(std::u16string_view name) const override;
+  MemberId DefaultMember() const override { return m_Class->defaultMember; }
+  Variant Invoke(MemberId member, CallKind kind, Args args) override;
+  std::vector<Text> MemberNames() const override;
+  const void* Shape() const override { return m_Class.get(); }
+
+ protected:
+  void OnLastRelease() const noexcept override;
+
+ private:
+  friend class Machine;
+  Ref<ClassInfo> m_Class;
+  Ref<MachineLink> m_Link;
+  std::unique_ptr<Variant[]> m_Fields;
+  bool m_Terminated = false;
+  // All instances of a machine in a ring, so that cycles end with it.
+  Instance* m_Previous = nullptr;
+  Instance* m_Next = nullptr;
+};
+
+}  // namespace cardwright::vbscript

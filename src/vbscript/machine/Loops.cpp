@@ -1,0 +1,55 @@
+#include "vbscript/machine/Loops.h"
+
+#include "automation/Conversions.h"
+#include "automation/Errors.h"
+#include "automation/Object.h"
+#include "vbscript/operators/Operators.h"
+
+namespace cardwright::vbscript {
+
+namespace {
+
+constexpr int kLoopNotPrepared = 92;
+
+Variant Number(const Variant& value) {
+  const Variant& held = value.Deref();
+  switch (held.Type()) {
+    case VarType::Object: return Number(DefaultValue(held));
+    case VarType::String: return Variant(ToDouble(held));
+    case VarType::Empty: return Variant(std::int16_t{0});
+    case VarType::Boolean: return Variant(ToInteger(held));
+    case VarType::Null: Raise(ErrorNumber::InvalidUseOfNull);
+    case VarType::Array:
+    case VarType::Error: Raise(ErrorNumber::TypeMismatch);
+    default: return held;
+  }
+}
+
+bool IsDone(const Variant& variable, const Variant& limit, const Variant& step) {
+  const bool goesDown = Compare(step, Variant(std::int16_t{0})) == Ordering::Less;
+  return Compare(variable, limit) == (goesDown ? Ordering::Less : Ordering::Greater);
+}
+
+}  // namespace
+
+bool PrepareFor(Variant& variable, Variant* bounds) {
+  Variant first = Number(bounds[0]);
+  Variant limit = Number(bounds[1]);
+  Variant step = Number(bounds[2]);
+  const bool runs = !IsDone(first, limit, step);
+  bounds[0].Reset();
+  bounds[1] = std::move(limit);
+  bounds[2] = std::move(step);
+  variable.Deref() = std::move(first);
+  return runs;
+}
+
+bool AdvanceFor(Variant& variable, const Variant& limit, const Variant& step) {
+  if (limit.IsEmpty()) Raise(kLoopNotPrepared);
+  Variant next = Add(Number(variable), step);
+  const bool runs = !IsDone(next, limit, step);
+  variable.Deref() = std::move(next);
+  return runs;
+}
+
+}  // namespace cardwright::vbscript

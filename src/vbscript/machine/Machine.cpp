@@ -1,0 +1,172 @@
+#include "vbscript/machine/Machine.h"
+
+#include "vbscript/compile/Compiler.h"
+#include "vbscript/machine/FunctionReference.h"
+#include "vbscript/syntax/Parser.h"
+
+namespace cardwright::vbscript {
+
+namespace {
+
+constexpr std::u16string_view kErrName = u"Err";
+
+// The names that a compiled text defines become the module's.
+void Define(const CompiledBlock& block, Machine& machine, Module& module, Variant* variables) {
+  for (const auto& [name, defined] : block.names) {
+    Symbol& symbol = module.Add(name);
+    if (defined.kind == SymbolKind::Variable) {
+      symbol.kind = SymbolKind::Variable;
+      symbol.variable = variables + defined.variable;
+    } else if (defined.kind == SymbolKind::Constant) {
+      symbol.kind = SymbolKind::Constant;
+      symbol.value = *defined.constant;
+    }
+  }
+  for (const Ref<Procedure>& procedure : block.procedures) module.Define(procedure->name, procedure);
+  for (const Ref<ClassInfo>& cls : block.classes) {
+    Symbol& symbol = module.Add(cls->name);
+    symbol.kind = SymbolKind::Class;
+    symbol.cls = cls;
+  }
+  machine.NamesChanged();
+}
+
+}  // namespace
+
+Machine::Machine(ScriptHost& host, const Limits& limits)
+    : Context(host), m_Limits(limits), m_Surroundings({}, nullptr), m_Err(MakeRef<ErrObject>()) {
+  maxTextUnits = limits.textUnits;
+  m_Link = MakeRef<MachineLink>();
+  m_Link->machine = this;
+  m_Modules.push_back(std::make_unique<Module>(Text(), nullptr));
+  Symbol& err = m_Surroundings.Add(names.Add(kErrName));
+  err.kind = SymbolKind::HostObject;
+  err.value = m_Err;
+}
+
+// Objects that hold each other are still there when all names are cleared; they end here too.
+Machine::~Machine() {
+  {
+    const Entry entry(*this);
+    for (const auto& module : m_Modules) module->Clear();
+    while (m_Instances) {
+      const Ref<Instance> instance(m_Instances);
+      instance->Terminate();
+      instance->ClearFields();
+      // One that something outside holds stays, without its machine.
+      if (m_Instances == instance.get()) Forget(*instance);
+    }
+  }
+  m_Link->machine = nullptr;
+}
+
+Module* Machine::FindModule(std::u16string_view name) const noexcept {
+  for (const auto& module : m_Modules)
+    if (EqualsNoCase(module->Name(), name)) return module.get();
+  return nullptr;
+}
+
+Module& Machine::AddModule(std::u16string_view name) {
+  if (FindModule(name)) Raise(ErrorNumber::InvalidCall);
+  return *m_Modules.emplace_back(std::make_unique<Module>(Text(name), &Global()));
+}
+
+void Machine::AddObject(std::u16string_view name, Ref<Object> object, bool addMembers) {
+  if (!object || name.empty()) Raise(ErrorNumber::InvalidCall);
+  const NameId id = names.Add(name);
+  if (m_Surroundings.Find(id)) Raise(ErrorNumber::InvalidCall);
+  Symbol& symbol = m_Surroundings.Add(id);
+  symbol.kind = SymbolKind::HostObject;
+  symbol.value = object;
+  if (addMembers) m_MemberObjects.push_back(std::move(object));
+  NamesChanged();
+}
+
+void Machine::AddCode(Module& module, std::u16string_view source) {
+  const auto tree = Parse(Text(source));
+  const CompiledBlock block = CompileBlock(*tree, *this, module);
+  Variant* const variables = module.AddVariables(block.code->registers);
+  Define(block, *this, module, variables);
+  RunOutermost(*block.code, variables);
+}
+
+Variant Machine::Evaluate(Module& module, std::u16string_view expression) {
+  const auto tree = ParseExpression(Text(expression));
+  CompiledBlock block;
+  const auto outer = MakeRef<Procedure>();
+  outer->module = &module;
+  return Enter(*CompileInScope(*tree, *this, *outer, nullptr, block).code, nullptr, {});
+}
+
+Variant Machine::Call(const Procedure& procedure, Instance* me, Args args) {
+  const Entry entry(*this);
+  return Enter(procedure, me, args);
+}
+
+Variant Machine::RunInScope(const SyntaxTree& tree) {
+  const Procedure& outer = *Current().procedure;
+  const std::size_t depth = m_Depth - 1;
+  CompiledBlock block;
+  const CompiledInScope compiled = CompileInScope(tree, *this, outer, Current().scope, block);
+  Define(block, *this, *outer.module, nullptr);
+  std::vector<Variant> variables;
+  for (const NameId name : compiled.variables) variables.push_back(ReferenceInScope(m_Frames[depth], name));
+  return Enter(*compiled.code, m_Frames[depth].me, variables);
+}
+
+Variant Machine::ReferenceInScope(Frame& frame, NameId name) {
+  for (const auto& [local, r] : frame.procedure->locals)
+    if (local == name) return Variant::ByRef(frame.registers[r]);
+  if (!frame.scope) frame.scope = new ScopeVariables;
+  return Variant::ByRef((*frame.scope)[name]);
+}
+
+void Machine::ExecuteInScope(const Text& source) {
+  if (Current().procedure->isOutermost) {
+    AddCode(*Current().procedure->module, source);
+  } else {
+    RunInScope(*Parse(source));
+  }
+}
+
+void Machine::ExecuteInModule(const Text& source) { AddCode(*Current().procedure->module, source); }
+
+Variant Machine::EvaluateInScope(const Text& expression) { return RunInScope(*ParseExpression(expression)); }
+
+Variant Machine::GetReference(const Text& procedure) {
+  const Symbol* symbol = Current().procedure->module->FindBound(names.Add(procedure));
+  if (!symbol || symbol->kind != SymbolKind::Procedure) Raise(ErrorNumber::InvalidCall);
+  return Variant(MakeRef<FunctionReference>(symbol->procedure, m_Link));
+}
+
+Ref<Instance> Machine::MakeInstance(ClassInfo& cls) {
+  auto instance = MakeRef<Instance>(Ref<ClassInfo>(&cls), m_Link);
+  instance->m_Next = m_Instances;
+  if (m_Instances) m_Instances->m_Previous = instance.get();
+  m_Instances = instance.get();
+  return instance;
+}
+
+void Machine::Forget(Instance& instance) noexcept {
+  if (instance.m_Previous) instance.m_Previous->m_Next = instance.m_Next;
+  if (instance.m_Next) instance.m_Next->m_Previous = instance.m_Previous;
+  if (m_Instances == &instance) m_Instances = instance.m_Next;
+  instance.m_Previous = instance.m_Next = nullptr;
+}
+
+Machine::Entry::Entry(Machine& machine)
+    : m_Machine(machine), m_Outer(Locale::Current()), m_Memory(machine.m_Limits.memoryBytes) {
+  Locale::SetCurrent(*machine.locale);
+  if (machine.m_Entries++ != 0) return;
+  machine.m_Deadline = machine.m_Timeout < 0
+                           ? std::chrono::steady_clock::time_point::max()
+                           : std::chrono::steady_clock::now() + std::chrono::milliseconds(machine.m_Timeout);
+}
+
+Machine::Entry::~Entry() {
+  Locale::SetCurrent(m_Outer);
+  // The order to stop is for what was running; what comes next is another call.
+  if (--m_Machine.m_Entries == 0) m_Machine.m_Stop.store(false, std::memory_order_relaxed);
+}
+
+}  // namespace cardwright::vbscript

@@ -1,0 +1,18 @@
+#include "vbscript/machine/Names.h"
+
+namespace cardwright::vbscript {
+
+NameId Names::Add(std::u16string_view name) {
+  const auto found = m_Ids.find(name);
+  if (found != m_Ids.end()) return found->second;
+  const auto id = static_cast<NameId>(m_Spellings.size());
+  m_Ids.emplace(m_Spellings.emplace_back(name).View(), id);
+  return id;
+}
+
+NameId Names::Find(std::u16string_view name) const noexcept {
+  const auto found = m_Ids.find(name);
+  return found == m_Ids.end() ? kNoName : found->second;
+}
+
+}  // namespace cardwright::vbscript

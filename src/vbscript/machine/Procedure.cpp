@@ -1,0 +1,13 @@
+#include "vbscript/machine/Procedure.h"
+
+#include <algorithm>
+
+namespace cardwright::vbscript {
+
+const StatementMark* Procedure::MarkAt(std::size_t instruction) const noexcept {
+  const auto after = std::upper_bound(marks.begin(), marks.end(), instruction,
+                                      [](std::size_t at, const StatementMark& mark) { return at < mark.start; });
+  return after == marks.begin() ? nullptr : &*std::prev(after);
+}
+
+}  // namespace cardwright::vbscript

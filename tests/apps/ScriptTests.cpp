@@ -1,0 +1,200 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <csignal>
+#include <thread>
+
+#include "Program.h"
+
+namespace cardwright::testing {
+namespace {
+
+using ::testing::ContainsRegex;
+using ::testing::HasSubstr;
+
+class ScriptTest : public ::testing::Test {
+ protected:
+  /// Runs a script of this text, in the folder where it lies, as a.vbs.
+  Outcome Run(const std::string& script, std::vector<std::string> options = {}, const std::string& input = {},
+              const std::vector<std::string>& arguments = {}) {
+    m_Folder.Write("a.vbs", script);
+    options.insert(options.begin(), "script");
+    options.emplace_back("a.vbs");
+    options.insert(options.end(), arguments.begin(), arguments.end());
+    return RunProgram(CARDWRIGHT_PROGRAM, options, input, m_Folder.File(""));
+  }
+
+  TempFolder m_Folder;
+};
+
+TEST_F(ScriptTest, EchoesValuesWithBlanksBetween) {
+  const Outcome outcome = Run("WScript.Echo 1, \"è\", True\nWScript.Echo");
+  EXPECT_EQ(outcome.out, "1 è True\n\n");
+  EXPECT_EQ(outcome.err, "");
+  EXPECT_EQ(outcome.status, 0);
+}
+
+TEST_F(ScriptTest, WritesToBothStreams) {
+  const Outcome outcome =
+      Run("WScript.StdOut.Write \"a\"\nWScript.StdOut.WriteLine \"b\"\nWScript.StdErr.WriteLine \"c\"");
+  EXPECT_EQ(outcome.out, "ab\n");
+  EXPECT_EQ(outcome.err, "c\n");
+}
+
+TEST_F(ScriptTest, ReadsStandardInput) {
+  const Outcome outcome =
+      Run("While Not WScript.StdIn.AtEndOfStream\nWScript.Echo \"[\" & WScript.StdIn.ReadLine & \"]\"\nWend",
+          {}, "one\nzwölf\nlast");
+  EXPECT_EQ(outcome.out, "[one]\n[zwölf]\n[last]\n");
+}
+
+TEST_F(ScriptTest, HandsOverItsArgumentsAsTheyAre) {
+  const Outcome outcome =
+      Run("WScript.Echo WScript.Arguments.Count, WScript.Arguments(1), WScript.Arguments.Item(0)\n"
+          "For Each word In WScript.Arguments\nWScript.Echo word\nNext\nWScript.Echo WScript.Arguments(3)",
+          {}, {}, {"--trace", "two words", "-h"});
+  EXPECT_EQ(outcome.out, "3 two words --trace\n--trace\ntwo words\n-h\n");
+  EXPECT_EQ(outcome.status, 1);
+  EXPECT_THAT(outcome.err, HasSubstr("Subscript out of range"));
+}
+
+TEST_F(ScriptTest, KnowsWhereItLies) {
+  const Outcome outcome = Run("WScript.Echo WScript.ScriptName\nWScript.Echo WScript.ScriptFullName");
+  EXPECT_EQ(outcome.out, "a.vbs\n" + std::filesystem::canonical(m_Folder.File("a.vbs")).string() + "\n");
+}
+
+TEST_F(ScriptTest, EndsWithStatus1AndALineForAnErrorThatItDoesNotCatch) {
+  const Outcome outcome = Run("WScript.Echo 1\n  x = 1 / 0\nWScript.Echo 2");
+  EXPECT_EQ(outcome.status, 1);
+  EXPECT_EQ(outcome.out, "1\n");
+  EXPECT_EQ(outcome.err, "a.vbs(2, 3) VBScript runtime error: Division by zero\n");
+}
+
+TEST_F(ScriptTest, TellsTheSourceThatAScriptGaveItsError) {
+  const Outcome outcome = Run("Err.Raise vbObjectError + 7, \"Wells\", \"too deep\"");
+  EXPECT_EQ(outcome.status, 1);
+  EXPECT_EQ(outcome.err, "a.vbs(1, 1) Wells: too deep\n");
+}
+
+TEST_F(ScriptTest, TellsACompilationError) {
+  for (const std::vector<std::string>& options : {std::vector<std::string>{}, {"--check"}}) {
+    const Outcome outcome = Run("WScript.Echo 1\nx = (1", options);
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_EQ(outcome.out, "");
+    EXPECT_EQ(outcome.err, "a.vbs(2, 7) VBScript compilation error: Expected ')'\n");
+  }
+}
+
+TEST_F(ScriptTest, IsOnlyCompiledWhereThatIsAskedFor) {
+  const Outcome outcome = Run("WScript.Echo 1", {"--check"});
+  EXPECT_EQ(outcome.status, 0);
+  EXPECT_EQ(outcome.out, "");
+}
+
+TEST_F(ScriptTest, QuitsAtOnceEvenWhereErrorsAreCaught) {
+  const Outcome outcome =
+      Run("Sub Leave\nOn Error Resume Next\nWScript.Echo 1\nWScript.Quit 7\nWScript.Echo 2\nEnd Sub\n"
+          "On Error Resume Next\nLeave\nWScript.Echo 3");
+  EXPECT_EQ(outcome.status, 7);
+  EXPECT_EQ(outcome.out, "1\n");
+  EXPECT_EQ(outcome.err, "");
+  EXPECT_EQ(Run("WScript.Quit").status, 0);
+}
+
+TEST_F(ScriptTest, ReadsItsFileInAnyUsualCoding) {
+  EXPECT_EQ(Run("\xEF\xBB\xBFWScript.Echo \"è\"").out, "è\n");
+  EXPECT_EQ(Run("WScript.Echo \"\xE8\"").out, "è\n");
+  EXPECT_EQ(Run("WScript.Echo \"\xC6\"", {"--codepage", "windows-1251"}).out, "Ж\n");
+}
+
+TEST_F(ScriptTest, FollowsTheLocaleThatIsAskedFor) {
+  EXPECT_EQ(Run("WScript.Echo 1.5", {"--locale=it-IT"}).out, "1,5\n");
+}
+
+TEST_F(ScriptTest, MakesObjectsAndRefusesUnknownClasses) {
+  const Outcome outcome = Run(
+      "Set d = CreateObject(\"Scripting.Dictionary\")\nd(\"a\") = 1\nWScript.Echo d.Count\n"
+      "Set f = WScript.CreateObject(\"scripting.filesystemobject\")\nWScript.Echo f.FileExists(\"a.vbs\")\n"
+      "Set x = CreateObject(\"No.Such\")");
+  EXPECT_EQ(outcome.out, "1\nTrue\n");
+  EXPECT_EQ(outcome.err,
+            "a.vbs(6, 1) VBScript runtime error: ActiveX component can't create object: 'No.Such'\n");
+}
+
+TEST_F(ScriptTest, MakesTheClassesOfTheDesktopModule) {
+  const Outcome outcome =
+      Run("Set items = CreateObject(\"Cardwright.CItems\")\nSet item = CreateObject(\"Cardwright.CItem\")\n"
+          "item.m_Text = \"one\"\nitems.Add item\nWScript.Echo items.Count, items(1).m_Text\n"
+          "WScript.Echo TypeName(CreateObject(\"Cardwright.CLabel\")), "
+          "TypeName(CreateObject(\"Cardwright.CForm\"))\n"
+          "WScript.Echo TypeName(CreateObject(\"Cardwright.Vellum\"))\n"
+          "On Error Resume Next\nSet x = CreateObject(\"Cardwright.NoSuch\")\nWScript.Echo "
+          "Err.Number\nWScript.Sleep 1");
+  EXPECT_EQ(outcome.out, "1 one\nCLabel CForm\nVellum\n429\n");
+  EXPECT_EQ(outcome.err, "");
+  EXPECT_EQ(outcome.status, 0);
+}
+
+TEST_F(ScriptTest, AnswersMessageBoxesByTheirDefaultButtonWhereNobodySeesThem) {
+  const Outcome outcome =
+      Run("WScript.Echo MsgBox(\"Sure?\", vbYesNo + vbDefaultButton2)\nWScript.Echo InputBox(\"Name?\", , "
+          "\"me\")");
+  EXPECT_EQ(outcome.out, "Sure?\n7\nName?\nme\n");
+}
+
+TEST_F(ScriptTest, TracesItsStatements) {
+  const Outcome outcome = Run("x = 1\n\n  WScript.Echo x + 1", {"--trace"});
+  EXPECT_EQ(outcome.out, "2\n");
+  EXPECT_EQ(outcome.err, "a.vbs:1: x = 1\na.vbs:3: WScript.Echo x + 1\n");
+}
+
+TEST_F(ScriptTest, TellsTheTimesOfItsLinesTheLongestFirst) {
+  const Outcome outcome = Run("For i = 1 To 3\nx = i\nNext\nWScript.Sleep 30", {"--profile"});
+  EXPECT_THAT(outcome.err, ContainsRegex("count  line  source\n *[0-9.]+ +1 +4  WScript.Sleep 30\n"));
+  EXPECT_THAT(outcome.err, ContainsRegex(" +3 +2  x = i\n"));
+}
+
+TEST_F(ScriptTest, NeedsAFileItCanRead) {
+  EXPECT_EQ(Cardwright({"script"}).status, 2);
+  EXPECT_EQ(Cardwright({"script", "--sideways", "a.vbs"}).status, 2);
+  const Outcome missing = Cardwright({"script", "/no/such/file.vbs"});
+  EXPECT_EQ(missing.status, 2);
+  EXPECT_EQ(missing.err, "/no/such/file.vbs: the file cannot be read\n");
+  EXPECT_EQ(Cardwright({"script", m_Folder.File("")}).status, 2);
+  EXPECT_THAT(Cardwright({"script", m_Folder.Write("a.js", "")}).err, HasSubstr("JScript"));
+  EXPECT_EQ(Cardwright({"script", m_Folder.Write("a.txt", "")}).status, 2);
+}
+
+/// Starts the script a.vbs of the folder with its output in the file "out", and sends it Ctrl+C once it has
+/// shown something.
+int StatusAfterCtrlC(const TempFolder& folder) {
+  const std::string script = folder.File("a.vbs"), out = folder.File("out"), error = folder.File("err");
+  const pid_t child = fork();
+  if (child == 0) {
+    (void)!freopen(out.c_str(), "w", stdout);
+    (void)!freopen(error.c_str(), "w", stderr);
+    execl(CARDWRIGHT_PROGRAM, CARDWRIGHT_PROGRAM, "script", script.c_str(), nullptr);
+    _exit(99);
+  }
+  for (int i = 0; i < 1000 && ReadAll(error).empty(); ++i)
+    std::this_thread::sleep_for(std::chrono::milliseconds(10));
+  kill(child, SIGINT);
+  int status = 0;
+  waitpid(child, &status, 0);
+  return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+}
+
+TEST_F(ScriptTest, StopsOnCtrlCWhateverItDoes) {
+  for (const char* endless : {"Do\nx = x + 1\nLoop", "On Error Resume Next\nDo\nx = 1 / 0\nLoop",
+                              "Do\nWScript.Sleep 100000\nLoop"}) {
+    m_Folder.Write("a.vbs", std::string("WScript.StdErr.WriteLine \"on\"\nWScript.Sleep 0\n") + endless);
+    EXPECT_EQ(StatusAfterCtrlC(m_Folder), 130) << endless;
+    EXPECT_THAT(ReadAll(m_Folder.File("err")), HasSubstr("interrupted"));
+    EXPECT_EQ(ReadAll(m_Folder.File("out")), "");
+  }
+}
+
+}  // namespace
+}  // namespace cardwright::testing

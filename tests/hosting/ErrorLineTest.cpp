@@ -1,0 +1,29 @@
+#include "hosting/ErrorLine.h"
+
+#include <gtest/gtest.h>
+
+namespace cardwright::testing {
+namespace {
+
+TEST(ErrorLine, NamesTheEngineTheScriptsSourceOrTheCompiler) {
+  ScriptError error{.number = 13,
+                    .description = u"Type mismatch: 'x'",
+                    .line = 3,
+                    .column = 0,
+                    .source = u"Microsoft VBScript runtime error"};
+  EXPECT_EQ(ErrorLine(u"a b.vbs", error), u"a b.vbs(3, 1) VBScript runtime error: Type mismatch: 'x'");
+  error.source = u"My.Own";
+  EXPECT_EQ(ErrorLine(u"a.vbs", error), u"a.vbs(3, 1) My.Own: Type mismatch: 'x'");
+  error.isSyntax = true;
+  error.source = u"Microsoft VBScript compilation error";
+  error.column = 7;
+  EXPECT_EQ(ErrorLine(u"a.vbs", error), u"a.vbs(3, 8) VBScript compilation error: Type mismatch: 'x'");
+}
+
+TEST(ErrorLine, StaysOneLine) {
+  const ScriptError error{.number = 1000, .description = u"one\r\ntwo", .line = 1, .source = {}};
+  EXPECT_EQ(ErrorLine(u"a.vbs", error), u"a.vbs(1, 1) VBScript runtime error: one  two");
+}
+
+}  // namespace
+}  // namespace cardwright::testing

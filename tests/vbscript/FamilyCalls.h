@@ -1,0 +1,80 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <string>
+#include <vector>
+
+#include "automation/Conversions.h"
+#include "automation/Errors.h"
+#include "automation/Locale.h"
+#include "vbscript/Context.h"
+#include "vbscript/builtins/Builtin.h"
+
+namespace cardwright::vbscript {
+
+/// Calls one family of the library's functions as a script of one locale would.
+class FamilyCalls {
+ public:
+  explicit FamilyCalls(std::span<const Builtin> family, ScriptHost& host = NoHost())
+      : m_Family(family), m_Before(Locale::Current()), m_Context(host) {
+    SetLocale(u"en-us");
+  }
+  FamilyCalls(const FamilyCalls&) = delete;
+  FamilyCalls& operator=(const FamilyCalls&) = delete;
+  ~FamilyCalls() { Locale::SetCurrent(m_Before); }
+
+  vbscript::Context& Context() noexcept { return m_Context; }
+  void SetLocale(std::u16string_view name) {
+    m_Context.locale = Locale::Find(name);
+    Locale::SetCurrent(*m_Context.locale);
+  }
+
+  Variant Call(std::u16string_view name, std::vector<Variant> args = {}) {
+    const auto found = std::ranges::find(m_Family, name, &Builtin::name);
+    if (found == m_Family.end()) {
+      ADD_FAILURE() << "no function " << Text(name).ToUtf8();
+      return {};
+    }
+    EXPECT_GE(args.size(), found->minArguments) << Text(name).ToUtf8();
+    EXPECT_LE(args.size(), found->maxArguments) << Text(name).ToUtf8();
+    return found->call(m_Context, args);
+  }
+
+  /// Type and text of the answer, as "Integer 12", or "Error 13".
+  std::string Answer(std::u16string_view name, std::vector<Variant> args = {}) {
+    try {
+      const Variant value = Call(name, std::move(args));
+      if (value.IsNull()) return "Null";
+      if (value.IsEmpty()) return "Empty";
+      if (value.IsObject()) return "Object";
+      return std::string(TypeOf(value)) + " " + ToText(value).ToUtf8();
+    } catch (const Error& error) {
+      return "Error " + std::to_string(error.Number());
+    }
+  }
+
+ private:
+  static ScriptHost& NoHost() {
+    static ScriptHost host;
+    return host;
+  }
+  static const char* TypeOf(const Variant& value) {
+    switch (value.Type()) {
+      case VarType::Integer: return "Integer";
+      case VarType::Long: return "Long";
+      case VarType::Single: return "Single";
+      case VarType::Double: return "Double";
+      case VarType::Date: return "Date";
+      case VarType::String: return "String";
+      default: return "Other";
+    }
+  }
+
+  std::span<const Builtin> m_Family;
+  const Locale& m_Before;
+  vbscript::Context m_Context;
+};
+
+}  // namespace cardwright::vbscript

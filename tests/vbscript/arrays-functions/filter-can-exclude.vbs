@@ -1,0 +1,2 @@
+' expect: three
+WScript.Echo Join(Filter(Array("one", "two", "three"), "o", False))

@@ -1,0 +1,2 @@
+' expect: one two
+WScript.Echo Join(Filter(Array("one", "two", "three"), "o"))

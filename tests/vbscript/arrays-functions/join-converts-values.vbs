@@ -1,0 +1,2 @@
+' expect: 1|2.5|True|
+WScript.Echo Join(Array(1, 2.5, True, Empty), "|")

@@ -1,0 +1,2 @@
+' expect: .
+WScript.Echo Join(Array()) & "."

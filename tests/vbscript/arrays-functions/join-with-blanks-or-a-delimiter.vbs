@@ -1,0 +1,6 @@
+' expect: a b
+' expect: ab
+' expect: a, b
+WScript.Echo Join(Array("a", "b"))
+WScript.Echo Join(Array("a", "b"), "")
+WScript.Echo Join(Array("a", "b"), ", ")

@@ -1,0 +1,6 @@
+' expect: a|b|c
+' expect: |a|
+' expect: a|b
+WScript.Echo Join(Split("a,b,c", ","), "|")
+WScript.Echo Join(Split(",a,", ","), "|")
+WScript.Echo Join(Split("a--b", "--"), "|")

@@ -1,0 +1,5 @@
+' expect: 9
+Dim a()
+On Error Resume Next
+x = UBound(a)
+WScript.Echo Err.Number

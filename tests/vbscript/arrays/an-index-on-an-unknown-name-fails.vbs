@@ -1,0 +1,2 @@
+y = unknown(0)
+' expect error: 13 at 1:0

@@ -1,0 +1,4 @@
+Dim t()
+ReDim t(1, 1)
+ReDim Preserve t(1)
+' expect error: 9 at 3:0

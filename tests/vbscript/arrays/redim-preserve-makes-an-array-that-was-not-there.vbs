@@ -1,0 +1,4 @@
+Dim a()
+ReDim Preserve a(2)
+WScript.Echo UBound(a)
+' expect: 2

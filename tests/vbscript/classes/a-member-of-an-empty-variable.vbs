@@ -1,0 +1,3 @@
+Dim o
+x = o.Name
+' expect error: 424 at 2:0

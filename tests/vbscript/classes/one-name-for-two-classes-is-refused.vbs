@@ -1,0 +1,5 @@
+Class C
+End Class
+Class c
+End Class
+' expect error: 1041

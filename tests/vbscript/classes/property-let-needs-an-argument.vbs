@@ -1,0 +1,5 @@
+Class C
+  Public Property Let P()
+  End Property
+End Class
+' expect error: 1054

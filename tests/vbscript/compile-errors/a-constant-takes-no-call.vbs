@@ -1,0 +1,3 @@
+Const a = Chr(65)
+' expect error: 1045 at 1:10
+' expect text: Expected literal constant

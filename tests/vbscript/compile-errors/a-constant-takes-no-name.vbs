@@ -1,0 +1,3 @@
+Const a = b
+' expect error: 1045 at 1:10
+' expect text: Expected literal constant

@@ -1,0 +1,3 @@
+x = &h100000000
+' expect error: 1031 at 1:4
+' expect text: Invalid number

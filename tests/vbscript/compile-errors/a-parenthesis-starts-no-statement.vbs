@@ -1,0 +1,3 @@
+(New C).Run
+' expect error: 1024 at 1:0
+' expect text: Expected statement

@@ -1,0 +1,4 @@
+Sub S()
+  x = 1
+' expect error: 1014
+' expect text: Expected 'End'

@@ -1,0 +1,4 @@
+x = "no end
+y = 1
+' expect error: 1033 at 1:4
+' expect text: Unterminated string constant

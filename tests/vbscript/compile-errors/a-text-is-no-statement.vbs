@@ -1,0 +1,3 @@
+"a"
+' expect error: 1024 at 1:0
+' expect text: Expected statement

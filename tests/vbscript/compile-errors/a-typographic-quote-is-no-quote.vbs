@@ -1,0 +1,3 @@
+x = “a”
+' expect error: 1032 at 1:4
+' expect text: Invalid character

@@ -1,0 +1,4 @@
+With o
+  .x = 1
+' expect error: 1014
+' expect text: Expected 'End'

@@ -1,0 +1,3 @@
+MsgBox "a",
+' expect error: 1002 at 1:11
+' expect text: Syntax error

@@ -1,0 +1,3 @@
+x = 3 * / 2
+' expect error: 1002 at 1:8
+' expect text: Syntax error

@@ -1,0 +1,3 @@
+Dim loop
+' expect error: 1010 at 1:4
+' expect text: Expected identifier

@@ -1,0 +1,4 @@
+Dim x
+Dim y, X
+' expect error: 1041 at 2:7
+' expect text: Name redefined

@@ -1,0 +1,4 @@
+Do
+  b = 1
+' expect error: 1019
+' expect text: Expected 'Loop'

@@ -1,0 +1,3 @@
+Exit
+' expect error: 1039 at 1:4
+' expect text: Invalid 'exit' statement

@@ -1,0 +1,3 @@
+Set x = New C()
+' expect error: 1025 at 1:13
+' expect text: Expected end of statement

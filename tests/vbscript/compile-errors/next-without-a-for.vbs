@@ -1,0 +1,3 @@
+Next
+' expect error: 1055 at 1:0
+' expect text: Unexpected 'Next'

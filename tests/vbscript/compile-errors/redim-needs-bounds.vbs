@@ -1,0 +1,3 @@
+ReDim a
+' expect error: 1005 at 1:7
+' expect text: Expected '('

@@ -1,0 +1,3 @@
+Set x Nothing
+' expect error: 1011 at 1:6
+' expect text: Expected '='

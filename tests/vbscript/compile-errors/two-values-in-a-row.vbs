@@ -1,0 +1,3 @@
+x = 1 2
+' expect error: 1025 at 1:6
+' expect text: Expected end of statement

@@ -1,0 +1,2 @@
+WScript.Echo AscB("A"), AscB(ChrW(8364))
+' expect: 65 172

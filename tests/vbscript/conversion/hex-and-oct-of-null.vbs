@@ -1,0 +1,2 @@
+WScript.Echo IsNull(Hex(Null)), IsNull(Oct(Null))
+' expect: True True

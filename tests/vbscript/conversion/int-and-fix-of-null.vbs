@@ -1,0 +1,2 @@
+WScript.Echo IsNull(Int(Null)), IsNull(Fix(Null))
+' expect: True True

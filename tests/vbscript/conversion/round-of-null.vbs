@@ -1,0 +1,2 @@
+WScript.Echo IsNull(Round(Null)), IsNull(Round(Null, 2))
+' expect: True True

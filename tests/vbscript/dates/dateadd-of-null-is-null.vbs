@@ -1,0 +1,2 @@
+WScript.Echo IsNull(DateAdd("d", 1, Null))
+' expect: True

@@ -1,0 +1,2 @@
+WScript.Echo TypeName(DateDiff("d", 1, 2))
+' expect: Long

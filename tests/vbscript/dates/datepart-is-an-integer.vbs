@@ -1,0 +1,2 @@
+WScript.Echo TypeName(DatePart("yyyy", #1/1/2026#))
+' expect: Integer

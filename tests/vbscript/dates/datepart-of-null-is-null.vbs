@@ -1,0 +1,2 @@
+WScript.Echo IsNull(DatePart("d", Null))
+' expect: True

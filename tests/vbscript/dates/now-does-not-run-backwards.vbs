@@ -1,0 +1,4 @@
+a = Now
+b = Now
+WScript.Echo b >= a
+' expect: True

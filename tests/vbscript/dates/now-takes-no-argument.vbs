@@ -1,0 +1,2 @@
+x = Now(1)
+' expect error: 450

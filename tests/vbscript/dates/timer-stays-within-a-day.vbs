@@ -1,0 +1,2 @@
+WScript.Echo Timer >= 0, Timer < 86401
+' expect: True True

@@ -1,0 +1,2 @@
+WScript.Echo IsNull(TimeValue(Null))
+' expect: True

@@ -1,0 +1,2 @@
+WScript.Echo Year("abc")
+' expect error: 13 at 1:0

@@ -1,0 +1,3 @@
+' expect: Dictionary
+Set d = CreateObject("Scripting.Dictionary")
+WScript.Echo TypeName(d)

@@ -1,0 +1,3 @@
+WScript.Echo "never"
+Const a = 1 + 1
+' expect error: 1045

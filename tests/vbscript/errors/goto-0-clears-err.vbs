@@ -1,0 +1,5 @@
+On Error Resume Next
+x = 1 / 0
+On Error GoTo 0
+WScript.Echo Err.Number, "[" & Err.Description & "]"
+' expect: 0 []

@@ -1,0 +1,2 @@
+If True Then x = 1 / 0
+' expect error: 11 at 1:13

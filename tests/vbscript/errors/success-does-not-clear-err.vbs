@@ -1,0 +1,6 @@
+On Error Resume Next
+x = 1 / 0
+y = 2
+z = y + 1
+WScript.Echo Err.Number
+' expect: 11

@@ -1,0 +1,4 @@
+x = 5
+Execute "x = 6"
+WScript.Echo x
+' expect: 6

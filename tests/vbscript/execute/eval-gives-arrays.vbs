@@ -1,0 +1,3 @@
+a = Eval("Array(1, 2, 3)")
+WScript.Echo UBound(a), Eval("a(1)")
+' expect: 2 2

@@ -1,0 +1,5 @@
+Option Explicit
+On Error Resume Next
+Execute "missing = 1"
+WScript.Echo Err.Number
+' expect: 500

@@ -1,0 +1,2 @@
+WScript.Echo TypeName(FormatNumber(1))
+' expect: String

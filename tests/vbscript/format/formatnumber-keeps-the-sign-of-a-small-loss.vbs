@@ -1,0 +1,2 @@
+WScript.Echo FormatNumber(-0.001)
+' expect: -0.00

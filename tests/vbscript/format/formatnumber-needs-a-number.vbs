@@ -1,0 +1,2 @@
+x = FormatNumber()
+' expect error: 450

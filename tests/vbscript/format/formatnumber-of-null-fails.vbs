@@ -1,0 +1,2 @@
+x = FormatNumber(Null)
+' expect error: 13 at 1:0

@@ -1,0 +1,2 @@
+WScript.Echo GetLocale(), TypeName(GetLocale())
+' expect: 1033 Long

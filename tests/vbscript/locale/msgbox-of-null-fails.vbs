@@ -1,0 +1,2 @@
+MsgBox Null
+' expect error: 94 at 1:0

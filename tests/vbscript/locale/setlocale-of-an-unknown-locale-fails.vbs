@@ -1,0 +1,2 @@
+SetLocale "klingon"
+' expect error: 447 at 1:0

@@ -1,0 +1,3 @@
+SetLocale "1040"
+WScript.Echo GetLocale
+' expect: 1040

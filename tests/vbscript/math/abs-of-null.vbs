@@ -1,0 +1,2 @@
+WScript.Echo IsNull(Abs(Null))
+' expect: True

@@ -1,0 +1,2 @@
+WScript.Echo VBYES, vbyes, VbYes
+' expect: 6 6 6

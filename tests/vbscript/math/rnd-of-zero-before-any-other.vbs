@@ -1,0 +1,2 @@
+WScript.Echo Rnd(0)
+' expect: 1.953125E-02

@@ -1,0 +1,2 @@
+WScript.Echo Rnd = Rnd(0), Rnd(0) = Rnd(0)
+' expect: True True

@@ -1,0 +1,3 @@
+text = "True"
+WScript.Echo text = True, text > True
+' expect: False True

@@ -1,0 +1,4 @@
+Function F()
+End Function
+WScript.Echo TypeName(F())
+' expect: Empty

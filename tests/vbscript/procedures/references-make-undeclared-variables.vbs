@@ -1,0 +1,6 @@
+Sub SetIt(n)
+  n = 5
+End Sub
+SetIt fresh
+WScript.Echo fresh
+' expect: 5

@@ -1,0 +1,4 @@
+Sub S(a, b)
+End Sub
+S 1
+' expect error: 450 at 3:0

@@ -1,0 +1,4 @@
+Sub S(a)
+End Sub
+S 1, 2
+' expect error: 450 at 3:0

@@ -1,0 +1,3 @@
+Sub S(a, A)
+End Sub
+' expect error: 1041

@@ -1,0 +1,7 @@
+Set re = New RegExp
+re.Pattern = "(?i)a"
+WScript.Echo "set"
+re.Test "x"
+' expect: set
+' expect error: 5018 at 4:0
+' expect text: Unexpected quantifier

@@ -1,0 +1,3 @@
+Set re = New RegExp
+WScript.Echo "[" & re.Pattern & "] " & re.Global & " " & re.IgnoreCase & " " & re.MultiLine
+' expect: [] False False False

@@ -1,0 +1,6 @@
+Do
+  n = n + 1
+  If n = 7 Then Exit Do
+Loop
+WScript.Echo n
+' expect: 7

@@ -1,0 +1,4 @@
+Do
+  Exit For
+Loop
+' expect error: 1039

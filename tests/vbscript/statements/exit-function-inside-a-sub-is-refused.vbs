@@ -1,0 +1,4 @@
+Sub S()
+  Exit Function
+End Sub
+' expect error: 1039

@@ -1,0 +1,4 @@
+Function F()
+  Exit Sub
+End Function
+' expect error: 1039

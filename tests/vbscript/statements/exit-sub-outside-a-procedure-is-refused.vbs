@@ -1,0 +1,2 @@
+Exit Sub
+' expect error: 1039

@@ -1,0 +1,4 @@
+For i = 1 To 2
+Next i
+' expect error: 1025
+' expect text: Expected end of statement

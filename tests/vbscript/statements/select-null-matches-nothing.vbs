@@ -1,0 +1,7 @@
+Select Case Null
+  Case Null
+    WScript.Echo "null"
+  Case Else
+    WScript.Echo "else"
+End Select
+' expect: else

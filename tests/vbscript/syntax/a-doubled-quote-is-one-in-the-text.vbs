@@ -1,0 +1,6 @@
+WScript.Echo "say ""hi"""
+WScript.Echo """"
+WScript.Echo "" & "[]"
+' expect: say "hi"
+' expect: "
+' expect: []

@@ -1,0 +1,3 @@
+[plain] = 5
+WScript.Echo plain
+' expect: 5

@@ -1,0 +1,3 @@
+x = 1 ' not continued _
+WScript.Echo x
+' expect: 1

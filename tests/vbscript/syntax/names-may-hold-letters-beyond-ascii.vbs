@@ -1,0 +1,3 @@
+quantità = 2
+WScript.Echo QUANTITÀ
+' expect: 2

@@ -1,0 +1,3 @@
+If True Then Else WScript.Echo "no"
+If False Then Else WScript.Echo "yes"
+' expect: yes

@@ -1,0 +1,2 @@
+WScript.Echo 2 ^ 3 ^ 2
+' expect: 64

@@ -1,0 +1,2 @@
+' expect: AZaz09@*_+-./
+WScript.Echo Escape("AZaz09@*_+-./")

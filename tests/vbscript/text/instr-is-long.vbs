@@ -1,0 +1,2 @@
+' expect: Long
+WScript.Echo TypeName(InStr("a", "a"))

@@ -1,0 +1,2 @@
+' expect: 3
+WScript.Echo InStr(12345, 34)

@@ -1,0 +1,2 @@
+' expect: 0
+WScript.Echo InStrRev("abc", "c", 4)

@@ -1,0 +1,2 @@
+' expect: 5
+WScript.Echo InStrRev("abcabc", "B", , vbTextCompare)

@@ -1,0 +1,2 @@
+' expect: 12
+WScript.Echo Left(12345, 2)

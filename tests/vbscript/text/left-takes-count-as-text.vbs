@@ -1,0 +1,2 @@
+' expect: abc
+WScript.Echo Left("abcdef", "3")

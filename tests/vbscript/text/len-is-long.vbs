@@ -1,0 +1,2 @@
+' expect: Long
+WScript.Echo TypeName(Len("abc"))

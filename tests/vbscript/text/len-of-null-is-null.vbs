@@ -1,0 +1,2 @@
+' expect: True
+WScript.Echo IsNull(Len(Null))

@@ -1,0 +1,2 @@
+' expect: |
+WScript.Echo Mid("abc", 2, 0) & "|"

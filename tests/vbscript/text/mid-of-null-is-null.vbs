@@ -1,0 +1,2 @@
+' expect: True
+WScript.Echo IsNull(Mid(Null, 1, 2))

@@ -1,0 +1,2 @@
+' expect: def
+WScript.Echo Mid("abcdef", 4)

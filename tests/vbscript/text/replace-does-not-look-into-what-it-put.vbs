@@ -1,0 +1,2 @@
+' expect: aaaa
+WScript.Echo Replace("aa", "a", "aa")

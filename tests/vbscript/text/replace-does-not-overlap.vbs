@@ -1,0 +1,2 @@
+' expect: ba
+WScript.Echo Replace("aaa", "aa", "b")

@@ -1,0 +1,2 @@
+' expect: abc
+WScript.Echo Replace("abc", "", "x")

@@ -1,0 +1,2 @@
+' expect: |
+WScript.Echo Replace("abc", "a", "x", 4) & "|"

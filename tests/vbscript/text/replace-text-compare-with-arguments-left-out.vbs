@@ -1,0 +1,2 @@
+' expect: bonono
+WScript.Echo Replace("bAnana", "A", "o", , , vbTextCompare)

@@ -1,0 +1,2 @@
+' expect: True
+WScript.Echo IsNull(Right(Null, 1))

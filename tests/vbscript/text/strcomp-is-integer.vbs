@@ -1,0 +1,2 @@
+' expect: Integer
+WScript.Echo TypeName(StrComp("a", "b"))

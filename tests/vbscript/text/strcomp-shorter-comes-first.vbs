@@ -1,0 +1,2 @@
+' expect: -1
+WScript.Echo StrComp("ab", "abc")

@@ -1,0 +1,4 @@
+' expect: 5
+On Error Resume Next
+x = String(-1, "a")
+WScript.Echo Err.Number

@@ -1,0 +1,2 @@
+' expect: True
+WScript.Echo IsNull(String(2, Null))

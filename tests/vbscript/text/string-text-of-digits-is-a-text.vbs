@@ -1,0 +1,2 @@
+' expect: 66
+WScript.Echo String(2, "65")

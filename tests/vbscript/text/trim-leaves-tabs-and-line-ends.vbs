@@ -1,0 +1,2 @@
+' expect: 4
+WScript.Echo Len(Trim(vbTab & "a" & vbCrLf))

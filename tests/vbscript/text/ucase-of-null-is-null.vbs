@@ -1,0 +1,4 @@
+' expect: True
+' expect: True
+WScript.Echo IsNull(UCase(Null))
+WScript.Echo IsNull(LCase(Null))

@@ -1,0 +1,2 @@
+x = Nothing & "a"
+' expect error: 91 at 1:0

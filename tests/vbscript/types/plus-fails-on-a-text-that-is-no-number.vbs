@@ -1,0 +1,2 @@
+x = "one" + 2
+' expect error: 13 at 1:0

@@ -1,0 +1,2 @@
+x = Nothing
+' expect error: 91 at 1:0

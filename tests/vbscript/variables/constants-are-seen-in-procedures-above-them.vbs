@@ -1,0 +1,6 @@
+Sub S()
+  WScript.Echo c
+End Sub
+Const c = 4
+S
+' expect: 4

@@ -1,0 +1,3 @@
+WScript.Echo c
+' expect: 4
+Const c = 4

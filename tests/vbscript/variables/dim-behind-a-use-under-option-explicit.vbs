@@ -1,0 +1,5 @@
+Option Explicit
+x = 5
+WScript.Echo x
+Dim x
+' expect: 5

@@ -1,0 +1,4 @@
+Sub S(x)
+  Dim x
+End Sub
+' expect error: 1041

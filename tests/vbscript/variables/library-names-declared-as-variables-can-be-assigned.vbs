@@ -1,0 +1,4 @@
+Dim second
+second = 5
+WScript.Echo second
+' expect: 5

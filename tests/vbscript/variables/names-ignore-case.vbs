@@ -1,0 +1,4 @@
+Total = 5
+TOTAL = total + 1
+WScript.Echo tOtAl
+' expect: 6

@@ -1,0 +1,7 @@
+Option Explicit
+If False Then missing = 1
+Sub Never()
+  other = 2
+End Sub
+WScript.Echo "fine"
+' expect: fine

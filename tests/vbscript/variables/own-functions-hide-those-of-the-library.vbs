@@ -1,0 +1,5 @@
+Function Trim(s)
+  Trim = "<" & s & ">"
+End Function
+WScript.Echo Trim(" a ")
+' expect: < a >

@@ -1,0 +1,2 @@
+WScript.Echo "say ""hi""", """", Len("""""")
+' expect: say "hi" " 2
