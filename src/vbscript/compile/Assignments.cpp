@@ -142,7 +142,7 @@ void BodyCompiler::AssignElement(const CallExpr& target, const AssignStmt& state
     m_Code.Emit(Op::LoadMe, holder);
   } else if (!isSymbol && place.kind != PlaceKind::Register) {
     holder = m_Code.Temporary();
-    isData ? EmitHolder(place, holder) : EvaluateInto(*target.callee, holder);
+    isData ? EmitHolder(place, holder) : EmitReference(*target.callee, holder);
   }
   const std::uint16_t base = EmitArguments(target.arguments, Passing::ByValue, 1);
   m_Code.FreeTo(static_cast<std::uint32_t>(base + count));

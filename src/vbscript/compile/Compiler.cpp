@@ -77,6 +77,7 @@ Ref<Procedure> BlockCompiler::Compile(const ProcedureDecl& declaration, ClassInf
   procedure->name = Name(declaration.name);
   procedure->module = &m_Context.module;
   procedure->owner = owner;
+  procedure->isExplicit = m_Context.isExplicit;
   BodyCompiler compiler(m_Context, *procedure, owner);
   for (const Parameter& parameter : declaration.parameters)
     compiler.AddParameter(Name(parameter.name), parameter.byValue);
@@ -113,6 +114,7 @@ void BlockCompiler::CompileOutermost() {
   auto code = MakeRef<Procedure>();
   code->module = &m_Context.module;
   code->isOutermost = true;
+  code->isExplicit = m_Context.isExplicit;
   BodyCompiler compiler(m_Context, *code, nullptr);
   const NamesOfBody names = CollectNames(m_Tree.body, m_Machine.names);
   for (const auto& [name, value] : names.constants) m_Block.names[name] = {.kind = SymbolKind::Constant, .constant = value};
@@ -147,6 +149,7 @@ CompiledInScope CompileInScope(const SyntaxTree& tree, Machine& machine, const P
   CompiledInScope compiled{.code = MakeRef<Procedure>(), .variables = {}};
   compiled.code->module = outer.module;
   compiled.code->owner = outer.owner;
+  compiled.code->isExplicit = tree.optionExplicit;
   BodyCompiler body(definitions.Context(), *compiled.code, outer.owner);
   const NamesOfBody names =
       tree.expression ? CollectNames(*tree.expression, machine.names) : CollectNames(tree.body, machine.names);

@@ -82,8 +82,9 @@ void Machine::AddObject(std::u16string_view name, Ref<Object> object, bool addMe
   NamesChanged();
 }
 
-void Machine::AddCode(Module& module, std::u16string_view source) {
+void Machine::AddCode(Module& module, std::u16string_view source, bool isExplicit) {
   const auto tree = Parse(Text(source));
+  tree->optionExplicit |= isExplicit;
   const CompiledBlock block = CompileBlock(*tree, *this, module);
   Variant* const variables = module.AddVariables(block.code->registers);
   Define(block, *this, module, variables);
@@ -103,8 +104,9 @@ Variant Machine::Call(const Procedure& procedure, Instance* me, Args args) {
   return Enter(procedure, me, args);
 }
 
-Variant Machine::RunInScope(const SyntaxTree& tree) {
+Variant Machine::RunInScope(SyntaxTree& tree) {
   const Procedure& outer = *Current().procedure;
+  tree.optionExplicit |= outer.isExplicit;
   const std::size_t depth = m_Depth - 1;
   CompiledBlock block;
   const CompiledInScope compiled = CompileInScope(tree, *this, outer, Current().scope, block);
@@ -123,13 +125,15 @@ Variant Machine::ReferenceInScope(Frame& frame, NameId name) {
 
 void Machine::ExecuteInScope(const Text& source) {
   if (Current().procedure->isOutermost) {
-    AddCode(*Current().procedure->module, source);
+    AddCode(*Current().procedure->module, source, Current().procedure->isExplicit);
   } else {
     RunInScope(*Parse(source));
   }
 }
 
-void Machine::ExecuteInModule(const Text& source) { AddCode(*Current().procedure->module, source); }
+void Machine::ExecuteInModule(const Text& source) {
+  AddCode(*Current().procedure->module, source, Current().procedure->isExplicit);
+}
 
 Variant Machine::EvaluateInScope(const Text& expression) { return RunInScope(*ParseExpression(expression)); }
 

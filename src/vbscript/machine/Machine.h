@@ -63,7 +63,8 @@ class Machine final : public Context {
 
   /// @name Running code. Errors come as ScriptFault; an interruption as Interrupted.
   /// @{
-  void AddCode(Module& module, std::u16string_view source);
+  /// With `isExplicit` names have to be declared even where the source does not say so.
+  void AddCode(Module& module, std::u16string_view source, bool isExplicit = false);
   Variant Evaluate(Module& module, std::u16string_view expression);
   Variant Call(const Procedure& procedure, Instance* me, Args args);
   /// @}
@@ -121,7 +122,7 @@ class Machine final : public Context {
                  ArgumentPlace where = ArgumentPlace::InRegisters);
   void PopFrame() noexcept;
   void CheckNesting() const;
-  Variant RunInScope(const SyntaxTree& tree);
+  Variant RunInScope(SyntaxTree& tree);
   static Variant ReferenceInScope(Frame& frame, NameId name);
 
   // Calls.cpp; those that answer a bool tell whether they left a frame to go on in

@@ -71,6 +71,7 @@ class Procedure final : public RefCounted {
   std::vector<bool> byValue;  ///< of each parameter
   bool hasByValue = false;
   bool returnsValue = false;
+  bool isExplicit = false;   ///< names have to be declared
   bool isOutermost = false;  ///< stands outside procedures: its variables stay when it has run
   std::uint16_t parameters = 0;
   std::uint16_t result = kNoRegister;  ///< the variable of a function's own name
