@@ -47,7 +47,8 @@ class Array final : public RefCounted {
   }
   /// Position of an element in Values(); error 9 as At.
   std::size_t Position(std::span<const std::int32_t> indices) const;
-  /// Changes the upper bound of the last dimension and keeps the values; error 9 for a bound below the lower one.
+  /// Changes the upper bound of the last dimension and keeps the values; error 9 for a bound below the lower
+  /// one.
   void ResizeLast(std::int32_t upper);
   Ref<Array> Copy() const;
 

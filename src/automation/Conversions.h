@@ -42,8 +42,8 @@ bool IsNumeric(const Variant& value) noexcept;
 bool IsDate(const Variant& value) noexcept;
 
 /// A Double as the platform prints it: 15 significant digits, with `point` as decimal separator; in the style
-/// "1E+15" from there on, below 0.0001, and where more than 15 decimals would be needed. A Single has 7 digits
-/// and 7 decimals.
+/// "1E+15" from there on, below 0.0001, and where more than 15 decimals would be needed. A Single has 7
+/// digits and 7 decimals.
 Text FormatDouble(double value, char16_t point = u'.');
 Text FormatSingle(float value, char16_t point = u'.');
 /// Shortest decimal text that reads back as the same value, in plain or exponent notation with a point.

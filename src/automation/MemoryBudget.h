@@ -4,8 +4,8 @@
 
 namespace cardwright {
 
-/// The memory that the calling thread's texts and arrays take, counted so that whoever runs foreign code can bound
-/// it. Without a limit nothing is refused.
+/// The memory that the calling thread's texts and arrays take, counted so that whoever runs foreign code can
+/// bound it. Without a limit nothing is refused.
 class MemoryBudget {
  public:
   /// Error 7 where the limit would be passed.
@@ -31,8 +31,8 @@ class MemoryBudget {
  private:
   [[noreturn]] static void Refuse();
 
-  // Values may go from one thread to another only as a whole engine does, so a plain count a thread will do. It may
-  // wrap where a thread releases what another made; the comparison above then refuses nothing.
+  // Values may go from one thread to another only as a whole engine does, so a plain count a thread will do.
+  // It may wrap where a thread releases what another made; the comparison above then refuses nothing.
   static constinit thread_local std::size_t t_Used;
   static constinit thread_local std::size_t t_Limit;
 };

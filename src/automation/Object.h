@@ -49,8 +49,8 @@ class Object : public RefCounted {
   /// Calls a member. Errors: 438 for an unknown number or a kind that the member does not offer, 450 for a
   /// wrong count of arguments, 449 for a missing one, and whatever the member itself raises.
   virtual Variant Invoke(MemberId member, CallKind kind, Args args) = 0;
-  /// Objects of one shape answer the same numbers to the same names, so that a caller may keep a number for all of
-  /// them; null for an object whose names are its own.
+  /// Objects of one shape answer the same numbers to the same names, so that a caller may keep a number for
+  /// all of them; null for an object whose names are its own.
   virtual const void* Shape() const { return nullptr; }
   /// Mark by which an engine knows the objects that it made itself; null for all others.
   const void* Family() const noexcept { return m_Family; }

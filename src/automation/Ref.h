@@ -24,13 +24,14 @@ class RefCounted {
 
  protected:
   virtual ~RefCounted() = default;
-  /// Called when the last reference is gone. A class that has something to do first overrides it; it may hand out
-  /// references meanwhile and stay alive by them.
+  /// Called when the last reference is gone. A class that has something to do first overrides it; it may hand
+  /// out references meanwhile and stay alive by them.
   virtual void OnLastRelease() const noexcept { delete this; }
   std::uint32_t Count() const noexcept { return m_Count; }
 
  private:
-  // Out of line: an object that held the last reference to a chain of millions must not unmake it by recursion.
+  // Out of line: an object that held the last reference to a chain of millions must not unmake it by
+  // recursion.
   void Unmake() const noexcept;
 
   mutable std::uint32_t m_Count = 0;

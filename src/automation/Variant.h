@@ -29,7 +29,7 @@ enum class VarType : std::uint16_t {
   Decimal = 14,  ///< 96-bit integer with sign and a scale of 0 to 28
   Byte = 17,
   Array = 0x2000,
-  ByRef = 0x4000,  ///< refers to another Variant that outlives the call
+  ByRef = 0x4000,         ///< refers to another Variant that outlives the call
   ByRefElement = 0x4001,  ///< refers to an element of the array in such a Variant
 };
 
@@ -165,8 +165,8 @@ class Variant {
   static Variant Missing() noexcept { return ErrorValue{kMissingArgument}; }
   /// A reference to `target`, which must outlive it: an argument passed by reference.
   static Variant ByRef(Variant& target) noexcept;
-  /// Likewise to the element at a position of the array that `holder` has: the array may be resized or replaced
-  /// meanwhile; an element that is gone reads as Empty.
+  /// Likewise to the element at a position of the array that `holder` has: the array may be resized or
+  /// replaced meanwhile; an element that is gone reads as Empty.
   static Variant ByRefElement(Variant& holder, std::uint32_t position) noexcept;
 
   VarType Type() const noexcept { return m_Type; }

@@ -14,7 +14,9 @@ Ref<Object> ScriptHost::GetObject(std::u16string_view, std::u16string_view) {
 
 int ScriptHost::ShowMessage(const Text&, int, const Text&) { return 0; }
 
-Variant ScriptHost::AskText(const Text&, const Text&, const Text&, const Variant&, const Variant&) { return {}; }
+Variant ScriptHost::AskText(const Text&, const Text&, const Text&, const Variant&, const Variant&) {
+  return {};
+}
 
 Ref<Object> ScriptHost::LoadPicture(std::u16string_view) { Raise(70); }
 

@@ -17,9 +17,11 @@ class ScriptHost {
 
   /// Object of a programmatic identifier. Error 429 where the class is not known or not allowed.
   virtual Ref<Object> CreateObject(std::u16string_view progid, std::u16string_view server);
-  /// Object of a path, or a running object of a class. Error 432 or 429 where there is none or it is not allowed.
+  /// Object of a path, or a running object of a class. Error 432 or 429 where there is none or it is not
+  /// allowed.
   virtual Ref<Object> GetObject(std::u16string_view path, std::u16string_view progid);
-  /// A message box; the answer is the button's number: 1 OK, 2 Cancel, 3 Abort, 4 Retry, 5 Ignore, 6 Yes, 7 No.
+  /// A message box; the answer is the button's number: 1 OK, 2 Cancel, 3 Abort, 4 Retry, 5 Ignore, 6 Yes, 7
+  /// No.
   virtual int ShowMessage(const Text& text, int style, const Text& title);
   /// A box to type a text into; Empty where it was cancelled. Positions are in twips, or Missing.
   virtual Variant AskText(const Text& prompt, const Text& title, const Text& initial, const Variant& x,
@@ -44,18 +46,18 @@ class ScriptObserver {
   virtual void OnStatement(std::u16string_view module, int line, int column) = 0;
 };
 
-/// One instance of a script language: code in modules, objects given by the program, procedures called by name.
-/// Belongs to the thread that made it, but for Interrupt. Failures are numbered errors; those inside a script
-/// stand in LastError too. Calls may nest: what a script calls may call the engine again.
+/// One instance of a script language: code in modules, objects given by the program, procedures called by
+/// name. Belongs to the thread that made it, but for Interrupt. Failures are numbered errors; those inside a
+/// script stand in LastError too. Calls may nest: what a script calls may call the engine again.
 class ScriptEngine {
  public:
   virtual ~ScriptEngine() = default;
 
-  /// Adds an object under a name. With `addMembers` its members are names of their own, found after the script's.
-  /// Error 5 for no object, or a name that is taken.
+  /// Adds an object under a name. With `addMembers` its members are names of their own, found after the
+  /// script's. Error 5 for no object, or a name that is taken.
   virtual void AddObject(std::u16string_view name, Ref<Object> object, bool addMembers) = 0;
-  /// Adds a named module: code of its own that also sees the global module's, the empty name's. Error 5 where the
-  /// name is taken, whatever its case.
+  /// Adds a named module: code of its own that also sees the global module's, the empty name's. Error 5 where
+  /// the name is taken, whatever its case.
   virtual void AddModule(std::u16string_view name) = 0;
   /// Compiles code into a module and runs what stands outside procedures.
   virtual void AddCode(std::u16string_view module, std::u16string_view code) = 0;

@@ -10,9 +10,9 @@ namespace cardwright::vbscript {
 
 class Context;
 
-/// One function of the language's own library. The machine has checked the count of arguments (450 outside), and
-/// followed references: `args` hold plain values, each possibly Missing where the script left it out. A function
-/// may take values out of `args`. Results go back by value; errors are raised.
+/// One function of the language's own library. The machine has checked the count of arguments (450 outside),
+/// and followed references: `args` hold plain values, each possibly Missing where the script left it out. A
+/// function may take values out of `args`. Results go back by value; errors are raised.
 struct Builtin {
   using Function = Variant (*)(Context& context, Args args);
 

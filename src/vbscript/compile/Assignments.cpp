@@ -18,7 +18,9 @@ void BodyCompiler::CompileAssign(const AssignStmt& statement) {
   const std::uint32_t mark = m_Code.TemporariesUsed();
   switch (statement.target->kind) {
     case ExprKind::Name: AssignName(Find(*statement.target), statement); break;
-    case ExprKind::Member: AssignMember(static_cast<const MemberExpr&>(*statement.target), {}, statement); break;
+    case ExprKind::Member:
+      AssignMember(static_cast<const MemberExpr&>(*statement.target), {}, statement);
+      break;
     default: AssignElement(static_cast<const CallExpr&>(*statement.target), statement); break;
   }
   m_Code.FreeTo(mark);
@@ -29,7 +31,8 @@ bool BodyCompiler::CompileAppend(const Place& place, const AssignStmt& statement
   if (statement.isSet || place.kind == PlaceKind::Constant || place.kind == PlaceKind::Member) return false;
   std::vector<const BinaryExpr*> chain;
   const Expr* first = statement.value;
-  while (first->kind == ExprKind::Binary && static_cast<const BinaryExpr*>(first)->op == BinaryOperator::Concatenate) {
+  while (first->kind == ExprKind::Binary &&
+         static_cast<const BinaryExpr*>(first)->op == BinaryOperator::Concatenate) {
     chain.push_back(static_cast<const BinaryExpr*>(first));
     first = chain.back()->left;
   }
@@ -60,14 +63,16 @@ bool BodyCompiler::CompileAppend(const Place& place, const AssignStmt& statement
   if (place.kind == PlaceKind::Register) {
     m_Code.Emit(Op::AppendThrough, place.r, tail.index);
   } else {
-    m_Code.EmitWide(place.kind == PlaceKind::Field ? Op::AppendField : Op::AppendSymbol, tail.index, place.index);
+    m_Code.EmitWide(place.kind == PlaceKind::Field ? Op::AppendField : Op::AppendSymbol, tail.index,
+                    place.index);
   }
   return true;
 }
 
 void BodyCompiler::AssignName(const Place& place, const AssignStmt& statement) {
   if (CompileAppend(place, statement)) return;
-  if (place.kind == PlaceKind::Register && !place.isReference && !statement.isSet && IsPlain(*statement.value)) {
+  if (place.kind == PlaceKind::Register && !place.isReference && !statement.isSet &&
+      IsPlain(*statement.value)) {
     EvaluateInto(*statement.value, place.r);
     return;
   }
@@ -95,7 +100,9 @@ void BodyCompiler::Store(const Place& place, std::uint16_t value, bool isSet) {
     case PlaceKind::Field: m_Code.EmitWide(isSet ? Op::SetField : Op::LetField, value, place.index); break;
     case PlaceKind::Symbol: m_Code.EmitWide(isSet ? Op::SetSymbol : Op::LetSymbol, value, place.index); break;
     case PlaceKind::Constant:
-    case PlaceKind::Member: m_Code.EmitWide(Op::RaiseError, kIllegalAssignment, SymbolIndex(place.name)); break;
+    case PlaceKind::Member:
+      m_Code.EmitWide(Op::RaiseError, kIllegalAssignment, SymbolIndex(place.name));
+      break;
   }
 }
 
@@ -120,15 +127,16 @@ void BodyCompiler::AssignElement(const CallExpr& target, const AssignStmt& state
     }
     first = KeepAcross(first, *statement.value);
     const std::uint16_t value = EvaluateToRegister(*statement.value);
-    auto flags = static_cast<std::uint8_t>((first.isConstant ? kConstantC : 0) | (count == 2 ? kTwoIndices : 0));
+    auto flags =
+        static_cast<std::uint8_t>((first.isConstant ? kConstantC : 0) | (count == 2 ? kTwoIndices : 0));
     if (place.kind == PlaceKind::Register) {
       if (second.isConstant) flags |= kConstantSecond;
       m_Code.Emit(count == 2 ? Op::SetElement2 : Op::SetElement, value, place.r, first.index, flags);
       if (count == 2) m_Code.EmitWord(0, second.index);
     } else {
       if (second.isConstant) flags |= kConstantB;
-      m_Code.Emit(place.kind == PlaceKind::Field ? Op::SetFieldElement : Op::SetSymbolElement, value, second.index,
-                  first.index, flags);
+      m_Code.Emit(place.kind == PlaceKind::Field ? Op::SetFieldElement : Op::SetSymbolElement, value,
+                  second.index, first.index, flags);
       m_Code.EmitWord(place.index);
     }
     return;

@@ -75,7 +75,9 @@ class BodyCompiler {
 
   // Places.cpp
   Place Find(NameId name);
-  Place Find(const Expr& nameExpr) { return Find(m_Context.machine.names.Add(static_cast<const NameExpr&>(nameExpr).name)); }
+  Place Find(const Expr& nameExpr) {
+    return Find(m_Context.machine.names.Add(static_cast<const NameExpr&>(nameExpr).name));
+  }
   SymbolKind KindOf(NameId name, const Variant*& constant);
   std::uint32_t SymbolIndex(NameId name);
   NameId ObjectName(const Expr& expression);
@@ -104,7 +106,8 @@ class BodyCompiler {
   void EmitReference(const Expr& argument, std::uint16_t target);
   void EmitElementReference(const CallExpr& call, const Place& place, std::uint16_t target);
   std::uint8_t Count(std::size_t arguments) const;
-  void CallPlace(const Place& place, std::span<Expr* const> arguments, std::uint16_t flags, std::uint16_t* result);
+  void CallPlace(const Place& place, std::span<Expr* const> arguments, std::uint16_t flags,
+                 std::uint16_t* result);
   void CompileCall(const CallStmt& statement);
 
   // Assignments.cpp

@@ -12,9 +12,10 @@ std::uint8_t BodyCompiler::Count(std::size_t arguments) const {
   return static_cast<std::uint8_t>(arguments);
 }
 
-// Arguments in registers one after the other, `further` ones kept free behind them. The first register is there even
-// without arguments, for the result.
-std::uint16_t BodyCompiler::EmitArguments(std::span<Expr* const> arguments, Passing passing, std::size_t further) {
+// Arguments in registers one after the other, `further` ones kept free behind them. The first register is
+// there even without arguments, for the result.
+std::uint16_t BodyCompiler::EmitArguments(std::span<Expr* const> arguments, Passing passing,
+                                          std::size_t further) {
   Count(arguments.size() + further);
   const std::uint16_t base = m_Code.Temporary();
   m_Code.FreeTo(base);
@@ -31,7 +32,8 @@ std::uint16_t BodyCompiler::EmitArguments(std::span<Expr* const> arguments, Pass
 void BodyCompiler::EmitReference(const Expr& argument, std::uint16_t target) {
   if (argument.kind == ExprKind::Name) {
     const Place place = Find(argument);
-    if (place.kind == PlaceKind::Register || place.kind == PlaceKind::Field || place.kind == PlaceKind::Symbol) {
+    if (place.kind == PlaceKind::Register || place.kind == PlaceKind::Field ||
+        place.kind == PlaceKind::Symbol) {
       EmitHolder(place, target);
       return;
     }
@@ -39,7 +41,8 @@ void BodyCompiler::EmitReference(const Expr& argument, std::uint16_t target) {
     const auto& call = static_cast<const CallExpr&>(argument);
     if (call.callee->kind == ExprKind::Name && !call.arguments.empty()) {
       const Place place = Find(*call.callee);
-      const bool isData = (place.kind == PlaceKind::Register && !place.isResult) || place.kind == PlaceKind::Field;
+      const bool isData =
+          (place.kind == PlaceKind::Register && !place.isResult) || place.kind == PlaceKind::Field;
       const bool mayBeData = place.kind == PlaceKind::Symbol && place.symbol != SymbolKind::Builtin &&
                              place.symbol != SymbolKind::Procedure;
       if (isData || mayBeData) {
@@ -64,7 +67,8 @@ void BodyCompiler::EmitHolder(const Place& place, std::uint16_t target) {
 void BodyCompiler::EmitElementReference(const CallExpr& call, const Place& place, std::uint16_t target) {
   m_Code.FreeTo(target);
   const bool isSymbol = place.kind == PlaceKind::Symbol;
-  const std::uint16_t base = EmitArguments(call.arguments, isSymbol ? Passing::ByReference : Passing::ByValue);
+  const std::uint16_t base =
+      EmitArguments(call.arguments, isSymbol ? Passing::ByReference : Passing::ByValue);
   const std::uint8_t count = Count(call.arguments.size());
   if (isSymbol) {
     m_Code.Emit(Op::RefSymbolElement, base, 0, 0, count);
@@ -104,14 +108,16 @@ bool BodyCompiler::EvaluateElement(const Place& place, std::span<Expr* const> in
     if (indices.size() == 2) m_Code.EmitWord(0, second.index);
   } else {
     if (second.isConstant) flags |= kConstantB;
-    m_Code.Emit(isVariable ? Op::GetSymbolElement : Op::GetFieldElement, result, second.index, first.index, flags);
+    m_Code.Emit(isVariable ? Op::GetSymbolElement : Op::GetFieldElement, result, second.index, first.index,
+                flags);
     m_Code.EmitWord(place.index);
   }
   if (result != target) m_Code.Emit(Op::Take, target, result);
   return true;
 }
 
-// A call of what a name stands for. The result, where one is wanted, is in a register at the end of those in use.
+// A call of what a name stands for. The result, where one is wanted, is in a register at the end of those in
+// use.
 void BodyCompiler::CallPlace(const Place& place, std::span<Expr* const> arguments, std::uint16_t flags,
                              std::uint16_t* result) {
   const bool isLibrary = place.kind == PlaceKind::Symbol && place.symbol == SymbolKind::Builtin;
@@ -174,7 +180,8 @@ std::uint16_t BodyCompiler::ObjectOf(const MemberExpr& member) {
   return none;
 }
 
-void BodyCompiler::EvaluateMember(const MemberExpr& member, std::span<Expr* const> arguments, std::uint16_t target) {
+void BodyCompiler::EvaluateMember(const MemberExpr& member, std::span<Expr* const> arguments,
+                                  std::uint16_t target) {
   const std::uint16_t object = ObjectOf(member);
   const bool onTheWay = m_Code.IsTemporary(object);
   const std::uint16_t base = EmitArguments(arguments, Passing::ByReference);

@@ -24,12 +24,14 @@ class CodeBuilder {
   explicit CodeBuilder(Procedure& procedure) : m_Procedure(procedure) {}
 
   std::uint32_t Here() const noexcept { return static_cast<std::uint32_t>(m_Procedure.code.size()); }
-  std::uint32_t Emit(Op op, std::uint16_t a = 0, std::uint16_t b = 0, std::uint16_t c = 0, std::uint8_t n = 0);
+  std::uint32_t Emit(Op op, std::uint16_t a = 0, std::uint16_t b = 0, std::uint16_t c = 0,
+                     std::uint8_t n = 0);
   std::uint32_t EmitWide(Op op, std::uint16_t a, std::uint32_t wide);
   /// The word after an instruction.
   void EmitWord(std::uint32_t wide, std::uint16_t a = 0);
 
-  /// @name Jumps. The offset stands in the instruction itself, or in the word after for comparisons and loops.
+  /// @name Jumps. The offset stands in the instruction itself, or in the word after for comparisons and
+  /// loops.
   /// @{
   void Jump(Label& label) { Refer(label, EmitWide(Op::Jump, 0, 0)); }
   void JumpIf(Op op, std::uint16_t a, Label& label) { Refer(label, EmitWide(op, a, 0)); }

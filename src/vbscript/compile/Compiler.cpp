@@ -81,7 +81,8 @@ Ref<Procedure> BlockCompiler::Compile(const ProcedureDecl& declaration, ClassInf
   BodyCompiler compiler(m_Context, *procedure, owner);
   for (const Parameter& parameter : declaration.parameters)
     compiler.AddParameter(Name(parameter.name), parameter.byValue);
-  const bool returns = declaration.kind == ProcedureKind::Function || declaration.kind == ProcedureKind::PropertyGet;
+  const bool returns =
+      declaration.kind == ProcedureKind::Function || declaration.kind == ProcedureKind::PropertyGet;
   if (returns && !compiler.Knows(procedure->name)) {
     compiler.AddResult(procedure->name);
   } else if (returns) {
@@ -108,8 +109,8 @@ void BlockCompiler::CompileMember(ClassInfo& cls, const ProcedureDecl& declarati
   }
 }
 
-// Variables that the text declares are registers of its outermost code. One that the module has already stays where
-// it is.
+// Variables that the text declares are registers of its outermost code. One that the module has already stays
+// where it is.
 void BlockCompiler::CompileOutermost() {
   auto code = MakeRef<Procedure>();
   code->module = &m_Context.module;
@@ -117,7 +118,8 @@ void BlockCompiler::CompileOutermost() {
   code->isExplicit = m_Context.isExplicit;
   BodyCompiler compiler(m_Context, *code, nullptr);
   const NamesOfBody names = CollectNames(m_Tree.body, m_Machine.names);
-  for (const auto& [name, value] : names.constants) m_Block.names[name] = {.kind = SymbolKind::Constant, .constant = value};
+  for (const auto& [name, value] : names.constants)
+    m_Block.names[name] = {.kind = SymbolKind::Constant, .constant = value};
   for (const NameId name : names.variables) {
     const Symbol* known = m_Context.module.Find(name);
     if (known && known->kind == SymbolKind::Variable) continue;
@@ -151,8 +153,8 @@ CompiledInScope CompileInScope(const SyntaxTree& tree, Machine& machine, const P
   compiled.code->owner = outer.owner;
   compiled.code->isExplicit = tree.optionExplicit;
   BodyCompiler body(definitions.Context(), *compiled.code, outer.owner);
-  const NamesOfBody names =
-      tree.expression ? CollectNames(*tree.expression, machine.names) : CollectNames(tree.body, machine.names);
+  const NamesOfBody names = tree.expression ? CollectNames(*tree.expression, machine.names)
+                                            : CollectNames(tree.body, machine.names);
   const auto refer = [&](NameId name) {
     if (body.Knows(name)) return;
     compiled.variables.push_back(name);

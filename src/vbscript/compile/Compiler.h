@@ -16,16 +16,18 @@ struct CompiledBlock {
   std::vector<Ref<ClassInfo>> classes;
 };
 
-/// Compiles a source text for a module. Throws SyntaxError where a part of it is larger than the machine can address.
+/// Compiles a source text for a module. Throws SyntaxError where a part of it is larger than the machine can
+/// address.
 CompiledBlock CompileBlock(const SyntaxTree& tree, Machine& machine, Module& module);
 
-/// Code that works with a running procedure's variables: its parameters refer to the variables of these names.
+/// Code that works with a running procedure's variables: its parameters refer to the variables of these
+/// names.
 struct CompiledInScope {
   Ref<Procedure> code;
   std::vector<NameId> variables;
 };
-/// Compiles statements, or an expression whose value is the result, to run in the scope of `outer`, whose further
-/// variables are `scope`. Procedures and classes that the text defines are in `block`.
+/// Compiles statements, or an expression whose value is the result, to run in the scope of `outer`, whose
+/// further variables are `scope`. Procedures and classes that the text defines are in `block`.
 CompiledInScope CompileInScope(const SyntaxTree& tree, Machine& machine, const Procedure& outer,
                                const ScopeVariables* scope, CompiledBlock& block);
 

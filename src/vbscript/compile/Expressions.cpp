@@ -141,7 +141,8 @@ BodyCompiler::Operand BodyCompiler::KeepAcross(Operand operand, const Expr& late
 }
 
 void BodyCompiler::EmitBinary(BinaryOperator op, std::uint16_t target, Operand left, Operand right) {
-  const auto flags = static_cast<std::uint8_t>((left.isConstant ? kConstantB : 0) | (right.isConstant ? kConstantC : 0));
+  const auto flags =
+      static_cast<std::uint8_t>((left.isConstant ? kConstantB : 0) | (right.isConstant ? kConstantC : 0));
   const Op operation = OperationOf(op);
   m_Code.Emit(operation, target, left.index, right.index, flags);
   if (operation == Op::Binary) m_Code.EmitWord(static_cast<std::uint32_t>(op));
@@ -170,7 +171,8 @@ void BodyCompiler::EvaluateChain(const BinaryExpr& expression, std::uint16_t tar
 
 void BodyCompiler::JumpOn(const Expr& condition, bool when, Label& label) {
   const std::uint32_t mark = m_Code.TemporariesUsed();
-  const auto* binary = condition.kind == ExprKind::Binary ? static_cast<const BinaryExpr*>(&condition) : nullptr;
+  const auto* binary =
+      condition.kind == ExprKind::Binary ? static_cast<const BinaryExpr*>(&condition) : nullptr;
   if (const Comparison* comparison = binary ? ComparisonOf(binary->op) : nullptr) {
     const Operand left = KeepAcross(Evaluate(*binary->left), *binary->right);
     const Operand right = Evaluate(*binary->right);

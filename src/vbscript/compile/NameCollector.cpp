@@ -36,7 +36,8 @@ class Collector {
   void Assign(const Expr* target) {
     const Expr* base = target;
     while (base->kind == ExprKind::Call) base = static_cast<const CallExpr*>(base)->callee;
-    if (base->kind == ExprKind::Name) m_Found.assigned.insert(m_Names.Add(static_cast<const NameExpr*>(base)->name));
+    if (base->kind == ExprKind::Name)
+      m_Found.assigned.insert(m_Names.Add(static_cast<const NameExpr*>(base)->name));
     Visit(target);
   }
   void Visit(const DimStmt& statement) {

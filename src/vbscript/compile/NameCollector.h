@@ -9,8 +9,8 @@
 
 namespace cardwright::vbscript {
 
-/// What a body of code says of names, found before it is compiled, since variables exist from the start wherever they
-/// are declared.
+/// What a body of code says of names, found before it is compiled, since variables exist from the start
+/// wherever they are declared.
 struct NamesOfBody {
   struct Array {
     NameId name;
@@ -26,7 +26,8 @@ struct NamesOfBody {
 };
 
 /// Hidden registers that each kind of statement needs.
-inline constexpr std::uint16_t kForRegisters = 4, kEachRegisters = 2, kWithRegisters = 1, kSelectRegisters = 1;
+inline constexpr std::uint16_t kForRegisters = 4, kEachRegisters = 2, kWithRegisters = 1,
+                               kSelectRegisters = 1;
 
 NamesOfBody CollectNames(Block body, Names& names);
 NamesOfBody CollectNames(const Expr& expression, Names& names);

@@ -44,7 +44,8 @@ void BodyCompiler::AddNames(const NamesOfBody& names) {
   };
   for (const NameId name : names.redimmed)
     if (isFree(name)) AddVariable(name);
-  // A name that nobody declares is the procedure's own variable, unless it comes to stand for something by then.
+  // A name that nobody declares is the procedure's own variable, unless it comes to stand for something by
+  // then.
   for (const NameId name : names.mentioned) {
     if (m_Context.isExplicit || !isFree(name)) continue;
     const std::uint16_t r = AddVariable(kNoName);
@@ -163,9 +164,10 @@ bool BodyCompiler::MayRunScript(const Expr* expression) {
         const auto* call = static_cast<const CallExpr*>(expression);
         if (call->callee->kind != ExprKind::Name) return true;
         const Place place = Find(*call->callee);
-        const bool isData = (place.kind == PlaceKind::Register && !place.isResult) || place.kind == PlaceKind::Field ||
-                            (place.kind == PlaceKind::Symbol && (place.symbol == SymbolKind::Variable ||
-                                                                 place.symbol == SymbolKind::Builtin));
+        const bool isData = (place.kind == PlaceKind::Register && !place.isResult) ||
+                            place.kind == PlaceKind::Field ||
+                            (place.kind == PlaceKind::Symbol &&
+                             (place.symbol == SymbolKind::Variable || place.symbol == SymbolKind::Builtin));
         if (!isData) return true;
         for (const Expr* argument : call->arguments)
           if (MayRunScript(argument)) return true;

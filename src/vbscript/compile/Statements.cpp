@@ -8,7 +8,8 @@ std::size_t BodyCompiler::Mark(Position position) {
   return mark;
 }
 
-// Hidden registers lie between the variables and the values on the way; nested statements take them like a stack.
+// Hidden registers lie between the variables and the values on the way; nested statements take them like a
+// stack.
 std::uint16_t BodyCompiler::TakeHidden(std::uint16_t count) {
   const auto first = static_cast<std::uint16_t>(m_FirstHidden + m_Hidden);
   m_Hidden += count;
@@ -57,7 +58,8 @@ void BodyCompiler::CompileStatement(const Stmt& statement) {
     case StmtKind::Erase: CompileErase(static_cast<const EraseStmt&>(statement)); break;
     case StmtKind::Exit: CompileExit(static_cast<const ExitStmt&>(statement)); break;
     case StmtKind::OnError:
-      m_Code.Emit(static_cast<const OnErrorStmt&>(statement).resumeNext ? Op::OnErrorResumeNext : Op::OnErrorGoTo0);
+      m_Code.Emit(static_cast<const OnErrorStmt&>(statement).resumeNext ? Op::OnErrorResumeNext
+                                                                        : Op::OnErrorGoTo0);
       break;
     default: break;  // Stop: no debugger is attached
   }
@@ -133,7 +135,8 @@ void BodyCompiler::CompileFor(const ForStmt& statement) {
     values[k] = m_Code.Temporary();
     parts[k] ? EvaluateInto(*parts[k], values[k]) : LoadConstant(Variant(std::int16_t{1}), values[k]);
   }
-  for (std::uint16_t k = 0; k < 3; ++k) m_Code.Emit(Op::Take, static_cast<std::uint16_t>(bounds + k), values[k]);
+  for (std::uint16_t k = 0; k < 3; ++k)
+    m_Code.Emit(Op::Take, static_cast<std::uint16_t>(bounds + k), values[k]);
   m_Code.FreeTo(used);
   Label end;
   m_Code.Emit(Op::ForPrepare, variable, bounds);

@@ -28,15 +28,20 @@ bool Machine::CallSymbol(SymbolUse& use, Variant* arguments, std::size_t count, 
   Variant* const result = (flags & kDropResult) ? nullptr : arguments;
   const Symbol* symbol = use.symbol;
   if (!symbol) {
-    if (use.local == kNoRegister) RaiseAbout(use.isStrict ? 500 : Number(ErrorNumber::TypeMismatch), use.name);
-    return CallValue(Current().registers[use.local].Deref(), arguments, count, result, names.Spelling(use.name));
+    if (use.local == kNoRegister)
+      RaiseAbout(use.isStrict ? 500 : Number(ErrorNumber::TypeMismatch), use.name);
+    return CallValue(Current().registers[use.local].Deref(), arguments, count, result,
+                     names.Spelling(use.name));
   }
   switch (symbol->kind) {
-    case SymbolKind::Procedure: PushFrame(*symbol->procedure, nullptr, {arguments, count}, result); return true;
+    case SymbolKind::Procedure:
+      PushFrame(*symbol->procedure, nullptr, {arguments, count}, result);
+      return true;
     case SymbolKind::Builtin: CallBuiltin(*symbol->builtin, arguments, count, result); return false;
     case SymbolKind::HostMember: {
       const Ref<Object> object(&RequireObject(symbol->value));
-      Finish(arguments, count, result, object->Invoke(symbol->member, CallKind::MethodOrGet, {arguments, count}));
+      Finish(arguments, count, result,
+             object->Invoke(symbol->member, CallKind::MethodOrGet, {arguments, count}));
       return false;
     }
     case SymbolKind::Variable:
@@ -107,7 +112,8 @@ bool Machine::CallMember(RegisterView view, Instruction i, MemberUse& use) {
   return false;
 }
 
-bool Machine::CallInstance(MemberUse& use, Instance& object, Variant* arguments, std::size_t count, Variant* result) {
+bool Machine::CallInstance(MemberUse& use, Instance& object, Variant* arguments, std::size_t count,
+                           Variant* result) {
   const ClassMember& member = FindMember(use, object);
   const bool isInside = Current().me == &object;
   const ClassProcedure& procedure = member.method.code ? member.method : member.get;

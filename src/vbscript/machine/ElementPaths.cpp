@@ -1,7 +1,8 @@
 #include "vbscript/machine/Elements.h"
 #include "vbscript/machine/Machine.h"
 
-// The long ways of the element operations: other index types, shared arrays, objects with a default member, errors.
+// The long ways of the element operations: other index types, shared arrays, objects with a default member,
+// errors.
 namespace cardwright::vbscript {
 
 namespace {
@@ -44,14 +45,16 @@ struct Indices {
 
 }  // namespace
 
-bool Machine::GetElementSlowly(RegisterView view, Instruction i, Instruction word, const Procedure& procedure) {
+bool Machine::GetElementSlowly(RegisterView view, Instruction i, Instruction word,
+                               const Procedure& procedure) {
   const Variant holder = static_cast<const Variant&>(view.R[i.b]).Deref();
   Indices indices(view, i, word, i.op == Op::GetElement2);
   indices.Place(view.R + i.a);
   return CallValue(holder, view.R + i.a, indices.count, view.R + i.a, LocalName(procedure, i.b));
 }
 
-void Machine::SetElementSlowly(RegisterView view, Instruction i, Instruction word, const Procedure& procedure) {
+void Machine::SetElementSlowly(RegisterView view, Instruction i, Instruction word,
+                               const Procedure& procedure) {
   Indices indices(view, i, word, i.op == Op::SetElement2);
   const Args arguments = indices.With(view, i.a);
   PutElement(view.R[i.b].Deref(), arguments, false, LocalName(procedure, i.b));

@@ -73,7 +73,9 @@ std::size_t ElementPosition(const Array& array, Args indices) {
   return array.Position({whole.data(), indices.size()});
 }
 
-const Variant& ElementAt(const Array& array, Args indices) { return array.Values()[ElementPosition(array, indices)]; }
+const Variant& ElementAt(const Array& array, Args indices) {
+  return array.Values()[ElementPosition(array, indices)];
+}
 
 Variant ElementOf(const Variant& holder, Args indices) {
   if (!holder.IsArray()) Raise(ErrorNumber::TypeMismatch);

@@ -8,15 +8,18 @@
 namespace cardwright::vbscript {
 
 Variant NewArray(const ArrayShape& shape);
-/// R[a], a reference, gets an array with the bounds in the n registers from b on. Errors: 10 for an array of fixed size
-/// or one that is being enumerated, 9 for bounds that cannot be, 7 for too many elements.
+/// R[a], a reference, gets an array with the bounds in the n registers from b on. Errors: 10 for an array of
+/// fixed size or one that is being enumerated, 9 for bounds that cannot be, 7 for too many elements.
 void ReDimArray(RegisterView view, Instruction i, bool preserve);
-/// A fixed array gets Empty elements, a dynamic one loses them. Error 13 for no array, 10 for one being enumerated.
+/// A fixed array gets Empty elements, a dynamic one loses them. Error 13 for no array, 10 for one being
+/// enumerated.
 void EraseArray(Variant& holder);
 
 /// The element of a GetSymbolElement and its like; null where it takes the long way.
 inline Variant* FindElement(Array& array, RegisterView view, Instruction i) noexcept {
-  const auto isWhole = [](const Variant& v) { return v.Type() == VarType::Long || v.Type() == VarType::Integer; };
+  const auto isWhole = [](const Variant& v) {
+    return v.Type() == VarType::Long || v.Type() == VarType::Integer;
+  };
   const Variant& first = view.C(i);
   if (!isWhole(first)) return nullptr;
   if (!(i.n & kTwoIndices)) return array.Find(first.Long());
@@ -30,8 +33,8 @@ const Variant& ElementAt(const Array& array, Args indices);
 Variant ElementOf(const Variant& holder, Args indices);
 /// Its position in Values().
 std::size_t ElementPosition(const Array& array, Args indices);
-/// `holder(indices…) = value`, the value last: of an array, or by the default member of an object. Error 13 about
-/// `name` for anything else.
+/// `holder(indices…) = value`, the value last: of an array, or by the default member of an object. Error 13
+/// about `name` for anything else.
 void PutElement(Variant& holder, Args arguments, bool isSet, const Text& name);
 
 }  // namespace cardwright::vbscript

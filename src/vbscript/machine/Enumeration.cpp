@@ -6,7 +6,8 @@ namespace cardwright::vbscript {
 
 Enumeration::Enumeration(Ref<Array> array) : m_Array(array.get()) { m_Array->Lock(); }
 
-Enumeration::Enumeration(Ref<Object> object) : m_Object(std::move(object)), m_Enumerator(m_Object->Enumerate()) {}
+Enumeration::Enumeration(Ref<Object> object)
+    : m_Object(std::move(object)), m_Enumerator(m_Object->Enumerate()) {}
 
 Enumeration::~Enumeration() {
   if (m_Array) m_Array->Unlock();

@@ -13,8 +13,8 @@ class Enumeration final : public Object {
  public:
   /// Of an array or of an object; error 451 for anything else.
   static Variant Of(const Variant& collection);
-  /// The next value into `variable`; false at the end, where the variable of a collection becomes Empty. Error 451
-  /// where `state` holds no enumeration, as its making failed.
+  /// The next value into `variable`; false at the end, where the variable of a collection becomes Empty.
+  /// Error 451 where `state` holds no enumeration, as its making failed.
   static bool Next(Variant& state, Variant& variable);
 
   explicit Enumeration(Ref<Array> array);

@@ -38,7 +38,8 @@ void Machine::Handle(Pending pending, std::size_t entry) {
     frame.result = nullptr;
     PopFrame();
   }
-  throw ScriptFault(Error(pending.number, pending.description, pending.source), pending.position, pending.report);
+  throw ScriptFault(Error(pending.number, pending.description, pending.source), pending.position,
+                    pending.report);
 }
 
 void Machine::Unwind(std::size_t depth) noexcept {
@@ -55,7 +56,8 @@ void Machine::CheckStop() {
 
 void Machine::Observe(const Procedure& procedure, std::size_t instruction) {
   const StatementMark* mark = procedure.MarkAt(instruction);
-  if (m_Observer && mark) m_Observer->OnStatement(procedure.module->Name(), mark->position.line, mark->position.column);
+  if (m_Observer && mark)
+    m_Observer->OnStatement(procedure.module->Name(), mark->position.line, mark->position.column);
 }
 
 }  // namespace cardwright::vbscript

@@ -44,8 +44,8 @@ void Machine::PushFrame(const Procedure& procedure, Instance* me, Args arguments
                         ArgumentPlace where) {
   const std::size_t count = arguments.size();
   if (count != procedure.parameters) Raise(ErrorNumber::WrongArgumentCount);
-  // Arguments at the end of the caller's registers stay where they are and the new frame starts there. Code outside
-  // procedures has its registers elsewhere, so its arguments have to move.
+  // Arguments at the end of the caller's registers stay where they are and the new frame starts there. Code
+  // outside procedures has its registers elsewhere, so its arguments have to move.
   const bool stay = where == ArgumentPlace::InRegisters && count && !Current().procedure->isOutermost;
   Frame& frame = AddFrame(procedure, me, result);
   const auto place = m_Registers.Take(stay ? arguments.data() : frame.top, frame.block, procedure.registers);

@@ -57,10 +57,13 @@ MemberId Instance::FindMember(std::u16string_view name) const {
 
 Variant Instance::Invoke(MemberId member, CallKind kind, Args args) {
   if (!m_Link->machine) Raise(ErrorNumber::CannotPerform);
-  if (member < 0 || static_cast<std::size_t>(member) >= m_Class->members.size()) Raise(ErrorNumber::NotSupported);
+  if (member < 0 || static_cast<std::size_t>(member) >= m_Class->members.size())
+    Raise(ErrorNumber::NotSupported);
   const ClassMember& found = m_Class->members[static_cast<std::size_t>(member)];
   Machine& machine = *m_Link->machine;
-  const auto call = [&](const ClassProcedure& procedure) { return machine.Call(*procedure.code, this, args); };
+  const auto call = [&](const ClassProcedure& procedure) {
+    return machine.Call(*procedure.code, this, args);
+  };
   const auto isOpen = [](const ClassProcedure& procedure) { return procedure.code && procedure.isPublic; };
   if (Allows(kind, CallKind::MethodOrGet)) {
     if (isOpen(found.method)) return call(found.method);

@@ -7,7 +7,8 @@
 #include "vbscript/machine/SlowPaths.h"
 #include "vbscript/operators/Operators.h"
 
-// The addresses of labels are what makes the loop quick; every compiler that the library builds with has them.
+// The addresses of labels are what makes the loop quick; every compiler that the library builds with has
+// them.
 #pragma GCC diagnostic ignored "-Wpedantic"
 
 namespace cardwright::vbscript {
@@ -52,87 +53,88 @@ void Machine::Run() {
   int ticks = kTicks;
   Instruction i{};
 
-#define NEXT                                   \
-  do {                                         \
-    i = *pc++;                                 \
+#define NEXT                                       \
+  do {                                             \
+    i = *pc++;                                     \
     goto* kLabels[static_cast<std::size_t>(i.op)]; \
   } while (false)
-#define RELOAD()                                  \
-  do {                                            \
-    const Frame& frame = Current();               \
-    procedure = frame.procedure;                  \
-    pc = frame.pc;                                \
-    R = frame.registers;                          \
-    K = procedure->constants.data();              \
-    firstTemporary = procedure->firstTemporary;   \
+#define RELOAD()                                \
+  do {                                          \
+    const Frame& frame = Current();             \
+    procedure = frame.procedure;                \
+    pc = frame.pc;                              \
+    R = frame.registers;                        \
+    K = procedure->constants.data();            \
+    firstTemporary = procedure->firstTemporary; \
   } while (false)
 // A call leaves a frame to go on in, or has its result in place already.
-#define AFTER_CALL(pushed)     \
-  do {                         \
-    if (pushed) RELOAD();      \
-    NEXT;                      \
+#define AFTER_CALL(pushed) \
+  do {                     \
+    if (pushed) RELOAD();  \
+    NEXT;                  \
   } while (false)
-#define VIEW RegisterView{R, K, firstTemporary}
+#define VIEW \
+  RegisterView { R, K, firstTemporary }
 #define OPERAND_B ((i.n & kConstantB) ? K[i.b] : R[i.b])
 #define OPERAND_C ((i.n & kConstantC) ? K[i.c] : R[i.c])
-#define TICK()                                                    \
-  do {                                                            \
+#define TICK()                                                   \
+  do {                                                           \
     if (--ticks < 0 || m_Stop.load(std::memory_order_relaxed)) { \
-      ticks = kTicks;                                             \
-      CheckStop();                                                \
-    }                                                             \
+      ticks = kTicks;                                            \
+      CheckStop();                                               \
+    }                                                            \
   } while (false)
 // No object with a destructor may be alive at a NEXT: the jump would leave it behind.
-#define ARITHMETIC(name, builtin, sign)                                               \
-  L_##name : {                                                                        \
-    const Variant& x = OPERAND_B;                                                     \
-    const Variant& y = OPERAND_C;                                                     \
-    if (IsWhole(x) && IsWhole(y)) {                                                   \
-      std::int32_t whole;                                                             \
-      if (!builtin(x.Long(), y.Long(), &whole)) {                                     \
-        R[i.a].PutWhole(whole, WholeType(x, y, whole));                               \
-        NEXT;                                                                         \
-      }                                                                               \
-      R[i.a].Put(static_cast<double>(x.Long()) sign static_cast<double>(y.Long()));   \
-      NEXT;                                                                           \
-    }                                                                                 \
-    if (IsReal(x) && IsReal(y)) {                                                     \
-      const double real = Real(x) sign Real(y);                                       \
-      if (std::isfinite(real)) {                                                      \
-        R[i.a].Put(real);                                                             \
-        NEXT;                                                                         \
-      }                                                                               \
-    }                                                                                 \
-    ApplyBinary(VIEW, i, name);                                                       \
-    NEXT;                                                                             \
+#define ARITHMETIC(name, builtin, sign)                                             \
+  L_##name : {                                                                      \
+    const Variant& x = OPERAND_B;                                                   \
+    const Variant& y = OPERAND_C;                                                   \
+    if (IsWhole(x) && IsWhole(y)) {                                                 \
+      std::int32_t whole;                                                           \
+      if (!builtin(x.Long(), y.Long(), &whole)) {                                   \
+        R[i.a].PutWhole(whole, WholeType(x, y, whole));                             \
+        NEXT;                                                                       \
+      }                                                                             \
+      R[i.a].Put(static_cast<double>(x.Long()) sign static_cast<double>(y.Long())); \
+      NEXT;                                                                         \
+    }                                                                               \
+    if (IsReal(x) && IsReal(y)) {                                                   \
+      const double real = Real(x) sign Real(y);                                     \
+      if (std::isfinite(real)) {                                                    \
+        R[i.a].Put(real);                                                           \
+        NEXT;                                                                       \
+      }                                                                             \
+    }                                                                               \
+    ApplyBinary(VIEW, i, name);                                                     \
+    NEXT;                                                                           \
   }
-#define WHOLE_DIVISION(name, sign)                                          \
-  L_##name : {                                                              \
-    const Variant& x = OPERAND_B;                                           \
-    const Variant& y = OPERAND_C;                                           \
-    if (IsWhole(x) && IsWhole(y) && y.Long() > 0) {                         \
-      const std::int32_t whole = x.Long() sign y.Long();                    \
-      R[i.a].PutWhole(whole, WholeType(x, y, whole));                       \
-      NEXT;                                                                 \
-    }                                                                       \
-    ApplyBinary(VIEW, i, name);                                             \
-    NEXT;                                                                   \
+#define WHOLE_DIVISION(name, sign)                       \
+  L_##name : {                                           \
+    const Variant& x = OPERAND_B;                        \
+    const Variant& y = OPERAND_C;                        \
+    if (IsWhole(x) && IsWhole(y) && y.Long() > 0) {      \
+      const std::int32_t whole = x.Long() sign y.Long(); \
+      R[i.a].PutWhole(whole, WholeType(x, y, whole));    \
+      NEXT;                                              \
+    }                                                    \
+    ApplyBinary(VIEW, i, name);                          \
+    NEXT;                                                \
   }
-#define COMPARE_JUMP(name, whenTrue, sign)                                                       \
-  L_##name : {                                                                                   \
-    const Variant& x = OPERAND_B;                                                                \
-    const Variant& y = OPERAND_C;                                                                \
-    bool holds;                                                                                  \
-    if (IsWhole(x) && IsWhole(y)) {                                                              \
-      holds = x.Long() sign y.Long();                                                            \
-    } else if (IsReal(x) && IsReal(y)) {                                                         \
-      holds = Real(x) sign Real(y);                                                              \
-    } else {                                                                                     \
-      const Ordering order = CompareOperands(VIEW, i);                                           \
+#define COMPARE_JUMP(name, whenTrue, sign)                                                                  \
+  L_##name : {                                                                                              \
+    const Variant& x = OPERAND_B;                                                                           \
+    const Variant& y = OPERAND_C;                                                                           \
+    bool holds;                                                                                             \
+    if (IsWhole(x) && IsWhole(y)) {                                                                         \
+      holds = x.Long() sign y.Long();                                                                       \
+    } else if (IsReal(x) && IsReal(y)) {                                                                    \
+      holds = Real(x) sign Real(y);                                                                         \
+    } else {                                                                                                \
+      const Ordering order = CompareOperands(VIEW, i);                                                      \
       holds = order != Ordering::Unknown && static_cast<int>(order) sign static_cast<int>(Ordering::Equal); \
-    }                                                                                            \
-    pc += holds == (whenTrue) ? pc->Offset() + 1 : 1;                                            \
-    NEXT;                                                                                        \
+    }                                                                                                       \
+    pc += holds == (whenTrue) ? pc->Offset() + 1 : 1;                                                       \
+    NEXT;                                                                                                   \
   }
 
   for (;;) {

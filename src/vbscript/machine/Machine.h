@@ -30,8 +30,8 @@ struct Frame {
   const Procedure* procedure = nullptr;
   const Instruction* pc = nullptr;  ///< where it goes on when the call that it made returns
   Variant* registers = nullptr;
-  Variant* top = nullptr;           ///< end of what is in use of the register stack
-  Variant* result = nullptr;        ///< where the caller wants the result; null for nowhere
+  Variant* top = nullptr;     ///< end of what is in use of the register stack
+  Variant* result = nullptr;  ///< where the caller wants the result; null for nowhere
   Instance* me = nullptr;
   ScopeVariables* scope = nullptr;
   std::uint32_t block = 0;  ///< of the register stack
@@ -130,7 +130,8 @@ class Machine final : public Context {
   bool CallMember(RegisterView view, Instruction i, MemberUse& use);
   bool CallInstance(MemberUse& use, Instance& object, Variant* arguments, std::size_t count, Variant* result);
   bool CallRegister(RegisterView view, Instruction i, const Procedure& procedure);
-  bool CallValue(const Variant& callee, Variant* arguments, std::size_t count, Variant* result, const Text& name);
+  bool CallValue(const Variant& callee, Variant* arguments, std::size_t count, Variant* result,
+                 const Text& name);
   void CallBuiltin(const Builtin& builtin, Variant* arguments, std::size_t count, Variant* result);
   bool NewObject(SymbolUse& use, Variant& target);
   MemberId FindMember(MemberUse& use, const Object& object) const;

@@ -4,7 +4,8 @@
 
 namespace cardwright::vbscript {
 
-/// The library functions that work on running code: Eval, Execute, ExecuteGlobal, GetRef. Null for any other name.
+/// The library functions that work on running code: Eval, Execute, ExecuteGlobal, GetRef. Null for any other
+/// name.
 const Builtin* FindMachineFunction(std::u16string_view name) noexcept;
 
 }  // namespace cardwright::vbscript

@@ -31,7 +31,8 @@ Variant* Module::AddVariables(std::size_t count) {
 
 void Module::Define(NameId name, Ref<const Procedure> procedure) {
   Symbol& symbol = Add(name);
-  if (std::find(m_Procedures.begin(), m_Procedures.end(), name) == m_Procedures.end()) m_Procedures.push_back(name);
+  if (std::find(m_Procedures.begin(), m_Procedures.end(), name) == m_Procedures.end())
+    m_Procedures.push_back(name);
   symbol.kind = SymbolKind::Procedure;
   symbol.procedure = std::move(procedure);
 }

@@ -28,7 +28,9 @@ class Names {
     std::size_t operator()(std::u16string_view name) const noexcept { return HashNoCase(name); }
   };
   struct Equal {
-    bool operator()(std::u16string_view a, std::u16string_view b) const noexcept { return EqualsNoCase(a, b); }
+    bool operator()(std::u16string_view a, std::u16string_view b) const noexcept {
+      return EqualsNoCase(a, b);
+    }
   };
   std::deque<Text> m_Spellings;
   std::unordered_map<std::u16string_view, NameId, Hash, Equal> m_Ids;

@@ -5,8 +5,9 @@
 namespace cardwright::vbscript {
 
 const StatementMark* Procedure::MarkAt(std::size_t instruction) const noexcept {
-  const auto after = std::upper_bound(marks.begin(), marks.end(), instruction,
-                                      [](std::size_t at, const StatementMark& mark) { return at < mark.start; });
+  const auto after =
+      std::upper_bound(marks.begin(), marks.end(), instruction,
+                       [](std::size_t at, const StatementMark& mark) { return at < mark.start; });
   return after == marks.begin() ? nullptr : &*std::prev(after);
 }
 

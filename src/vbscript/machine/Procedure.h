@@ -18,8 +18,8 @@ struct ClassMember;
 
 inline constexpr std::uint16_t kNoRegister = 0xFFFF;
 
-/// A name that a procedure uses and does not declare. What it stands for is looked up when it is first needed and
-/// again when any name of the engine has changed its meaning.
+/// A name that a procedure uses and does not declare. What it stands for is looked up when it is first needed
+/// and again when any name of the engine has changed its meaning.
 struct SymbolUse {
   NameId name = kNoName;
   /// The procedure's own variable of that name, where the name turns out to stand for nothing else.
@@ -33,7 +33,7 @@ struct SymbolUse {
 /// A member that a call names, with what the last call found.
 struct MemberUse {
   NameId name = kNoName;
-  NameId object = kNoName;        ///< what the script calls the object, for reports
+  NameId object = kNoName;         ///< what the script calls the object, for reports
   const ClassInfo* cls = nullptr;  ///< the script's own class met last
   const ClassMember* member = nullptr;
   const void* shape = nullptr;  ///< likewise of other objects
@@ -53,8 +53,8 @@ struct ArrayShape {
 };
 
 /// Compiled code: of a procedure, of what stands outside procedures, or of an Execute or Eval.
-/// Registers: parameters, then variables, then hidden ones of loops, then values on the way (from firstTemporary).
-/// A value on the way is used once, and who uses it leaves a plain or Empty value behind.
+/// Registers: parameters, then variables, then hidden ones of loops, then values on the way (from
+/// firstTemporary). A value on the way is used once, and who uses it leaves a plain or Empty value behind.
 class Procedure final : public RefCounted {
  public:
   NameId name = kNoName;

@@ -8,8 +8,8 @@
 
 namespace cardwright::vbscript {
 
-/// Memory of the frames' registers. It grows by blocks that never move, as references into it are passed around.
-/// Whatever is above the topmost frame holds no counted value.
+/// Memory of the frames' registers. It grows by blocks that never move, as references into it are passed
+/// around. Whatever is above the topmost frame holds no counted value.
 class RegisterStack {
  public:
   /// A frame's place: `registers` from `start` on, in the block of that number.
@@ -19,7 +19,8 @@ class RegisterStack {
   };
 
   Variant* Bottom();
-  /// Room for `count` registers at `wanted` in the block, or at the start of a further one where they do not fit.
+  /// Room for `count` registers at `wanted` in the block, or at the start of a further one where they do not
+  /// fit.
   Place Take(Variant* wanted, std::uint32_t block, std::size_t count) {
     if (count <= static_cast<std::size_t>(m_Blocks[block].end - wanted)) return {wanted, block};
     return NextBlock(block, count);

@@ -13,7 +13,8 @@ namespace cardwright::vbscript {
 namespace {
 
 LiteralSide Literals(std::uint8_t n) noexcept {
-  constexpr LiteralSide kSides[] = {LiteralSide::None, LiteralSide::Right, LiteralSide::Left, LiteralSide::Both};
+  constexpr LiteralSide kSides[] = {LiteralSide::None, LiteralSide::Right, LiteralSide::Left,
+                                    LiteralSide::Both};
   return kSides[n & (kConstantB | kConstantC)];
 }
 

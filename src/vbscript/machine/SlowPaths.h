@@ -3,7 +3,8 @@
 #include "vbscript/machine/RegisterView.h"
 #include "vbscript/operators/Operators.h"
 
-/// What the interpreter does where its quick paths do not apply. All of them spend the values on the way that they use.
+/// What the interpreter does where its quick paths do not apply. All of them spend the values on the way that
+/// they use.
 namespace cardwright::vbscript {
 
 class Context;
@@ -16,7 +17,8 @@ bool IsTrueOperand(RegisterView view, std::uint16_t r);
 
 /// What `from` is or refers to.
 void CopyValue(Variant& to, const Variant& from);
-/// Assignment without Set: an object gives its default value, an array its values. `spend` moves out of `from`.
+/// Assignment without Set: an object gives its default value, an array its values. `spend` moves out of
+/// `from`.
 void AssignPlain(Variant& to, Variant& from, bool spend);
 /// Assignment with Set: error 424 where `from` is no object.
 void AssignObject(Variant& to, Variant& from, bool spend);

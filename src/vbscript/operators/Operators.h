@@ -3,9 +3,9 @@
 #include "automation/Variant.h"
 #include "vbscript/syntax/Ast.h"
 
-/// The operators on values of any type: promotion, overflow, Null, text, dates and objects' default values, as the
-/// language has them. References are followed. Errors: 6 overflow, 11 division by zero, 13 type mismatch, 438 for an
-/// object without a default value, 91 for Nothing.
+/// The operators on values of any type: promotion, overflow, Null, text, dates and objects' default values,
+/// as the language has them. References are followed. Errors: 6 overflow, 11 division by zero, 13 type
+/// mismatch, 438 for an object without a default value, 91 for Nothing.
 namespace cardwright::vbscript {
 
 Variant Add(const Variant& a, const Variant& b);
@@ -39,6 +39,7 @@ bool IsSameObject(const Variant& a, const Variant& b);
 bool IsTrue(const Variant& value);
 
 /// The operator as the tree names it; `Equal` to `GreaterOrEqual` answer a Boolean or Null.
-Variant Apply(BinaryOperator op, const Variant& a, const Variant& b, LiteralSide literals = LiteralSide::None);
+Variant Apply(BinaryOperator op, const Variant& a, const Variant& b,
+              LiteralSide literals = LiteralSide::None);
 
 }  // namespace cardwright::vbscript
