@@ -37,7 +37,7 @@ bool BodyCompiler::CompileAppend(const Place& place, const AssignStmt& statement
     first = chain.back()->left;
   }
   if (chain.empty() || first->kind != ExprKind::Name) return false;
-  if (m_Context.machine.names.Add(static_cast<const NameExpr*>(first)->name) != place.name) return false;
+  if (m_Context.linkage.names.Add(static_cast<const NameExpr*>(first)->name) != place.name) return false;
   for (const BinaryExpr* link : chain)
     if (MayRunScript(link->right)) return false;
 
@@ -175,7 +175,7 @@ void BodyCompiler::AssignMember(const MemberExpr& member, std::span<Expr* const>
   EvaluateInto(*statement.value, m_Code.Temporary());
   m_Code.Emit(Op::PutMember, base, object, statement.isSet ? kAsSet : 0, Count(arguments.size() + 1));
   const NameId about = member.object ? ObjectName(*member.object) : kNoName;
-  m_Code.EmitWord(m_Code.Member(m_Context.machine.names.Add(member.name), about));
+  m_Code.EmitWord(m_Code.Member(m_Context.linkage.names.Add(member.name), about));
 }
 
 }  // namespace cardwright::vbscript

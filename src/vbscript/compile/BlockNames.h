@@ -2,7 +2,7 @@
 
 #include <unordered_map>
 
-#include "vbscript/machine/Symbol.h"
+#include "vbscript/code/Symbol.h"
 
 namespace cardwright::vbscript {
 

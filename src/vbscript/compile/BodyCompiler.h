@@ -3,17 +3,17 @@
 #include <unordered_map>
 #include <vector>
 
+#include "vbscript/code/Linkage.h"
 #include "vbscript/compile/BlockNames.h"
 #include "vbscript/compile/CodeBuilder.h"
 #include "vbscript/compile/NameCollector.h"
-#include "vbscript/machine/Machine.h"
 #include "vbscript/syntax/SyntaxTree.h"
 
 namespace cardwright::vbscript {
 
 /// What all bodies of one source text share.
 struct CompileContext {
-  Machine& machine;
+  Linkage& linkage;
   Module& module;
   const BlockNames& block;
   bool isExplicit = false;
@@ -76,7 +76,7 @@ class BodyCompiler {
   // Places.cpp
   Place Find(NameId name);
   Place Find(const Expr& nameExpr) {
-    return Find(m_Context.machine.names.Add(static_cast<const NameExpr&>(nameExpr).name));
+    return Find(m_Context.linkage.names.Add(static_cast<const NameExpr&>(nameExpr).name));
   }
   SymbolKind KindOf(NameId name, const Variant*& constant);
   std::uint32_t SymbolIndex(NameId name);

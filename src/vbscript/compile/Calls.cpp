@@ -176,7 +176,7 @@ std::uint16_t BodyCompiler::ObjectOf(const MemberExpr& member) {
   if (member.object) return EvaluateToRegister(*member.object);
   if (!m_Withs.empty()) return m_Withs.back();
   const std::uint16_t none = m_Code.Temporary();
-  m_Code.EmitWide(Op::RaiseError, 505, SymbolIndex(m_Context.machine.names.Add(u"")));
+  m_Code.EmitWide(Op::RaiseError, 505, SymbolIndex(m_Context.linkage.names.Add(u"")));
   return none;
 }
 
@@ -187,7 +187,7 @@ void BodyCompiler::EvaluateMember(const MemberExpr& member, std::span<Expr* cons
   const std::uint16_t base = EmitArguments(arguments, Passing::ByReference);
   m_Code.Emit(Op::CallMember, base, object, 0, Count(arguments.size()));
   const NameId about = member.object ? ObjectName(*member.object) : kNoName;
-  m_Code.EmitWord(m_Code.Member(m_Context.machine.names.Add(member.name), about));
+  m_Code.EmitWord(m_Code.Member(m_Context.linkage.names.Add(member.name), about));
   const std::uint16_t result = onTheWay ? object : base;
   if (result != target) m_Code.Emit(Op::Take, target, result);
 }
@@ -204,7 +204,7 @@ void BodyCompiler::CompileCall(const CallStmt& statement) {
     const std::uint16_t base = EmitArguments(statement.arguments, Passing::ByReference);
     m_Code.Emit(Op::CallMember, base, object, kDropResult, Count(statement.arguments.size()));
     const NameId about = member.object ? ObjectName(*member.object) : kNoName;
-    m_Code.EmitWord(m_Code.Member(m_Context.machine.names.Add(member.name), about));
+    m_Code.EmitWord(m_Code.Member(m_Context.linkage.names.Add(member.name), about));
   } else if (statement.callee->kind == ExprKind::Call && statement.arguments.empty()) {
     const std::uint16_t result = m_Code.Temporary();
     EvaluateInto(*statement.callee, result);

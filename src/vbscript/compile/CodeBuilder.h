@@ -3,7 +3,7 @@
 #include <unordered_map>
 #include <vector>
 
-#include "vbscript/machine/Procedure.h"
+#include "vbscript/code/Procedure.h"
 #include "vbscript/syntax/Ast.h"
 
 namespace cardwright::vbscript {

@@ -8,11 +8,11 @@ namespace {
 
 class BlockCompiler {
  public:
-  BlockCompiler(const SyntaxTree& tree, Machine& machine, Module& module, CompiledBlock& block)
+  BlockCompiler(const SyntaxTree& tree, Linkage& linkage, Module& module, CompiledBlock& block)
       : m_Tree(tree),
-        m_Machine(machine),
+        m_Linkage(linkage),
         m_Block(block),
-        m_Context{machine, module, block.names, tree.optionExplicit, machine.IsObserved()} {}
+        m_Context{linkage, module, block.names, tree.optionExplicit, linkage.IsObserved()} {}
 
   const CompileContext& Context() const noexcept { return m_Context; }
   void DeclareProcedures();
@@ -24,10 +24,10 @@ class BlockCompiler {
   void DeclareMember(ClassInfo& cls, const ProcedureDecl& declaration);
   Ref<Procedure> Compile(const ProcedureDecl& declaration, ClassInfo* owner);
   void CompileMember(ClassInfo& cls, const ProcedureDecl& declaration);
-  NameId Name(std::u16string_view name) { return m_Machine.names.Add(name); }
+  NameId Name(std::u16string_view name) { return m_Linkage.names.Add(name); }
 
   const SyntaxTree& m_Tree;
-  Machine& m_Machine;
+  Linkage& m_Linkage;
   CompiledBlock& m_Block;
   CompileContext m_Context;
 };
@@ -88,7 +88,7 @@ Ref<Procedure> BlockCompiler::Compile(const ProcedureDecl& declaration, ClassInf
   } else if (returns) {
     compiler.AddResult(kNoName);
   }
-  compiler.AddNames(CollectNames(declaration.body, m_Machine.names));
+  compiler.AddNames(CollectNames(declaration.body, m_Linkage.names));
   compiler.CompileBody(declaration.body);
   return procedure;
 }
@@ -117,7 +117,7 @@ void BlockCompiler::CompileOutermost() {
   code->isOutermost = true;
   code->isExplicit = m_Context.isExplicit;
   BodyCompiler compiler(m_Context, *code, nullptr);
-  const NamesOfBody names = CollectNames(m_Tree.body, m_Machine.names);
+  const NamesOfBody names = CollectNames(m_Tree.body, m_Linkage.names);
   for (const auto& [name, value] : names.constants)
     m_Block.names[name] = {.kind = SymbolKind::Constant, .constant = value};
   for (const NameId name : names.variables) {
@@ -134,17 +134,17 @@ void BlockCompiler::CompileOutermost() {
 
 }  // namespace
 
-CompiledBlock CompileBlock(const SyntaxTree& tree, Machine& machine, Module& module) {
+CompiledBlock CompileBlock(const SyntaxTree& tree, Linkage& linkage, Module& module) {
   CompiledBlock block;
-  BlockCompiler compiler(tree, machine, module, block);
+  BlockCompiler compiler(tree, linkage, module, block);
   compiler.DeclareProcedures();
   compiler.CompileOutermost();
   return block;
 }
 
-CompiledInScope CompileInScope(const SyntaxTree& tree, Machine& machine, const Procedure& outer,
+CompiledInScope CompileInScope(const SyntaxTree& tree, Linkage& linkage, const Procedure& outer,
                                const ScopeVariables* scope, CompiledBlock& block) {
-  BlockCompiler definitions(tree, machine, *outer.module, block);
+  BlockCompiler definitions(tree, linkage, *outer.module, block);
   definitions.DeclareProcedures();
   definitions.CompileProcedures();
 
@@ -153,8 +153,8 @@ CompiledInScope CompileInScope(const SyntaxTree& tree, Machine& machine, const P
   compiled.code->owner = outer.owner;
   compiled.code->isExplicit = tree.optionExplicit;
   BodyCompiler body(definitions.Context(), *compiled.code, outer.owner);
-  const NamesOfBody names = tree.expression ? CollectNames(*tree.expression, machine.names)
-                                            : CollectNames(tree.body, machine.names);
+  const NamesOfBody names = tree.expression ? CollectNames(*tree.expression, linkage.names)
+                                            : CollectNames(tree.body, linkage.names);
   const auto refer = [&](NameId name) {
     if (body.Knows(name)) return;
     compiled.variables.push_back(name);
@@ -171,7 +171,7 @@ CompiledInScope CompileInScope(const SyntaxTree& tree, Machine& machine, const P
   for (const NameId name : names.variables) refer(name);
   for (const NameId name : names.assigned) {
     if (outer.owner && outer.owner->Find(name)) continue;
-    if (!block.names.contains(name) && !machine.Lookup(*outer.module, name)) refer(name);
+    if (!block.names.contains(name) && !linkage.Lookup(*outer.module, name)) refer(name);
   }
   for (const auto& [name, value] : names.constants) body.AddConstant(name, value);
   std::uint16_t result = kNoRegister;

@@ -2,8 +2,8 @@
 
 #include <vector>
 
+#include "vbscript/code/Linkage.h"
 #include "vbscript/compile/BlockNames.h"
-#include "vbscript/machine/Machine.h"
 #include "vbscript/syntax/SyntaxTree.h"
 
 namespace cardwright::vbscript {
@@ -18,7 +18,7 @@ struct CompiledBlock {
 
 /// Compiles a source text for a module. Throws SyntaxError where a part of it is larger than the machine can
 /// address.
-CompiledBlock CompileBlock(const SyntaxTree& tree, Machine& machine, Module& module);
+CompiledBlock CompileBlock(const SyntaxTree& tree, Linkage& linkage, Module& module);
 
 /// Code that works with a running procedure's variables: its parameters refer to the variables of these
 /// names.
@@ -28,7 +28,7 @@ struct CompiledInScope {
 };
 /// Compiles statements, or an expression whose value is the result, to run in the scope of `outer`, whose
 /// further variables are `scope`. Procedures and classes that the text defines are in `block`.
-CompiledInScope CompileInScope(const SyntaxTree& tree, Machine& machine, const Procedure& outer,
+CompiledInScope CompileInScope(const SyntaxTree& tree, Linkage& linkage, const Procedure& outer,
                                const ScopeVariables* scope, CompiledBlock& block);
 
 }  // namespace cardwright::vbscript

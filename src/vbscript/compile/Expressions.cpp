@@ -94,7 +94,7 @@ void BodyCompiler::EvaluateInto(const Expr& expression, std::uint16_t target) {
     case ExprKind::Paren: EvaluateInto(*static_cast<const ParenExpr&>(expression).inner, target); break;
     case ExprKind::Me: m_Code.Emit(Op::LoadMe, target); break;
     case ExprKind::New: {
-      const NameId name = m_Context.machine.names.Add(static_cast<const NewExpr&>(expression).className);
+      const NameId name = m_Context.linkage.names.Add(static_cast<const NewExpr&>(expression).className);
       m_Code.EmitWide(Op::New, target, SymbolIndex(name));
       break;
     }

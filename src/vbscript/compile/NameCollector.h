@@ -4,7 +4,7 @@
 #include <unordered_set>
 #include <vector>
 
-#include "vbscript/machine/Names.h"
+#include "vbscript/code/Names.h"
 #include "vbscript/syntax/Ast.h"
 
 namespace cardwright::vbscript {

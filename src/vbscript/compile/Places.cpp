@@ -84,7 +84,7 @@ SymbolKind BodyCompiler::KindOf(NameId name, const Variant*& constant) {
     constant = defined->second.constant;
     return defined->second.kind;
   }
-  const Symbol* symbol = m_Context.machine.Lookup(m_Context.module, name);
+  const Symbol* symbol = m_Context.linkage.Lookup(m_Context.module, name);
   if (!symbol) return SymbolKind::Unbound;
   if (symbol->kind == SymbolKind::Constant) constant = &symbol->value;
   return symbol->kind;
@@ -132,7 +132,7 @@ BodyCompiler::Place BodyCompiler::Find(NameId name) {
 }
 
 NameId BodyCompiler::ObjectName(const Expr& expression) {
-  Names& names = m_Context.machine.names;
+  Names& names = m_Context.linkage.names;
   if (expression.kind == ExprKind::Name) return names.Add(static_cast<const NameExpr&>(expression).name);
   if (expression.kind == ExprKind::Member) return names.Add(static_cast<const MemberExpr&>(expression).name);
   if (expression.kind == ExprKind::Call) return ObjectName(*static_cast<const CallExpr&>(expression).callee);

@@ -261,7 +261,7 @@ void BodyCompiler::CompileReDim(const ReDimStmt& statement) {
       const std::uint16_t argument = m_Code.Temporary();
       m_Code.Emit(Op::Take, argument, value);
       m_Code.Emit(Op::PutMember, argument, object, 0, 1);
-      m_Code.EmitWord(m_Code.Member(m_Context.machine.names.Add(member.name), kNoName));
+      m_Code.EmitWord(m_Code.Member(m_Context.linkage.names.Add(member.name), kNoName));
     }
     m_Code.FreeTo(used);
   }

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "automation/Object.h"
-#include "vbscript/machine/Procedure.h"
+#include "vbscript/code/Procedure.h"
 #include "vbscript/machine/RegisterView.h"
 
 /// Arrays: making, indexing, changing their bounds.

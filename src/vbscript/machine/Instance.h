@@ -3,7 +3,7 @@
 #include <memory>
 
 #include "automation/Object.h"
-#include "vbscript/machine/ClassInfo.h"
+#include "vbscript/code/ClassInfo.h"
 
 namespace cardwright::vbscript {
 

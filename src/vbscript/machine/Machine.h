@@ -2,7 +2,6 @@
 
 #include <atomic>
 #include <chrono>
-#include <map>
 #include <memory>
 #include <span>
 #include <vector>
@@ -11,9 +10,9 @@
 #include "platform/ScriptEngine.h"
 #include "vbscript/Context.h"
 #include "vbscript/Engine.h"
+#include "vbscript/code/Linkage.h"
 #include "vbscript/machine/ErrObject.h"
 #include "vbscript/machine/Instance.h"
-#include "vbscript/machine/Module.h"
 #include "vbscript/machine/RegisterStack.h"
 #include "vbscript/machine/RegisterView.h"
 #include "vbscript/machine/ScriptFault.h"
@@ -21,9 +20,6 @@
 namespace cardwright::vbscript {
 
 class SyntaxTree;
-
-/// Variables that executed code added to the scope of a running procedure.
-using ScopeVariables = std::map<NameId, Variant>;
 
 /// A procedure that runs.
 struct Frame {
@@ -39,7 +35,7 @@ struct Frame {
 };
 
 /// The virtual machine of one engine: its modules, its objects, its running code.
-class Machine final : public Context {
+class Machine final : public Context, public Linkage {
  public:
   Machine(ScriptHost& host, const Limits& limits);
   ~Machine();
@@ -48,15 +44,13 @@ class Machine final : public Context {
 
   /// @name Names and modules
   /// @{
-  Names names;
   Module& Global() noexcept { return *m_Modules.front(); }
   Module* FindModule(std::u16string_view name) const noexcept;
   /// Error 5 for a name that is taken.
   Module& AddModule(std::u16string_view name);
   /// Error 5 for no object, or a name that is taken.
   void AddObject(std::u16string_view name, Ref<Object> object, bool addMembers);
-  /// What a name stands for in a module's code; null for nothing yet.
-  Symbol* Lookup(Module& module, NameId name);
+  Symbol* Lookup(Module& module, NameId name) override;
   /// To be called when any name has changed its meaning.
   void NamesChanged() noexcept { ++m_Epoch; }
   /// @}
@@ -83,7 +77,7 @@ class Machine final : public Context {
   void Interrupt() noexcept { m_Stop.store(true, std::memory_order_relaxed); }
   void SetTimeout(std::int32_t milliseconds) noexcept { m_Timeout = milliseconds; }
   void SetObserver(ScriptObserver* observer) noexcept { m_Observer = observer; }
-  bool IsObserved() const noexcept { return m_Observer != nullptr; }
+  bool IsObserved() const noexcept override { return m_Observer != nullptr; }
   ErrObject& Err() noexcept { return *m_Err; }
 
   /// Around every call from outside: locale, limits and the clock of the outermost one.

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "automation/Variant.h"
-#include "vbscript/machine/Instruction.h"
+#include "vbscript/code/Instruction.h"
 
 namespace cardwright::vbscript {
 

@@ -1,4 +1,4 @@
-#include "vbscript/machine/Names.h"
+#include "vbscript/code/Names.h"
 
 namespace cardwright::vbscript {
 

@@ -4,7 +4,7 @@
 #include <unordered_map>
 #include <vector>
 
-#include "vbscript/machine/Procedure.h"
+#include "vbscript/code/Procedure.h"
 
 namespace cardwright::vbscript {
 

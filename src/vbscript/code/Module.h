@@ -4,7 +4,7 @@
 #include <unordered_map>
 #include <vector>
 
-#include "vbscript/machine/Symbol.h"
+#include "vbscript/code/Symbol.h"
 
 namespace cardwright::vbscript {
 

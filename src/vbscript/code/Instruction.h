@@ -1,6 +1,6 @@
 #pragma once
 
-#include "vbscript/machine/Opcodes.h"
+#include "vbscript/code/Opcodes.h"
 
 namespace cardwright::vbscript {
 

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "automation/Object.h"
-#include "vbscript/machine/ClassInfo.h"
-#include "vbscript/machine/Procedure.h"
+#include "vbscript/code/ClassInfo.h"
+#include "vbscript/code/Procedure.h"
 
 namespace cardwright::vbscript {
 

@@ -1,4 +1,4 @@
-#include "vbscript/machine/ClassInfo.h"
+#include "vbscript/code/ClassInfo.h"
 
 namespace cardwright::vbscript {
 

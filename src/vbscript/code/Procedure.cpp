@@ -1,4 +1,4 @@
-#include "vbscript/machine/Procedure.h"
+#include "vbscript/code/Procedure.h"
 
 #include <algorithm>
 

@@ -4,8 +4,8 @@
 #include <vector>
 
 #include "automation/Array.h"
-#include "vbscript/machine/Instruction.h"
-#include "vbscript/machine/Names.h"
+#include "vbscript/code/Instruction.h"
+#include "vbscript/code/Names.h"
 #include "vbscript/syntax/Position.h"
 
 namespace cardwright::vbscript {

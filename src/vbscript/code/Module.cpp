@@ -1,4 +1,4 @@
-#include "vbscript/machine/Module.h"
+#include "vbscript/code/Module.h"
 
 #include <algorithm>
 
