@@ -1,12 +1,13 @@
 # The map of the house, in one place: each room and the rooms it may link.
 # CMakeLists.txt builds the rooms from it and cmake/CheckRooms.cmake holds the includes against it.
-set(CARDWRIGHT_ROOMS automation platform storage shared vbscript hosting orv model runtime qt)
+set(CARDWRIGHT_ROOMS automation platform storage shared vbscript jscript hosting orv model runtime qt)
 
 set(CARDWRIGHT_USES_automation)
 set(CARDWRIGHT_USES_platform automation)
 set(CARDWRIGHT_USES_storage platform)
 set(CARDWRIGHT_USES_shared storage)
 set(CARDWRIGHT_USES_vbscript platform)
+set(CARDWRIGHT_USES_jscript platform)
 set(CARDWRIGHT_USES_hosting shared vbscript)
 set(CARDWRIGHT_USES_orv platform)
 set(CARDWRIGHT_USES_model shared)
@@ -20,7 +21,15 @@ set(CARDWRIGHT_LIGHT_ROOMS automation platform storage shared vbscript hosting)
 set(CARDWRIGHT_EXTERNAL_qt Qt6::Widgets)
 set(CARDWRIGHT_HIDDEN_orv GDAL::GDAL)
 set(CARDWRIGHT_HIDDEN_vbscript PkgConfig::PCRE2)
+set(CARDWRIGHT_HIDDEN_jscript PkgConfig::MOZJS)
 
 # The headers that a room with hidden libraries shows to the others; its further ones are its own affair.
 set(CARDWRIGHT_SHOWN_orv EmbeddedHost.h)
+set(CARDWRIGHT_SHOWN_jscript Engine.h)
 set(CARDWRIGHT_SHOWN_vbscript Engine.h objects/Dictionary.h objects/KeyTable.h objects/RegExp.h)
+
+# GCC 12 takes the library's list of roots on the stack for pointers left dangling.
+set(CARDWRIGHT_OPTIONS_jscript $<$<CXX_COMPILER_ID:GNU>:-Wno-dangling-pointer>)
+
+# Sources that derive from classes of a library built without type information, and must do without too.
+set(CARDWRIGHT_NO_RTTI_jscript spidermonkey/ProxyTraps.cpp)

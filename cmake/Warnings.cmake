@@ -1,7 +1,8 @@
 # Warnings are errors everywhere in this project; what includes us as a library is not judged by them.
 # -Wno-restrict: GCC 12 reports overlapping copies in std::string where there are none.
 add_library(cardwright_warnings INTERFACE)
-target_compile_options(cardwright_warnings INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Wno-restrict
+target_compile_options(cardwright_warnings INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor
+                                                     $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>
                                                      -Woverloaded-virtual -Wold-style-cast -Werror)
 
 if(CARDWRIGHT_SANITIZE)

@@ -8,18 +8,23 @@
 namespace cardwright::desktop {
 namespace {
 
-bool ThereIsDisplay() {
-  return !qEnvironmentVariableIsEmpty("DISPLAY") || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
+// The toolkit ends the program where it finds no display, unless it may go on without one.
+QByteArray Platforms(Display display) {
+  if (display == Display::Unused) return "offscreen";
+  QByteArray platforms;
+  if (!qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY")) platforms += "wayland;";
+  if (!qEnvironmentVariableIsEmpty("DISPLAY")) platforms += "xcb;";
+  return platforms + "offscreen";
 }
 
 }  // namespace
 
 Session::Session(Display display) {
   const bool chosen = !qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM");
-  if (!chosen && !ThereIsDisplay() && display == Display::Needed)
-    Raise(static_cast<int>(ErrorNumber::InvalidCall), u"there is no display to show the form on");
-  if (!chosen && (!ThereIsDisplay() || display == Display::Unused)) qputenv("QT_QPA_PLATFORM", "offscreen");
+  if (!chosen) qputenv("QT_QPA_PLATFORM", Platforms(display));
   m_Application = std::make_unique<QApplication>(m_Argc, m_Argv);
+  if (!chosen && display == Display::Needed && !HasDisplay())
+    Raise(static_cast<int>(ErrorNumber::InvalidCall), u"there is no display to show the form on");
   QApplication::setApplicationDisplayName(QStringLiteral("Cardwright"));
   m_Library = std::make_unique<qt::Library>();
 }

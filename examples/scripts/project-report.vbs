@@ -24,7 +24,8 @@ Const statusClean = 0, statusFindings = 1, statusFailed = 2
 
 Const ForReading = 1, TemporaryFolder = 2
 Const ScriptMarker = "[SCRIPT]"
-Const LongProcedure = 40, TwipsPerPixel = 15
+Const LongProcedure = 40
+Const scaleTwips = 1, TwipsPerPixel = 15
 
 ' ==== What all parts of the program share =================================================================
 
@@ -305,6 +306,7 @@ End Class
 ' A procedure of the form's script.
 Class ProcedureInfo
   Public Kind, Name, Parameters, FirstLine, LastLine
+  Public IsFound  ' whether the form finds it when its event comes
 
   Public Default Property Get Header()
     Header = Kind & " " & Name & "(" & Parameters & ")"
@@ -328,20 +330,36 @@ End Class
 
 ' The script behind the marker: its procedures, and every word that it uses.
 Class ScriptInfo
-  Public Language, CodeLines, HasOptionExplicit
+  Public Language, CodeLines, OptionExplicitLine, HasBrokenMarker
   Private m_Lines, m_Procedures, m_Words
+  Private m_Header, m_Footer, m_Texts, m_Comment, m_Keyword
 
   Private Sub Class_Initialize()
     m_Lines = Array()
     m_Procedures = Array()
     Set m_Words = New Tally
     CodeLines = 0
-    HasOptionExplicit = False
+    OptionExplicitLine = 0
+    HasBrokenMarker = False
   End Sub
 
   Public Property Get IsBasic()
     IsBasic = (LCase(Language) = "vbscript")
   End Property
+
+  Public Property Get IsJava()
+    IsJava = (LCase(Language) = "jscript")
+  End Property
+
+  Public Property Get HasOptionExplicit()
+    HasOptionExplicit = (OptionExplicitLine > 0)
+  End Property
+
+  ' What the form looks for when an event comes: the keyword at the start of a line, one blank, the name, and the
+  ' bracket right behind it.
+  Public Function Wanted(name)
+    Wanted = m_Keyword & name & "("
+  End Function
 
   Public Property Get Procedures()
     Procedures = m_Procedures
@@ -356,36 +374,55 @@ Class ScriptInfo
   Public Sub Read(content)
     Dim at, tail, lineEnd
     at = InStr(1, content, ScriptMarker & vbCrLf, vbTextCompare)
+    HasBrokenMarker = (at = 0 And Pattern("(^|\n)\[SCRIPT\]\n", False).Test(content))
     If at = 0 Then Exit Sub
     tail = Mid(content, at + Len(ScriptMarker & vbCrLf))
     lineEnd = InStr(tail, vbCrLf)
     If lineEnd = 0 Then Exit Sub
     Language = Trim(Left(tail, lineEnd - 1))
     m_Lines = Split(Mid(tail, lineEnd + 2), vbCrLf)
+    ChooseLanguage
     ReadLines
   End Sub
 
+  ' Of a script in a third language only the words are of interest: its header fits no line.
+  Private Sub ChooseLanguage()
+    m_Keyword = "Sub "
+    Set m_Texts = Pattern("""(?:[^""]|"""")*""", True)
+    Set m_Comment = Pattern("'.*$", False)
+    Set m_Header = Pattern("[^\s\S]", False)
+    Set m_Footer = Pattern("^\s*end\s+(sub|function)\b", False)
+    If IsBasic Then
+      Set m_Header = Pattern("^\s*(?:(?:public|private)\s+)?(sub|function)\s+(\w+)\s*(?:\(([^)]*)\))?", False)
+    ElseIf IsJava Then
+      m_Keyword = "function "
+      Set m_Texts = Pattern("""(?:[^""\\]|\\.)*""|'(?:[^'\\]|\\.)*'", True)
+      Set m_Comment = Pattern("//.*$", False)
+      Set m_Header = Pattern("^\s*(function)\s+(\w+)\s*\(([^)]*)\)", False)
+      Set m_Footer = Pattern("^}", False)
+    End If
+  End Sub
+
   Private Sub ReadLines()
-    Dim header, footer, explicit, i, code, matches, current
+    Dim explicit, i, code, matches, current
     Set current = Nothing
-    ' Of a script in another language only the words are of interest.
-    Set header = Pattern("^\s*(?:(?:public|private)\s+)?(sub|function)\s+(\w+)\s*(?:\(([^)]*)\))?", False)
     Set explicit = Pattern("^\s*option\s+explicit\b", False)
-    Set footer = Pattern("^\s*end\s+(sub|function)\b", False)
     For i = 0 To UBound(m_Lines)
       code = CodeOf(m_Lines(i))
       If Trim(code) <> "" Then CodeLines = CodeLines + 1
-      If explicit.Test(code) Then HasOptionExplicit = True
-      Set matches = header.Execute(code)
-      If IsBasic And matches.Count > 0 Then
+      If explicit.Test(code) And Not HasOptionExplicit Then OptionExplicitLine = i + 1
+      Set matches = m_Header.Execute(code)
+      If matches.Count > 0 Then
         Set current = NewProcedure(matches(0), i + 1)
         CountWords current.Parameters
+        ' What stands in the line of the header, as in "Sub Tell(what): lblHint.Text = what"
+        CountWords Mid(code, matches(0).Length + 1)
       Else
         CountWords code
       End If
       If Not current Is Nothing Then
         current.LastLine = i + 1
-        If footer.Test(code) Then Set current = Nothing
+        If m_Footer.Test(code) Then Set current = Nothing
       End If
     Next
   End Sub
@@ -398,6 +435,7 @@ Class ScriptInfo
     p.Parameters = Trim(match.SubMatches(2) & "")
     p.FirstLine = line
     p.LastLine = line
+    p.IsFound = (StrComp(Left(m_Lines(line - 1), Len(Wanted(p.Name))), Wanted(p.Name), vbTextCompare) = 0)
     AppendTo m_Procedures, p
     Set NewProcedure = p
   End Function
@@ -405,16 +443,15 @@ Class ScriptInfo
   ' The line without its comment. A text stays only where it is a single word, for Controls("txtName") uses the
   ' control as much as txtName does; what a message says to the user does not.
   Private Function CodeOf(line)
-    Dim texts, code, match, inner
-    Set texts = Pattern("""(?:[^""]|"""")*""", True)
+    Dim code, match, inner
     code = line
-    For Each match In texts.Execute(line)
+    For Each match In m_Texts.Execute(line)
       inner = Mid(match.Value, 2, Len(match.Value) - 2)
       If Not Pattern("^\w+$", False).Test(inner) Then inner = ""
       code = Replace(code, match.Value, " " & inner & " ", 1, 1)
     Next
-    code = Pattern("'.*$", False).Replace(code, "")
-    CodeOf = Pattern("(^|:)\s*rem\b.*$", False).Replace(code, "$1")
+    CodeOf = m_Comment.Replace(code, "")
+    If IsBasic Then CodeOf = Pattern("(^|:)\s*rem\b.*$", False).Replace(CodeOf, "$1")
   End Function
 
   Private Sub CountWords(code)
@@ -427,7 +464,7 @@ End Class
 
 ' A form project: its form, its controls, its script, and what was found in them.
 Class Project
-  Public Path, Title, Theme, FeatureType, StartMode, Width, Height
+  Public Path, Title, Theme, FeatureType, StartMode, ScaleMode, Width, Height
   Public FileSize, Modified, DeclaredCount
   Public Script, Findings
   Private m_Controls, m_ByName
@@ -491,6 +528,7 @@ Class Project
     Theme = ValueOf(ini, "FORM", "ThemeName")
     FeatureType = FeatureTypeName(NumberOf(ini.GetValue("FORM", "FeatureType", -1)))
     StartMode = ini.GetValue("FORM", "StartMode", "Always")
+    ScaleMode = NumberOf(ini.GetValue("FORM", "ScaleMode", scaleTwips))
     Width = NumberOf(ValueOf(ini, "FORM", "Width"))
     Height = NumberOf(ValueOf(ini, "FORM", "Height"))
   End Sub
@@ -580,12 +618,16 @@ Class Inspector
   End Sub
 
   Private Sub CheckNames()
-    Dim seen, c
+    Dim seen, c, identifier
     Set seen = New Tally
+    Set identifier = Pattern("^[A-Za-z]\w*$", False)
     seen.Add "Form"
     For Each c In m_Project.Controls
       seen.Add c.UserName
       If seen(c.UserName) = 2 Then Note sevError, c.Label, "the name is used more than once"
+      If m_Project.Script.CodeLines > 0 And Not identifier.Test(c.UserName) Then
+        Note sevError, c.Label, "the script cannot have a variable of this name and will not start"
+      End If
       If InStr(c.UserName, "=") > 0 Then Note sevError, c.Label, "the name has an equals sign; its stacking is lost"
     Next
   End Sub
@@ -672,11 +714,17 @@ Class Inspector
   Private Sub CheckScript()
     Dim p, seen, place
     With m_Project.Script
+      If .HasBrokenMarker Then
+        Note sevError, "SCRIPT", "the line " & ScriptMarker & " ends in a line feed alone; the form has no script"
+      End If
       If .CodeLines = 0 Then Exit Sub
-      If Not .IsBasic And LCase(.Language) <> "jscript" Then
+      If Not .IsBasic And Not .IsJava Then
         Note sevError, "SCRIPT", "unknown language """ & .Language & """; no procedure will be found"
       ElseIf .IsBasic And Not .HasOptionExplicit Then
         Note sevHint, "SCRIPT", "there is no Option Explicit; misspelled names go unnoticed"
+      ElseIf .IsBasic And .OptionExplicitLine > 1 Then
+        ' The form puts a line for each control in front of all but the first line.
+        Note sevError, "SCRIPT line " & .OptionExplicitLine, "Option Explicit must be line 1; the script will not start"
       End If
       Set seen = New Tally
       For Each p In .Procedures
@@ -707,6 +755,9 @@ Class Inspector
   Private Sub CheckEvent(p, place, kind)
     If kind.HasEvent(p.EventName) Then
       If p.Parameters <> "" Then Note sevError, place, p.Name & " has parameters; event procedures have none"
+      If Not p.IsFound Then
+        Note sevError, place, p.Name & " is never run: its line must begin with " & m_Project.Script.Wanted(p.Name)
+      End If
     ElseIf m_Project.Script.Mentions(p.Name) = 0 Then
       Note sevWarning, place, p.Name & " is never run: a " & kind.TypeName & " has the events " & kind.EventNames
     End If
@@ -715,9 +766,9 @@ Class Inspector
   Private Sub CheckUncalledProcedures()
     Dim p, own
     For Each p In m_Project.Script.Procedures
-      ' A function mentions itself to answer at all. How often, the tally can't tell; one assignment is usual.
+      ' In VBScript a function mentions itself to answer. How often, the tally can't tell; one assignment is usual.
       own = 0
-      If p.Kind = "Function" Then own = 1
+      If p.Kind = "Function" And m_Project.Script.IsBasic Then own = 1
       If p.ControlName = "" And m_Project.Script.Mentions(p.Name) <= own Then
         Note sevWarning, "SCRIPT line " & p.FirstLine, p.Name & " is never called"
       End If
@@ -773,7 +824,7 @@ Class Report
         Pair("Title", .Title), _
         Pair("Theme", .Theme & " (" & .FeatureType & ")"), _
         Pair("Opens", LCase(.StartMode)), _
-        Pair("Size", Round(.Width / TwipsPerPixel) & " by " & Round(.Height / TwipsPerPixel) & " pixels"), _
+        Pair("Size", InPixels(.Width) & " by " & InPixels(.Height) & " pixels"), _
         Pair("File", FormatNumber(.FileSize, 0) & " bytes"), _
         Pair("Changed", IsoDate(.Modified) & ", " & Plural(DateDiff("d", .Modified, Now), "day") & " ago"), _
         Pair("Controls", .ControlCount & ", bound to " & Plural(.Bindings.Count, "attribute")), _
@@ -782,6 +833,11 @@ Class Report
     End With
     Overview = Join(lines, vbCrLf)
   End Property
+
+  Private Function InPixels(length)
+    InPixels = Round(length)
+    If m_Project.ScaleMode = scaleTwips Then InPixels = Round(length / TwipsPerPixel)
+  End Function
 
   Private Function ScriptSize(script)
     ScriptSize = "none"
@@ -1004,17 +1060,23 @@ Function ContentOf(path)
   stream.Close
 End Function
 
-' False where the file can't be written.
+' False where the file can't be written. A path may have characters that the code page lacks; then the summary is
+' in Unicode, which lacks none.
 Function WriteSummary(path, text)
+  WriteSummary = TryToWrite(path, text, False)
+  If Not WriteSummary Then WriteSummary = TryToWrite(path, text, True)
+End Function
+
+Function TryToWrite(path, text, isUnicode)
   Dim stream
-  WriteSummary = False
+  TryToWrite = False
   On Error Resume Next
-  Set stream = fso.CreateTextFile(path, True)
+  Set stream = fso.CreateTextFile(path, True, isUnicode)
   If Err.Number <> 0 Then Exit Function
   stream.WriteLine "Form projects, looked at on " & IsoDate(Now) & " at " & FormatDateTime(Now, vbShortTime)
   stream.WriteLine
   stream.Write text
-  If Err.Number = 0 Then WriteSummary = True
+  If Err.Number = 0 Then TryToWrite = True
   stream.Close
 End Function
 
@@ -1040,11 +1102,19 @@ End Function
 
 Sub Show(project, report)
   WScript.Echo fso.GetFileName(project.Path)
-  WScript.Echo report.Overview
+  EchoLines report.Overview
   WScript.Echo
-  WScript.Echo report.Types
+  EchoLines report.Types
   WScript.Echo
-  If project.Findings.Count > 0 Then WScript.Echo report.Findings & vbCrLf
+  If project.Findings.Count > 0 Then EchoLines report.Findings & vbCrLf
+End Sub
+
+' The screen ends its lines in its own way, files in theirs.
+Sub EchoLines(text)
+  Dim line
+  For Each line In Split(text, vbCrLf)
+    WScript.Echo line
+  Next
 End Sub
 
 Function Main()

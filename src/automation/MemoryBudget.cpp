@@ -13,6 +13,11 @@ MemoryBudget::Limit::Limit(std::size_t furtherBytes) noexcept : m_Outer(t_Limit)
   t_Limit = std::min(t_Limit, t_Used + furtherBytes);
 }
 
-void MemoryBudget::Refuse() { Raise(ErrorNumber::OutOfMemory); }
+MemoryBudget::Exemption::Exemption() noexcept : m_Outer(t_Limit) { t_Limit = static_cast<std::size_t>(-1); }
+
+void MemoryBudget::Refuse() {
+  const Exemption exemption;
+  Raise(ErrorNumber::OutOfMemory);
+}
 
 }  // namespace cardwright

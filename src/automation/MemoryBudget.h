@@ -4,8 +4,8 @@
 
 namespace cardwright {
 
-/// The memory that the calling thread's texts and arrays take, counted so that whoever runs foreign code can
-/// bound it. Without a limit nothing is refused.
+/// The memory that the calling thread's texts, arrays and objects take, counted so that whoever runs foreign
+/// code can bound it. Without a limit nothing is refused.
 class MemoryBudget {
  public:
   /// Error 7 where the limit would be passed.
@@ -23,6 +23,18 @@ class MemoryBudget {
     ~Limit() { t_Limit = m_Outer; }
     Limit(const Limit&) = delete;
     Limit& operator=(const Limit&) = delete;
+
+   private:
+    std::size_t m_Outer;
+  };
+
+  /// Lifts the limits for as long as it lives, for what there is to say about a failure: that must not fail.
+  class Exemption {
+   public:
+    Exemption() noexcept;
+    ~Exemption() { t_Limit = m_Outer; }
+    Exemption(const Exemption&) = delete;
+    Exemption& operator=(const Exemption&) = delete;
 
    private:
     std::size_t m_Outer;

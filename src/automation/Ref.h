@@ -1,7 +1,11 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
+#include <new>
 #include <utility>
+
+#include "automation/MemoryBudget.h"
 
 namespace cardwright {
 
@@ -19,6 +23,17 @@ class RefCounted {
   }
   /// True when exactly one reference is left, so that its holder may change the object in place.
   bool IsUnique() const noexcept { return m_Count == 1; }
+  /// @name Memory: what is shared counts as the thread's, as texts and arrays do.
+  /// @{
+  static void* operator new(std::size_t size) {
+    MemoryBudget::Charge(size);
+    return ::operator new(size);
+  }
+  static void operator delete(void* memory, std::size_t size) noexcept {
+    ::operator delete(memory);
+    MemoryBudget::Refund(size);
+  }
+  /// @}
   /// False while it is being made or unmade, and for one that no reference ever held.
   bool IsHeld() const noexcept { return m_Count != 0; }
 

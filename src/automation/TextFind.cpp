@@ -2,6 +2,7 @@
 #include <cstring>
 
 #include "automation/Text.h"
+#include "automation/TwoWayFind.h"
 
 namespace cardwright {
 
@@ -10,6 +11,8 @@ namespace {
 // Places looked at together: a loop of a fixed count, which compilers turn into vector instructions where it
 // is too long for them to unroll.
 constexpr std::size_t kBlock = 32;
+// Comparisons for each character of the text before the search becomes a linear one.
+constexpr std::size_t kMostLooks = 16;
 
 bool AreEqual(const char16_t* a, const char16_t* b, std::size_t count) noexcept {
   return std::memcmp(a, b, count * sizeof(char16_t)) == 0;
@@ -24,6 +27,7 @@ struct Exact {
     return static_cast<std::uint16_t>((front == first) & (back == last));
   }
   bool IsMatch(const char16_t* place) const noexcept { return AreEqual(place, part.data(), part.size()); }
+  static char16_t Fold(char16_t c) noexcept { return c; }
 
   std::u16string_view part;
   char16_t first, last;
@@ -49,6 +53,7 @@ struct NoCase {
     return static_cast<std::uint16_t>(first.Holds(front) & last.Holds(back));
   }
   bool IsMatch(const char16_t* place) const noexcept { return EqualsNoCase({place, part.size()}, part); }
+  static char16_t Fold(char16_t c) noexcept { return ToLower(c); }
 
   std::u16string_view part;
   Folded first, last;
@@ -64,10 +69,20 @@ bool HasCandidate(const char16_t* fronts, const char16_t* backs, const Matcher& 
 }
 
 template <class Matcher>
+std::size_t FindLinearFrom(std::u16string_view text, std::u16string_view part, std::size_t from,
+                           const Matcher& matcher) noexcept {
+  const std::size_t found = FindLinear(text.substr(from), part, [&](char16_t c) { return matcher.Fold(c); });
+  return found == text.npos ? found : from + found;
+}
+
+template <class Matcher>
 std::size_t FindWith(std::u16string_view text, std::u16string_view part, std::size_t from) noexcept {
   if (from > text.size() || part.size() > text.size() - from) return std::u16string_view::npos;
   if (part.empty()) return from;
   const Matcher matcher(part);
+  // Where the ends of a long part are right time and again and the rest is not, the bet is lost.
+  const std::size_t start = from;
+  std::size_t compared = 0;
   const char16_t* const fronts = text.data();
   const char16_t* const backs = fronts + part.size() - 1;
   const std::size_t end = text.size() - part.size() + 1;
@@ -79,7 +94,12 @@ std::size_t FindWith(std::u16string_view text, std::u16string_view part, std::si
       continue;
     }
     for (; from < stop; ++from) {
-      if (matcher.IsCandidate(fronts[from], backs[from]) && matcher.IsMatch(fronts + from)) return from;
+      if (!matcher.IsCandidate(fronts[from], backs[from])) continue;
+      if (matcher.IsMatch(fronts + from)) return from;
+      if (part.size() <= kShortPart) continue;
+      compared += part.size();
+      if (compared > kMostLooks * (from - start) + kBlock * part.size())
+        return FindLinearFrom(text, part, from + 1, matcher);
     }
   }
   return std::u16string_view::npos;

@@ -1,5 +1,7 @@
 #include "automation/Variant.h"
 
+#include <utility>
+
 #include "automation/Array.h"
 #include "automation/Object.h"
 #include "automation/TextRep.h"
@@ -7,27 +9,35 @@
 namespace cardwright {
 
 Variant::Variant(Decimal value) noexcept
-    : m_Type(VarType::Decimal), m_Scale(value.scale), m_Negative(value.negative), m_High(value.high) {
-  m_Data.low = value.low;
+    : m_Header(HeaderOf(VarType::Decimal) | (value.negative ? kNegative : 0) |
+               std::uint64_t{value.scale} << kScaleShift | std::uint64_t{value.high} << kHighShift) {
+  m_Data.whole = static_cast<std::int64_t>(value.low);
 }
 
-Variant::Variant(Text value) noexcept : m_Type(VarType::String) {
+Decimal Variant::DecimalValue() const noexcept {
+  return {.low = static_cast<std::uint64_t>(m_Data.whole),
+          .high = High(),
+          .scale = static_cast<std::uint8_t>(m_Header >> kScaleShift),
+          .negative = (m_Header & kNegative) != 0};
+}
+
+Variant::Variant(Text value) noexcept : m_Header(HeaderOf(VarType::String)) {
   m_Data.text = std::exchange(value.m_Rep, nullptr);
 }
 
-Variant::Variant(Ref<cardwright::Array> array) noexcept : m_Type(VarType::Array) {
+Variant::Variant(Ref<cardwright::Array> array) noexcept : m_Header(HeaderOf(VarType::Array)) {
   m_Data.array = array.Detach();
 }
 
 Variant Variant::Null() noexcept {
   Variant null;
-  null.m_Type = VarType::Null;
+  null.m_Header = HeaderOf(VarType::Null);
   return null;
 }
 
 Variant Variant::Nothing() noexcept {
   Variant nothing;
-  nothing.m_Type = VarType::Object;
+  nothing.m_Header = HeaderOf(VarType::Object);
   nothing.m_Data.object = nullptr;
   return nothing;
 }
@@ -38,7 +48,7 @@ Variant Variant::ByRef(Variant& target) noexcept {
   if (target.IsByRef()) {
     reference.TakeBits(target);
   } else {
-    reference.m_Type = VarType::ByRef;
+    reference.m_Header = HeaderOf(VarType::ByRef);
     reference.m_Data.reference = &target;
   }
   return reference;
@@ -46,23 +56,22 @@ Variant Variant::ByRef(Variant& target) noexcept {
 
 Variant Variant::ByRefElement(Variant& holder, std::uint32_t position) noexcept {
   Variant reference;
-  reference.m_Type = VarType::ByRefElement;
-  reference.m_High = position;
+  reference.m_Header = HeaderOf(VarType::ByRefElement) | std::uint64_t{position} << kHighShift;
   reference.m_Data.reference = &holder;
   return reference;
 }
 
 const Variant& Variant::ReadElement() const noexcept {
   static const Variant gone{};
-  const Variant& holder = *m_Data.reference;
-  if (!holder.IsArray() || m_High >= holder.ArrayPtr()->Values().size()) return gone;
-  return holder.ArrayPtr()->Values()[m_High];
+  const Variant& holder = std::as_const(*m_Data.reference).Deref();
+  if (!holder.IsArray() || High() >= holder.ArrayPtr()->Values().size()) return gone;
+  return holder.ArrayPtr()->Values()[High()];
 }
 
 Variant& Variant::WriteElement() {
-  Variant& holder = *m_Data.reference;
-  if (holder.IsArray() && m_High < holder.ArrayPtr()->Values().size())
-    return cardwright::Array::Writable(holder).Values()[m_High];
+  Variant& holder = m_Data.reference->Deref();
+  if (holder.IsArray() && High() < holder.ArrayPtr()->Values().size())
+    return cardwright::Array::Writable(holder).Values()[High()];
   static thread_local Variant nowhere;
   nowhere.Reset();
   return nowhere;
@@ -92,9 +101,9 @@ void Variant::Append(std::u16string_view tail) {
 }
 
 void Variant::Retain() const noexcept {
-  if (m_Type == VarType::String) {
+  if (Type() == VarType::String) {
     if (m_Data.text) m_Data.text->AddRef();
-  } else if (m_Type == VarType::Object) {
+  } else if (Type() == VarType::Object) {
     if (m_Data.object) m_Data.object->AddRef();
   } else {
     m_Data.array->AddRef();
@@ -102,13 +111,25 @@ void Variant::Retain() const noexcept {
 }
 
 void Variant::Drop() noexcept {
-  if (m_Type == VarType::String) {
+  if (Type() == VarType::String) {
     if (m_Data.text) m_Data.text->Release();
-  } else if (m_Type == VarType::Object) {
+  } else if (Type() == VarType::Object) {
     if (m_Data.object) m_Data.object->Release();
   } else {
     m_Data.array->Release();
   }
+}
+
+void Variant::ResetCounted() noexcept { const Variant old(std::move(*this)); }
+
+void Variant::AssignCounted(const Variant& other) noexcept {
+  Variant copy(other);
+  Swap(copy);
+}
+
+void Variant::AssignCounted(Variant&& other) noexcept {
+  Variant taken(std::move(other));
+  Swap(taken);
 }
 
 }  // namespace cardwright

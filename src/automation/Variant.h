@@ -60,51 +60,44 @@ inline constexpr std::int32_t kMissingArgument = static_cast<std::int32_t>(0x800
 class Variant {
  public:
   Variant() noexcept = default;
-  Variant(bool value) noexcept : m_Type(VarType::Boolean) { m_Data.longValue = value; }
-  Variant(std::uint8_t value) noexcept : m_Type(VarType::Byte) { m_Data.longValue = value; }
-  Variant(std::int16_t value) noexcept : m_Type(VarType::Integer) { m_Data.longValue = value; }
-  Variant(std::int32_t value) noexcept : m_Type(VarType::Long) { m_Data.longValue = value; }
-  Variant(float value) noexcept : m_Type(VarType::Single) { m_Data.single = value; }
-  Variant(double value) noexcept : m_Type(VarType::Double) { m_Data.real = value; }
-  Variant(Date value) noexcept : m_Type(VarType::Date) { m_Data.real = value.days; }
-  Variant(Currency value) noexcept : m_Type(VarType::Currency) { m_Data.currency = value.tenThousandths; }
+  Variant(bool value) noexcept : m_Header(HeaderOf(VarType::Boolean)) { m_Data.whole = value; }
+  Variant(std::uint8_t value) noexcept : m_Header(HeaderOf(VarType::Byte)) { m_Data.whole = value; }
+  Variant(std::int16_t value) noexcept : m_Header(HeaderOf(VarType::Integer)) { m_Data.whole = value; }
+  Variant(std::int32_t value) noexcept : m_Header(HeaderOf(VarType::Long)) { m_Data.whole = value; }
+  Variant(float value) noexcept : m_Header(HeaderOf(VarType::Single)) { m_Data.single = value; }
+  Variant(double value) noexcept : m_Header(HeaderOf(VarType::Double)) { m_Data.real = value; }
+  Variant(Date value) noexcept : m_Header(HeaderOf(VarType::Date)) { m_Data.real = value.days; }
+  Variant(Currency value) noexcept : m_Header(HeaderOf(VarType::Currency)) {
+    m_Data.whole = value.tenThousandths;
+  }
   Variant(Decimal value) noexcept;
-  Variant(ErrorValue value) noexcept : m_Type(VarType::Error) { m_Data.longValue = value.code; }
+  Variant(ErrorValue value) noexcept : m_Header(HeaderOf(VarType::Error)) { m_Data.whole = value.code; }
   Variant(Text value) noexcept;
   Variant(std::u16string_view value) : Variant(Text(value)) {}
   Variant(const char16_t* value) : Variant(Text(value)) {}
   template <class T, class = std::enable_if_t<std::is_base_of_v<Object, T>>>
-  Variant(Ref<T> object) noexcept : m_Type(VarType::Object) {
+  Variant(Ref<T> object) noexcept : m_Header(HeaderOf(VarType::Object)) {
     m_Data.object = object.Detach();
   }
   Variant(Ref<Array> array) noexcept;
   template <class T>
   Variant(T*) = delete;  // a pointer must not turn into a Boolean
 
-  Variant(const Variant& other) noexcept
-      : m_Type(other.m_Type),
-        m_Scale(other.m_Scale),
-        m_Negative(other.m_Negative),
-        m_High(other.m_High),
-        m_Data(other.m_Data) {
+  Variant(const Variant& other) noexcept {
+    TakeBits(other);
     if (IsCounted()) Retain();
   }
-  Variant(Variant&& other) noexcept
-      : m_Type(other.m_Type),
-        m_Scale(other.m_Scale),
-        m_Negative(other.m_Negative),
-        m_High(other.m_High),
-        m_Data(other.m_Data) {
-    other.m_Type = VarType::Empty;
+  Variant(Variant&& other) noexcept {
+    TakeBits(other);
+    other.m_Header = 0;
   }
   ~Variant() {
     if (IsCounted()) Drop();
   }
   // What is overwritten goes last: its release may run code that looks at this very variable.
   Variant& operator=(const Variant& other) noexcept {
-    if (IsCounted() || other.IsCounted()) {
-      Variant copy(other);
-      Swap(copy);
+    if ((m_Header | other.m_Header) & kCounted) {
+      AssignCounted(other);
     } else {
       TakeBits(other);
     }
@@ -112,48 +105,43 @@ class Variant {
   }
   Variant& operator=(Variant&& other) noexcept {
     if (IsCounted()) {
-      Variant taken(std::move(other));
-      Swap(taken);
+      AssignCounted(std::move(other));
     } else {
       TakeBits(other);
-      if (&other != this) other.m_Type = VarType::Empty;
+      if (&other != this) other.m_Header = 0;
     }
     return *this;
   }
   void Swap(Variant& other) noexcept {
-    const Variant* const self = this;
-    Variant held;
-    held.TakeBits(*self);
-    TakeBits(other);
-    other.TakeBits(held);
-    held.m_Type = VarType::Empty;
+    std::swap(m_Header, other.m_Header);
+    std::swap(m_Data, other.m_Data);
   }
 
   /// @name Assignment of a plain value in place, without a temporary
   /// @{
   void Reset() noexcept {
     if (IsCounted()) {
-      const Variant old(std::move(*this));
+      ResetCounted();
     } else {
-      m_Type = VarType::Empty;
+      m_Header = 0;
     }
   }
   void Put(bool value) noexcept {
-    Reset();
-    m_Type = VarType::Boolean;
-    m_Data.longValue = value;
+    Free();
+    m_Header = HeaderOf(VarType::Boolean);
+    m_Data.whole = value;
   }
   void Put(double value) noexcept {
-    Reset();
-    m_Type = VarType::Double;
+    Free();
+    m_Header = HeaderOf(VarType::Double);
     m_Data.real = value;
   }
   void Put(std::int32_t value) noexcept { PutWhole(value, VarType::Long); }
   /// `type` is Long, or Integer or Byte where the value fits one.
   void PutWhole(std::int32_t value, VarType type) noexcept {
-    Reset();
-    m_Type = type;
-    m_Data.longValue = value;
+    Free();
+    m_Header = static_cast<std::uint16_t>(type);
+    m_Data.whole = value;
   }
   /// @}
   /// Adds characters to the text held, in place where nobody shares it. The type must be String.
@@ -169,37 +157,46 @@ class Variant {
   /// replaced meanwhile; an element that is gone reads as Empty.
   static Variant ByRefElement(Variant& holder, std::uint32_t position) noexcept;
 
-  VarType Type() const noexcept { return m_Type; }
-  bool IsEmpty() const noexcept { return m_Type == VarType::Empty; }
-  bool IsNull() const noexcept { return m_Type == VarType::Null; }
-  bool IsString() const noexcept { return m_Type == VarType::String; }
-  bool IsObject() const noexcept { return m_Type == VarType::Object; }
-  bool IsArray() const noexcept { return m_Type == VarType::Array; }
-  bool IsByRef() const noexcept { return m_Type == VarType::ByRef || m_Type == VarType::ByRefElement; }
-  bool IsMissing() const noexcept { return m_Type == VarType::Error && m_Data.longValue == kMissingArgument; }
+  VarType Type() const noexcept { return static_cast<VarType>(m_Header & 0xFFFF); }
+  bool IsEmpty() const noexcept { return m_Header == 0; }
+  bool IsNull() const noexcept { return Type() == VarType::Null; }
+  bool IsString() const noexcept { return Type() == VarType::String; }
+  bool IsObject() const noexcept { return Type() == VarType::Object; }
+  bool IsArray() const noexcept { return Type() == VarType::Array; }
+  bool IsByRef() const noexcept { return (m_Header & kReference) != 0; }
+  /// True for a value that is all here: neither counted nor a reference.
+  bool IsInPlace() const noexcept { return (m_Header & (kCounted | kReference)) == 0; }
+  /// Whether both are Integer or Long.
+  static bool AreWhole(const Variant& x, const Variant& y) noexcept {
+    static_assert(static_cast<int>(VarType::Integer) == 2 && static_cast<int>(VarType::Long) == 3);
+    return ((x.m_Header ^ 2) | (y.m_Header ^ 2)) <= 1;
+  }
+  bool IsMissing() const noexcept { return Type() == VarType::Error && m_Data.whole == kMissingArgument; }
 
   /// The value itself, or what a by-reference value refers to.
   const Variant& Deref() const noexcept {
-    if (m_Type == VarType::ByRef) return *m_Data.reference;
-    return m_Type == VarType::ByRefElement ? ReadElement() : *this;
+    if (!IsByRef()) return *this;
+    return Type() == VarType::ByRef ? *m_Data.reference : ReadElement();
   }
   /// For writing: an element's array is made the holder's own first.
   Variant& Deref() {
-    if (m_Type == VarType::ByRef) return *m_Data.reference;
-    return m_Type == VarType::ByRefElement ? WriteElement() : *this;
+    if (!IsByRef()) return *this;
+    return Type() == VarType::ByRef ? *m_Data.reference : WriteElement();
   }
 
   /// @name Access without conversion; the type must be the one asked for.
   /// @{
-  bool Boolean() const noexcept { return m_Data.longValue != 0; }
-  std::uint8_t Byte() const noexcept { return static_cast<std::uint8_t>(m_Data.longValue); }
-  std::int16_t Integer() const noexcept { return static_cast<std::int16_t>(m_Data.longValue); }
-  std::int32_t Long() const noexcept { return m_Data.longValue; }  ///< Long, Integer and Byte
+  bool Boolean() const noexcept { return m_Data.whole != 0; }
+  std::uint8_t Byte() const noexcept { return static_cast<std::uint8_t>(m_Data.whole); }
+  std::int16_t Integer() const noexcept { return static_cast<std::int16_t>(m_Data.whole); }
+  std::int32_t Long() const noexcept {
+    return static_cast<std::int32_t>(m_Data.whole);
+  }  ///< also Integer and Byte
   float Single() const noexcept { return m_Data.single; }
   double Double() const noexcept { return m_Data.real; }  ///< Double and Date
-  cardwright::Currency CurrencyValue() const noexcept { return {m_Data.currency}; }
-  cardwright::Decimal DecimalValue() const noexcept { return {m_Data.low, m_High, m_Scale, m_Negative}; }
-  std::int32_t ErrorCode() const noexcept { return m_Data.longValue; }
+  cardwright::Currency CurrencyValue() const noexcept { return {m_Data.whole}; }
+  cardwright::Decimal DecimalValue() const noexcept;
+  std::int32_t ErrorCode() const noexcept { return static_cast<std::int32_t>(m_Data.whole); }
   std::u16string_view StringView() const noexcept;
   Text String() const noexcept;
   cardwright::Object* ObjectPtr() const noexcept { return m_Data.object; }  ///< null for Nothing
@@ -207,31 +204,42 @@ class Variant {
   /// @}
 
  private:
-  bool IsCounted() const noexcept {
-    return m_Type == VarType::String || m_Type == VarType::Object || m_Type == VarType::Array;
+  // The header is one word, as the data are: copied so, a value can be read from where it was just written
+  // without waiting. The type stands in its low 16 bits, what these flags tell of the type next to it.
+  static constexpr std::uint64_t kCounted = 1u << 16, kReference = 1u << 17;
+  // Of a Decimal, its sign and scale; its high part is in the upper half, as is the position of a
+  // ByRefElement.
+  static constexpr std::uint64_t kNegative = 1u << 18;
+  static constexpr int kScaleShift = 24, kHighShift = 32;
+
+  static constexpr std::uint64_t HeaderOf(VarType type) noexcept {
+    const bool counted = type == VarType::String || type == VarType::Object || type == VarType::Array;
+    const bool reference = type == VarType::ByRef || type == VarType::ByRefElement;
+    return static_cast<std::uint16_t>(type) | (counted ? kCounted : 0) | (reference ? kReference : 0);
   }
+  std::uint32_t High() const noexcept { return static_cast<std::uint32_t>(m_Header >> kHighShift); }
+  bool IsCounted() const noexcept { return (m_Header & kCounted) != 0; }
   void TakeBits(const Variant& other) noexcept {
-    m_Type = other.m_Type;
-    m_Scale = other.m_Scale;
-    m_Negative = other.m_Negative;
-    m_High = other.m_High;
+    m_Header = other.m_Header;
     m_Data = other.m_Data;
+  }
+  // Before a plain value is put in place of any.
+  void Free() noexcept {
+    if (IsCounted()) ResetCounted();
   }
   const Variant& ReadElement() const noexcept;
   Variant& WriteElement();
   void Retain() const noexcept;
   void Drop() noexcept;
+  void ResetCounted() noexcept;
+  void AssignCounted(const Variant& other) noexcept;
+  void AssignCounted(Variant&& other) noexcept;
 
-  VarType m_Type = VarType::Empty;
-  std::uint8_t m_Scale = 0;  // Decimal only, as the two fields that follow
-  bool m_Negative = false;
-  std::uint32_t m_High = 0;
+  std::uint64_t m_Header = 0;
   union {
-    std::uint64_t low = 0;
-    std::int32_t longValue;  // sign-extended for the narrower types, so that all whole numbers read alike
+    std::int64_t whole = 0;  // sign-extended for the narrower types, so that all whole numbers read alike
     float single;
     double real;
-    std::int64_t currency;
     Text::Rep* text;
     cardwright::Object* object;
     cardwright::Array* array;

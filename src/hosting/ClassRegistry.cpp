@@ -13,12 +13,16 @@ void ClassRegistry::SetLoader(std::u16string_view prefix, Loader load) {
   m_Load = std::move(load);
 }
 
+void ClassRegistry::Load() {
+  if (!m_Load) return;
+  m_Load(*this);
+  m_Load = nullptr;
+}
+
 Ref<Object> ClassRegistry::Create(std::u16string_view progid) {
   auto found = m_Makers.find(progid);
-  if (found == m_Makers.end() && m_Load &&
-      EqualsNoCase(progid.substr(0, m_LoaderPrefix.Size()), m_LoaderPrefix)) {
-    m_Load(*this);
-    m_Load = nullptr;
+  if (found == m_Makers.end() && EqualsNoCase(progid.substr(0, m_LoaderPrefix.Size()), m_LoaderPrefix)) {
+    Load();
     found = m_Makers.find(progid);
   }
   if (found == m_Makers.end()) Raise(ErrorNumber::CannotCreateObject);

@@ -20,6 +20,8 @@ class ClassRegistry {
   /// The loader runs once, when a class is asked for whose identifier begins with `prefix` and is not known
   /// yet. Where it fails, it runs again the next time.
   void SetLoader(std::u16string_view prefix, Loader load);
+  /// Runs the loader if it has not run yet. Errors of the loader.
+  void Load();
   /// A new object. Error 429 where no class has the identifier; errors of the loader and of the class.
   Ref<Object> Create(std::u16string_view progid);
 

@@ -10,11 +10,16 @@ std::u16string Digits(int number) {
   return {digits.begin(), digits.end()};
 }
 
+constexpr std::u16string_view kCompilation = u"VBScript compilation error",
+                              kRuntime = u"VBScript runtime error";
+
 // The engines name themselves with a maker in front; the line goes without.
 Text Origin(const ScriptError& error) {
-  if (error.isSyntax) return u"VBScript compilation error";
-  if (error.source.IsEmpty() || EqualsNoCase(error.source, u"Microsoft VBScript runtime error"))
-    return u"VBScript runtime error";
+  constexpr std::u16string_view kMaker = u"Microsoft ";
+  if (error.isSyntax) return kCompilation;
+  if (error.source.IsEmpty()) return kRuntime;
+  for (const std::u16string_view own : {kCompilation, kRuntime})
+    if (EqualsNoCase(error.source, Text(kMaker) + own)) return own;
   return error.source;
 }
 

@@ -22,11 +22,13 @@ void FileHandle::Close() noexcept {
 }
 
 std::size_t FileHandle::Read(char* bytes, std::size_t size) const {
-  for (;;) {
+  // There may be no end to what is read.
+  while (!InterruptSignal::WasRaised()) {
     const ssize_t count = ::read(m_Descriptor, bytes, size);
     if (count >= 0) return static_cast<std::size_t>(count);
-    if (errno != EINTR || InterruptSignal::WasRaised()) Raise(kDeviceError);
+    if (errno != EINTR) break;
   }
+  Raise(kDeviceError);
 }
 
 void FileHandle::Write(std::string_view bytes) const {

@@ -22,7 +22,7 @@ class FileHandle {
   void Close() noexcept;
 
   /// Reads what is there, at most `size` bytes, after waiting for some; 0 at the end. Error 57 where the
-  /// device fails, and where Ctrl+C ended the wait.
+  /// device fails, and after Ctrl+C, which ends a wait.
   std::size_t Read(char* bytes, std::size_t size) const;
   /// Writes all bytes. Error 61 where there is no room, else 57.
   void Write(std::string_view bytes) const;

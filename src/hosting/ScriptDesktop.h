@@ -20,7 +20,8 @@ class ScriptDesktop {
 /// What surrounds a script run and outlives it.
 struct ScriptSurroundings {
   ClassRegistry classes;
-  std::unique_ptr<ScriptDesktop> desktop;  ///< null until a class has needed it
+  std::unique_ptr<ScriptDesktop> desktop;  ///< null until a class or a message box has needed it
+  bool hasDisplay = false;                 ///< whether message boxes are worth loading the desktop
   Text program;                            ///< path of the program that runs the script
 };
 

@@ -19,9 +19,26 @@ int Compile(const ScriptJob& job, const Text& source, const StandardStreams& str
   return kErrorMet;
 }
 
+int List(const ScriptJob& job, const Text& source, const StandardStreams& streams) {
+  if (const int status = Compile(job, source, streams); status != kDone) return status;
+  streams.out->Write(vbscript::Disassemble(source));
+  return kDone;
+}
+
 int Refuse(const ScriptJob& job, std::u16string_view reason, const StandardStreams& streams) {
   streams.Tell(job.file + u": " + reason);
   return kWrongUse;
+}
+
+// What cannot be written in the end is an error like any other.
+int Finish(const ScriptJob& job, int status, const StandardStreams& streams) {
+  try {
+    streams.out->Flush();
+  } catch (const Error& error) {
+    streams.Tell(job.file + u": the output cannot be written: " + error.Description());
+    return status == kDone ? kErrorMet : status;
+  }
+  return status;
 }
 
 }  // namespace
@@ -35,10 +52,8 @@ int RunScript(const ScriptJob& job, ScriptSurroundings& surroundings) {
   if (!bytes) return Refuse(job, u"the file cannot be read", streams);
   const Text source = DecodeSource(*bytes);
   if (job.task == ScriptJob::Task::Compile) return Compile(job, source, streams);
-  const int status = ScriptRun(job, surroundings, streams).Run(source);
-  // Objects that hold each other may hold the stream, too.
-  Attempt([&] { streams.out->Flush(); });
-  return status;
+  if (job.task == ScriptJob::Task::Disassemble) return Finish(job, List(job, source, streams), streams);
+  return Finish(job, ScriptRun(job, surroundings, streams).Run(source), streams);
 }
 
 }  // namespace cardwright

@@ -8,7 +8,11 @@ namespace cardwright {
 
 /// What to do with a script file.
 struct ScriptJob {
-  enum class Task { Run, Compile };
+  enum class Task {
+    Run,
+    Compile,
+    Disassemble,  ///< writes the compiled form to standard output
+  };
 
   Text file;                    ///< as the user named it; so it stands in messages
   std::vector<Text> arguments;  ///< for the script

@@ -39,47 +39,49 @@ int ScriptRun::Run(const Text& source) {
   try {
     m_Engine->AddCode({}, source);
   } catch (const Error& error) {
-    if (!IsStopping()) m_Failure = FailureOf(error);
+    Fail(error);
   }
   m_Engine->SetObserver(nullptr);
   m_Events.Clear();
-  m_IsOver = true;
   log.TellTimes();
+  // While Ctrl+C still reaches what objects do at their end.
+  m_Engine->Close();
+  m_IsOver = true;
   return Status();
 }
 
 int ScriptRun::Status() const {
   if (m_Quit) return *m_Quit;
-  if (m_Failure) {
-    m_Streams.Tell(ErrorLine(m_Job.file, *m_Failure));
-    return kErrorMet;
-  }
+  if (m_HasFailed) return kErrorMet;
   if (!InterruptSignal::WasRaised()) return 0;
   m_Streams.Tell(m_Job.file + u": interrupted");
   return kInterrupted;
 }
 
 bool ScriptRun::IsStopping() const noexcept {
-  return m_IsOver || m_Quit || m_Failure || InterruptSignal::WasRaised();
+  return m_IsOver || m_Quit || m_HasFailed || InterruptSignal::WasRaised();
 }
 
-ScriptError ScriptRun::FailureOf(const Error& error) const {
+void ScriptRun::Fail(const Error& error) {
+  if (IsStopping()) return;
+  m_HasFailed = true;
   ScriptError failure = m_Engine->LastError();
-  if (failure.number != 0) return failure;
-  failure.number = error.Number();
-  failure.description = error.Description();
-  failure.source = error.Source();
-  return failure;
+  if (failure.number == 0) {
+    failure.number = error.Number();
+    failure.description = error.Description();
+    failure.source = error.Source();
+  }
+  m_Streams.Tell(ErrorLine(m_Job.file, failure));
 }
 
+// What ended the run first says how; later calls come from objects at their end, which they stop only.
 void ScriptRun::Quit(int status) {
-  if (m_IsOver) return;
-  m_Quit = status;
+  if (!IsStopping()) m_Quit = status;
   m_Engine->Interrupt();
 }
 
 void ScriptRun::Sleep(std::chrono::milliseconds time) {
-  Attempt([&] { m_Streams.out->Flush(); });
+  m_Streams.out->Flush();
   const auto end = std::chrono::steady_clock::now() + time;
   do {
     const auto left = std::chrono::ceil<std::chrono::milliseconds>(end - std::chrono::steady_clock::now());
@@ -99,7 +101,7 @@ void ScriptRun::CallEvent(std::u16string_view procedure, Args args) {
   try {
     m_Engine->Run({}, procedure, args);
   } catch (const Error& error) {
-    if (!IsStopping()) m_Failure = FailureOf(error);
+    Fail(error);
   }
   if (IsStopping()) m_Engine->Interrupt();
 }
@@ -121,7 +123,8 @@ Ref<Object> ScriptRun::GetObject(std::u16string_view path, std::u16string_view) 
   Raise(ErrorNumber::CannotCreateObject);
 }
 
-bool ScriptRun::ShowsBoxes() const {
+bool ScriptRun::ShowsBoxes() {
+  if (m_Surroundings.hasDisplay) m_Surroundings.classes.Load();
   return m_Surroundings.desktop && m_Surroundings.desktop->HasDisplay() && Module().desktop;
 }
 

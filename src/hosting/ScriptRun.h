@@ -44,11 +44,12 @@ class ScriptRun final : public ScriptHost {
  private:
   bool IsStopping() const noexcept;
   int Status() const;
+  /// Notes an error that nothing in the script caught, and tells of it.
+  void Fail(const Error& error);
   void CallEvent(std::u16string_view procedure, Args args);
   bool Defines(std::u16string_view procedure) const;
-  ScriptError FailureOf(const Error& error) const;
-  /// Whether a message can be shown to a person in a window.
-  bool ShowsBoxes() const;
+  /// Whether a message can be shown to a person in a window. Loads what that takes.
+  bool ShowsBoxes();
 
   const ScriptJob& m_Job;
   ScriptSurroundings& m_Surroundings;
@@ -56,8 +57,8 @@ class ScriptRun final : public ScriptHost {
   EventSinks m_Events;
   std::optional<InterruptSignal> m_Signal;
   std::optional<int> m_Quit;
-  std::optional<ScriptError> m_Failure;
-  bool m_IsOver = false;  // only what objects do at their own end may still run
+  bool m_HasFailed = false;
+  bool m_IsOver = false;
   // Goes first, as objects of the script may use all the others at their end.
   const std::unique_ptr<ScriptEngine> m_Engine;
 };

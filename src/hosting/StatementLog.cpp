@@ -24,13 +24,21 @@ std::u16string_view SourceLines::Line(int number) const noexcept {
 }
 
 void StatementLog::OnStatement(std::u16string_view, int line, int) {
+  if (line < 1) return;
   if (m_Traces) Trace(line);
-  if (!m_Profiles || line < 1) return;
-  const Clock::time_point now = Clock::now();
-  EndStatement(now);
+  if (!m_Profiles) return;
+  Begin(line);
+  ++m_Costs[m_Current].count;
+}
+
+void StatementLog::OnReturn(std::u16string_view, int line, int) {
+  if (m_Profiles && line > 0) Begin(line);
+}
+
+void StatementLog::Begin(int line) {
+  EndStatement(Clock::now());
   m_Current = static_cast<std::size_t>(line);
   if (m_Current >= m_Costs.size()) m_Costs.resize(m_Current + 1);
-  ++m_Costs[m_Current].count;
   m_Begin = Clock::now();
 }
 

@@ -14,7 +14,7 @@ class SourceLines {
  public:
   explicit SourceLines(const Text& source);
   std::size_t Count() const noexcept { return m_Lines.size(); }
-  /// By number from 1, blanks cut off; empty where there is none, as in code that a script made itself.
+  /// By number from 1, blanks cut off; empty where there is none.
   std::u16string_view Line(int number) const noexcept;
 
  private:
@@ -31,8 +31,9 @@ class StatementLog final : public ScriptObserver {
       : m_File(file), m_Lines(source), m_Streams(streams), m_Traces(traces), m_Profiles(profiles) {}
 
   void OnStatement(std::u16string_view module, int line, int column) override;
+  void OnReturn(std::u16string_view module, int line, int column) override;
   /// The table of times, the longest first. A line's time is that until the next statement begins, so that of
-  /// what it calls is not in it.
+  /// the procedures that it calls is not in it, but that of code that it makes and executes is.
   void TellTimes();
 
  private:
@@ -44,6 +45,7 @@ class StatementLog final : public ScriptObserver {
 
   void Trace(int line);
   void EndStatement(Clock::time_point now) noexcept;
+  void Begin(int line);
 
   const Text m_File;
   const SourceLines m_Lines;

@@ -1,13 +1,16 @@
 #include "hosting/TextStream.h"
 
+#include <algorithm>
 #include <limits>
 
 namespace cardwright {
 namespace {
 
-constexpr int kBadFileMode = 54, kInputPastEnd = 62;
+constexpr int kOutOfStringSpace = 14, kBadFileMode = 54, kInputPastEnd = 62;
 constexpr std::size_t kBlock = std::size_t{1} << 16;
 constexpr std::size_t kAll = std::numeric_limits<std::size_t>::max();
+// As much as the engine lets a script put into one text.
+constexpr std::size_t kMaxText = std::size_t{1} << 28;
 
 constexpr Member kMembers[] = {
     Property<&TextStream::AtEndOfLine>(u"AtEndOfLine"),
@@ -75,14 +78,18 @@ void TextStream::RequireMore() {
   if (!Fill()) Raise(kInputPastEnd);
 }
 
+std::int32_t TextStream::Shown(std::int64_t place) noexcept {
+  return static_cast<std::int32_t>(std::min<std::int64_t>(place, std::numeric_limits<std::int32_t>::max()));
+}
+
 void TextStream::Advance(std::u16string_view text) noexcept {
   const std::size_t lastEnd = text.rfind(u'\n');
   if (lastEnd == std::u16string_view::npos) {
-    m_Column += static_cast<std::int32_t>(text.size());
+    m_Column += static_cast<std::int64_t>(text.size());
     return;
   }
   for (const char16_t c : text) m_Line += c == u'\n';
-  m_Column = static_cast<std::int32_t>(text.size() - lastEnd);
+  m_Column = static_cast<std::int64_t>(text.size() - lastEnd);
 }
 
 std::u16string TextStream::Take(std::size_t count, bool toLine) {
@@ -91,6 +98,7 @@ std::u16string TextStream::Take(std::size_t count, bool toLine) {
     std::u16string_view rest = m_Text.View().substr(m_Next, count);
     const std::size_t end = toLine ? rest.find(u'\n') : std::u16string_view::npos;
     if (end != std::u16string_view::npos) rest = rest.substr(0, end + 1);
+    if (taken.size() + rest.size() > kMaxText) Raise(kOutOfStringSpace);
     Advance(rest);
     taken += rest;
     m_Next += rest.size();
@@ -137,13 +145,18 @@ Text TextStream::ReadAll() {
 
 void TextStream::Skip(std::int32_t count) {
   Require(Access::Read);
-  const std::size_t wanted = RequireCount(count);
-  if (Take(wanted, false).size() < wanted) Raise(kInputPastEnd);
+  // In blocks, as what is passed over need not fit into a text.
+  for (std::size_t wanted = RequireCount(count); wanted > 0;) {
+    const std::size_t taken = Take(std::min(wanted, kBlock), false).size();
+    if (taken == 0) Raise(kInputPastEnd);
+    wanted -= taken;
+  }
 }
 
 void TextStream::SkipLine() {
   RequireMore();
-  Take(kAll, true);
+  while (Fill() && !Take(kBlock, true).ends_with(u'\n')) {
+  }
 }
 
 void TextStream::Put(std::u16string_view text) {

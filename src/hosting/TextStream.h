@@ -9,8 +9,9 @@
 namespace cardwright {
 
 /// A text being read from a file or written to one, a program's own streams included. Errors for scripts: 54
-/// where a stream for reading is written to or the other way round, 62 for reading at the end, 91 once it is
-/// closed, 5 for a character that the code page lacks, 61 for a full disk.
+/// where a stream for reading is written to or the other way round, 62 for reading at the end, 14 for reading
+/// more at once than a text may hold, 91 once it is closed, 5 for a character that the code page lacks, 61
+/// for a full disk.
 class TextStream final : public TableObject {
  public:
   enum class Access { Read, Write };
@@ -54,14 +55,16 @@ class TextStream final : public TableObject {
   void Close();
   /// @name Place of the next character, from 1
   /// @{
-  std::int32_t Line() const noexcept { return m_Line; }
-  std::int32_t Column() const noexcept { return m_Column; }
+  std::int32_t Line() const noexcept { return Shown(m_Line); }
+  std::int32_t Column() const noexcept { return Shown(m_Column); }
   /// @}
 
  protected:
   const MemberTable& Members() const override;
 
  private:
+  /// Scripts know no larger numbers.
+  static std::int32_t Shown(std::int64_t place) noexcept;
   void Require(Access access) const;
   /// True where a character is there to be read.
   bool Fill();
@@ -81,8 +84,8 @@ class TextStream final : public TableObject {
   Text m_Text;          // decoded
   std::size_t m_Next = 0;
   bool m_AtEnd = false;
-  std::int32_t m_Line = 1;
-  std::int32_t m_Column = 1;
+  std::int64_t m_Line = 1;
+  std::int64_t m_Column = 1;
 };
 
 }  // namespace cardwright

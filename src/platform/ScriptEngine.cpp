@@ -22,4 +22,6 @@ Ref<Object> ScriptHost::LoadPicture(std::u16string_view) { Raise(70); }
 
 Text ScriptHost::BoxTitle() const { return u"VBScript"; }
 
+void ScriptObserver::OnReturn(std::u16string_view, int, int) {}
+
 }  // namespace cardwright

@@ -39,11 +39,14 @@ struct ScriptProcedure {
   bool returnsValue = false;
 };
 
-/// Told of each statement before it runs, for tracing and profiling.
+/// Told of each statement before it runs, for tracing and profiling. In code that a script made itself lines
+/// and columns are 0.
 class ScriptObserver {
  public:
   virtual ~ScriptObserver() = default;
   virtual void OnStatement(std::u16string_view module, int line, int column) = 0;
+  /// A procedure is about to return to the statement that called it, which goes on.
+  virtual void OnReturn(std::u16string_view module, int line, int column);
 };
 
 /// One instance of a script language: code in modules, objects given by the program, procedures called by
@@ -75,6 +78,9 @@ class ScriptEngine {
   virtual void SetTimeout(std::int32_t milliseconds) = 0;
   virtual void SetAllowUI(bool allowed) = 0;
   virtual void SetObserver(ScriptObserver* observer) = 0;
+  /// Ends the objects that the scripts left, as the engine does at its own end; what they do then may still
+  /// call the program. Names are empty afterwards.
+  virtual void Close() = 0;
   /// Stops the running script at its next step; from any thread. Nothing in the script can catch it.
   virtual void Interrupt() noexcept = 0;
 };

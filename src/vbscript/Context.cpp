@@ -1,12 +1,15 @@
 #include "vbscript/Context.h"
 
 #include "automation/Errors.h"
+#include "vbscript/StopSignal.h"
 
 namespace cardwright::vbscript {
 
 namespace {
 
 constexpr int kOutOfStringSpace = 14;
+// Some dozens of microseconds.
+constexpr std::size_t kLongWork = std::size_t{1} << 16;
 
 }  // namespace
 
@@ -20,6 +23,11 @@ Text Context::Character(char16_t unit) {
 
 void Context::CheckTextSize(std::size_t units) const {
   if (units > maxTextUnits) Raise(kOutOfStringSpace);
+  NoteWork(units);
+}
+
+void Context::NoteWork(std::size_t units) noexcept {
+  if (units >= kLongWork) StopSignal::IsRaised();
 }
 
 }  // namespace cardwright::vbscript

@@ -31,6 +31,9 @@ class Context {
 
   /// Error 14 where a text of that many units would be too long.
   void CheckTextSize(std::size_t units) const;
+  /// To be called about work on that many units or elements. The machine looks at the clock every some
+  /// thousand jumps, which is too late where each of them does work like this.
+  static void NoteWork(std::size_t units) noexcept;
 
  private:
   ScriptHost& m_Host;

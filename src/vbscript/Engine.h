@@ -11,6 +11,8 @@ struct Limits {
   int callDepth = 10000;                           ///< procedures within procedures; error 28
   std::size_t textUnits = std::size_t{1} << 28;    ///< UTF-16 units of one text; error 14
   std::size_t memoryBytes = std::size_t{1} << 30;  ///< of texts and arrays during one call; error 7
+  std::size_t registerBlock =
+      4096;  ///< values by which the memory of running procedures grows; never an error
 };
 
 /// A VBScript engine. `host` must outlive it.

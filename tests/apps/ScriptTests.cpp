@@ -103,6 +103,35 @@ TEST_F(ScriptTest, QuitsAtOnceEvenWhereErrorsAreCaught) {
   EXPECT_EQ(Run("WScript.Quit").status, 0);
 }
 
+const std::string kQuitsAtItsEnd =
+    "Class Last\nSub Class_Terminate\nWScript.Echo \"end\"\nWScript.Quit 5\nWScript.Echo \"no\"\nEnd Sub\n"
+    "End Class\nSet o = New Last\n";
+
+TEST_F(ScriptTest, QuitsFromTheEndOfAnObject) {
+  for (const char* rest :
+       {"Set o = Nothing\nWScript.Echo \"no\"", "Set o = Nothing\nx = MsgBox(\"no\")", ""}) {
+    const Outcome outcome = Run(kQuitsAtItsEnd + rest);
+    EXPECT_EQ(outcome.out, "end\n") << rest;
+    EXPECT_EQ(outcome.status, 5) << rest;
+  }
+}
+
+TEST_F(ScriptTest, KeepsTheStatusThatItEndedWithFirst) {
+  EXPECT_EQ(Run(kQuitsAtItsEnd + "WScript.Quit 3").status, 3);
+  const Outcome outcome = Run(kQuitsAtItsEnd + "x = 1 / 0");
+  EXPECT_EQ(outcome.status, 1);
+  EXPECT_EQ(outcome.out, "end\n");
+  EXPECT_EQ(outcome.err, "a.vbs(9, 1) VBScript runtime error: Division by zero\n");
+}
+
+TEST_F(ScriptTest, FailsWhereItsOutputCannotBeWritten) {
+  const std::string script = m_Folder.Write("a.vbs", "WScript.Echo 1");
+  const Outcome outcome =
+      RunProgram("sh", {"-c", "exec \"$0\" script \"$1\" >/dev/full", CARDWRIGHT_PROGRAM, script});
+  EXPECT_EQ(outcome.status, 1);
+  EXPECT_EQ(outcome.err, script + ": the output cannot be written: Disk full\n");
+}
+
 TEST_F(ScriptTest, ReadsItsFileInAnyUsualCoding) {
   EXPECT_EQ(Run("\xEF\xBB\xBFWScript.Echo \"è\"").out, "è\n");
   EXPECT_EQ(Run("WScript.Echo \"\xE8\"").out, "è\n");
@@ -126,14 +155,14 @@ TEST_F(ScriptTest, MakesObjectsAndRefusesUnknownClasses) {
 TEST_F(ScriptTest, MakesTheClassesOfTheDesktopModule) {
   const Outcome outcome =
       Run("Set items = CreateObject(\"Cardwright.CItems\")\nSet item = CreateObject(\"Cardwright.CItem\")\n"
-          "item.m_Text = \"one\"\nitems.Add item\nWScript.Echo items.Count, items(1).m_Text\n"
+          "item.Text = \"one\"\nitems.Add item\nWScript.Echo items.Count, items(1).Text\n"
           "WScript.Echo TypeName(CreateObject(\"Cardwright.CLabel\")), "
           "TypeName(CreateObject(\"Cardwright.CForm\"))\n"
           "WScript.Echo TypeName(CreateObject(\"Cardwright.Vellum\"))\n"
           "On Error Resume Next\nSet x = CreateObject(\"Cardwright.NoSuch\")\nWScript.Echo "
           "Err.Number\nWScript.Sleep 1");
   EXPECT_EQ(outcome.out, "1 one\nCLabel CForm\nVellum\n429\n");
-  EXPECT_EQ(outcome.err, "");
+  EXPECT_THAT(outcome.err, ::testing::Not(HasSubstr("a.vbs")));  // the toolkit may have something to say
   EXPECT_EQ(outcome.status, 0);
 }
 
@@ -142,6 +171,24 @@ TEST_F(ScriptTest, AnswersMessageBoxesByTheirDefaultButtonWhereNobodySeesThem) {
       Run("WScript.Echo MsgBox(\"Sure?\", vbYesNo + vbDefaultButton2)\nWScript.Echo InputBox(\"Name?\", , "
           "\"me\")");
   EXPECT_EQ(outcome.out, "Sure?\n7\nName?\nme\n");
+}
+
+TEST_F(ScriptTest, DrawsWindowsUnseenWhereTheDisplayCannotBeReached) {
+  const std::string script = m_Folder.Write(
+      "a.vbs",
+      "Set l = CreateObject(\"Cardwright.CLabel\")\nWScript.Echo TypeName(l), MsgBox(\"Sure?\", vbYesNo)");
+  const std::vector<std::string> words = {"-u", "QT_QPA_PLATFORM", "DISPLAY=:4711", CARDWRIGHT_PROGRAM,
+                                          "script"};
+  const auto run = [&](std::vector<std::string> more) {
+    more.insert(more.begin(), words.begin(), words.end());
+    return RunProgram("env", more);
+  };
+  const Outcome outcome = run({script});
+  EXPECT_EQ(outcome.out, "Sure?\nCLabel 6\n");
+  EXPECT_EQ(outcome.status, 0);
+  const Outcome insisting = run({"--display", script});
+  EXPECT_THAT(insisting.err, HasSubstr("a.vbs(1, 1) VBScript runtime error: there is no display"));
+  EXPECT_EQ(insisting.status, 1);
 }
 
 TEST_F(ScriptTest, TracesItsStatements) {
@@ -154,6 +201,23 @@ TEST_F(ScriptTest, TellsTheTimesOfItsLinesTheLongestFirst) {
   const Outcome outcome = Run("For i = 1 To 3\nx = i\nNext\nWScript.Sleep 30", {"--profile"});
   EXPECT_THAT(outcome.err, ContainsRegex("count  line  source\n *[0-9.]+ +1 +4  WScript.Sleep 30\n"));
   EXPECT_THAT(outcome.err, ContainsRegex(" +3 +2  x = i\n"));
+}
+
+TEST_F(ScriptTest, CountsCodeThatItMakesToTheLineThatExecutesIt) {
+  const std::string script =
+      "x = 1\n' nothing\nExecute \"y = 1\" & vbLf & \"For i = 1 To 5\" & vbLf & \"y = i\" & vbLf & \"Next\"";
+  EXPECT_EQ(Run(script, {"--trace"}).err,
+            "a.vbs:1: x = 1\na.vbs:3: " + script.substr(script.find("Execute")) + "\n");
+  const Outcome outcome = Run(script, {"--profile"});
+  EXPECT_THAT(outcome.err, ContainsRegex(" +1 +1  x = 1\n"));
+  EXPECT_THAT(outcome.err, ContainsRegex(" +1 +3  Execute "));
+  EXPECT_THAT(outcome.err, ::testing::Not(ContainsRegex(" +2  ' nothing")));
+}
+
+TEST_F(ScriptTest, CountsTheTimeAfterACallToTheLineOfTheCall) {
+  const Outcome outcome =
+      Run("Function F\nF = 1\nEnd Function\nx = F() & Len(String(20000000, \"a\"))", {"--profile"});
+  EXPECT_THAT(outcome.err, ContainsRegex("source\n *[0-9.]+ +1 +4  x = F"));
 }
 
 TEST_F(ScriptTest, NeedsAFileItCanRead) {
@@ -171,6 +235,7 @@ TEST_F(ScriptTest, NeedsAFileItCanRead) {
 /// shown something.
 int StatusAfterCtrlC(const TempFolder& folder) {
   const std::string script = folder.File("a.vbs"), out = folder.File("out"), error = folder.File("err");
+  std::filesystem::remove(error);  // of an earlier run
   const pid_t child = fork();
   if (child == 0) {
     (void)!freopen(out.c_str(), "w", stdout);
@@ -187,8 +252,11 @@ int StatusAfterCtrlC(const TempFolder& folder) {
 }
 
 TEST_F(ScriptTest, StopsOnCtrlCWhateverItDoes) {
-  for (const char* endless : {"Do\nx = x + 1\nLoop", "On Error Resume Next\nDo\nx = 1 / 0\nLoop",
-                              "Do\nWScript.Sleep 100000\nLoop"}) {
+  for (const char* endless :
+       {"Do\nx = x + 1\nLoop", "On Error Resume Next\nDo\nx = 1 / 0\nLoop", "Do\nWScript.Sleep 100000\nLoop",
+        "Class C\nSub Class_Terminate\nDo\nLoop\nEnd Sub\nEnd Class\nSet o = New C",
+        "Set f = CreateObject(\"Scripting.FileSystemObject\")\n"
+        "f.OpenTextFile(\"/dev/zero\").SkipLine"}) {
     m_Folder.Write("a.vbs", std::string("WScript.StdErr.WriteLine \"on\"\nWScript.Sleep 0\n") + endless);
     EXPECT_EQ(StatusAfterCtrlC(m_Folder), 130) << endless;
     EXPECT_THAT(ReadAll(m_Folder.File("err")), HasSubstr("interrupted"));

@@ -48,6 +48,20 @@ TEST(ClassRegistryLoader, RunsOnceAndOnlyForAnUnknownClassOfItsPrefix) {
   EXPECT_EQ(loads, 1);
 }
 
+TEST(ClassRegistryLoader, RunsWhenItIsToldTo) {
+  ClassRegistry classes;
+  int loads = 0;
+  classes.Load();
+  classes.SetLoader(u"Part.", [&](ClassRegistry& more) {
+    ++loads;
+    more.Add(u"Part.Heavy", Make);
+  });
+  classes.Load();
+  classes.Load();
+  EXPECT_EQ(loads, 1);
+  EXPECT_EQ(classes.Create(u"Part.Heavy")->TypeName(), u"Collection");
+}
+
 TEST(ClassRegistryLoader, RunsAgainAfterAFailure) {
   ClassRegistry classes;
   int loads = 0;

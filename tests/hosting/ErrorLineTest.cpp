@@ -20,6 +20,15 @@ TEST(ErrorLine, NamesTheEngineTheScriptsSourceOrTheCompiler) {
   EXPECT_EQ(ErrorLine(u"a.vbs", error), u"a.vbs(3, 8) VBScript compilation error: Type mismatch: 'x'");
 }
 
+TEST(ErrorLine, NamesTheCompilerForCodeThatAScriptMade) {
+  const ScriptError error{.number = 1006,
+                          .description = u"Expected ')'",
+                          .line = 2,
+                          .column = 4,
+                          .source = u"Microsoft VBScript compilation error"};
+  EXPECT_EQ(ErrorLine(u"a.vbs", error), u"a.vbs(2, 5) VBScript compilation error: Expected ')'");
+}
+
 TEST(ErrorLine, StaysOneLine) {
   const ScriptError error{.number = 1000, .description = u"one\r\ntwo", .line = 1, .source = {}};
   EXPECT_EQ(ErrorLine(u"a.vbs", error), u"a.vbs(1, 1) VBScript runtime error: one  two");

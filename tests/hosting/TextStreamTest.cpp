@@ -67,6 +67,16 @@ TEST_F(TextStreamTest, ReadsAFileLargerThanItsBlocks) {
   EXPECT_EQ(ToText(CallMethod(*Reader(bytes), u"ReadAll")).Size(), bytes.size());
 }
 
+TEST_F(TextStreamTest, SkipsMoreThanItsBlocksHold) {
+  const Ref<Object> stream = Reader(std::string(200'000, 'a') + std::string(100'000, 'b') + "\nlast");
+  CallMethod(*stream, u"Skip", {199'999});
+  EXPECT_EQ(Utf8Of(GetProperty(*stream, u"Column")), "200000");
+  EXPECT_EQ(Utf8Of(CallMethod(*stream, u"Read", {2})), "ab");
+  CallMethod(*stream, u"SkipLine");
+  EXPECT_EQ(Utf8Of(GetProperty(*stream, u"Line")), "2");
+  EXPECT_EQ(Utf8Of(CallMethod(*stream, u"ReadAll")), "last");
+}
+
 TEST_F(TextStreamTest, FailsBehindTheEnd) {
   for (const char16_t* member : {u"ReadLine", u"ReadAll", u"SkipLine"})
     EXPECT_EQ(ErrorOf([&] { CallMethod(*Reader(""), member); }), 62);

@@ -14,6 +14,9 @@ class FakeDesktop final : public Desktop, private SettingsStore {
   ~FakeDesktop() override { Module().desktop = nullptr; }
 
   int ShowMessage(const Text&, int, const Text&) override { return 1; }
+  Variant AskText(const Text&, const Text&, const Text&, const Variant&, const Variant&) override {
+    return {};
+  }
   void Beep() override { ++beeps; }
   Ref<Widget> ActiveControl() const override { return active; }
   OleColor ResolveColor(OleColor color) const override { return color; }

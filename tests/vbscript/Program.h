@@ -6,6 +6,8 @@
 #include <string>
 #include <vector>
 
+#include "vbscript/Engine.h"
+
 namespace cardwright::vbscript {
 
 /// How a program ends that meets an error which it does not catch.
@@ -36,7 +38,13 @@ struct Program {
   static Program Read(const std::filesystem::path& file);
 };
 
+/// Whether a program shows what is expected of it; of an error only what the expectation tells.
+bool Fits(const ProgramOutcome& expected, const ProgramOutcome& actual);
+
 /// Runs the program's source in an engine of its own.
-ProgramOutcome RunProgram(const Program& program);
+ProgramOutcome RunProgram(const Program& program, const Limits& limits = {});
+
+/// All programs of tests/vbscript/<area>/, in order.
+std::vector<std::filesystem::path> ProgramFiles();
 
 }  // namespace cardwright::vbscript

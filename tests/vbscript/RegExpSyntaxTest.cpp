@@ -27,20 +27,20 @@ TEST(RegExpSyntax, MatchesPlainCharacters) {
   });
 }
 
-TEST(RegExpSyntax, FullStopMatchesAllButLineTerminators) {
+TEST(RegExpSyntax, FullStopMatchesAllButLineFeeds) {
   CheckRows({
       {u".", "g", u"a\nb", "0:a 2:b"},
       {u"a.b", "", u"a\nb", "-"},
-      {u"a.b", "", u"a\rb", "-"},
-      {u"a.b", "", u"a\u2028b", "-"},
-      {u"a.b", "", u"a\u2029b", "-"},
+      {u"a.b", "", u"a\rb", "0:a\rb"},
+      {u"a.b", "", u"a\u2028b", "0:a\u2028b"},
+      {u"a.b", "", u"a\u2029b", "0:a\u2029b"},
       {u"a.b", "", u"a\vb", "0:a\vb"},
       {u"a.b", "", u"a\fb", "0:a\fb"},
       {u"a.b", "", u"a\u0085b", "0:a\u0085b"},
       {u"a.b", "", u"a\u00E9b", "0:a\u00E9b"},
       {u"a.b", "", u"a\0b"sv, "0:a\0b"sv},
       {u"^..$", "", u"\U0001F600", "0:\U0001F600"},
-      {u".*", "", u"one\r\ntwo", "0:one"},
+      {u".*", "", u"one\r\ntwo", "0:one\r"},
   });
 }
 

@@ -1,12 +1,13 @@
 #include "vbscript/builtins/HostObjects.h"
 
-#include "automation/Errors.h"
+#include "vbscript/NamedError.h"
 #include "vbscript/builtins/Arguments.h"
 
 namespace cardwright::vbscript {
 
 namespace {
 
+constexpr int kCannotCreate = static_cast<int>(ErrorNumber::CannotCreateObject);
 constexpr int kNameNotFound = 432;
 constexpr int kInvalidPicture = 481;
 
@@ -15,9 +16,14 @@ Variant Required(Ref<Object> object, int error) {
   return object;
 }
 
+// The report to the host names the class that there is none of.
 Variant Create(Context& context, const Text& progid, const Text& server) {
-  return Required(context.Host().CreateObject(progid, server),
-                  static_cast<int>(ErrorNumber::CannotCreateObject));
+  try {
+    return Required(context.Host().CreateObject(progid, server), kCannotCreate);
+  } catch (const Error& error) {
+    if (error.Number() != kCannotCreate) throw;
+    throw NamedError(kCannotCreate, progid);
+  }
 }
 
 }  // namespace
@@ -35,8 +41,7 @@ Variant GetObjectFunction(Context& context, Args args) {
     Raise(hasPath ? kNameNotFound : static_cast<int>(ErrorNumber::InvalidCall));
   // An empty path asks for a new object of the class, one left out for the running one.
   if (hasPath && path.IsEmpty()) return Create(context, progid, {});
-  return Required(context.Host().GetObject(path, progid),
-                  hasPath ? kNameNotFound : static_cast<int>(ErrorNumber::CannotCreateObject));
+  return Required(context.Host().GetObject(path, progid), hasPath ? kNameNotFound : kCannotCreate);
 }
 
 Variant LoadPictureFunction(Context& context, Args args) {

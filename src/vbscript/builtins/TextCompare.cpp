@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <bit>
 
+#include "automation/TwoWayFind.h"
 #include "vbscript/builtins/TextArguments.h"
 
 namespace cardwright::vbscript {
@@ -39,14 +40,22 @@ std::string_view BytesOf(std::u16string_view text) noexcept {
 std::size_t FindBytes(std::u16string_view text, std::u16string_view part, std::size_t from,
                       CompareMode mode) noexcept {
   if (part.empty()) return from;
-  if (mode == CompareMode::Binary) return BytesOf(text).find(BytesOf(part), from);
+  if (mode == CompareMode::Binary) {
+    const std::string_view bytes = BytesOf(text), wanted = BytesOf(part);
+    if (wanted.size() <= kShortPart) return bytes.find(wanted, from);
+    const std::size_t found = FindLinear(bytes.substr(from), wanted, [](char c) { return c; });
+    return found == bytes.npos ? found : from + found;
+  }
   const std::size_t found = Find(text, part, (from + 1) / sizeof(char16_t), mode);
   return found == text.npos ? found : found * sizeof(char16_t);
 }
 
 std::size_t FindLast(std::u16string_view text, std::u16string_view part, CompareMode mode) noexcept {
-  if (mode == CompareMode::Binary) return text.rfind(part);
   if (part.size() > text.size()) return std::u16string_view::npos;
+  const bool isLong = part.size() > kShortPart;
+  if (mode == CompareMode::Binary)
+    return isLong ? FindLastLinear(text, part, [](char16_t c) { return c; }) : text.rfind(part);
+  if (isLong) return FindLastLinear(text, part, [](char16_t c) { return ToLower(c); });
   for (std::size_t at = text.size() - part.size() + 1; at-- > 0;) {
     if (EqualsNoCase(text.substr(at, part.size()), part)) return at;
   }

@@ -4,6 +4,7 @@
 #include <memory_resource>
 #include <vector>
 
+#include "automation/BudgetedMemory.h"
 #include "vbscript/Context.h"
 #include "vbscript/builtins/TextArguments.h"
 #include "vbscript/builtins/TextCompare.h"
@@ -56,7 +57,7 @@ Variant Replace(Context& context, Args args) {
   // What stands before the start is cut off, even where nothing is replaced.
   const std::u16string_view text = whole.substr(from);
   std::array<std::byte, 1024> buffer;  // enough for the places in most texts
-  std::pmr::monotonic_buffer_resource memory(buffer.data(), buffer.size());
+  std::pmr::monotonic_buffer_resource memory(buffer.data(), buffer.size(), &BudgetedMemory::Instance());
   Hits hits(&memory);
   if (!part.empty()) FindAll(hits, text, part, static_cast<std::size_t>(limit), mode);
   if (hits.empty()) return from == 0 ? std::move(args[0]) : Variant(text);

@@ -17,6 +17,8 @@ class Linkage {
   virtual Symbol* Lookup(Module& module, NameId name) = 0;
   /// Whether the code is to report its statements.
   virtual bool IsObserved() const noexcept = 0;
+  /// Whether a script runs, which then made the code itself.
+  virtual bool IsRunning() const noexcept = 0;
 
  protected:
   ~Linkage() = default;

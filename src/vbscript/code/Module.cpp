@@ -1,16 +1,19 @@
 #include "vbscript/code/Module.h"
 
-#include <algorithm>
-
 namespace cardwright::vbscript {
 
+namespace {
+
+constexpr std::size_t kBytesOfSymbol = sizeof(Symbol) + 64;  // with its entry
+
+}  // namespace
+
 Symbol& Module::Add(NameId name) {
-  auto& symbol = m_Symbols[name];
-  if (!symbol) {
-    symbol = std::make_unique<Symbol>();
-    symbol->name = name;
-  }
-  return *symbol;
+  if (Symbol* known = Find(name)) return *known;
+  m_Memory.Grow(kBytesOfSymbol);
+  auto symbol = std::make_unique<Symbol>();
+  symbol->name = name;
+  return *m_Symbols.emplace(name, std::move(symbol)).first->second;
 }
 
 Symbol* Module::Find(NameId name) const noexcept {
@@ -25,22 +28,37 @@ Symbol* Module::FindBound(NameId name) const noexcept {
 }
 
 Variant* Module::AddVariables(std::size_t count) {
+  m_Memory.Grow(count * sizeof(Variant) + sizeof(Variables));
   m_Variables.push_back({std::make_unique<Variant[]>(count), count});
   return m_Variables.back().values.get();
 }
 
 void Module::Define(NameId name, Ref<const Procedure> procedure) {
   Symbol& symbol = Add(name);
-  if (std::find(m_Procedures.begin(), m_Procedures.end(), name) == m_Procedures.end())
-    m_Procedures.push_back(name);
+  // One that was a procedure before stands in the list already.
+  if (!symbol.procedure) m_Procedures.push_back(name);
   symbol.kind = SymbolKind::Procedure;
   symbol.procedure = std::move(procedure);
 }
 
-void Module::Clear() noexcept {
-  for (auto& [name, symbol] : m_Symbols) symbol->value.Reset();
-  for (const Variables& block : m_Variables)
-    for (std::size_t i = 0; i < block.count; ++i) block.values[i].Reset();
+void Module::DefineClass(NameId name, Ref<ClassInfo> cls) {
+  m_Classes.push_back(cls);
+  Symbol& symbol = Add(name);
+  symbol.kind = SymbolKind::Class;
+  symbol.cls = std::move(cls);
+}
+
+// What an object does at its end may add names and variables.
+void Module::Clear() {
+  std::vector<Symbol*> symbols;
+  symbols.reserve(m_Symbols.size());
+  for (const auto& [name, symbol] : m_Symbols) symbols.push_back(symbol.get());
+  for (Symbol* symbol : symbols) symbol->value.Reset();
+  for (std::size_t k = 0; k < m_Variables.size(); ++k) {
+    Variant* const values = m_Variables[k].values.get();
+    const std::size_t count = m_Variables[k].count;
+    for (std::size_t i = 0; i < count; ++i) values[i].Reset();
+  }
 }
 
 }  // namespace cardwright::vbscript

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "vbscript/code/Symbol.h"
+#include "vbscript/objects/MemoryShare.h"
 
 namespace cardwright::vbscript {
 
@@ -26,14 +27,16 @@ class Module {
   Variant* AddVariables(std::size_t count);
 
   void Define(NameId name, Ref<const Procedure> procedure);
+  void DefineClass(NameId name, Ref<ClassInfo> cls);
   /// In order of definition; a name defined again keeps its place.
   const std::vector<NameId>& Procedures() const noexcept { return m_Procedures; }
   /// Drops every value, so that objects are released while the engine still works.
-  void Clear() noexcept;
+  void Clear();
 
  private:
   Text m_Name;
   Module* m_Global;
+  MemoryShare m_Memory;
   std::unordered_map<NameId, std::unique_ptr<Symbol>> m_Symbols;
   struct Variables {
     std::unique_ptr<Variant[]> values;
@@ -41,6 +44,8 @@ class Module {
   };
   std::vector<Variables> m_Variables;
   std::vector<NameId> m_Procedures;
+  // Replaced ones too: code remembers what it found in a class by the class's address.
+  std::vector<Ref<ClassInfo>> m_Classes;
 };
 
 }  // namespace cardwright::vbscript

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "automation/Text.h"
+#include "vbscript/objects/MemoryShare.h"
 
 namespace cardwright::vbscript {
 
@@ -32,6 +33,7 @@ class Names {
       return EqualsNoCase(a, b);
     }
   };
+  MemoryShare m_Memory;
   std::deque<Text> m_Spellings;
   std::unordered_map<std::u16string_view, NameId, Hash, Equal> m_Ids;
 };

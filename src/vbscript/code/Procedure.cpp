@@ -4,6 +4,12 @@
 
 namespace cardwright::vbscript {
 
+void Procedure::Complete() {
+  const auto bytes = [](const auto& list) { return list.capacity() * sizeof(list[0]); };
+  m_Memory.Grow(bytes(code) + bytes(constants) + bytes(symbols) + bytes(members) + bytes(marks) +
+                bytes(locals));
+}
+
 const StatementMark* Procedure::MarkAt(std::size_t instruction) const noexcept {
   const auto after =
       std::upper_bound(marks.begin(), marks.end(), instruction,

@@ -6,6 +6,7 @@
 #include "automation/Array.h"
 #include "vbscript/code/Instruction.h"
 #include "vbscript/code/Names.h"
+#include "vbscript/objects/MemoryShare.h"
 #include "vbscript/syntax/Position.h"
 
 namespace cardwright::vbscript {
@@ -28,6 +29,9 @@ struct SymbolUse {
   std::uint32_t epoch = 0;  ///< of the look-up; 0 for none yet
   Symbol* symbol = nullptr;
   Variant* variable = nullptr;  ///< where the name stands for a variable of a module
+
+  /// Whether the look-up has left the name to the procedure itself.
+  bool IsLocal() const noexcept { return !symbol && local != kNoRegister; }
 };
 
 /// A member that a call names, with what the last call found.
@@ -36,6 +40,7 @@ struct MemberUse {
   NameId object = kNoName;         ///< what the script calls the object, for reports
   const ClassInfo* cls = nullptr;  ///< the script's own class met last
   const ClassMember* member = nullptr;
+  std::int32_t field = -1;      ///< of that class, where the member is a field open to all
   const void* shape = nullptr;  ///< likewise of other objects
   std::int32_t id = -1;
 };
@@ -72,13 +77,22 @@ class Procedure final : public RefCounted {
   bool hasByValue = false;
   bool returnsValue = false;
   bool isExplicit = false;   ///< names have to be declared
+  bool isMade = false;       ///< of a text that a script made
+  bool isExecuted = false;   ///< works on the variables of the frame below
   bool isOutermost = false;  ///< stands outside procedures: its variables stay when it has run
   std::uint16_t parameters = 0;
   std::uint16_t result = kNoRegister;  ///< the variable of a function's own name
+  NameId resultName = kNoName;         ///< that name; in code executed in the function's scope too
   std::uint16_t firstTemporary = 0;
   std::uint16_t registers = 0;
 
+  /// To be called when it is compiled: its code counts as memory of the thread.
+  void Complete();
+
   const StatementMark* MarkAt(std::size_t instruction) const noexcept;
+
+ private:
+  MemoryShare m_Memory;
 };
 
 }  // namespace cardwright::vbscript

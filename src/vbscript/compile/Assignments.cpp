@@ -100,10 +100,12 @@ void BodyCompiler::Store(const Place& place, std::uint16_t value, bool isSet) {
     case PlaceKind::Field: m_Code.EmitWide(isSet ? Op::SetField : Op::LetField, value, place.index); break;
     case PlaceKind::Symbol: m_Code.EmitWide(isSet ? Op::SetSymbol : Op::LetSymbol, value, place.index); break;
     case PlaceKind::Constant:
-    case PlaceKind::Member:
-      m_Code.EmitWide(Op::RaiseError, kIllegalAssignment, SymbolIndex(place.name));
-      break;
+    case PlaceKind::Member: EmitIllegalAssignment(place); break;
   }
+}
+
+void BodyCompiler::EmitIllegalAssignment(const Place& place) {
+  m_Code.EmitWide(Op::RaiseError, kIllegalAssignment, SymbolIndex(place.name));
 }
 
 void BodyCompiler::AssignElement(const CallExpr& target, const AssignStmt& statement) {
@@ -148,9 +150,11 @@ void BodyCompiler::AssignElement(const CallExpr& target, const AssignStmt& state
   if (place.kind == PlaceKind::Member && isName) {
     holder = m_Code.Temporary();
     m_Code.Emit(Op::LoadMe, holder);
-  } else if (!isSymbol && place.kind != PlaceKind::Register) {
+  } else if (isData && place.kind == PlaceKind::Field) {
     holder = m_Code.Temporary();
-    isData ? EmitHolder(place, holder) : EmitReference(*target.callee, holder);
+    EmitHolder(place, holder);
+  } else if (!isData) {
+    holder = EmitElementPath(*target.callee);
   }
   const std::uint16_t base = EmitArguments(target.arguments, Passing::ByValue, 1);
   m_Code.FreeTo(static_cast<std::uint32_t>(base + count));
@@ -165,6 +169,22 @@ void BodyCompiler::AssignElement(const CallExpr& target, const AssignStmt& state
   } else {
     m_Code.Emit(Op::PutValue, base, holder, flags, n);
   }
+}
+
+// The register of a reference to what an assignment indexes. The elements of arrays in arrays are reached one
+// from the other, so the references on the way stay in their registers.
+std::uint16_t BodyCompiler::EmitElementPath(const Expr& place) {
+  const auto* call = place.kind == ExprKind::Call ? static_cast<const CallExpr*>(&place) : nullptr;
+  if (!call || call->callee->kind != ExprKind::Call || call->arguments.empty()) {
+    const std::uint16_t reference = m_Code.Temporary();
+    EmitReference(place, reference);
+    return reference;
+  }
+  const std::uint16_t outer = EmitElementPath(*call->callee);
+  const std::uint16_t base = EmitArguments(call->arguments, Passing::ByValue);
+  m_Code.Emit(Op::RefElement, base, outer, 0, Count(call->arguments.size()));
+  m_Code.FreeTo(base + 1u);
+  return base;
 }
 
 void BodyCompiler::AssignMember(const MemberExpr& member, std::span<Expr* const> arguments,

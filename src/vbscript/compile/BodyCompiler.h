@@ -1,6 +1,7 @@
 #pragma once
 
 #include <unordered_map>
+#include <unordered_set>
 #include <vector>
 
 #include "vbscript/code/Linkage.h"
@@ -23,14 +24,18 @@ struct CompileContext {
 /// Compiles one body: of a procedure, of what stands outside procedures, of an expression.
 class BodyCompiler {
  public:
-  BodyCompiler(const CompileContext& context, Procedure& procedure, const ClassInfo* owner)
-      : m_Context(context), m_Procedure(procedure), m_Owner(owner), m_Code(procedure) {}
+  /// `start` is the place of the body, for errors before its first statement.
+  BodyCompiler(const CompileContext& context, Procedure& procedure, const ClassInfo* owner,
+               Position start = {})
+      : m_Context(context), m_Procedure(procedure), m_Owner(owner), m_Code(procedure, start) {}
 
   /// @name Variables, before any code
   /// @{
   void AddParameter(NameId name, bool byValue);
   /// The variable that a function returns.
   void AddResult(NameId name);
+  /// The parameter of that name refers to the variable that the function around returns.
+  void MarkResult(NameId name);
   std::uint16_t AddVariable(NameId name);
   void AddConstant(NameId name, const Variant* value);
   bool Knows(NameId name) const { return m_Locals.contains(name); }
@@ -118,16 +123,20 @@ class BodyCompiler {
   bool CompileAppend(const Place& place, const AssignStmt& statement);
   void Store(const Place& place, std::uint16_t value, bool isSet);
   void EmitHolder(const Place& place, std::uint16_t target);
+  std::uint16_t EmitElementPath(const Expr& place);
+  void EmitIllegalAssignment(const Place& place);
 
   // Statements.cpp
   void CompileBlock(Block body);
   void CompileStatement(const Stmt& statement);
   void CompileIf(const IfStmt& statement);
   void CompileSelect(const SelectStmt& statement);
+  std::uint16_t EmitControlVariable(const Place& place, std::uint16_t holder);
   void CompileFor(const ForStmt& statement);
   void CompileForEach(const ForEachStmt& statement);
   void CompileLoop(const LoopStmt& statement);
   void CompileWith(const WithStmt& statement);
+  void EmitReturn();
   void CompileExit(const ExitStmt& statement);
   void CompileReDim(const ReDimStmt& statement);
   void CompileErase(const EraseStmt& statement);
@@ -142,6 +151,7 @@ class BodyCompiler {
   CodeBuilder m_Code;
   std::unordered_map<NameId, Local> m_Locals;
   std::unordered_map<NameId, std::uint32_t> m_Symbols;
+  std::unordered_set<NameId> m_Assigned;  // names that the body assigns
   std::uint32_t m_Registers = 0;
   std::uint32_t m_FirstHidden = 0;
   std::uint32_t m_Hidden = 0;  // hidden registers in use

@@ -1,5 +1,4 @@
 #include "vbscript/compile/BodyCompiler.h"
-#include "vbscript/syntax/SyntaxError.h"
 
 namespace cardwright::vbscript {
 
@@ -8,7 +7,7 @@ constexpr std::size_t kMaxArguments = 250;
 }
 
 std::uint8_t BodyCompiler::Count(std::size_t arguments) const {
-  if (arguments > kMaxArguments) throw SyntaxError(SyntaxErrorNumber::OutOfMemory, {});
+  if (arguments > kMaxArguments) m_Code.FailTooLarge();
   return static_cast<std::uint8_t>(arguments);
 }
 
@@ -60,7 +59,8 @@ void BodyCompiler::EmitHolder(const Place& place, std::uint16_t target) {
     case PlaceKind::Register: m_Code.Emit(Op::RefRegister, target, place.r); break;
     case PlaceKind::Field: m_Code.EmitWide(Op::RefField, target, place.index); break;
     case PlaceKind::Symbol: m_Code.EmitWide(Op::RefSymbol, target, place.index); break;
-    default: EvaluateName(place, target); break;
+    case PlaceKind::Constant:
+    case PlaceKind::Member: EmitIllegalAssignment(place); break;
   }
 }
 

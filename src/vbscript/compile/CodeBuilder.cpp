@@ -37,6 +37,11 @@ void CodeBuilder::JumpBack(std::uint32_t target) { EmitWide(Op::JumpBack, 0, tar
 
 void CodeBuilder::EmitTargetBack(std::uint32_t target) { EmitWord(target - (Here() + 1)); }
 
+void CodeBuilder::FailTooLarge() const {
+  const Position where = m_Procedure.marks.empty() ? m_Start : m_Procedure.marks.back().position;
+  throw SyntaxError(SyntaxErrorNumber::OutOfMemory, where);
+}
+
 std::size_t CodeBuilder::Mark(Position position) {
   m_Procedure.marks.push_back({Here(), Here(), position});
   return m_Procedure.marks.size() - 1;
@@ -67,7 +72,7 @@ std::uint32_t CodeBuilder::Member(NameId name, NameId object) {
 }
 
 void CodeBuilder::SetFirstTemporary(std::uint32_t first) {
-  if (first > kMaxRegisters) throw SyntaxError(SyntaxErrorNumber::OutOfMemory, {});
+  if (first > kMaxRegisters) FailTooLarge();
   m_Procedure.firstTemporary = static_cast<std::uint16_t>(first);
   m_Next = first;
   Reserve(0);
@@ -79,7 +84,7 @@ std::uint16_t CodeBuilder::Temporary() {
 }
 
 void CodeBuilder::Reserve(std::uint32_t count) {
-  if (m_Next + count > kMaxRegisters) throw SyntaxError(SyntaxErrorNumber::OutOfMemory, {});
+  if (m_Next + count > kMaxRegisters) FailTooLarge();
   m_Procedure.registers = std::max(m_Procedure.registers, static_cast<std::uint16_t>(m_Next + count));
 }
 

@@ -21,7 +21,8 @@ class Label {
 /// Writes a procedure's code: words, constants, jumps, marks, registers for values on the way.
 class CodeBuilder {
  public:
-  explicit CodeBuilder(Procedure& procedure) : m_Procedure(procedure) {}
+  /// `start` is the place of the body, for errors before its first statement.
+  CodeBuilder(Procedure& procedure, Position start) : m_Procedure(procedure), m_Start(start) {}
 
   std::uint32_t Here() const noexcept { return static_cast<std::uint32_t>(m_Procedure.code.size()); }
   std::uint32_t Emit(Op op, std::uint16_t a = 0, std::uint16_t b = 0, std::uint16_t c = 0,
@@ -44,6 +45,8 @@ class CodeBuilder {
   void Bind(Label& label);
   /// @}
 
+  /// Error 1001 about the statement at hand: the machine cannot address what it needs.
+  [[noreturn]] void FailTooLarge() const;
   /// Starts a statement, or a part of one that resumes by itself.
   std::size_t Mark(Position position);
   /// Where the code goes on after an error in the part that the mark starts: here.
@@ -68,6 +71,7 @@ class CodeBuilder {
   void Refer(Label& label, std::uint32_t at) { label.m_Jumps.push_back(at); }
 
   Procedure& m_Procedure;
+  const Position m_Start;
   std::uint32_t m_Next = 0;
   std::unordered_map<std::int32_t, std::uint32_t> m_WholeNumbers;
 };

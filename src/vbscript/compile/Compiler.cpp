@@ -78,7 +78,8 @@ Ref<Procedure> BlockCompiler::Compile(const ProcedureDecl& declaration, ClassInf
   procedure->module = &m_Context.module;
   procedure->owner = owner;
   procedure->isExplicit = m_Context.isExplicit;
-  BodyCompiler compiler(m_Context, *procedure, owner);
+  procedure->isMade = m_Linkage.IsRunning();
+  BodyCompiler compiler(m_Context, *procedure, owner, declaration.position);
   for (const Parameter& parameter : declaration.parameters)
     compiler.AddParameter(Name(parameter.name), parameter.byValue);
   const bool returns =
@@ -116,6 +117,7 @@ void BlockCompiler::CompileOutermost() {
   code->module = &m_Context.module;
   code->isOutermost = true;
   code->isExplicit = m_Context.isExplicit;
+  code->isMade = m_Linkage.IsRunning();
   BodyCompiler compiler(m_Context, *code, nullptr);
   const NamesOfBody names = CollectNames(m_Tree.body, m_Linkage.names);
   for (const auto& [name, value] : names.constants)
@@ -124,6 +126,7 @@ void BlockCompiler::CompileOutermost() {
     const Symbol* known = m_Context.module.Find(name);
     if (known && known->kind == SymbolKind::Variable) continue;
     m_Block.names[name] = {.kind = SymbolKind::Variable, .variable = compiler.AddVariable(name)};
+    m_Block.hasVariables = true;
   }
   m_Block.code = code;
   compiler.AddOutermostNames(names);
@@ -152,6 +155,7 @@ CompiledInScope CompileInScope(const SyntaxTree& tree, Linkage& linkage, const P
   compiled.code->module = outer.module;
   compiled.code->owner = outer.owner;
   compiled.code->isExplicit = tree.optionExplicit;
+  compiled.code->isMade = true;
   BodyCompiler body(definitions.Context(), *compiled.code, outer.owner);
   const NamesOfBody names = tree.expression ? CollectNames(*tree.expression, linkage.names)
                                             : CollectNames(tree.body, linkage.names);
@@ -159,6 +163,7 @@ CompiledInScope CompileInScope(const SyntaxTree& tree, Linkage& linkage, const P
     if (body.Knows(name)) return;
     compiled.variables.push_back(name);
     body.AddParameter(name, false);
+    if (name == outer.resultName) body.MarkResult(name);
   };
   const auto isOuter = [&](NameId name) {
     for (const auto& [local, r] : outer.locals)

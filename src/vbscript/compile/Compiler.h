@@ -12,6 +12,7 @@ namespace cardwright::vbscript {
 struct CompiledBlock {
   Ref<Procedure> code;  ///< what stands outside procedures
   BlockNames names;
+  bool hasVariables = false;  ///< among the names
   std::vector<Ref<Procedure>> procedures;
   std::vector<Ref<ClassInfo>> classes;
 };

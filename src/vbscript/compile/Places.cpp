@@ -1,6 +1,5 @@
 #include "vbscript/builtins/Builtin.h"
 #include "vbscript/compile/BodyCompiler.h"
-#include "vbscript/syntax/SyntaxError.h"
 
 namespace cardwright::vbscript {
 
@@ -19,11 +18,16 @@ void BodyCompiler::AddParameter(NameId name, bool byValue) {
 void BodyCompiler::AddResult(NameId name) {
   m_Procedure.result = AddVariable(name);
   m_Procedure.returnsValue = true;
-  if (name != kNoName) m_Locals[name].isResult = true;
+  if (name != kNoName) MarkResult(name);
+}
+
+void BodyCompiler::MarkResult(NameId name) {
+  m_Locals[name].isResult = true;
+  m_Procedure.resultName = name;
 }
 
 std::uint16_t BodyCompiler::AddVariable(NameId name) {
-  if (m_Registers >= kMaxVariables) throw SyntaxError(SyntaxErrorNumber::OutOfMemory, {});
+  if (m_Registers >= kMaxVariables) m_Code.FailTooLarge();
   const auto r = static_cast<std::uint16_t>(m_Registers++);
   if (name != kNoName) {
     m_Locals[name] = {.r = r};
@@ -56,6 +60,7 @@ void BodyCompiler::AddNames(const NamesOfBody& names) {
 }
 
 void BodyCompiler::AddOutermostNames(const NamesOfBody& names) {
+  m_Assigned = names.assigned;
   m_FirstHidden = m_Registers;
   m_Code.SetFirstTemporary(m_Registers + names.hidden);
   DimArrays(names);
@@ -150,9 +155,10 @@ bool BodyCompiler::MayRunScript(const Expr* expression) {
       case ExprKind::Member: return true;
       case ExprKind::Name: {
         const Place place = Find(*expression);
-        return place.kind == PlaceKind::Member ||
-               (place.kind == PlaceKind::Symbol && place.symbol != SymbolKind::Variable &&
-                place.symbol != SymbolKind::Builtin);
+        if (place.kind != PlaceKind::Symbol) return place.kind == PlaceKind::Member;
+        // A name that is nothing yet becomes a variable where the body assigns it.
+        if (place.symbol == SymbolKind::Unbound) return !m_Assigned.contains(place.name);
+        return place.symbol != SymbolKind::Variable && place.symbol != SymbolKind::Builtin;
       }
       case ExprKind::Paren: expression = static_cast<const ParenExpr*>(expression)->inner; break;
       case ExprKind::Unary: expression = static_cast<const UnaryExpr*>(expression)->operand; break;

@@ -23,6 +23,12 @@ void BodyCompiler::ReleaseHidden(std::uint16_t first, std::uint16_t count) {
 
 void BodyCompiler::CompileBody(Block body) {
   CompileBlock(body);
+  EmitReturn();
+  m_Procedure.Complete();
+}
+
+void BodyCompiler::EmitReturn() {
+  if (m_Context.isObserved) m_Code.Emit(Op::ObserveReturn);
   m_Code.Emit(Op::Return);
 }
 
@@ -32,6 +38,7 @@ void BodyCompiler::CompileResult(const Expr& expression, std::uint16_t result) {
   EvaluateInto(expression, value);
   m_Code.Emit(Op::Take, result, value);
   m_Code.Emit(Op::Return);
+  m_Procedure.Complete();
 }
 
 void BodyCompiler::CompileBlock(Block body) {
@@ -116,6 +123,14 @@ void BodyCompiler::CompileSelect(const SelectStmt& statement) {
   ReleaseHidden(subject, kSelectRegisters);
 }
 
+// The variable that a loop goes by: its own register, or the given one, which comes to refer to it.
+std::uint16_t BodyCompiler::EmitControlVariable(const Place& place, std::uint16_t holder) {
+  if (place.kind == PlaceKind::Register) return place.r;
+  const bool isFunction = place.symbol == SymbolKind::Procedure || place.symbol == SymbolKind::Builtin;
+  isFunction ? EmitIllegalAssignment(place) : EmitHolder(place, holder);
+  return holder;
+}
+
 // Limits that fail leave a loop that was never prepared: its body runs once and Next is an error.
 void BodyCompiler::CompileFor(const ForStmt& statement) {
   const Place place = Find(*statement.variable);
@@ -124,11 +139,7 @@ void BodyCompiler::CompileFor(const ForStmt& statement) {
   const std::uint16_t bounds = TakeHidden(kForRegisters);
   const std::uint32_t used = m_Code.TemporariesUsed();
   m_Code.Emit(Op::Clear, bounds, 0, 0, kForRegisters);
-  std::uint16_t variable = place.r;
-  if (place.kind != PlaceKind::Register) {
-    variable = static_cast<std::uint16_t>(bounds + 3);
-    EmitHolder(place, variable);
-  }
+  const std::uint16_t variable = EmitControlVariable(place, static_cast<std::uint16_t>(bounds + 3));
   const Expr* const parts[] = {statement.from, statement.to, statement.step};
   std::uint16_t values[3];
   for (std::size_t k = 0; k < 3; ++k) {
@@ -161,11 +172,7 @@ void BodyCompiler::CompileForEach(const ForEachStmt& statement) {
   const std::uint16_t state = TakeHidden(kEachRegisters);
   const std::uint32_t used = m_Code.TemporariesUsed();
   m_Code.Emit(Op::Clear, state, 0, 0, kEachRegisters);
-  std::uint16_t variable = place.r;
-  if (place.kind != PlaceKind::Register) {
-    variable = static_cast<std::uint16_t>(state + 1);
-    EmitHolder(place, variable);
-  }
+  const std::uint16_t variable = EmitControlVariable(place, static_cast<std::uint16_t>(state + 1));
   m_Code.Emit(Op::EachPrepare, state, EvaluateToRegister(*statement.collection));
   m_Code.FreeTo(used);
   Label next, end;
@@ -225,7 +232,7 @@ void BodyCompiler::CompileWith(const WithStmt& statement) {
 
 void BodyCompiler::CompileExit(const ExitStmt& statement) {
   if (statement.exit != ExitKind::Do && statement.exit != ExitKind::For) {
-    m_Code.Emit(Op::Return);
+    EmitReturn();
     return;
   }
   for (auto loop = m_Loops.rbegin(); loop != m_Loops.rend(); ++loop) {

@@ -26,7 +26,7 @@ void Machine::PutSymbol(SymbolUse& use, Args arguments, std::uint16_t flags) {
   if (use.symbol && use.symbol->kind == SymbolKind::HostMember) {
     MakePlain(arguments.back(), isSet);
     const Ref<Object> object(&RequireObject(use.symbol->value));
-    object->Invoke(use.symbol->member, isSet ? CallKind::Set : CallKind::Let, arguments);
+    InvokeHost(*object, use.symbol->member, isSet ? CallKind::Set : CallKind::Let, arguments);
     return;
   }
   if (use.symbol && use.symbol->kind == SymbolKind::HostObject) {
@@ -47,11 +47,11 @@ bool Machine::PutMember(RegisterView view, Instruction i, MemberUse& use) {
   const Ref<Object> object(held.ObjectPtr());
   view.Spend(i.b);
   MakePlain(arguments.back(), isSet);
-  if (Instance* instance = Instance::From(object.get())) return PutInstance(use, *instance, arguments, isSet);
+  if (Instance* instance = Instance::From(object.get(), *m_Link))
+    return PutInstance(use, *instance, arguments, isSet);
   const MemberId member = FindMember(use, *object);
-  object->Invoke(member, isSet ? CallKind::Set : CallKind::Let, arguments);
+  InvokeHost(*object, member, isSet ? CallKind::Set : CallKind::Let, arguments);
   for (Variant& argument : arguments) argument.Reset();
-  if (m_Stop.load(std::memory_order_relaxed)) CheckStop();
   return false;
 }
 

@@ -41,7 +41,7 @@ bool Machine::CallSymbol(SymbolUse& use, Variant* arguments, std::size_t count, 
     case SymbolKind::HostMember: {
       const Ref<Object> object(&RequireObject(symbol->value));
       Finish(arguments, count, result,
-             object->Invoke(symbol->member, CallKind::MethodOrGet, {arguments, count}));
+             InvokeHost(*object, symbol->member, CallKind::MethodOrGet, {arguments, count}));
       return false;
     }
     case SymbolKind::Variable:
@@ -55,10 +55,18 @@ bool Machine::CallSymbol(SymbolUse& use, Variant* arguments, std::size_t count, 
 void Machine::CallBuiltin(const Builtin& builtin, Variant* arguments, std::size_t count, Variant* result) {
   if (count < builtin.minArguments || (count > builtin.maxArguments && builtin.maxArguments != kAnyCount))
     throw NamedError(Number(ErrorNumber::WrongArgumentCount), builtin.name);
+  StopIfAsked();
   for (std::size_t k = 0; k < count; ++k) {
-    if (!arguments[k].IsByRef()) continue;
-    Variant value = static_cast<const Variant&>(arguments[k]).Deref();
-    arguments[k] = std::move(value);
+    Variant& argument = arguments[k];
+    if (argument.IsByRef()) {
+      Variant value = static_cast<const Variant&>(argument).Deref();
+      argument = std::move(value);
+    }
+    if (argument.IsString()) {
+      NoteWork(argument.StringView().size());
+    } else if (argument.IsArray()) {
+      NoteWork(argument.ArrayPtr()->Values().size());
+    }
   }
   try {
     Finish(arguments, count, result, builtin.call(*this, {arguments, count}));
@@ -71,10 +79,20 @@ void Machine::CallBuiltin(const Builtin& builtin, Variant* arguments, std::size_
   }
 }
 
+// A stop may have ended a Class_Terminate, which lets nothing out; then it ends the code that let go of the
+// object here, before that reaches the outside again. Library functions can do that, too.
+Variant Machine::InvokeHost(Object& object, MemberId member, CallKind kind, Args args) {
+  StopIfAsked();
+  Variant outcome = object.Invoke(member, kind, args);
+  StopIfAsked();
+  return outcome;
+}
+
 const ClassMember& Machine::FindMember(MemberUse& use, const Instance& object) const {
   if (use.cls != &object.Class()) {
     use.member = object.Class().Find(use.name);
     use.cls = use.member ? &object.Class() : nullptr;
+    use.field = use.member && use.member->fieldIsPublic ? use.member->field : -1;
   }
   if (!use.member) RaiseAbout(Number(ErrorNumber::NotSupported), use.name);
   return *use.member;
@@ -98,17 +116,16 @@ bool Machine::CallMember(RegisterView view, Instruction i, MemberUse& use) {
   const Variant& held = static_cast<const Variant&>(place).Deref();
   if (!held.IsObject()) RaiseAbout(Number(ErrorNumber::ObjectRequired), use.object);
   if (!held.ObjectPtr()) RaiseAbout(Number(ErrorNumber::ObjectNotSet), use.object);
-  if (Instance* instance = Instance::From(held.ObjectPtr())) {
+  if (Instance* instance = Instance::From(held.ObjectPtr(), *m_Link)) {
     const Ref<Instance> object(instance);
     if (spend) place.Reset();
     return CallInstance(use, *instance, arguments, i.n, result);
   }
   const Ref<Object> object(held.ObjectPtr());
   const MemberId member = FindMember(use, *object);
-  Variant outcome = object->Invoke(member, CallKind::MethodOrGet, {arguments, i.n});
+  Variant outcome = InvokeHost(*object, member, CallKind::MethodOrGet, {arguments, i.n});
   if (spend) place.Reset();
   Finish(arguments, i.n, result, std::move(outcome));
-  if (m_Stop.load(std::memory_order_relaxed)) CheckStop();
   return false;
 }
 
@@ -154,7 +171,7 @@ bool Machine::CallValue(const Variant& callee, Variant* arguments, std::size_t c
       PushFrame(function->Procedure(), nullptr, {arguments, count}, result);
       return true;
     }
-  } else if (Instance* instance = Instance::From(object.get())) {
+  } else if (Instance* instance = Instance::From(object.get(), *m_Link)) {
     if (instance->DefaultMember() == kNoMember) throw NamedError(Number(ErrorNumber::NotSupported), name);
     MemberUse use;
     use.name = instance->Class().members[static_cast<std::size_t>(instance->DefaultMember())].name;
@@ -162,8 +179,7 @@ bool Machine::CallValue(const Variant& callee, Variant* arguments, std::size_t c
   }
   const MemberId member = object->DefaultMember();
   if (member == kNoMember) throw NamedError(Number(ErrorNumber::NotSupported), name);
-  Finish(arguments, count, result, object->Invoke(member, CallKind::MethodOrGet, {arguments, count}));
-  if (m_Stop.load(std::memory_order_relaxed)) CheckStop();
+  Finish(arguments, count, result, InvokeHost(*object, member, CallKind::MethodOrGet, {arguments, count}));
   return false;
 }
 

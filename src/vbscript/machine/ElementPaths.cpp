@@ -1,3 +1,5 @@
+#include <utility>
+
 #include "vbscript/machine/Elements.h"
 #include "vbscript/machine/Machine.h"
 
@@ -43,6 +45,17 @@ struct Indices {
   }
 };
 
+// Most arrays have one dimension, most indices are whole.
+std::size_t PositionOf(Variant& holder, Args indices) {
+  const Variant& held = std::as_const(holder).Deref();
+  if (held.IsArray() && indices.size() == 1 && Variant::AreWhole(indices[0], indices[0])) {
+    Array& array = *held.ArrayPtr();
+    if (const Variant* element = array.Find(indices[0].Long()))
+      return static_cast<std::size_t>(element - array.Values().data());
+  }
+  return ElementPosition(holder, indices);
+}
+
 }  // namespace
 
 bool Machine::GetElementSlowly(RegisterView view, Instruction i, Instruction word,
@@ -57,7 +70,7 @@ void Machine::SetElementSlowly(RegisterView view, Instruction i, Instruction wor
                                const Procedure& procedure) {
   Indices indices(view, i, word, i.op == Op::SetElement2);
   const Args arguments = indices.With(view, i.a);
-  PutElement(view.R[i.b].Deref(), arguments, false, LocalName(procedure, i.b));
+  PutElement(view.R[i.b], arguments, false, LocalName(procedure, i.b));
 }
 
 bool Machine::GetSymbolElementSlowly(RegisterView view, Instruction i, SymbolUse& use) {
@@ -87,13 +100,17 @@ bool Machine::ReferToElement(RegisterView view, Instruction i) {
   Variant& reference = view.R[i.b];
   const Args indices(view.R + i.a, i.n);
   const Variant& holder = static_cast<const Variant&>(reference).Deref();
-  if (!holder.IsArray() || reference.Type() != VarType::ByRef) {
+  if (!holder.IsArray() || !reference.IsByRef()) {
     const Variant callee = holder;
     view.Spend(i.b);
     return CallValue(callee, indices.data(), indices.size(), indices.data(), {});
   }
-  const std::size_t position = ElementPosition(*holder.ArrayPtr(), indices);
+  const std::size_t position = PositionOf(reference, indices);
   for (Variant& index : indices) index.Reset();
+  if (reference.Type() == VarType::ByRefElement) {
+    indices[0] = Variant::ByRefElement(reference, static_cast<std::uint32_t>(position));
+    return false;
+  }
   indices[0] = Variant::ByRefElement(reference.Deref(), static_cast<std::uint32_t>(position));
   view.Spend(i.b);
   return false;
@@ -105,7 +122,7 @@ bool Machine::ReferToSymbolElement(RegisterView view, Instruction i, SymbolUse& 
   Variant* holder = use.variable;
   if (!use.symbol && use.local != kNoRegister) holder = &Current().registers[use.local].Deref();
   if (!holder || !holder->IsArray()) return CallSymbol(use, indices.data(), indices.size(), 0);
-  const std::size_t position = ElementPosition(*holder->ArrayPtr(), indices);
+  const std::size_t position = PositionOf(*holder, indices);
   for (Variant& index : indices) index.Reset();
   indices[0] = Variant::ByRefElement(*holder, static_cast<std::uint32_t>(position));
   return false;

@@ -1,8 +1,11 @@
 #include "vbscript/machine/Elements.h"
 
+#include <algorithm>
 #include <array>
+#include <utility>
 
 #include "automation/Conversions.h"
+#include "vbscript/Context.h"
 #include "vbscript/machine/ScriptFault.h"
 #include "vbscript/machine/SlowPaths.h"
 
@@ -27,6 +30,21 @@ bool KeepsShape(const Array& array, std::span<const std::int32_t> uppers) {
     if (dimensions[k].upper != uppers[k] || dimensions[k].lower != 0) return false;
   return true;
 }
+
+// Indices as whole numbers. Those that are objects may run code that replaces the array, so all of them are
+// converted before the array is looked at.
+class WholeIndices {
+ public:
+  explicit WholeIndices(Args indices) : m_Count(indices.size()) {
+    if (m_Count > kMaxDimensions) Raise(ErrorNumber::SubscriptOutOfRange);
+    for (std::size_t k = 0; k < m_Count; ++k) m_Whole[k] = ToLong(indices[k]);
+  }
+  std::size_t In(const Array& array) const { return array.Position({m_Whole.data(), m_Count}); }
+
+ private:
+  std::array<std::int32_t, kMaxDimensions> m_Whole;
+  std::size_t m_Count;
+};
 
 }  // namespace
 
@@ -53,6 +71,7 @@ void ReDimArray(RegisterView view, Instruction i, bool preserve) {
   } else {
     holder = Variant(MakeRef<Array>(FromZero(uppers)));
   }
+  Context::NoteWork(std::as_const(view.R[i.a]).Deref().ArrayPtr()->Values().size());
   view.R[i.a].Reset();
 }
 
@@ -63,40 +82,46 @@ void EraseArray(Variant& holder) {
     holder = Variant(MakeRef<Array>());
     return;
   }
-  for (Variant& element : Array::Writable(holder).Values()) element.Reset();
-}
-
-std::size_t ElementPosition(const Array& array, Args indices) {
-  if (indices.size() > kMaxDimensions) Raise(ErrorNumber::SubscriptOutOfRange);
-  std::array<std::int32_t, kMaxDimensions> whole;
-  for (std::size_t k = 0; k < indices.size(); ++k) whole[k] = ToLong(indices[k]);
-  return array.Position({whole.data(), indices.size()});
+  // Objects end when all elements are gone: what they do then may use the array.
+  const std::span<Variant> values = Array::Writable(holder).Values();
+  std::vector<Variant> erased(values.size());
+  std::swap_ranges(values.begin(), values.end(), erased.begin());
 }
 
 const Variant& ElementAt(const Array& array, Args indices) {
-  return array.Values()[ElementPosition(array, indices)];
+  return array.Values()[WholeIndices(indices).In(array)];
 }
 
 Variant ElementOf(const Variant& holder, Args indices) {
-  if (!holder.IsArray()) Raise(ErrorNumber::TypeMismatch);
-  return ElementAt(*holder.ArrayPtr(), indices);
+  const WholeIndices whole(indices);
+  const Variant& held = holder.Deref();
+  if (!held.IsArray()) Raise(ErrorNumber::TypeMismatch);
+  return std::as_const(*held.ArrayPtr()).Values()[whole.In(*held.ArrayPtr())];
 }
 
-void PutElement(Variant& holder, Args arguments, bool isSet, const Text& name) {
+std::size_t ElementPosition(const Variant& holder, Args indices) {
+  const WholeIndices whole(indices);
+  const Variant& held = holder.Deref();
+  if (!held.IsArray()) Raise(ErrorNumber::TypeMismatch);
+  return whole.In(*held.ArrayPtr());
+}
+
+void PutElement(Variant& place, Args arguments, bool isSet, const Text& name) {
   Variant& value = arguments.back();
-  if (holder.IsArray()) {
-    const Args indices = arguments.first(arguments.size() - 1);
-    const std::size_t position = ElementPosition(*holder.ArrayPtr(), indices);
+  const Variant& held = std::as_const(place).Deref();
+  if (held.IsArray()) {
+    const WholeIndices whole(arguments.first(arguments.size() - 1));
     // The value may be an object whose default member changes this very array.
+    if (std::as_const(place).Deref().IsArray()) whole.In(*std::as_const(place).Deref().ArrayPtr());
     Variant plain;
     isSet ? AssignObject(plain, value, true) : AssignPlain(plain, value, true);
-    Array& array = Array::Writable(holder);
-    if (position >= array.Values().size()) Raise(ErrorNumber::SubscriptOutOfRange);
-    array.Values()[position] = std::move(plain);
+    Array& array = Array::Writable(place);
+    Context::NoteWork(array.Values().size());
+    array.Values()[whole.In(array)] = std::move(plain);
     return;
   }
-  if (!holder.IsObject()) throw NamedError(static_cast<int>(ErrorNumber::TypeMismatch), name);
-  const Ref<Object> object(&RequireObject(holder));
+  if (!held.IsObject()) throw NamedError(static_cast<int>(ErrorNumber::TypeMismatch), name);
+  const Ref<Object> object(&RequireObject(held));
   const MemberId member = object->DefaultMember();
   if (member == kNoMember) Raise(ErrorNumber::NotSupported);
   if (!isSet && value.Deref().IsObject()) value = DefaultValue(value);

@@ -31,10 +31,11 @@ inline Variant* FindElement(Array& array, RegisterView view, Instruction i) noex
 const Variant& ElementAt(const Array& array, Args indices);
 /// Likewise of an array that a variable holds; error 13 where it holds none.
 Variant ElementOf(const Variant& holder, Args indices);
-/// Its position in Values().
-std::size_t ElementPosition(const Array& array, Args indices);
-/// `holder(indices…) = value`, the value last: of an array, or by the default member of an object. Error 13
-/// about `name` for anything else.
-void PutElement(Variant& holder, Args arguments, bool isSet, const Text& name);
+/// Its position in Values() of the array that a variable holds or refers to when the indices are numbers;
+/// error 13 where it holds none by then.
+std::size_t ElementPosition(const Variant& holder, Args indices);
+/// `place(indices…) = value`, the value last: of the array that the place is or refers to, or by the default
+/// member of an object. Error 13 about `name` for anything else.
+void PutElement(Variant& place, Args arguments, bool isSet, const Text& name);
 
 }  // namespace cardwright::vbscript

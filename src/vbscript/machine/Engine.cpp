@@ -1,5 +1,6 @@
 #include "vbscript/Engine.h"
 
+#include "vbscript/code/Listing.h"
 #include "vbscript/compile/Compiler.h"
 #include "vbscript/machine/Machine.h"
 #include "vbscript/syntax/Parser.h"
@@ -20,12 +21,14 @@ class VbScriptEngine final : public ScriptEngine {
   }
   void AddModule(std::u16string_view name) override { m_Machine.AddModule(name); }
   void AddCode(std::u16string_view module, std::u16string_view code) override {
-    Noting([&] { m_Machine.AddCode(Required(module), code); });
+    Module& found = Required(module);
+    Noting([&] { m_Machine.AddCode(found, code); });
   }
   Variant Run(std::u16string_view module, std::u16string_view procedure, Args args) override;
   Variant Evaluate(std::u16string_view module, std::u16string_view expression) override {
+    Module& found = Required(module);
     Variant value;
-    Noting([&] { value = m_Machine.Evaluate(Required(module), expression); });
+    Noting([&] { value = m_Machine.Evaluate(found, expression); });
     return value;
   }
   std::vector<ScriptProcedure> Procedures(std::u16string_view module) const override;
@@ -35,6 +38,7 @@ class VbScriptEngine final : public ScriptEngine {
   void SetTimeout(std::int32_t milliseconds) override { m_Machine.SetTimeout(milliseconds); }
   void SetAllowUI(bool allowed) override { m_Machine.allowUI = allowed; }
   void SetObserver(ScriptObserver* observer) override { m_Machine.SetObserver(observer); }
+  void Close() override { m_Machine.Close(); }
   void Interrupt() noexcept override { m_Machine.Interrupt(); }
 
  private:
@@ -66,6 +70,7 @@ void VbScriptEngine::Noting(Step&& step) {
   try {
     const Machine::Entry entry(m_Machine);
     step();
+    m_Error = {};  // of calls within this one
   } catch (const SyntaxError& error) {
     m_Error = Described(error, error.Description(), error.Where(), true);
     throw;
@@ -119,6 +124,19 @@ ScriptError Check(std::u16string_view source) {
     return Described(error, error.Description(), error.Where(), true);
   }
   return {};
+}
+
+Text Disassemble(std::u16string_view source) {
+  ScriptHost host;
+  Machine machine(host, {});
+  const CompiledBlock block = CompileBlock(*Parse(Text(source)), machine, machine.Global());
+  Text list = ListCode(*block.code, machine.names);
+  for (const Ref<Procedure>& procedure : block.procedures) list += ListCode(*procedure, machine.names);
+  for (const Ref<ClassInfo>& cls : block.classes)
+    for (const ClassMember& member : cls->members)
+      for (const ClassProcedure* one : {&member.method, &member.get, &member.let, &member.set})
+        if (one->code) list += ListCode(*one->code, machine.names);
+  return list;
 }
 
 }  // namespace cardwright::vbscript

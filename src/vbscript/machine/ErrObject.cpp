@@ -1,8 +1,18 @@
 #include "vbscript/machine/ErrObject.h"
 
+#include <utility>
+
 #include "vbscript/machine/ScriptFault.h"
 
 namespace cardwright::vbscript {
+
+ErrObject::State ErrObject::Exchange(State state) noexcept {
+  return {.number = std::exchange(m_Number, state.number),
+          .description = std::exchange(m_Description, std::move(state.description)),
+          .source = std::exchange(m_Source, std::move(state.source)),
+          .helpFile = std::exchange(m_HelpFile, std::move(state.helpFile)),
+          .helpContext = std::exchange(m_HelpContext, state.helpContext)};
+}
 
 void ErrObject::Note(int number, Text description, Text source) {
   m_Number = number;
@@ -10,11 +20,7 @@ void ErrObject::Note(int number, Text description, Text source) {
   m_Source = std::move(source);
 }
 
-void ErrObject::Clear() {
-  Note(0, {}, {});
-  m_HelpFile = {};
-  m_HelpContext = 0;
-}
+void ErrObject::Clear() { Exchange({}); }
 
 void ErrObject::SetNumber(std::int32_t number) {
   Note(number, number ? StandardErrorText(number) : Text(), number ? Text(kRuntimeErrorSource) : Text());

@@ -11,6 +11,14 @@ class ErrObject final : public TableObject {
  public:
   Text TypeName() const override { return u"Object"; }
 
+  /// What it tells.
+  struct State {
+    std::int32_t number = 0;
+    Text description, source, helpFile;
+    std::int32_t helpContext = 0;
+  };
+  /// Takes over a state and gives the one before.
+  State Exchange(State state) noexcept;
   void Note(int number, Text description, Text source);
   void Clear();
 

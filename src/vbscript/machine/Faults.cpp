@@ -2,6 +2,13 @@
 
 namespace cardwright::vbscript {
 
+namespace {
+
+// Code that a script made has lines of its own, which are none of its file.
+constexpr Position kNowhere{.line = 0, .column = 0};
+
+}  // namespace
+
 Machine::Pending Machine::Describe(const Error& error) {
   Pending pending;
   pending.number = error.Number();
@@ -19,6 +26,11 @@ Machine::Pending Machine::Describe(const Error& error) {
 }
 
 void Machine::Handle(Pending pending, std::size_t entry) {
+  // To those that called the script from inside a call of its own, the order to stop came as an error.
+  if (m_Stop.load(std::memory_order_relaxed)) {
+    Unwind(entry - 1);
+    throw Interrupted{};
+  }
   while (m_Depth >= entry) {
     Frame& frame = Current();
     const Procedure& procedure = *frame.procedure;
@@ -36,8 +48,9 @@ void Machine::Handle(Pending pending, std::size_t entry) {
       return;
     }
     frame.result = nullptr;
-    PopFrame();
+    PopFrame(Ending::ByError);
   }
+  const MemoryBudget::Exemption exemption;
   throw ScriptFault(Error(pending.number, pending.description, pending.source), pending.position,
                     pending.report);
 }
@@ -45,19 +58,41 @@ void Machine::Handle(Pending pending, std::size_t entry) {
 void Machine::Unwind(std::size_t depth) noexcept {
   while (m_Depth > depth) {
     Current().result = nullptr;
-    PopFrame();
+    PopFrame(Ending::ByError);
   }
 }
 
+void Machine::NoteTime() noexcept {
+  if (m_Deadline != kNoDeadline && std::chrono::steady_clock::now() >= m_Deadline)
+    m_Stop.store(true, std::memory_order_relaxed);
+}
+
+bool Machine::LookForStop() noexcept {
+  NoteTime();
+  return m_Stop.load(std::memory_order_relaxed);
+}
+
 void Machine::CheckStop() {
-  if (std::chrono::steady_clock::now() >= m_Deadline) m_Stop.store(true, std::memory_order_relaxed);
+  NoteTime();
   if (m_Stop.load(std::memory_order_relaxed)) throw Interrupted{};
 }
 
 void Machine::Observe(const Procedure& procedure, std::size_t instruction) {
   const StatementMark* mark = procedure.MarkAt(instruction);
-  if (m_Observer && mark)
-    m_Observer->OnStatement(procedure.module->Name(), mark->position.line, mark->position.column);
+  if (!m_Observer || !mark) return;
+  const Position position = procedure.isMade ? kNowhere : mark->position;
+  m_Observer->OnStatement(procedure.module->Name(), position.line, position.column);
+}
+
+void Machine::ObserveReturn() {
+  if (!m_Observer || m_Depth < 2) return;
+  const Frame& caller = m_Frames[m_Depth - 2];
+  const Procedure& procedure = *caller.procedure;
+  const StatementMark* mark =
+      procedure.MarkAt(static_cast<std::size_t>(caller.pc - procedure.code.data()) - 1);
+  if (!mark) return;
+  const Position position = procedure.isMade ? kNowhere : mark->position;
+  m_Observer->OnReturn(procedure.module->Name(), position.line, position.column);
 }
 
 }  // namespace cardwright::vbscript

@@ -19,24 +19,43 @@ void TakeValues(const Procedure& procedure, Variant* registers) {
 
 }  // namespace
 
-void Machine::CheckNesting() const {
-  if (!HasStackRoom()) Raise(kOutOfStackSpace);
+void Machine::CheckNesting(std::size_t stack) const {
+  if (!HasStackRoom(stack)) Raise(kOutOfStackSpace);
 }
 
-Frame& Machine::AddFrame(const Procedure& procedure, Instance* me, Variant* result) {
+// Only for what a running script has read: a thread of little stack may still start one.
+void Machine::CheckRoomForSource() const {
+  if (m_Depth) CheckNesting(kStackForSource);
+}
+
+inline void Machine::NoteCurrent() noexcept { m_Current = m_Depth ? &m_Frames[m_Depth - 1] : nullptr; }
+
+void Machine::AddFrames() {
   if (m_Depth >= static_cast<std::size_t>(m_Limits.callDepth)) Raise(kOutOfStackSpace);
-  if (m_Depth == m_Frames.size()) m_Frames.resize(std::max(kFirstFrames, 2 * m_Depth));
-  Frame& frame = m_Frames[m_Depth];
-  frame = {.procedure = &procedure, .pc = procedure.code.data(), .result = result, .me = me};
-  if (m_Depth) {
-    frame.top = m_Frames[m_Depth - 1].top;
-    frame.block = m_Frames[m_Depth - 1].block;
-  } else {
-    frame.top = m_Registers.Bottom();
-  }
+  m_Frames.resize(std::min<std::size_t>(std::max(kFirstFrames, 2 * m_Depth), m_Limits.callDepth));
+  NoteCurrent();
+}
+
+// What is in use of the register stack ends here.
+inline RegisterStack::Place Machine::EndOfRegisters() {
+  if (m_Depth == 0) return {m_Registers.Bottom(), 0};
+  return {Current().top, Current().block};
+}
+
+// The registers are the caller's to set.
+inline Frame& Machine::AddFrame(const Procedure& procedure, Instance* me, Variant* result) {
+  if (m_Depth == m_Frames.size()) [[unlikely]]
+    AddFrames();
+  Frame& frame = m_Frames[m_Depth++];
+  m_Current = &frame;
+  frame.procedure = &procedure;
+  frame.pc = procedure.code.data();
+  frame.result = result;
+  frame.me = me;
+  frame.scope = nullptr;
+  frame.resumeNext = false;
   procedure.AddRef();
   if (me) me->AddRef();
-  ++m_Depth;
   return frame;
 }
 
@@ -47,8 +66,10 @@ void Machine::PushFrame(const Procedure& procedure, Instance* me, Args arguments
   // Arguments at the end of the caller's registers stay where they are and the new frame starts there. Code
   // outside procedures has its registers elsewhere, so its arguments have to move.
   const bool stay = where == ArgumentPlace::InRegisters && count && !Current().procedure->isOutermost;
+  // Room first: what is a frame has its registers.
+  const RegisterStack::Place end = EndOfRegisters();
+  const auto place = m_Registers.Take(stay ? arguments.data() : end.start, end.block, procedure.registers);
   Frame& frame = AddFrame(procedure, me, result);
-  const auto place = m_Registers.Take(stay ? arguments.data() : frame.top, frame.block, procedure.registers);
   Variant* const registers = place.start;
   if (registers != arguments.data())
     for (std::size_t k = 0; k < count; ++k) registers[k] = std::move(arguments[k]);
@@ -59,23 +80,35 @@ void Machine::PushFrame(const Procedure& procedure, Instance* me, Args arguments
   frame.block = place.block;
 }
 
-void Machine::PopFrame() noexcept {
-  // By value: what is released may run code that pushes frames, which moves them.
-  const Frame frame = m_Frames[m_Depth - 1];
+void Machine::PopFrame(Ending ending) noexcept {
+  // What is released may run code that pushes frames, which moves them.
+  const Frame& frame = Current();
   const Procedure& procedure = *frame.procedure;
-  Variant outcome;
-  if (frame.result && procedure.result != kNoRegister) outcome.Swap(frame.registers[procedure.result]);
+  Variant* const registers = frame.registers;
+  Variant* const result = frame.result;
+  Instance* const me = frame.me;
+  ScopeVariables* const scope = frame.scope;
+  // Who uses a value on the way leaves nothing counted behind, so after the last instruction only variables
+  // may.
   const std::size_t first = procedure.isOutermost ? procedure.firstTemporary : 0;
-  for (std::size_t k = first; k < procedure.registers; ++k) frame.registers[k].Reset();
-  delete frame.scope;
+  const std::size_t end =
+      ending == Ending::ByReturn && !procedure.isOutermost ? procedure.firstTemporary : procedure.registers;
+  Variant outcome;
+  if (result && procedure.result != kNoRegister) outcome.Swap(registers[procedure.result]);
+  for (std::size_t k = first; k < end; ++k) registers[k].Reset();
+  delete scope;
   --m_Depth;
-  if (frame.result) *frame.result = std::move(outcome);
-  if (frame.me) frame.me->Release();
+  NoteCurrent();
+  if (result) *result = std::move(outcome);
+  if (me) me->Release();
   procedure.Release();
 }
 
 Variant Machine::Enter(const Procedure& procedure, Instance* me, Args args) {
   CheckNesting();
+  // Whole calls may be too short to look at the clock themselves, or even to come to a place to stop at:
+  // objects that make objects at their end would never come to one.
+  CheckStop();
   Variant outcome;
   std::vector<Variant> copies(args.begin(), args.end());
   PushFrame(procedure, me, copies, &outcome, ArgumentPlace::Elsewhere);
@@ -85,7 +118,12 @@ Variant Machine::Enter(const Procedure& procedure, Instance* me, Args args) {
 
 void Machine::RunOutermost(const Procedure& code, Variant* variables) {
   CheckNesting();
-  AddFrame(code, nullptr, nullptr).registers = variables;
+  CheckStop();
+  const RegisterStack::Place end = EndOfRegisters();
+  Frame& frame = AddFrame(code, nullptr, nullptr);
+  frame.registers = variables;
+  frame.top = end.start;
+  frame.block = end.block;
   Run();
 }
 

@@ -10,6 +10,7 @@ Instance::Instance(Ref<ClassInfo> cls, Ref<MachineLink> link)
     : Object(&kFamily),
       m_Class(std::move(cls)),
       m_Link(std::move(link)),
+      m_Memory(static_cast<std::size_t>(m_Class->fields) * sizeof(Variant)),
       m_Fields(std::make_unique<Variant[]>(static_cast<std::size_t>(m_Class->fields))) {
   for (const ClassInfo::FieldArray& array : m_Class->arrays)
     m_Fields[static_cast<std::size_t>(array.field)] = NewArray(array.shape);
@@ -49,7 +50,7 @@ void Instance::ClearFields() noexcept {
 }
 
 MemberId Instance::FindMember(std::u16string_view name) const {
-  if (!m_Link->machine) return kNoMember;
+  if (!m_Link->machine) Raise(ErrorNumber::CannotPerform);
   const NameId id = m_Link->machine->names.Find(name);
   const auto found = m_Class->index.find(id);
   return found == m_Class->index.end() ? kNoMember : found->second;

@@ -4,6 +4,7 @@
 
 #include "automation/Object.h"
 #include "vbscript/code/ClassInfo.h"
+#include "vbscript/objects/MemoryShare.h"
 
 namespace cardwright::vbscript {
 
@@ -21,8 +22,12 @@ class Instance final : public Object {
   ~Instance() override;
 
   static constexpr char kFamily = 0;
-  static Instance* From(Object* object) noexcept {
-    return object && object->Family() == &kFamily ? static_cast<Instance*>(object) : nullptr;
+  /// The instance that the object is, where it is one of that machine. Those of other machines are objects
+  /// like any other.
+  static Instance* From(Object* object, const MachineLink& link) noexcept {
+    if (!object || object->Family() != &kFamily) return nullptr;
+    auto* instance = static_cast<Instance*>(object);
+    return instance->m_Link.get() == &link ? instance : nullptr;
   }
 
   const ClassInfo& Class() const noexcept { return *m_Class; }
@@ -37,7 +42,6 @@ class Instance final : public Object {
   MemberId DefaultMember() const override { return m_Class->defaultMember; }
   Variant Invoke(MemberId member, CallKind kind, Args args) override;
   std::vector<Text> MemberNames() const override;
-  const void* Shape() const override { return m_Class.get(); }
 
  protected:
   void OnLastRelease() const noexcept override;
@@ -46,11 +50,23 @@ class Instance final : public Object {
   friend class Machine;
   Ref<ClassInfo> m_Class;
   Ref<MachineLink> m_Link;
+  MemoryShare m_Memory;
   std::unique_ptr<Variant[]> m_Fields;
   bool m_Terminated = false;
   // All instances of a machine in a ring, so that cycles end with it.
   Instance* m_Previous = nullptr;
   Instance* m_Next = nullptr;
 };
+
+/// The field that the use of a member names, where `holder` has an object of the class met last and the field
+/// is open to all; null where it takes a look-up or a call.
+inline Variant* OpenField(const MemberUse& use, const Variant& holder) noexcept {
+  const Variant& held = holder.Deref();
+  if (use.field < 0 || !held.IsObject()) return nullptr;
+  Object* const object = held.ObjectPtr();
+  if (!object || object->Family() != &Instance::kFamily) return nullptr;
+  auto& instance = static_cast<Instance&>(*object);
+  return &instance.Class() == use.cls ? &instance.Field(static_cast<std::size_t>(use.field)) : nullptr;
+}
 
 }  // namespace cardwright::vbscript

@@ -33,8 +33,10 @@ bool IsDone(const Variant& variable, const Variant& limit, const Variant& step) 
 }  // namespace
 
 bool PrepareFor(Variant& variable, Variant* bounds) {
+  // Whichever of the three fails, no limit stays behind: that is how Next knows a loop that was not prepared.
+  const Variant given = std::move(bounds[1]);
   Variant first = Number(bounds[0]);
-  Variant limit = Number(bounds[1]);
+  Variant limit = Number(given);
   Variant step = Number(bounds[2]);
   const bool runs = !IsDone(first, limit, step);
   bounds[0].Reset();

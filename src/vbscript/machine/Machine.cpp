@@ -23,41 +23,46 @@ void Define(const CompiledBlock& block, Machine& machine, Module& module, Varian
     }
   }
   for (const Ref<Procedure>& procedure : block.procedures) module.Define(procedure->name, procedure);
-  for (const Ref<ClassInfo>& cls : block.classes) {
-    Symbol& symbol = module.Add(cls->name);
-    symbol.kind = SymbolKind::Class;
-    symbol.cls = cls;
-  }
+  for (const Ref<ClassInfo>& cls : block.classes) module.DefineClass(cls->name, cls);
   machine.NamesChanged();
 }
 
 }  // namespace
 
 Machine::Machine(ScriptHost& host, const Limits& limits)
-    : Context(host), m_Limits(limits), m_Surroundings({}, nullptr), m_Err(MakeRef<ErrObject>()) {
+    : Context(host),
+      m_Limits(limits),
+      m_Objects({}, nullptr),
+      m_Library({}, nullptr),
+      m_Err(MakeRef<ErrObject>()),
+      m_Registers(limits.registerBlock) {
   maxTextUnits = limits.textUnits;
   m_Link = MakeRef<MachineLink>();
   m_Link->machine = this;
   m_Modules.push_back(std::make_unique<Module>(Text(), nullptr));
-  Symbol& err = m_Surroundings.Add(names.Add(kErrName));
+  Symbol& err = m_Objects.Add(names.Add(kErrName));
   err.kind = SymbolKind::HostObject;
   err.value = m_Err;
 }
 
-// Objects that hold each other are still there when all names are cleared; they end here too.
 Machine::~Machine() {
-  {
-    const Entry entry(*this);
-    for (const auto& module : m_Modules) module->Clear();
-    while (m_Instances) {
-      const Ref<Instance> instance(m_Instances);
-      instance->Terminate();
-      instance->ClearFields();
-      // One that something outside holds stays, without its machine.
-      if (m_Instances == instance.get()) Forget(*instance);
-    }
-  }
+  Close();
   m_Link->machine = nullptr;
+}
+
+// Objects that hold each other are still there when all names are cleared; they end here too.
+void Machine::Close() {
+  const Entry entry(*this);
+  m_IsClosing = true;
+  for (const auto& module : m_Modules) module->Clear();
+  while (m_Instances) {
+    const Ref<Instance> instance(m_Instances);
+    instance->Terminate();
+    instance->ClearFields();
+    // One that something outside holds stays, without its machine.
+    if (m_Instances == instance.get()) Forget(*instance);
+  }
+  m_IsClosing = false;
 }
 
 Module* Machine::FindModule(std::u16string_view name) const noexcept {
@@ -74,24 +79,32 @@ Module& Machine::AddModule(std::u16string_view name) {
 void Machine::AddObject(std::u16string_view name, Ref<Object> object, bool addMembers) {
   if (!object || name.empty()) Raise(ErrorNumber::InvalidCall);
   const NameId id = names.Add(name);
-  if (m_Surroundings.Find(id)) Raise(ErrorNumber::InvalidCall);
-  Symbol& symbol = m_Surroundings.Add(id);
+  if (m_Objects.Find(id)) Raise(ErrorNumber::InvalidCall);
+  Symbol& symbol = m_Objects.Add(id);
   symbol.kind = SymbolKind::HostObject;
   symbol.value = object;
-  if (addMembers) m_MemberObjects.push_back(std::move(object));
+  if (addMembers) {
+    m_MemberObjects.push_back(std::move(object));
+    m_Library = Module({}, nullptr);
+  }
   NamesChanged();
 }
 
 void Machine::AddCode(Module& module, std::u16string_view source, bool isExplicit) {
+  CheckRoomForSource();
   const auto tree = Parse(Text(source));
   tree->optionExplicit |= isExplicit;
   const CompiledBlock block = CompileBlock(*tree, *this, module);
-  Variant* const variables = module.AddVariables(block.code->registers);
+  // The registers stay where names refer to them: a script may execute a text without any for ever.
+  std::unique_ptr<Variant[]> passing;
+  if (!block.hasVariables) passing = std::make_unique<Variant[]>(block.code->registers);
+  Variant* const variables = passing ? passing.get() : module.AddVariables(block.code->registers);
   Define(block, *this, module, variables);
   RunOutermost(*block.code, variables);
 }
 
 Variant Machine::Evaluate(Module& module, std::u16string_view expression) {
+  CheckRoomForSource();
   const auto tree = ParseExpression(Text(expression));
   CompiledBlock block;
   const auto outer = MakeRef<Procedure>();
@@ -104,12 +117,20 @@ Variant Machine::Call(const Procedure& procedure, Instance* me, Args args) {
   return Enter(procedure, me, args);
 }
 
+// Executed code has no variables of its own, so what it executes works on those of the same procedure.
+std::size_t Machine::ScopeDepth() const noexcept {
+  std::size_t depth = m_Depth - 1;
+  while (m_Frames[depth].procedure->isExecuted) --depth;
+  return depth;
+}
+
 Variant Machine::RunInScope(SyntaxTree& tree) {
-  const Procedure& outer = *Current().procedure;
+  const std::size_t depth = ScopeDepth();
+  const Procedure& outer = *m_Frames[depth].procedure;
   tree.optionExplicit |= outer.isExplicit;
-  const std::size_t depth = m_Depth - 1;
   CompiledBlock block;
-  const CompiledInScope compiled = CompileInScope(tree, *this, outer, Current().scope, block);
+  const CompiledInScope compiled = CompileInScope(tree, *this, outer, m_Frames[depth].scope, block);
+  compiled.code->isExecuted = true;
   Define(block, *this, *outer.module, nullptr);
   std::vector<Variant> variables;
   for (const NameId name : compiled.variables) variables.push_back(ReferenceInScope(m_Frames[depth], name));
@@ -124,9 +145,11 @@ Variant Machine::ReferenceInScope(Frame& frame, NameId name) {
 }
 
 void Machine::ExecuteInScope(const Text& source) {
-  if (Current().procedure->isOutermost) {
-    AddCode(*Current().procedure->module, source, Current().procedure->isExplicit);
+  const Procedure& outer = *m_Frames[ScopeDepth()].procedure;
+  if (outer.isOutermost) {
+    AddCode(*outer.module, source, outer.isExplicit);
   } else {
+    CheckRoomForSource();
     RunInScope(*Parse(source));
   }
 }
@@ -135,7 +158,10 @@ void Machine::ExecuteInModule(const Text& source) {
   AddCode(*Current().procedure->module, source, Current().procedure->isExplicit);
 }
 
-Variant Machine::EvaluateInScope(const Text& expression) { return RunInScope(*ParseExpression(expression)); }
+Variant Machine::EvaluateInScope(const Text& expression) {
+  CheckRoomForSource();
+  return RunInScope(*ParseExpression(expression));
+}
 
 Variant Machine::GetReference(const Text& procedure) {
   const Symbol* symbol = Current().procedure->module->FindBound(names.Add(procedure));
@@ -145,6 +171,8 @@ Variant Machine::GetReference(const Text& procedure) {
 
 Ref<Instance> Machine::MakeInstance(ClassInfo& cls) {
   auto instance = MakeRef<Instance>(Ref<ClassInfo>(&cls), m_Link);
+  // One that is made while all end has no end of its own, or there could always be another.
+  instance->m_Terminated = m_IsClosing;
   instance->m_Next = m_Instances;
   if (m_Instances) m_Instances->m_Previous = instance.get();
   m_Instances = instance.get();
@@ -159,18 +187,24 @@ void Machine::Forget(Instance& instance) noexcept {
 }
 
 Machine::Entry::Entry(Machine& machine)
-    : m_Machine(machine), m_Outer(Locale::Current()), m_Memory(machine.m_Limits.memoryBytes) {
+    : m_Machine(machine),
+      m_Outer(Locale::Current()),
+      m_OuterErr(machine.m_Err->Exchange({})),
+      m_Memory(machine.m_Limits.memoryBytes),
+      m_StopScope(machine) {
   Locale::SetCurrent(*machine.locale);
   if (machine.m_Entries++ != 0) return;
+  // The order to stop is for what was running; what begins now is another call.
+  machine.m_Stop.store(false, std::memory_order_relaxed);
   machine.m_Deadline = machine.m_Timeout < 0
-                           ? std::chrono::steady_clock::time_point::max()
+                           ? kNoDeadline
                            : std::chrono::steady_clock::now() + std::chrono::milliseconds(machine.m_Timeout);
 }
 
 Machine::Entry::~Entry() {
   Locale::SetCurrent(m_Outer);
-  // The order to stop is for what was running; what comes next is another call.
-  if (--m_Machine.m_Entries == 0) m_Machine.m_Stop.store(false, std::memory_order_relaxed);
+  m_Machine.m_Err->Exchange(std::move(m_OuterErr));
+  --m_Machine.m_Entries;
 }
 
 }  // namespace cardwright::vbscript

@@ -10,6 +10,7 @@
 #include "platform/ScriptEngine.h"
 #include "vbscript/Context.h"
 #include "vbscript/Engine.h"
+#include "vbscript/StopSignal.h"
 #include "vbscript/code/Linkage.h"
 #include "vbscript/machine/ErrObject.h"
 #include "vbscript/machine/Instance.h"
@@ -35,7 +36,7 @@ struct Frame {
 };
 
 /// The virtual machine of one engine: its modules, its objects, its running code.
-class Machine final : public Context, public Linkage {
+class Machine final : public Context, public Linkage, private StopSignal {
  public:
   Machine(ScriptHost& host, const Limits& limits);
   ~Machine();
@@ -74,10 +75,14 @@ class Machine final : public Context, public Linkage {
   Ref<Instance> MakeInstance(ClassInfo& cls);
   void Forget(Instance& instance) noexcept;
 
+  /// Clears all names and ends the instances of the script's classes, whose Class_Terminate may still call
+  /// the host.
+  void Close();
   void Interrupt() noexcept { m_Stop.store(true, std::memory_order_relaxed); }
   void SetTimeout(std::int32_t milliseconds) noexcept { m_Timeout = milliseconds; }
   void SetObserver(ScriptObserver* observer) noexcept { m_Observer = observer; }
   bool IsObserved() const noexcept override { return m_Observer != nullptr; }
+  bool IsRunning() const noexcept override { return m_Depth > 0; }
   ErrObject& Err() noexcept { return *m_Err; }
 
   /// Around every call from outside: locale, limits and the clock of the outermost one.
@@ -91,7 +96,9 @@ class Machine final : public Context, public Linkage {
    private:
     Machine& m_Machine;
     const Locale& m_Outer;
+    ErrObject::State m_OuterErr;
     MemoryBudget::Limit m_Memory;
+    StopSignal::Scope m_StopScope;
   };
 
  private:
@@ -114,8 +121,14 @@ class Machine final : public Context, public Linkage {
   Frame& AddFrame(const Procedure& procedure, Instance* me, Variant* result);
   void PushFrame(const Procedure& procedure, Instance* me, Args arguments, Variant* result,
                  ArgumentPlace where = ArgumentPlace::InRegisters);
-  void PopFrame() noexcept;
-  void CheckNesting() const;
+  void AddFrames();
+  void NoteCurrent() noexcept;
+  RegisterStack::Place EndOfRegisters();
+  enum class Ending { ByReturn, ByError };
+  void PopFrame(Ending ending) noexcept;
+  void CheckNesting(std::size_t stack = 0) const;
+  void CheckRoomForSource() const;
+  std::size_t ScopeDepth() const noexcept;
   Variant RunInScope(SyntaxTree& tree);
   static Variant ReferenceInScope(Frame& frame, NameId name);
 
@@ -127,6 +140,7 @@ class Machine final : public Context, public Linkage {
   bool CallValue(const Variant& callee, Variant* arguments, std::size_t count, Variant* result,
                  const Text& name);
   void CallBuiltin(const Builtin& builtin, Variant* arguments, std::size_t count, Variant* result);
+  Variant InvokeHost(Object& object, MemberId member, CallKind kind, Args args);
   bool NewObject(SymbolUse& use, Variant& target);
   MemberId FindMember(MemberUse& use, const Object& object) const;
   const ClassMember& FindMember(MemberUse& use, const Instance& object) const;
@@ -160,14 +174,21 @@ class Machine final : public Context, public Linkage {
   static Pending Describe(const Error& error);
   void Handle(Pending pending, std::size_t entry);
   void Unwind(std::size_t depth) noexcept;
+  void NoteTime() noexcept;
+  bool LookForStop() noexcept override;
   void CheckStop();
+  void StopIfAsked() {
+    if (m_Stop.load(std::memory_order_relaxed)) CheckStop();
+  }
   void Observe(const Procedure& procedure, std::size_t instruction);
+  void ObserveReturn();
 
-  Frame& Current() noexcept { return m_Frames[m_Depth - 1]; }
+  Frame& Current() noexcept { return *m_Current; }
 
   Limits m_Limits;
   std::vector<std::unique_ptr<Module>> m_Modules;
-  Module m_Surroundings;  // host objects, their members and the library, as far as a script asked for them
+  Module m_Objects;  // of the host, and Err
+  Module m_Library;  // members of such objects and the library, as far as a script asked for them
   std::vector<Ref<Object>> m_MemberObjects;  // in order of their addition
   Ref<ErrObject> m_Err;
   Ref<MachineLink> m_Link;
@@ -175,13 +196,16 @@ class Machine final : public Context, public Linkage {
   RegisterStack m_Registers;
   std::vector<Frame> m_Frames;
   std::size_t m_Depth = 0;
+  Frame* m_Current = nullptr;  // the last of those in use
   std::uint32_t m_Epoch = 1;
   int m_Entries = 0;
   std::atomic<bool> m_Stop = false;
   std::int32_t m_Timeout = -1;
-  std::chrono::steady_clock::time_point m_Deadline = std::chrono::steady_clock::time_point::max();
+  static constexpr auto kNoDeadline = std::chrono::steady_clock::time_point::max();
+  std::chrono::steady_clock::time_point m_Deadline = kNoDeadline;
   ScriptObserver* m_Observer = nullptr;
   Instance* m_Instances = nullptr;
+  bool m_IsClosing = false;
 };
 
 }  // namespace cardwright::vbscript

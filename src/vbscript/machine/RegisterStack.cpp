@@ -4,12 +4,8 @@
 
 namespace cardwright::vbscript {
 
-namespace {
-constexpr std::size_t kBlockSize = 4096;
-}
-
 Variant* RegisterStack::Bottom() {
-  if (m_Blocks.empty()) NextBlock(static_cast<std::uint32_t>(-1), kBlockSize);
+  if (m_Blocks.empty()) NextBlock(static_cast<std::uint32_t>(-1), m_Block);
   return m_Blocks.front().values.get();
 }
 
@@ -21,10 +17,11 @@ RegisterStack::Place RegisterStack::NextBlock(std::uint32_t block, std::size_t c
     if (count <= static_cast<std::size_t>(left.end - left.values.get())) return {left.values.get(), next};
     m_Blocks.resize(next);
   }
-  const std::size_t size = std::max(count, kBlockSize);
+  const std::size_t size = std::max(count, m_Block);
+  MemoryShare memory(size * sizeof(Variant));
   auto values = std::make_unique<Variant[]>(size);
   Variant* start = values.get();
-  m_Blocks.push_back({std::move(values), start + size});
+  m_Blocks.push_back({std::move(memory), std::move(values), start + size});
   return {start, next};
 }
 

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "automation/Variant.h"
+#include "vbscript/objects/MemoryShare.h"
 
 namespace cardwright::vbscript {
 
@@ -18,6 +19,9 @@ class RegisterStack {
     std::uint32_t block;
   };
 
+  /// It grows by at least that many registers.
+  explicit RegisterStack(std::size_t block) : m_Block(block) {}
+
   Variant* Bottom();
   /// Room for `count` registers at `wanted` in the block, or at the start of a further one where they do not
   /// fit.
@@ -28,10 +32,12 @@ class RegisterStack {
 
  private:
   struct Block {
+    MemoryShare memory;
     std::unique_ptr<Variant[]> values;
     Variant* end;
   };
   Place NextBlock(std::uint32_t block, std::size_t count);
+  std::size_t m_Block;
   std::vector<Block> m_Blocks;
 };
 

@@ -1,21 +1,11 @@
 #pragma once
 
-#include "automation/Errors.h"
+#include "vbscript/NamedError.h"
 #include "vbscript/syntax/Position.h"
 
 namespace cardwright::vbscript {
 
 inline constexpr const char16_t* kRuntimeErrorSource = u"Microsoft VBScript runtime error";
-
-/// An error about a name: `Err.Description` has the bare text, the report to the host the name too.
-class NamedError : public Error {
- public:
-  NamedError(int number, Text name) : Error(number), m_Name(std::move(name)) {}
-  const Text& Name() const noexcept { return m_Name; }
-
- private:
-  Text m_Name;
-};
 
 /// An error that no script handled, with its place: what an engine's caller catches.
 class ScriptFault : public Error {

@@ -1,5 +1,6 @@
 #include "vbscript/machine/SlowPaths.h"
 
+#include <algorithm>
 #include <charconv>
 
 #include "automation/Array.h"
@@ -43,10 +44,30 @@ class Digits {
   std::size_t m_Count = 0;
 };
 
-Text TextOf(const Variant& value) {
-  const Variant plain = value.Deref().IsObject() ? DefaultValue(value) : value.Deref();
-  return plain.IsNull() ? Text() : ToText(plain);
-}
+// The operands of an instruction. An object's default property may change the very variables that the
+// operator is reading, so next to an object an operand is looked at in a copy.
+class Operands {
+ public:
+  Operands(RegisterView view, Instruction i) : m_Left(&view.B(i)), m_Right(&view.C(i)) {
+    if (!m_Left->Deref().IsObject() && !m_Right->Deref().IsObject()) return;
+    m_Copies[0] = m_Left->Deref();
+    m_Copies[1] = m_Right->Deref();
+    m_Left = &m_Copies[0];
+    m_Right = &m_Copies[1];
+  }
+  Operands(const Operands&) = delete;
+  Operands& operator=(const Operands&) = delete;
+
+  const Variant& Left() const noexcept { return *m_Left; }
+  const Variant& Right() const noexcept { return *m_Right; }
+
+ private:
+  const Variant* m_Left;
+  const Variant* m_Right;
+  Variant m_Copies[2];
+};
+
+Text TextOf(const Variant& value) { return value.Deref().IsNull() ? Text() : ToText(value); }
 
 void Extend(const Context& context, Variant& target, std::u16string_view tail) {
   context.CheckTextSize(target.StringView().size() + tail.size());
@@ -56,11 +77,22 @@ void Extend(const Context& context, Variant& target, std::u16string_view tail) {
 }  // namespace
 
 void ApplyBinary(RegisterView view, Instruction i, Variant (*operation)(const Variant&, const Variant&)) {
-  Finish(view, i, operation(view.B(i), view.C(i)));
+  const Operands operands(view, i);
+  Finish(view, i, operation(operands.Left(), operands.Right()));
+}
+
+void ApplyAdd(const Context& context, RegisterView view, Instruction i) {
+  const Operands operands(view, i);
+  const Variant& left = operands.Left().Deref();
+  const Variant& right = operands.Right().Deref();
+  if (left.IsString() && right.IsString())
+    context.CheckTextSize(left.StringView().size() + right.StringView().size());
+  Finish(view, i, Add(left, right));
 }
 
 void ApplyBinary(RegisterView view, Instruction i, BinaryOperator op) {
-  Finish(view, i, Apply(op, view.B(i), view.C(i), Literals(i.n)));
+  const Operands operands(view, i);
+  Finish(view, i, Apply(op, operands.Left(), operands.Right(), Literals(i.n)));
 }
 
 void ApplyUnary(RegisterView view, Instruction i, Variant (*operation)(const Variant&)) {
@@ -74,10 +106,12 @@ Ordering CompareOperands(RegisterView view, Instruction i) {
   const Variant& y = view.C(i);
   Ordering order;
   if (x.IsString() && y.IsString()) {
+    Context::NoteWork(std::min(x.StringView().size(), y.StringView().size()));
     const int sign = x.StringView().compare(y.StringView());
     order = sign < 0 ? Ordering::Less : sign > 0 ? Ordering::Greater : Ordering::Equal;
   } else {
-    order = Compare(x, y, Literals(i.n));
+    const Operands operands(view, i);
+    order = Compare(operands.Left(), operands.Right(), Literals(i.n));
   }
   view.SpendB(i);
   view.SpendC(i);
@@ -90,15 +124,14 @@ bool IsTrueOperand(RegisterView view, std::uint16_t r) {
   return holds;
 }
 
-void CopyValue(Variant& to, const Variant& from) { to = from.Deref(); }
-
-void AssignPlain(Variant& to, Variant& from, bool spend) {
+void AssignValue(Variant& to, Variant& from, bool spend) {
   const Variant& value = static_cast<const Variant&>(from).Deref();
   if (value.IsObject()) {
     Variant plain = DefaultValue(value);
     if (spend) from.Reset();
     to = std::move(plain);
   } else if (value.IsArray() && value.ArrayPtr()->IsFixed()) {
+    Context::NoteWork(value.ArrayPtr()->Values().size());
     to = Variant(value.ArrayPtr()->Copy());  // the copy can be dimensioned anew
     if (spend) from.Reset();
   } else if (spend && &value == &from) {
@@ -106,6 +139,16 @@ void AssignPlain(Variant& to, Variant& from, bool spend) {
   } else {
     to = value;
     if (spend) from.Reset();
+  }
+}
+
+void AssignPlainThrough(Variant& place, Variant& from, bool spend) {
+  if (static_cast<const Variant&>(from).Deref().IsObject()) {
+    Variant plain;
+    AssignPlain(plain, from, spend);
+    place.Deref() = std::move(plain);
+  } else {
+    AssignPlain(place.Deref(), from, spend);
   }
 }
 
@@ -127,9 +170,19 @@ void TakeObject(RegisterView view, Instruction i) {
   view.R[i.a] = std::move(object);
 }
 
-void AppendText(const Context& context, Variant& target, const Variant& tail) {
+void AppendText(const Context& context, Variant& place, const Variant& tail) {
+  // An object's default property may change or move what the place refers to, so it is asked first.
+  if (tail.Deref().IsObject()) {
+    const Variant text = place.Deref();
+    Variant sum = Concatenate(text, DefaultValue(tail));
+    if (sum.IsString()) context.CheckTextSize(sum.StringView().size());
+    place.Deref() = std::move(sum);
+    return;
+  }
+  Variant& target = place.Deref();
   if (!target.IsString()) {
-    target = Concatenate(target, tail);
+    Variant sum = Concatenate(target, tail);
+    place.Deref() = std::move(sum);
   } else if (tail.IsString()) {
     Extend(context, target, tail.StringView());
   } else if (IsWhole(tail)) {
@@ -139,8 +192,8 @@ void AppendText(const Context& context, Variant& target, const Variant& tail) {
   }
 }
 
-void AppendText(const Context& context, Variant& target, RegisterView view, std::uint16_t r) {
-  AppendText(context, target, static_cast<const Variant&>(view.R[r]));
+void AppendText(const Context& context, Variant& place, RegisterView view, std::uint16_t r) {
+  AppendText(context, place, static_cast<const Variant&>(view.R[r]));
   view.Spend(r);
 }
 
@@ -153,7 +206,8 @@ void ConcatenateOperands(const Context& context, RegisterView view, Instruction 
     Finish(view, i, std::move(sum));
     return;
   }
-  Variant sum = Concatenate(x, y);
+  const Operands operands(view, i);
+  Variant sum = Concatenate(operands.Left(), operands.Right());
   if (sum.IsString()) context.CheckTextSize(sum.StringView().size());
   Finish(view, i, std::move(sum));
 }

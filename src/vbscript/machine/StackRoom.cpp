@@ -24,9 +24,9 @@ std::uintptr_t LowestAddress() noexcept {
 
 }  // namespace
 
-bool HasStackRoom() noexcept {
+bool HasStackRoom(std::size_t further) noexcept {
   static thread_local const std::uintptr_t lowest = LowestAddress();
-  return reinterpret_cast<std::uintptr_t>(__builtin_frame_address(0)) > lowest + kReserve;
+  return reinterpret_cast<std::uintptr_t>(__builtin_frame_address(0)) > lowest + kReserve + further;
 }
 
 }  // namespace cardwright::vbscript

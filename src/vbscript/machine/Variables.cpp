@@ -25,35 +25,43 @@ Text Machine::LocalName(const Procedure& procedure, std::uint16_t r) const {
 
 Symbol* Machine::Lookup(Module& module, NameId name) {
   if (Symbol* own = module.FindBound(name)) return own;
-  if (Symbol* known = m_Surroundings.Find(name)) return known;
+  if (Symbol* object = m_Objects.Find(name)) return object;
+  if (Symbol* known = m_Library.Find(name)) return known;
   const Text spelling = names.Spelling(name);
+  for (const Ref<Object>& object : m_MemberObjects) {
+    const MemberId member = object->FindMember(spelling);
+    if (member == kNoMember) continue;
+    Symbol& symbol = m_Library.Add(name);
+    symbol.kind = SymbolKind::HostMember;
+    symbol.value = object;
+    symbol.member = member;
+    return &symbol;
+  }
   const Builtin* builtin = FindMachineFunction(spelling);
   if (!builtin) builtin = FindBuiltin(spelling);
   if (builtin) {
-    Symbol& symbol = m_Surroundings.Add(name);
+    Symbol& symbol = m_Library.Add(name);
     symbol.kind = SymbolKind::Builtin;
     symbol.builtin = builtin;
     return &symbol;
   }
   if (const BuiltinConstant* constant = FindConstant(spelling)) {
-    Symbol& symbol = m_Surroundings.Add(name);
+    Symbol& symbol = m_Library.Add(name);
     symbol.kind = SymbolKind::Constant;
     symbol.value = constant->value();
-    return &symbol;
-  }
-  for (const Ref<Object>& object : m_MemberObjects) {
-    const MemberId member = object->FindMember(spelling);
-    if (member == kNoMember) continue;
-    Symbol& symbol = m_Surroundings.Add(name);
-    symbol.kind = SymbolKind::HostMember;
-    symbol.value = object;
-    symbol.member = member;
     return &symbol;
   }
   return nullptr;
 }
 
 void Machine::Resolve(SymbolUse& use) {
+  // What the running procedure has used as a variable of its own stays one, whatever the name means by now.
+  if (use.local != kNoRegister && !Current().registers[use.local].Deref().IsEmpty()) {
+    use.symbol = nullptr;
+    use.variable = nullptr;
+    use.epoch = 0;
+    return;
+  }
   use.symbol = Lookup(*Current().procedure->module, use.name);
   use.variable = use.symbol && use.symbol->kind == SymbolKind::Variable ? use.symbol->variable : nullptr;
   use.epoch = m_Epoch;
@@ -91,7 +99,7 @@ bool Machine::LoadSymbol(SymbolUse& use, Variant& target) {
     case SymbolKind::Builtin: CallBuiltin(*symbol->builtin, nullptr, 0, &target); return false;
     case SymbolKind::HostMember: {
       const Ref<Object> object(&RequireObject(symbol->value));
-      target = object->Invoke(symbol->member, CallKind::MethodOrGet, {});
+      target = InvokeHost(*object, symbol->member, CallKind::MethodOrGet, {});
       return false;
     }
     default: RaiseAbout(static_cast<int>(ErrorNumber::TypeMismatch), use.name);
@@ -111,7 +119,7 @@ void Machine::AssignSymbol(SymbolUse& use, Variant& value, bool isSet, bool spen
   isSet ? AssignObject(assigned, value, spend) : AssignPlain(assigned, value, spend);
   if (use.symbol && use.symbol->kind == SymbolKind::HostMember) {
     const Ref<Object> object(&RequireObject(use.symbol->value));
-    object->Invoke(use.symbol->member, isSet ? CallKind::Set : CallKind::Let, {&assigned, 1});
+    InvokeHost(*object, use.symbol->member, isSet ? CallKind::Set : CallKind::Let, {&assigned, 1});
     return;
   }
   VariableToWrite(use) = std::move(assigned);
@@ -121,9 +129,9 @@ void Machine::AppendToSymbol(RegisterView view, Instruction i, SymbolUse& use) {
   if (use.epoch != m_Epoch) Resolve(use);
   if (use.symbol && use.symbol->kind == SymbolKind::HostMember) {
     const Ref<Object> object(&RequireObject(use.symbol->value));
-    Variant text = object->Invoke(use.symbol->member, CallKind::MethodOrGet, {});
+    Variant text = InvokeHost(*object, use.symbol->member, CallKind::MethodOrGet, {});
     AppendText(*this, text, view, i.a);
-    object->Invoke(use.symbol->member, CallKind::Let, {&text, 1});
+    InvokeHost(*object, use.symbol->member, CallKind::Let, {&text, 1});
     return;
   }
   AppendText(*this, VariableToWrite(use), view, i.a);

@@ -15,7 +15,7 @@ class CodeUnitSet {
   static const CodeUnitSet& Digits();           ///< \d: ASCII digits
   static const CodeUnitSet& WordUnits();        ///< \w: ASCII letters, digits and the underscore
   static const CodeUnitSet& Blanks();           ///< \s: white space, line ends and Unicode's space separators
-  static const CodeUnitSet& LineTerminators();  ///< what the full stop does not match
+  static const CodeUnitSet& LineTerminators();  ///< where ^ and $ stand with MultiLine
   /// @}
 
   CodeUnitSet() = default;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <utility>
 
 #include "automation/MemoryBudget.h"
 
@@ -10,8 +11,12 @@ namespace cardwright::vbscript {
 class MemoryShare {
  public:
   MemoryShare() = default;
-  MemoryShare(const MemoryShare&) = delete;
-  MemoryShare& operator=(const MemoryShare&) = delete;
+  explicit MemoryShare(std::size_t bytes) { Grow(bytes); }
+  MemoryShare(MemoryShare&& other) noexcept : m_Bytes(std::exchange(other.m_Bytes, 0)) {}
+  MemoryShare& operator=(MemoryShare&& other) noexcept {
+    std::swap(m_Bytes, other.m_Bytes);
+    return *this;
+  }
   ~MemoryShare() { MemoryBudget::Refund(m_Bytes); }
 
   /// Error 7 where the budget has no more.

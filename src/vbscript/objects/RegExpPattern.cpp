@@ -45,6 +45,13 @@ const std::u16string& NoLineTerminator() {
   return notation;
 }
 
+// The full stop leaves out line feeds only: scripts that read texts with both line end characters count on
+// the carriage return being part of what it matches.
+const std::u16string& NoLineFeed() {
+  static const std::u16string notation = CodeUnitSet{{u'\n', u'\n'}}.Complement().Notation();
+  return notation;
+}
+
 /// Reads a pattern once from left to right and writes its translation.
 class Translator {
  public:
@@ -134,7 +141,7 @@ void Translator::Part() {
   if (ReadQuantifier()) Raise(kRegExpQuantifier);
   ++m_At;
   if (unit == u'.') {
-    Atom(NoLineTerminator());
+    Atom(NoLineFeed());
   } else {
     Unit(unit);
   }

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "vbscript/StopSignal.h"
+
 namespace cardwright::vbscript {
 
 namespace {
@@ -21,7 +23,7 @@ SearchBudget::SearchBudget(std::size_t textUnits) noexcept
 
 bool SearchBudget::LookAtClock() noexcept {
   m_Left = m_Interval;
-  return Clock::now() < m_End;
+  return Clock::now() < m_End && !StopSignal::IsRaised();
 }
 
 }  // namespace cardwright::vbscript

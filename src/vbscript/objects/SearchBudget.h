@@ -13,8 +13,8 @@ class SearchBudget {
   /// too.
   explicit SearchBudget(std::size_t textUnits) noexcept;
 
-  /// False once the time is over. Looks at the clock only now and then: more often the longer the text, as
-  /// the work between two checkpoints grows with it.
+  /// False once the time is over or the script is to stop. Looks at the clock only now and then: more often
+  /// the longer the text, as the work between two checkpoints grows with it.
   bool Spend() noexcept { return --m_Left > 0 || LookAtClock(); }
 
  private:

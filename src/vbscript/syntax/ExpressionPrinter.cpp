@@ -2,9 +2,7 @@
 
 namespace cardwright::vbscript {
 
-namespace {
-
-constexpr std::u16string_view SpellingOf(BinaryOperator op) {
+std::u16string_view SpellingOf(BinaryOperator op) {
   using enum BinaryOperator;
   switch (op) {
     case Power: return u"^";
@@ -30,6 +28,8 @@ constexpr std::u16string_view SpellingOf(BinaryOperator op) {
   }
   return {};
 }
+
+namespace {
 
 constexpr std::u16string_view SpellingOf(UnaryOperator op) {
   switch (op) {

@@ -6,6 +6,9 @@
 
 namespace cardwright::vbscript {
 
+/// An operator as programs write it.
+std::u16string_view SpellingOf(BinaryOperator op);
+
 /// Writes expressions as their author wrote them, but with blanks of its own.
 class ExpressionPrinter {
  public:

@@ -29,17 +29,31 @@ class LoneExpressionParser final : public ExpressionParser {
   }
 };
 
+/// A tree that memory has no room for is too large a source.
+template <class Parser, class Step>
+void ParseWith(Parser& parser, Step step) {
+  try {
+    step();
+  } catch (const SyntaxError&) {
+    throw;
+  } catch (const Error&) {
+    throw SyntaxError(SyntaxErrorNumber::OutOfMemory, parser.Where());
+  }
+}
+
 }  // namespace
 
 std::unique_ptr<SyntaxTree> Parse(Text source) {
   auto tree = NewTree(std::move(source));
-  DeclarationParser(*tree).ParseScript();
+  DeclarationParser parser(*tree);
+  ParseWith(parser, [&] { parser.ParseScript(); });
   return tree;
 }
 
 std::unique_ptr<SyntaxTree> ParseExpression(Text source) {
   auto tree = NewTree(std::move(source));
-  tree->expression = LoneExpressionParser(*tree).Parse();
+  LoneExpressionParser parser(*tree);
+  ParseWith(parser, [&] { tree->expression = parser.Parse(); });
   return tree;
 }
 

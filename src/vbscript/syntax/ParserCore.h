@@ -13,6 +13,9 @@ class ParserCore {
  public:
   explicit ParserCore(SyntaxTree& tree);
 
+  /// Place of the token at hand.
+  Position Where() const { return m_Token.position; }
+
  protected:
   /// How deep parentheses, signs, calls and blocks go into each other. A level costs each who walks the tree
   /// a dozen stack frames where operators of all ranks stand in it: half a megabyte, and two where addresses
@@ -57,7 +60,6 @@ class ParserCore {
   };
 
   const Token& Current() const { return m_Token; }
-  Position Where() const { return m_Token.position; }
   bool At(TokenKind kind) const { return m_Token.kind == kind; }
   /// The token behind the one at hand.
   Token PeekNext() const { return Lexer(m_Lexer).Next(); }

@@ -5,6 +5,7 @@
 #include <memory_resource>
 #include <vector>
 
+#include "automation/BudgetedMemory.h"
 #include "vbscript/syntax/Ast.h"
 
 namespace cardwright::vbscript {
@@ -42,7 +43,7 @@ class SyntaxTree {
 
  private:
   Text m_Source;
-  std::pmr::monotonic_buffer_resource m_Memory;
+  std::pmr::monotonic_buffer_resource m_Memory{&BudgetedMemory::Instance()};
   std::deque<Variant> m_Values;
 };
 

@@ -1,0 +1,42 @@
+// Any bytes are a VBScript source. It is read or refused by a number and a place; what is read prints as a
+// source that reads and prints the same; and it runs within its limits. The first byte tells whether the run
+// is observed.
+
+#include <algorithm>
+#include <cstdint>
+
+#include "VbscriptRun.h"
+#include "vbscript/Engine.h"
+#include "vbscript/syntax/Parser.h"
+#include "vbscript/syntax/Printer.h"
+
+namespace {
+
+using namespace cardwright;
+using namespace cardwright::vbscript;
+
+void CheckRefusal(const Text& source, const ScriptError& error) {
+  const auto lines = 1 + std::count_if(source.View().begin(), source.View().end(),
+                                       [](char16_t c) { return c == u'\n' || c == u'\r'; });
+  Require(error.number >= 1001 && error.number <= 1058);
+  Require(error.line >= 1 && error.line <= lines && error.column >= 0);
+}
+
+void CheckPrinting(const Text& source) {
+  const Text printed = Print(*Parse(source));
+  Require(Print(*Parse(printed)) == printed);
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  const Text source = Text::FromUtf8({reinterpret_cast<const char*>(data), size});
+  const ScriptError error = Check(source);
+  if (error.number) {
+    CheckRefusal(source, error);
+  } else {
+    CheckPrinting(source);
+  }
+  RunStranger(source, size % 2 != 0);
+  return 0;
+}

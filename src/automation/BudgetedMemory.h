@@ -1,0 +1,18 @@
+#pragma once
+
+#include <memory_resource>
+
+namespace cardwright {
+
+/// Memory of the heap for containers, counted in the thread's MemoryBudget: error 7 where that has no more.
+class BudgetedMemory final : public std::pmr::memory_resource {
+ public:
+  static BudgetedMemory& Instance() noexcept;
+
+ private:
+  void* do_allocate(std::size_t bytes, std::size_t alignment) override;
+  void do_deallocate(void* memory, std::size_t bytes, std::size_t alignment) override;
+  bool do_is_equal(const memory_resource& other) const noexcept override { return this == &other; }
+};
+
+}  // namespace cardwright
