@@ -104,6 +104,11 @@ foreach(file IN LISTS files)
       continue()
     endif()
 
+    if(NOT file MATCHES "^src/jscript/spidermonkey/" AND included MATCHES "^(js/|mozilla/|js[a-z]*\\.h$)")
+      list(APPEND faults "${file}: includes <${included}>: only src/jscript/spidermonkey sees the JavaScript library")
+      continue()
+    endif()
+
     if(NOT room)
       continue()
     endif()

@@ -31,6 +31,19 @@ constexpr const char16_t* kEndless[] = {
     u"Sub S(n)\nIf n > 0 Then r n - 1: r n - 1\nEnd Sub\nSet r = GetRef(\"S\")\nr 200",
     u"Function F(n)\nIf n > 0 Then x = Eval(\"F(n - 1)\"): y = Eval(\"F(n - 1)\")\nEnd Function\nx = F(50)",
     u"Sub S\nOn Error Resume Next\nDo: Host.Callback: Loop\nEnd Sub\nS",
+    // No step of these is long, but there is none that would count.
+    u"Class C\nPublic n\nPublic Default Property Get V\nn = n + 1\nIf n < 200 Then V = Me + Me\n"
+    u"n = n - 1\nEnd Property\nEnd Class\nSet o = New C\nx = o + 1",
+    u"Class C\nSub Class_Terminate\nSet a = New C\nSet a = New C\nEnd Sub\nEnd Class\nSet o = New C\n"
+    u"Set o = Nothing",
+    // Each step of these is long.
+    u"On Error Resume Next\nSet r = New RegExp\nr.Pattern = \"(a+)+$\"\n"
+    u"Do: x = r.Test(String(4000, \"a\") & \"b\"): Loop",
+    u"s = String(3000000, \"a\")\nDo: x = InStr(s, \"b\"): Loop",
+    u"s = String(3000000, \"a\")\nt = String(3000000, \"a\")\nDo: x = s = t: Loop",
+    u"s = String(3000000, \"a\")\nt = s\nDo: x = s & t: Loop",
+    u"Dim a(300000)\nDo: b = a: Loop",
+    u"Do: ReDim a(3000000): Loop",
 };
 
 class EngineStops : public EngineTest, public ::testing::WithParamInterface<const char16_t*> {
@@ -184,6 +197,12 @@ TEST_F(EngineLimits, OfMemoryIsError7) {
       u"d = Array(): Do: d = Array(d, String(900, \"x\")): Loop",
       u"Set e = CreateObject(\"\"): Do: e.Add e.Count, String(900, \"x\"): Loop",
       u"Function F(n): Dim a(1000): F = F(n + 1): End Function\nx = F(1)",
+      u"Class N: Public x: End Class\nSet e = Nothing: Do: Set n1 = New N: Set n1.x = e: Set e = n1: Loop",
+      u"Sub P: End Sub\nReDim a(20000): For i = 0 To 20000: Set a(i) = GetRef(\"P\"): Next",
+      u"ReDim a(20000): For i = 0 To 20000: Set a(i) = New RegExp: Next",
+      u"Do: i = i + 1: Execute \"v\" & i & \" = 1\": Loop",
+      u"Do: i = i + 1: ExecuteGlobal \"Sub s\" & i & \": End Sub\": Loop",
+      u"Do: ExecuteGlobal \"Class K: Public a, b: End Class\": Loop",
   };
   for (const char16_t* program : programs) {
     Start(Small());
@@ -193,6 +212,40 @@ TEST_F(EngineLimits, OfMemoryIsError7) {
     Add(u"On Error Resume Next: Erase a: Erase b: Erase c: d = 0: Set e = Nothing");
     ExpectWorking();
   }
+}
+
+TEST_F(EngineLimits, OfMemoryHoldsForTheVariablesOfRunningProcedures) {
+  std::u16string code = u"Sub Deep(n)\nDim v0";
+  for (int k = 1; k < 3000; ++k) code += u", v" + std::u16string(Text::FromUtf8(std::to_string(k)).View());
+  Add(code + u"\nIf n > 0 Then Deep n - 1\nEnd Sub");
+  EXPECT_EQ(ErrorOf([&] { Run(u"Deep", {10}); }), 0);
+  EXPECT_EQ(ErrorOf([&] { Run(u"Deep", {40}); }), 7);
+  ExpectWorking();
+}
+
+TEST_F(EngineLimits, OfMemoryHoldsForSourcesThatAreExecuted) {
+  Limits limits = Small();
+  limits.textUnits = 1 << 20;
+  limits.memoryBytes = 4 << 20;
+  Start(limits);
+  EXPECT_EQ(ErrorOfCode(u"Execute \"x = 1\" & Replace(Space(100000), \" \", \"+1\")"), 1001);
+  ExpectWorking();
+}
+
+TEST_F(EngineLimits, OfMemoryHoldsForThePlacesOfAReplacement) {
+  Limits limits = Small();
+  limits.textUnits = 1 << 20;
+  limits.memoryBytes = 4 << 20;
+  Start(limits);
+  EXPECT_EQ(ErrorOfCode(u"x = Replace(String(500000, \"a\"), \"a\", \"b\")"), 7);
+  ExpectWorking();
+}
+
+TEST_F(EngineLimits, ExecutedTextsLeaveNoMemoryBehind) {
+  Add(u"For i = 1 To 10: Execute \"x = 1: Dim y: y = 2\": Next");
+  const std::size_t used = MemoryBudget::Used();
+  Add(u"For i = 1 To 2000: Execute \"x = 1: Dim y: y = 2\": Next");
+  EXPECT_EQ(MemoryBudget::Used(), used);
 }
 
 TEST_F(EngineLimits, CanBePassedOver) {

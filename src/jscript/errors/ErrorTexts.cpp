@@ -13,6 +13,7 @@ struct Row {
 };
 
 constexpr Row kTexts[] = {
+    {429, u"Automation server can't create object"},
     {438, u"Object doesn't support this property or method"},
     {445, u"Object doesn't support this action"},
     {458, u"Variable uses an Automation type not supported in JScript"},

@@ -28,12 +28,12 @@ void Finalize(JS::GCContext*, JSObject* object) {
   box->runtime->Bury(std::move(box->value));
 }
 
-constexpr JSClassOps kOps = {nullptr, nullptr, nullptr, nullptr,   nullptr,
+constexpr JSClassOps kOps = {nullptr, nullptr,   nullptr, nullptr, nullptr,
                              nullptr, &Finalize, nullptr, nullptr, nullptr};
-constexpr JSClass kArrayClass = {"VBArray", JSCLASS_HAS_RESERVED_SLOTS(1) | JSCLASS_FOREGROUND_FINALIZE, &kOps,
-                                nullptr, nullptr, nullptr};
-constexpr JSClass kExactClass = {"Object", JSCLASS_HAS_RESERVED_SLOTS(1) | JSCLASS_FOREGROUND_FINALIZE, &kOps,
-                                nullptr, nullptr, nullptr};
+constexpr JSClass kArrayClass = {
+    "VBArray", JSCLASS_HAS_RESERVED_SLOTS(1) | JSCLASS_FOREGROUND_FINALIZE, &kOps, nullptr, nullptr, nullptr};
+constexpr JSClass kExactClass = {
+    "Object", JSCLASS_HAS_RESERVED_SLOTS(1) | JSCLASS_FOREGROUND_FINALIZE, &kOps, nullptr, nullptr, nullptr};
 
 bool MakeBox(JSContext* cx, const JSClass& kind, JS::HandleObject prototype, const Variant& value,
              JS::MutableHandleValue result) {
@@ -132,7 +132,8 @@ bool ExactText(JSContext* cx, unsigned count, JS::Value* vp) {
   const Variant* value = ThisExact(cx, args);
   if (!value) return false;
   // The language writes a point, whatever the locale.
-  std::u16string digits((value->Type() == VarType::Error ? ToText(Variant(value->ErrorCode())) : Str(*value)).View());
+  std::u16string digits(
+      (value->Type() == VarType::Error ? ToText(Variant(value->ErrorCode())) : Str(*value)).View());
   if (digits.starts_with(u' ')) digits.erase(0, 1);
   JSString* text = JS_NewUCStringCopyN(cx, digits.data(), digits.size());
   if (text) args.rval().setString(text);
@@ -140,10 +141,11 @@ bool ExactText(JSContext* cx, unsigned count, JS::Value* vp) {
 }
 
 constexpr JSFunctionSpec kArrayMethods[] = {
-    JS_FN("dimensions", Dimensions, 0, 0), JS_FN("lbound", LowerBound, 1, 0), JS_FN("ubound", UpperBound, 1, 0),
-    JS_FN("getItem", GetItem, 1, 0),       JS_FN("toArray", ToList, 0, 0),    JS_FS_END};
-constexpr JSFunctionSpec kExactMethods[] = {JS_FN("valueOf", ExactValue, 0, 0), JS_FN("toString", ExactText, 0, 0),
-                                            JS_FS_END};
+    JS_FN("dimensions", Dimensions, 0, 0), JS_FN("lbound", LowerBound, 1, 0),
+    JS_FN("ubound", UpperBound, 1, 0),     JS_FN("getItem", GetItem, 1, 0),
+    JS_FN("toArray", ToList, 0, 0),        JS_FS_END};
+constexpr JSFunctionSpec kExactMethods[] = {JS_FN("valueOf", ExactValue, 0, 0),
+                                            JS_FN("toString", ExactText, 0, 0), JS_FS_END};
 
 }  // namespace
 
@@ -164,8 +166,8 @@ const Variant* BoxedValue(JSObject* object) noexcept {
 
 bool DefineBoxes(JSContext* cx, JS::HandleObject global, JS::MutableHandleObject arrays,
                  JS::MutableHandleObject exact) {
-  arrays.set(JS_InitClass(cx, global, nullptr, &kArrayClass, &ConstructArray, 1, nullptr, kArrayMethods, nullptr,
-                          nullptr));
+  arrays.set(JS_InitClass(cx, global, nullptr, &kArrayClass, &ConstructArray, 1, nullptr, kArrayMethods,
+                          nullptr, nullptr));
   exact.set(JS_NewPlainObject(cx));
   return arrays && exact && JS_DefineFunctions(cx, exact, kExactMethods);
 }

@@ -53,8 +53,8 @@ bool NotedDays(Session& session, JS::HandleObject object, double& days, bool& is
   JS::RootedId daysKey(cx, session.GetRuntime().Key(Runtime::Note::Days));
   JS::RootedValue instant(cx), noted(cx);
   double now = 0;
-  if (!JS_GetPropertyById(cx, object, instantKey, &instant) || !JS_GetPropertyById(cx, object, daysKey, &noted) ||
-      !js::DateGetMsecSinceEpoch(cx, object, &now))
+  if (!JS_GetPropertyById(cx, object, instantKey, &instant) ||
+      !JS_GetPropertyById(cx, object, daysKey, &noted) || !js::DateGetMsecSinceEpoch(cx, object, &now))
     return false;
   isNoted = instant.isNumber() && noted.isNumber() && instant.toNumber() == now;
   if (isNoted) days = noted.toNumber();

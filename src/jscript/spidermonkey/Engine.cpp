@@ -16,6 +16,7 @@
 #include "jscript/errors/ErrorTexts.h"
 #include "jscript/spidermonkey/Faults.h"
 #include "jscript/spidermonkey/Session.h"
+#include "jscript/spidermonkey/StatementWatch.h"
 #include "jscript/spidermonkey/Values.h"
 #include "jscript/syntax/Characters.h"
 #include "jscript/syntax/SyntaxFault.h"
@@ -26,7 +27,7 @@ namespace {
 /// A module's names: the global object's own, or those of an object in front of it.
 struct Module {
   Text name;
-  std::vector<std::u16string> functions;  // declared, in order
+  std::vector<std::u16string> functions;              // declared, in order
   std::unique_ptr<JS::PersistentRootedObject> scope;  // none for the global module
 };
 
@@ -53,7 +54,7 @@ ScriptError Described(int number, const Text& description) {
 }
 
 // In the session's realm.
-void Compile(Session& session, std::u16string_view source, bool isInModule, Compiled& result) {
+void Compile(Session& session, const Module& module, std::u16string_view source, Compiled& result) {
   JSContext* cx = session.Context();
   Rewritten rewritten;
   try {
@@ -62,11 +63,11 @@ void Compile(Session& session, std::u16string_view source, bool isInModule, Comp
     ThrowSyntax(session, source, fault);
   }
   result.functions = std::move(rewritten.functions);
-  result.chunk = session.AddChunk(std::move(rewritten.text), std::move(rewritten.places));
+  result.chunk = session.AddChunk({module.name, std::move(rewritten.text), std::move(rewritten.places)});
   const std::string name = Session::ChunkName(result.chunk);
   const std::u16string& text = session.FindChunk(name)->text;
   JS::CompileOptions options(cx);
-  options.setFileAndLine(name.c_str(), 1).setNonSyntacticScope(isInModule);
+  options.setFileAndLine(name.c_str(), 1).setNonSyntacticScope(module.scope != nullptr);
   JS::SourceText<char16_t> characters;
   if (characters.init(cx, text.data(), text.size(), JS::SourceOwnership::Borrowed))
     result.script = JS::Compile(cx, options, characters);
@@ -77,7 +78,8 @@ void Compile(Session& session, std::u16string_view source, bool isInModule, Comp
 std::u16string AsExpression(std::u16string_view text) {
   std::size_t start = 0;
   while (start < text.size() && IsBlank(text[start])) ++start;
-  const bool isBracketed = text.substr(start).starts_with(u'{') || text.substr(start).starts_with(u"function");
+  const bool isBracketed =
+      text.substr(start).starts_with(u'{') || text.substr(start).starts_with(u"function");
   return isBracketed ? u"(" + std::u16string(text) + u"\n)" : std::u16string(text);
 }
 
@@ -89,6 +91,7 @@ class Engine final : public ScriptEngine {
     Start();
   }
   ~Engine() override {
+    m_Watch.reset();
     m_Modules.clear();
     Swap(nullptr);
   }
@@ -117,10 +120,12 @@ class Engine final : public ScriptEngine {
   }
   // The language has no boxes of its own; what a host's objects show is the host's affair.
   void SetAllowUI(bool) override {}
-  void SetObserver(ScriptObserver*) override {}
+  void SetObserver(ScriptObserver* observer) override {
+    m_Observer = observer;
+    Watch();
+  }
   void Close() override {
     for (Module& module : m_Modules) module.scope.reset();
-    Swap(nullptr);
     Start();
     for (Module& module : m_Modules) {
       module.functions.clear();
@@ -134,7 +139,8 @@ class Engine final : public ScriptEngine {
 
  private:
   Module* Find(std::u16string_view name) {
-    const auto found = std::ranges::find_if(m_Modules, [&](const Module& one) { return EqualsNoCase(one.name, name); });
+    const auto found =
+        std::ranges::find_if(m_Modules, [&](const Module& one) { return EqualsNoCase(one.name, name); });
     return found == m_Modules.end() ? nullptr : &*found;
   }
   Module& Required(std::u16string_view name) {
@@ -145,10 +151,13 @@ class Engine final : public ScriptEngine {
   JSObject* ScopeOf(const Module& module) const {
     return module.scope ? module.scope->get() : m_Session->Global().get();
   }
+  // Made before the old one is told to stop, which would stop the making too.
   void Start() {
     auto session = std::make_shared<Session>(m_Host, m_Limits);
     session->SetTimeout(m_Timeout);
+    m_Watch.reset();
     Swap(std::move(session));
+    Watch();
   }
   void Swap(std::shared_ptr<Session> session) {
     std::shared_ptr<Session> old;
@@ -159,10 +168,15 @@ class Engine final : public ScriptEngine {
     // One whose script is under way ends with it.
     if (old && old->IsRunning()) old->Stop();
   }
+  void Watch() {
+    m_Watch.reset();
+    if (m_Observer) m_Watch = std::make_unique<StatementWatch>(*m_Session, *m_Observer);
+  }
   void GiveScope(Module& module) {
     JSContext* cx = m_Session->Context();
     const JSAutoRealm realm(cx, m_Session->Global());
-    module.scope = std::make_unique<JS::PersistentRootedObject>(cx, JS_NewObjectWithGivenProto(cx, nullptr, nullptr));
+    module.scope =
+        std::make_unique<JS::PersistentRootedObject>(cx, JS_NewObjectWithGivenProto(cx, nullptr, nullptr));
     if (!module.scope->get()) Raise(ErrorNumber::OutOfMemory);
   }
   bool FindFunction(Session& session, const Module& module, std::u16string_view name,
@@ -177,6 +191,8 @@ class Engine final : public ScriptEngine {
   std::int32_t m_Timeout = -1;
   std::mutex m_SwapMutex;
   std::shared_ptr<Session> m_Session;
+  ScriptObserver* m_Observer = nullptr;
+  std::unique_ptr<StatementWatch> m_Watch;
   std::vector<Module> m_Modules;
   ScriptError m_Error;
 };
@@ -207,7 +223,8 @@ void Engine::Noting(Step&& step) {
   }
 }
 
-bool ExecuteScript(Session& session, JSObject* scope, JS::HandleScript script, JS::MutableHandleValue result) {
+bool ExecuteScript(Session& session, JSObject* scope, JS::HandleScript script,
+                   JS::MutableHandleValue result) {
   JSContext* cx = session.Context();
   if (!scope) return JS_ExecuteScript(cx, script, result);
   JS::RootedObjectVector chain(cx);
@@ -218,7 +235,7 @@ void Engine::Execute(Session& session, std::u16string_view name, std::u16string_
   JSContext* cx = session.Context();
   Compiled compiled(cx);
   Module& module = Required(name);
-  Compile(session, code, module.scope != nullptr, compiled);
+  Compile(session, module, code, compiled);
   for (std::u16string& function : compiled.functions)
     if (std::ranges::find(module.functions, function) == module.functions.end())
       module.functions.push_back(std::move(function));
@@ -231,7 +248,7 @@ void Engine::Execute(Session& session, std::u16string_view name, std::u16string_
 Variant Engine::EvaluateIn(Session& session, const Module& module, std::u16string_view expression) {
   JSContext* cx = session.Context();
   Compiled compiled(cx);
-  Compile(session, AsExpression(expression), module.scope != nullptr, compiled);
+  Compile(session, module, AsExpression(expression), compiled);
   JS::RootedValue value(cx);
   JS::RootedObject scope(cx, module.scope ? module.scope->get() : nullptr);
   Variant result;
@@ -277,7 +294,8 @@ Variant Engine::Run(std::u16string_view name, std::u16string_view procedure, Arg
       if (!ToScript(session, one, &value) || !values.append(value)) ThrowPending(session);
     }
     JS::RootedValue result(cx);
-    if (!JS::Call(cx, JS::UndefinedHandleValue, function, values, &result) || !FromScript(session, result, answer))
+    if (!JS::Call(cx, JS::UndefinedHandleValue, function, values, &result) ||
+        !FromScript(session, result, answer))
       ThrowPending(session);
   });
   return answer;
@@ -307,7 +325,7 @@ ScriptError Check(std::u16string_view source) {
   try {
     const Session::Entry entry(*session);
     Compiled compiled(session->Context());
-    Compile(*session, source, false, compiled);
+    Compile(*session, Module{}, source, compiled);
   } catch (const ScriptFault& fault) {
     return fault.Described();
   }

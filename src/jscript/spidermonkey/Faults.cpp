@@ -14,6 +14,7 @@
 
 #include "jscript/errors/EngineMessages.h"
 #include "jscript/errors/ErrorTexts.h"
+#include "jscript/spidermonkey/LineSpot.h"
 #include "jscript/spidermonkey/Session.h"
 #include "jscript/spidermonkey/Values.h"
 #include "jscript/syntax/Characters.h"
@@ -73,35 +74,18 @@ bool DefineText(JSContext* cx, JS::HandleObject object, const char* name, const 
   return string && JS_DefineProperty(cx, object, name, string, kHidden);
 }
 
-// The line of a compiled source, and where in it an error stands. The library counts columns in characters,
-// of which one may be two units.
-struct LineSpot {
-  std::u16string_view line;
-  std::size_t unit = 0;
-};
-
-LineSpot SpotOf(std::u16string_view text, int line, int column) noexcept {
-  std::size_t start = 0;
-  for (int k = 1; k < line; ++k) {
-    while (start < text.size() && !IsLineEnd(text[start])) ++start;
-    if (start < text.size() && text[start] == u'\r' && start + 1 < text.size() && text[start + 1] == u'\n') ++start;
-    if (start < text.size()) ++start;
-  }
-  std::size_t end = start;
-  while (end < text.size() && !IsLineEnd(text[end])) ++end;
-  LineSpot spot{text.substr(start, end - start), 0};
-  for (int k = 0; k < column && spot.unit < spot.line.size(); ++k)
-    spot.unit += (spot.line[spot.unit] & 0xFC00) == 0xD800 ? 2 : 1;
-  return spot;
-}
-
-// Whether what stands at the place is called: `name(`.
-bool IsCall(const Chunk& chunk, int line, int column) noexcept {
+// Whether the name that is unknown behind the place is called: `name(`.
+bool IsCalled(const Chunk& chunk, int line, int column, std::u16string_view name) noexcept {
   const LineSpot spot = SpotOf(chunk.text, line, column);
-  std::size_t at = spot.unit;
-  while (at < spot.line.size() && ContinuesName(spot.line[at])) ++at;
-  while (at < spot.line.size() && IsBlank(spot.line[at])) ++at;
-  return at > spot.unit && at < spot.line.size() && spot.line[at] == u'(';
+  const auto isPart = [&](std::size_t at) { return at < spot.line.size() && ContinuesName(spot.line[at]); };
+  for (std::size_t at = spot.line.find(name, spot.unit); at != std::u16string_view::npos;
+       at = spot.line.find(name, at + 1)) {
+    std::size_t end = at + name.size();
+    if (isPart(end) || (at > 0 && (isPart(at - 1) || spot.line[at - 1] == u'.'))) continue;
+    while (end < spot.line.size() && IsBlank(spot.line[end])) ++end;
+    return end < spot.line.size() && spot.line[end] == u'(';
+  }
+  return false;
 }
 
 Text Quoted(std::string_view name, const char16_t* rest) {
@@ -142,11 +126,12 @@ ErrorFace FaceOfReport(Session& session, const JSErrorReport& report) {
   const std::string_view message = report.message().c_str() ? report.message().c_str() : "";
   const std::optional<int> known = NumberOfMessage(name);
   if (name == "JSMSG_NOT_DEFINED" || name == "JSMSG_UNDECLARED_VAR") {
-    const Chunk* chunk = session.FindChunk(report.filename ? report.filename : "");
-    if (chunk && IsCall(*chunk, static_cast<int>(report.lineno), static_cast<int>(report.column) - 1))
-      return {kObjectExpected, ErrorText(kObjectExpected)};
     const std::string_view plain = Before(message, " is not defined");
     const std::string_view variable = plain.empty() ? message.substr(message.rfind(' ') + 1) : plain;
+    const Chunk* chunk = session.FindChunk(report.filename ? report.filename : "");
+    if (chunk && IsCalled(*chunk, static_cast<int>(report.lineno), static_cast<int>(report.column) - 1,
+                          Text::FromUtf8(variable)))
+      return {kObjectExpected, ErrorText(kObjectExpected)};
     return {kUndefinedName, Quoted(variable, u"' is undefined")};
   }
   if (name == "JSMSG_UNEXPECTED_TYPE")
@@ -154,9 +139,9 @@ ErrorFace FaceOfReport(Session& session, const JSErrorReport& report) {
   if (name == "JSMSG_NOT_FUNCTION") {
     const std::string_view callee = Before(message, " is not a function");
     const bool isMember = callee.find('.') != std::string_view::npos || callee.ends_with(']');
-    const int number = isMember                              ? kNoSuchMember
+    const int number = isMember                             ? kNoSuchMember
                        : IsUndefinedGlobal(session, callee) ? kObjectExpected
-                                                             : kNotAFunction;
+                                                            : kNotAFunction;
     return {number, ErrorText(number)};
   }
   if (name.starts_with("JSMSG_INCOMPATIBLE_")) {
@@ -167,13 +152,12 @@ ErrorFace FaceOfReport(Session& session, const JSErrorReport& report) {
   // The language has no such error: the nearest number, and what the library says.
   switch (report.exnType) {
     case JSEXN_SYNTAXERR:
-      if (message.find("regular expression") != std::string_view::npos || message.find("pattern") != std::string_view::npos)
+      if (message.find("regular expression") != std::string_view::npos ||
+          message.find("pattern") != std::string_view::npos)
         return {5017, ErrorText(5017)};
       return {kSyntaxError, ErrorText(kSyntaxError)};
-    case JSEXN_REFERENCEERR:
-      return {kUndefinedName, Text::FromUtf8(message)};
-    default:
-      return {kInvalidCall, Text::FromUtf8(message)};
+    case JSEXN_REFERENCEERR: return {kUndefinedName, Text::FromUtf8(message)};
+    default: return {kInvalidCall, Text::FromUtf8(message)};
   }
 }
 
@@ -189,9 +173,7 @@ std::optional<Place> PlaceOfStack(Session& session, JS::HandleObject stack) {
     JS::GetSavedFrameColumn(cx, nullptr, frame, &column);
     const Chunk* chunk = source ? session.FindChunk(TextOf(session, source).ToUtf8()) : nullptr;
     if (chunk) {
-      const int zeroBased = column > 0 ? static_cast<int>(column) - 1 : 0;
-      const auto unit = SpotOf(chunk->text, static_cast<int>(line), zeroBased).unit;
-      return chunk->places.Original({static_cast<int>(line), static_cast<int>(unit)});
+      return chunk->Original(static_cast<int>(line), column > 0 ? static_cast<int>(column) - 1 : 0);
     }
     JS::RootedObject parent(cx);
     JS::GetSavedFrameParent(cx, nullptr, frame, &parent);
@@ -204,9 +186,8 @@ Place PlaceOfReport(Session& session, const JSErrorReport& report, bool isCompil
   const Chunk* chunk = session.FindChunk(report.filename ? report.filename : "");
   if (!chunk) return {};
   // The library counts columns from 0 where it compiles, and from 1 where code runs.
-  const auto line = static_cast<int>(report.lineno);
   const int column = static_cast<int>(report.column) - (isCompiling || report.column == 0 ? 0 : 1);
-  return chunk->places.Original({line, static_cast<int>(SpotOf(chunk->text, line, column).unit)});
+  return chunk->Original(static_cast<int>(report.lineno), column);
 }
 
 // An error that the script made, threw on or got from the host: what it carries.
@@ -326,8 +307,9 @@ void ThrowPending(Session& session, bool isCompiling) {
   const bool isOutOfMemory = session.TakeOutOfMemory() || JS_IsThrowingOutOfMemory(cx);
   if (isOutOfMemory) {
     JS_ClearPendingException(cx);
-    throw ScriptFault({.number = kOutOfMemory, .description = ErrorText(kOutOfMemory), .source = kRuntimeErrorSource},
-                      session);
+    throw ScriptFault(
+        {.number = kOutOfMemory, .description = ErrorText(kOutOfMemory), .source = kRuntimeErrorSource},
+        session);
   }
   if (!JS_IsExceptionPending(cx)) throw Interrupted{};
   JS::ExceptionStack stack(cx);

@@ -34,7 +34,8 @@ Meaning MeaningOf(Session& session, JS::PropertyKey name) {
 }
 
 // A function that calls the member; the same one each time the name is met.
-bool GlobalMethod(Session& session, const Meaning& meaning, JS::HandleId name, JS::MutableHandleValue result) {
+bool GlobalMethod(Session& session, const Meaning& meaning, JS::HandleId name,
+                  JS::MutableHandleValue result) {
   JSContext* cx = session.Context();
   JS::RootedObject methods(cx, session.GlobalMethods());
   if (!JS_GetPropertyById(cx, methods, name, result)) return false;
@@ -83,7 +84,7 @@ bool NameGet(JSContext* cx, JS::HandleObject proxy, JS::HandleValue receiver, JS
   if (!meaning.member.IsThere()) return ToScript(*session, Variant(meaning.object), value);
   bool needsCall = false;
   value.setUndefined();
-  if (!ReadMember(*session, *meaning.object, meaning.member, value, needsCall)) return false;
+  if (!ReadMember(*session, *meaning.object, name, meaning.member, value, needsCall)) return false;
   return !needsCall || GlobalMethod(*session, meaning, name, value);
 }
 
@@ -91,7 +92,7 @@ bool NameSet(JSContext* cx, JS::HandleObject proxy, JS::HandleId name, JS::Handl
              JS::HandleValue receiver, JS::ObjectOpResult& result) {
   Session* session = Session::Of(cx);
   const Meaning meaning = session ? MeaningOf(*session, name) : Meaning{};
-  if (!meaning || !meaning.member.IsThere() || meaning.member.isMethod) {
+  if (!meaning || !meaning.member.IsThere()) {
     JS::RootedObject behind(cx, js::GetProxyPrivate(proxy).toObjectOrNull());
     return JS_ForwardSetPropertyTo(cx, behind, name, value, receiver, result);
   }

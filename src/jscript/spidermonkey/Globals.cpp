@@ -7,6 +7,7 @@
 #include <js/CompileOptions.h>
 #include <js/Conversions.h>
 #include <js/Date.h>
+#include <js/GCAPI.h>
 #include <js/PropertyAndElement.h>
 #include <js/Realm.h>
 #include <js/SourceText.h>
@@ -128,7 +129,14 @@ bool NewActiveXObject(JSContext* cx, unsigned count, JS::Value* vp) {
   return CallHost(*session, [&] {
     Text progid, server;
     if (!TextArgument(*session, args, 0, progid) || !TextArgument(*session, args, 1, server)) return false;
-    return ToScript(*session, Variant(session->Host().CreateObject(progid, server)), args.rval());
+    try {
+      return ToScript(*session, Variant(session->Host().CreateObject(progid, server)), args.rval());
+    } catch (const Error& error) {
+      // The platform's own text of this error is another one.
+      const bool isPlain = error.Description() == StandardErrorText(error.Number());
+      if (error.Number() != kCannotCreate || !isPlain) throw;
+      Raise(kCannotCreate, ErrorText(kCannotCreate));
+    }
   });
 }
 
@@ -141,6 +149,14 @@ bool GetObject(JSContext* cx, unsigned count, JS::Value* vp) {
     if (!TextArgument(*session, args, 0, path) || !TextArgument(*session, args, 1, progid)) return false;
     return ToScript(*session, Variant(session->Host().GetObject(path, progid)), args.rval());
   });
+}
+
+bool CollectGarbage(JSContext* cx, unsigned count, JS::Value* vp) {
+  const JS::CallArgs args = JS::CallArgsFromVp(count, vp);
+  JS_GC(cx);
+  Runtime::Of(cx).ReleaseDead();
+  args.rval().setUndefined();
+  return true;
 }
 
 bool Caught(JSContext* cx, unsigned count, JS::Value* vp) {
@@ -172,13 +188,16 @@ bool Source(JSContext* cx, unsigned count, JS::Value* vp) {
 }
 
 bool DefineHidden(JSContext* cx, JS::HandleObject global, std::u16string_view name, JSNative call) {
-  return JS_DefineUCFunction(cx, global, name.data(), name.size(), call, 1, JSPROP_PERMANENT | JSPROP_READONLY);
+  return JS_DefineUCFunction(cx, global, name.data(), name.size(), call, 1,
+                             JSPROP_PERMANENT | JSPROP_READONLY);
 }
 
 bool DefineFunctions(JSContext* cx, JS::HandleObject global) {
   return JS_DefineFunction(cx, global, "ActiveXObject", &NewActiveXObject, 1, JSFUN_CONSTRUCTOR) &&
          JS_DefineFunction(cx, global, "GetObject", &GetObject, 2, 0) &&
-         DefineHidden(cx, global, hidden::kCaught, &Caught) && DefineHidden(cx, global, hidden::kSource, &Source);
+         JS_DefineFunction(cx, global, "CollectGarbage", &CollectGarbage, 0, 0) &&
+         DefineHidden(cx, global, hidden::kCaught, &Caught) &&
+         DefineHidden(cx, global, hidden::kSource, &Source);
 }
 
 bool RunPrelude(JSContext* cx, JS::HandleObject global) {
@@ -217,7 +236,7 @@ bool KeepOriginals(JSContext* cx, JS::HandleObject global, JS::MutableHandleObje
 bool DefineGlobals(Session& session) {
   JSContext* cx = session.Context();
   JS::HandleObject global = session.Global();
-  if (!JS::InitRealmStandardClasses(cx)) return false;
+  if (!JS::InitRealmStandardClasses(cx) || !session.GetRuntime().MakeKeys()) return false;
   JS::RootedObject behind(cx, JS::GetRealmObjectPrototype(cx));
   JS::RootedObject names(cx, behind ? NewGlobalNames(cx, behind) : nullptr);
   return names && JS_SetPrototype(cx, global, names) &&

@@ -162,7 +162,8 @@ bool InvokeMember(Session& session, Object& object, MemberId member, CallKind ki
   });
 }
 
-bool InvokeMember(Session& session, Object& object, MemberId member, CallKind kind, const JS::CallArgs& args) {
+bool InvokeMember(Session& session, Object& object, MemberId member, CallKind kind,
+                  const JS::CallArgs& args) {
   return CallHost(session, [&] {
     const Ref<Object> alive(&object);
     ArgumentList list(args.length());
@@ -192,8 +193,8 @@ bool PutMember(Session& session, Object& object, MemberId member, Args args) {
   });
 }
 
-bool ReadMember(Session& session, Object& object, const HostMember& member, JS::MutableHandleValue result,
-                bool& needsCall) {
+bool ReadMember(Session& session, Object& object, JS::HandleId name, const HostMember& member,
+                JS::MutableHandleValue result, bool& needsCall) {
   needsCall = member.isMethod;
   if (needsCall) return true;
   return CallHost(session, [&] {
@@ -201,10 +202,11 @@ bool ReadMember(Session& session, Object& object, const HostMember& member, JS::
     try {
       return ToScript(session, object.Invoke(member.id, CallKind::Get, {}), result);
     } catch (const Error& error) {
-      needsCall = IsRefused(error, ErrorNumber::WrongArgumentCount) ||
-                  IsRefused(error, ErrorNumber::ArgumentNotOptional) ||
-                  IsRefused(error, ErrorNumber::NotSupported);
+      const bool needsArguments = IsRefused(error, ErrorNumber::WrongArgumentCount) ||
+                                  IsRefused(error, ErrorNumber::ArgumentNotOptional);
+      needsCall = needsArguments || IsRefused(error, ErrorNumber::NotSupported);
       if (!needsCall) throw;
+      if (needsArguments) session.Members().NoteNeedsArguments(object, name);
       return true;
     }
   });
@@ -243,7 +245,7 @@ bool HostGet(JSContext* cx, JS::HandleObject proxy, JS::HandleId name, JS::Mutab
   const HostMember member = session.Members().Find(*target.object, name);
   if (!member.IsThere()) return !IsPlainValueName(name) || PlainValueFunction(session, value);
   bool needsCall = false;
-  if (!ReadMember(session, *target.object, member, value, needsCall)) return false;
+  if (!ReadMember(session, *target.object, name, member, value, needsCall)) return false;
   return !needsCall || SharedMethod(session, name, value);
 }
 
@@ -273,7 +275,8 @@ bool HostNames(JSContext* cx, JS::HandleObject proxy, JS::MutableHandleIdVector 
   return CallHost(*target.session, [&] {
     for (const Text& name : target.object->MemberNames()) {
       JS::RootedId id(cx);
-      if (!JS_CharsToId(cx, JS::TwoByteChars(name.View().data(), name.Size()), &id) || !names.append(id)) return false;
+      if (!JS_CharsToId(cx, JS::TwoByteChars(name.View().data(), name.Size()), &id) || !names.append(id))
+        return false;
     }
     return true;
   });

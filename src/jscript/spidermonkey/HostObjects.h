@@ -28,10 +28,10 @@ bool InvokeMember(Session& session, Object& object, MemberId member, CallKind ki
                   JS::MutableHandleValue result);
 /// Assigns; the last of `args` is the value.
 bool PutMember(Session& session, Object& object, MemberId member, Args args);
-/// Reads a member that naming it gives. `needsCall` where it is a method, or wants arguments; `result` is not set
-/// then.
-bool ReadMember(Session& session, Object& object, const HostMember& member, JS::MutableHandleValue result,
-                bool& needsCall);
+/// Reads a member that naming it gives. `needsCall` where it is a method, or wants arguments; `result` is not
+/// set then.
+bool ReadMember(Session& session, Object& object, JS::HandleId name, const HostMember& member,
+                JS::MutableHandleValue result, bool& needsCall);
 /// @}
 
 /// A function that calls the member of that name of whatever it is called on, or of `bound`.

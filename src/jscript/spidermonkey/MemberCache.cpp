@@ -52,12 +52,23 @@ void MemberCache::Trace(JSTracer* tracer, void* data) {
     if (slot.shape) JS::TraceEdge(tracer, &slot.name, "member name");
 }
 
+MemberCache::Slot& MemberCache::SlotOf(const void* shape, JS::PropertyKey name) {
+  const std::size_t hash = (reinterpret_cast<std::size_t>(shape) >> 4) ^ (name.asRawBits() >> 3);
+  return m_Slots[(hash ^ (hash >> 8)) % m_Slots.size()];
+}
+
+void MemberCache::NoteNeedsArguments(const Object& object, JS::PropertyKey name) {
+  const void* shape = object.Shape();
+  if (!shape || !(name.isString() || name.isInt())) return;
+  Slot& slot = SlotOf(shape, name);
+  if (slot.shape == shape && slot.name.unbarrieredGet() == name) slot.member.isMethod = true;
+}
+
 HostMember MemberCache::Find(const Object& object, JS::PropertyKey name) {
   if (!name.isString() && !name.isInt()) return {};
   const void* shape = object.Shape();
   if (!shape) return LookUp(object, name);
-  const std::size_t hash = (reinterpret_cast<std::size_t>(shape) >> 4) ^ (name.asRawBits() >> 3);
-  Slot& slot = m_Slots[(hash ^ (hash >> 8)) % m_Slots.size()];
+  Slot& slot = SlotOf(shape, name);
   if (slot.shape != shape || slot.name.unbarrieredGet() != name) {
     slot.member = LookUp(object, name);
     slot.name = name;

@@ -13,7 +13,7 @@ namespace cardwright::jscript {
 /// What is known of a member of a host object.
 struct HostMember {
   MemberId id = kNoMember;
-  /// It is called, not read: `o.m` is a function.
+  /// It is to be called, not read: `o.m` is a function.
   bool isMethod = false;
   bool IsThere() const noexcept { return id != kNoMember; }
 };
@@ -28,8 +28,12 @@ class MemberCache {
 
   /// The member of that name; none for a name that is no text.
   HostMember Find(const Object& object, JS::PropertyKey name);
+  /// Notes that a member cannot be read without arguments, so that nobody tries it again.
+  void NoteNeedsArguments(const Object& object, JS::PropertyKey name);
 
  private:
+  struct Slot;
+  Slot& SlotOf(const void* shape, JS::PropertyKey name);
   struct Slot {
     const void* shape = nullptr;
     JS::Heap<JS::PropertyKey> name;

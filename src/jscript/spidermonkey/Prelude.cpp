@@ -2,7 +2,8 @@
 
 namespace cardwright::jscript {
 
-const char16_t kPrelude[] = uR"js((function (global, walk, parseLocal, faceOf) {
+const char16_t kPrelude[] =
+    uR"js((function (global, walk, parseLocal, faceOf) {
 'use strict';
 const hide = (object, name, value) =>
   Object.defineProperty(object, name, {value: value, writable: true, configurable: true, enumerable: false});
@@ -18,8 +19,7 @@ const functions = {
   ScriptEngine() { return 'JScript'; },
   ScriptEngineMajorVersion() { return 5; },
   ScriptEngineMinorVersion() { return 8; },
-  ScriptEngineBuildVersion() { return 16384; },
-  CollectGarbage() {}
+  ScriptEngineBuildVersion() { return 16384; }
 };
 for (const name in functions) hide(global, name, functions[name]);
 

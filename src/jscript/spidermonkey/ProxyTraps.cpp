@@ -23,7 +23,9 @@ class ClosedHandler : public js::BaseProxyHandler {
                       JS::ObjectOpResult& result) const override {
     return result.failCantDefineWindowElement();
   }
-  bool ownPropertyKeys(JSContext*, JS::HandleObject, JS::MutableHandleIdVector) const override { return true; }
+  bool ownPropertyKeys(JSContext*, JS::HandleObject, JS::MutableHandleIdVector) const override {
+    return true;
+  }
   bool delete_(JSContext*, JS::HandleObject, JS::HandleId, JS::ObjectOpResult& result) const override {
     return result.failCantDelete();
   }
@@ -48,11 +50,12 @@ class HostObjectHandler final : public ClosedHandler {
     if (!traps::HostHas(cx, proxy, id, has)) return false;
     if (has)
       descriptor.set(mozilla::Some(JS::PropertyDescriptor::Data(
-          JS::UndefinedValue(),
-          {JS::PropertyAttribute::Configurable, JS::PropertyAttribute::Enumerable, JS::PropertyAttribute::Writable})));
+          JS::UndefinedValue(), {JS::PropertyAttribute::Configurable, JS::PropertyAttribute::Enumerable,
+                                 JS::PropertyAttribute::Writable})));
     return true;
   }
-  bool ownPropertyKeys(JSContext* cx, JS::HandleObject proxy, JS::MutableHandleIdVector names) const override {
+  bool ownPropertyKeys(JSContext* cx, JS::HandleObject proxy,
+                       JS::MutableHandleIdVector names) const override {
     return traps::HostNames(cx, proxy, names);
   }
   bool getOwnEnumerablePropertyKeys(JSContext* cx, JS::HandleObject proxy,
@@ -101,7 +104,8 @@ class HostNameHandler final : public ClosedHandler {
  public:
   constexpr HostNameHandler() : ClosedHandler(&kNameFamily) {}
 
-  bool getOwnPropertyDescriptor(JSContext*, JS::HandleObject, JS::HandleId, Descriptor descriptor) const override {
+  bool getOwnPropertyDescriptor(JSContext*, JS::HandleObject, JS::HandleId,
+                                Descriptor descriptor) const override {
     descriptor.reset();
     return true;
   }

@@ -92,15 +92,16 @@ bool Open(JSContext* cx, const JS::CallArgs& args, Place& place) {
     const auto take = [&] { return FromScript(*place.session, value, place.arguments[k]); };
     if (!JS_GetElement(cx, list, k, &value) || !CallHost(*place.session, take)) return false;
   }
-  place.member = place.isNamed ? place.session->Members().Find(*place.object, id).id : place.object->DefaultMember();
+  place.member =
+      place.isNamed ? place.session->Members().Find(*place.object, id).id : place.object->DefaultMember();
   return place.member != kNoMember || ThrowNumber(cx, kNoSuchMember);
 }
 
 bool GetPlace(JSContext* cx, unsigned count, JS::Value* vp) {
   const JS::CallArgs args = JS::CallArgsFromVp(count, vp);
   Place place;
-  return Open(cx, args, place) && InvokeMember(*place.session, *place.object, place.member, CallKind::MethodOrGet,
-                                               place.arguments, args.rval());
+  return Open(cx, args, place) && InvokeMember(*place.session, *place.object, place.member,
+                                               CallKind::MethodOrGet, place.arguments, args.rval());
 }
 
 // `o.Items(1) = v`: a member that gives a collection, and the assignment is to one of its items.

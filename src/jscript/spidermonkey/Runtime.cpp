@@ -89,16 +89,11 @@ Runtime::Runtime(std::shared_ptr<void> library)
   JS_SetContextPrivate(m_Context, this);
   JS::ContextOptionsRef(m_Context).setAsmJS(false).setWasm(false);
   const std::size_t stack = StackOfThread();
-  JS_SetNativeStackQuota(m_Context, stack > 2 * kStackReserve ? stack - kStackReserve : kStackReserve);
-  bool isReady = js::UseInternalJobQueues(m_Context) && JS::InitSelfHostedCode(m_Context) &&
-                 JS_AddInterruptCallback(m_Context, &OnInterrupt);
-  for (int k = 0; isReady && k < static_cast<int>(Note::Count); ++k) {
-    JS::Symbol* symbol = JS::NewSymbol(m_Context, nullptr);
-    m_Notes.push_back(std::make_unique<JS::PersistentRooted<JS::Symbol*>>(m_Context, symbol));
-    isReady = symbol != nullptr;
-  }
+  m_StackRoom = stack > 2 * kStackReserve ? stack - kStackReserve : kStackReserve;
+  UseStack(m_StackRoom);
+  const bool isReady = js::UseInternalJobQueues(m_Context) && JS::InitSelfHostedCode(m_Context) &&
+                       JS_AddInterruptCallback(m_Context, &OnInterrupt);
   if (isReady) return;
-  m_Notes.clear();
   JS_DestroyContext(m_Context);
   Raise(kLibraryNotLoaded, u"the JavaScript library cannot be started");
 }
@@ -117,6 +112,15 @@ void Runtime::ReleaseDead() {
   }
 }
 
+bool Runtime::MakeKeys() {
+  while (m_Notes.size() < static_cast<std::size_t>(Note::Count)) {
+    JS::Symbol* symbol = JS::NewSymbol(m_Context, nullptr);
+    if (!symbol) return false;
+    m_Notes.push_back(std::make_unique<JS::PersistentRooted<JS::Symbol*>>(m_Context, symbol));
+  }
+  return true;
+}
+
 JS::PropertyKey Runtime::Key(Note note) const {
   return JS::PropertyKey::Symbol(m_Notes[static_cast<std::size_t>(note)]->get());
 }
@@ -128,6 +132,13 @@ bool Runtime::OnInterrupt(JSContext* cx) {
   if (runtime.LooksGood()) return true;
   if (runtime.m_IsDraining) js::StopDrainingJobQueue(cx);
   return false;
+}
+
+void Runtime::UseStack(std::size_t bytes) {
+  bytes = std::min(bytes, m_StackRoom);
+  if (bytes == m_StackUsed) return;
+  JS_SetNativeStackQuota(m_Context, bytes);
+  m_StackUsed = bytes;
 }
 
 void Runtime::RunJobs() {

@@ -33,6 +33,9 @@ class Runtime {
   /// @{
   void Enter(Session& session) { m_Running.push_back(&session); }
   void Leave() noexcept { m_Running.pop_back(); }
+  bool IsBusy() const noexcept { return !m_Running.empty(); }
+  /// Allows scripts that many bytes of the thread's stack, or as many as it has to spare.
+  void UseStack(std::size_t bytes);
   /// @}
 
   /// Runs what the scripts' promises wait for.
@@ -47,6 +50,8 @@ class Runtime {
   /// The keys under which the engine notes things in script objects, unseen by scripts.
   enum class Note { Number, Source, Line, Column, Days, Instant, Count };
   JS::PropertyKey Key(Note note) const;
+  /// Makes the keys, within some realm; false where memory is short.
+  bool MakeKeys();
 
   /// Asks the running script to look at its flags; from any thread.
   static void Nudge(void* context) noexcept;
@@ -61,6 +66,7 @@ class Runtime {
   std::vector<Session*> m_Running;
   std::vector<Variant> m_Dead;
   bool m_IsDraining = false;
+  std::size_t m_StackRoom = 0, m_StackUsed = 0;
   std::vector<std::unique_ptr<JS::PersistentRooted<JS::Symbol*>>> m_Notes;
 };
 

@@ -167,7 +167,8 @@ Variant ScriptObject::Invoke(MemberId member, CallKind kind, Args args) {
     JS::RootedValue value(cx);
     if (Allows(kind, CallKind::Let) || Allows(kind, CallKind::Set)) {
       if (args.size() != 1) Raise(ErrorNumber::WrongArgumentCount);
-      if (!ToScript(session, args[0], &value) || !JS_SetUCProperty(cx, object, name.data(), name.size(), value))
+      if (!ToScript(session, args[0], &value) ||
+          !JS_SetUCProperty(cx, object, name.data(), name.size(), value))
         ThrowPending(session);
       return Variant();
     }

@@ -12,14 +12,15 @@
 #include "jscript/spidermonkey/Faults.h"
 #include "jscript/spidermonkey/Globals.h"
 #include "jscript/spidermonkey/HostObjects.h"
+#include "jscript/spidermonkey/LineSpot.h"
 #include "jscript/spidermonkey/ScriptObject.h"
 #include "jscript/spidermonkey/Values.h"
 
 namespace cardwright::jscript {
 namespace {
 
-constexpr JSClass kGlobalClass = {"global", JSCLASS_GLOBAL_FLAGS, &JS::DefaultGlobalClassOps,
-                                  nullptr,  nullptr,              nullptr};
+constexpr JSClass kGlobalClass = {
+    "global", JSCLASS_GLOBAL_FLAGS, &JS::DefaultGlobalClassOps, nullptr, nullptr, nullptr};
 constexpr std::size_t kSessionSlot = 0;
 
 JSObject* NewGlobal(JSContext* cx) {
@@ -107,8 +108,8 @@ MemberId Session::NumberOf(std::u16string_view name) {
   return entry->second;
 }
 
-int Session::AddChunk(std::u16string text, PlaceMap places) {
-  m_Chunks.try_emplace(++m_LastChunk, Chunk{std::move(text), std::move(places)});
+int Session::AddChunk(Chunk chunk) {
+  m_Chunks.try_emplace(++m_LastChunk, std::move(chunk));
   return m_LastChunk;
 }
 
@@ -124,20 +125,25 @@ const Chunk* Session::FindChunk(std::string_view fileName) const noexcept {
   return found == m_Chunks.end() ? nullptr : &found->second;
 }
 
+Place Chunk::Original(int line, int column) const noexcept {
+  return places.Original({line, static_cast<int>(SpotOf(text, line, column).unit)});
+}
+
 Session::Entry::Entry(Session& session)
     : m_Session(session),
       m_Alive(session.shared_from_this()),
-      m_Realm(session.Context(), session.m_Global), m_Memory(session.m_Limits.memoryBytes) {
+      m_Realm(session.Context(), session.m_Global),
+      m_Memory(session.m_Limits.memoryBytes) {
   session.m_Runtime->ReleaseDead();
+  if (!session.m_Runtime->IsBusy()) session.m_Runtime->UseStack(session.m_Limits.stackBytes);
   if (session.m_Depth == 0) {
     using Clock = Watched::Clock;
     // The order to stop is for what was running; what begins now is another call.
     session.m_Stop.store(false, std::memory_order_relaxed);
     session.m_IsOutOfMemory = false;
     session.m_MemoryAtStart.reset();
-    const auto deadline = session.m_Timeout < 0
-                              ? Clock::time_point::max()
-                              : Clock::now() + std::chrono::milliseconds(session.m_Timeout);
+    const auto deadline = session.m_Timeout < 0 ? Clock::time_point::max()
+                                                : Clock::now() + std::chrono::milliseconds(session.m_Timeout);
     m_Watched.emplace(&Runtime::Nudge, session.Context(), session.m_Stop, deadline);
   }
   session.m_Runtime->Enter(session);

@@ -29,8 +29,12 @@ class ScriptObject;
 
 /// A compiled source as its errors need it.
 struct Chunk {
+  Text module;
   std::u16string text;  ///< as the library compiled it
   PlaceMap places;
+
+  /// The author's place for one of the library's; its columns, here from 0, count characters and not units.
+  Place Original(int line, int column) const noexcept;
 };
 
 /// An object that the program gave under a name.
@@ -99,7 +103,7 @@ class Session : public std::enable_shared_from_this<Session> {
 
   /// @name Sources
   /// @{
-  int AddChunk(std::u16string text, PlaceMap places);
+  int AddChunk(Chunk chunk);
   void DropChunk(int number) { m_Chunks.erase(number); }
   const Chunk* FindChunk(std::string_view fileName) const noexcept;
   static std::string ChunkName(int number) { return "jscript:" + std::to_string(number); }
@@ -127,7 +131,9 @@ class Session : public std::enable_shared_from_this<Session> {
   /// @}
   /// Number by which the host knows a member of the session's script objects, and its name.
   MemberId NumberOf(std::u16string_view name);
-  const std::u16string& NameOf(MemberId number) const { return m_MemberNames[static_cast<std::size_t>(number) - 1]; }
+  const std::u16string& NameOf(MemberId number) const {
+    return m_MemberNames[static_cast<std::size_t>(number) - 1];
+  }
 
   /// A failure of ours that is none of a script's: it must not go through the library's frames, and goes on
   /// behind them.
@@ -142,8 +148,8 @@ class Session : public std::enable_shared_from_this<Session> {
   ScriptHost& m_Host;
   const Limits m_Limits;
   std::shared_ptr<Runtime> m_Runtime;
-  JS::PersistentRootedObject m_Global, m_ScriptObjectTable, m_ExactPrototype, m_ArrayPrototype, m_PutPrototype,
-      m_TimezoneOffset, m_SharedMethods, m_GlobalMethods;
+  JS::PersistentRootedObject m_Global, m_ScriptObjectTable, m_ExactPrototype, m_ArrayPrototype,
+      m_PutPrototype, m_TimezoneOffset, m_SharedMethods, m_GlobalMethods;
   std::unique_ptr<MemberCache> m_Members;
   std::vector<NamedObject> m_Objects;
   std::unordered_map<Object*, JSObject*> m_Wrappers;

@@ -52,7 +52,7 @@ bool BoxedToHost(Session& session, JS::HandleObject object, js::ESClass kind, Va
     return true;
   }
   JS::RootedValue plain(cx);
-  return js::Unbox(cx, object, &plain) && FromScript(session, plain, result);
+  return JS::ToPrimitive(cx, object, JSTYPE_UNDEFINED, &plain) && FromScript(session, plain, result);
 }
 
 bool ObjectToHost(Session& session, JS::HandleObject object, Variant& result) {
@@ -68,14 +68,11 @@ bool ObjectToHost(Session& session, JS::HandleObject object, Variant& result) {
   js::ESClass kind = js::ESClass::Other;
   if (!JS::GetBuiltinClass(cx, object, &kind)) return false;
   switch (kind) {
-    case js::ESClass::Date:
-      return DateFromScript(session, object, result);
+    case js::ESClass::Date: return DateFromScript(session, object, result);
     case js::ESClass::Number:
     case js::ESClass::String:
-    case js::ESClass::Boolean:
-      return BoxedToHost(session, object, kind, result);
-    default:
-      break;
+    case js::ESClass::Boolean: return BoxedToHost(session, object, kind, result);
+    default: break;
   }
   Ref<ScriptObject> wrapped = ScriptObject::Of(session, object);
   if (!wrapped) return false;
@@ -100,23 +97,13 @@ Text TextOf(Session& session, JS::HandleString text) {
 bool ToScript(Session& session, const Variant& given, JS::MutableHandleValue result) {
   const Variant& value = given.Deref();
   switch (value.Type()) {
-    case VarType::Null:
-      result.setNull();
-      return true;
-    case VarType::Boolean:
-      result.setBoolean(value.Boolean());
-      return true;
+    case VarType::Null: result.setNull(); return true;
+    case VarType::Boolean: result.setBoolean(value.Boolean()); return true;
     case VarType::Byte:
     case VarType::Integer:
-    case VarType::Long:
-      result.setInt32(value.Long());
-      return true;
-    case VarType::Single:
-      result.setNumber(static_cast<double>(value.Single()));
-      return true;
-    case VarType::Double:
-      result.setNumber(value.Double());
-      return true;
+    case VarType::Long: result.setInt32(value.Long()); return true;
+    case VarType::Single: result.setNumber(static_cast<double>(value.Single())); return true;
+    case VarType::Double: result.setNumber(value.Double()); return true;
     case VarType::Currency: {
       const std::int64_t amount = value.CurrencyValue().tenThousandths;
       if (std::abs(amount) > kExactCurrency || amount == INT64_MIN) return BoxExact(session, value, result);
@@ -127,23 +114,19 @@ bool ToScript(Session& session, const Variant& given, JS::MutableHandleValue res
       if (!IsExact(value.DecimalValue())) return BoxExact(session, value, result);
       result.setNumber(ToDouble(value));
       return true;
-    case VarType::Date:
-      return DateToScript(session, Date{value.Double()}, result);
+    case VarType::Date: return DateToScript(session, Date{value.Double()}, result);
     case VarType::String: {
       const std::u16string_view text = value.StringView();
       JSString* copy = JS_NewUCStringCopyN(session.Context(), text.data(), text.size());
       if (copy) result.setString(copy);
       return copy != nullptr;
     }
-    case VarType::Object:
-      return ObjectToScript(session, value.ObjectPtr(), result);
-    case VarType::Array:
-      return BoxArray(session, value, result);
+    case VarType::Object: return ObjectToScript(session, value.ObjectPtr(), result);
+    case VarType::Array: return BoxArray(session, value, result);
     case VarType::Error:
       if (!value.IsMissing()) return BoxExact(session, value, result);
       break;
-    default:
-      break;
+    default: break;
   }
   result.setUndefined();
   return true;

@@ -24,8 +24,8 @@ class Session;
 /// | array | a VBArray |
 /// | object | the same wrapper each time; a script's own object is itself |
 ///
-/// undefined and null go out as Empty and Null, whole numbers of 32 bits as Long, others as Double, functions and
-/// objects as objects that answer by name.
+/// undefined and null go out as Empty and Null, whole numbers of 32 bits as Long, others as Double, functions
+/// and objects as objects that answer by name.
 /// @{
 bool ToScript(Session& session, const Variant& value, JS::MutableHandleValue result);
 bool FromScript(Session& session, JS::HandleValue value, Variant& result);

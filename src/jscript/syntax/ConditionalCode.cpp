@@ -76,7 +76,7 @@ class Runner {
   std::u16string_view m_Source;
   std::size_t m_At = 0;
   bool m_IsOn = false;
-  bool m_IsInLine = false;  // within a `//@` comment
+  bool m_IsInLine = false;   // within a `//@` comment
   char16_t m_Before = u';';  // the last character that is no blank
   std::vector<If> m_Ifs;
   ConditionalVariables m_Variables = PredefinedVariables();

@@ -9,7 +9,8 @@
 namespace cardwright::jscript {
 
 /// A source after conditional compilation: every character stands where it stood, what is left out and the
-/// statements themselves are blanks. A variable has a `0` in its place, and an edit that puts its value there.
+/// statements themselves are blanks. A variable has a `0` in its place, and an edit that puts its value
+/// there.
 struct ConditionalResult {
   std::u16string text;
   std::vector<Edit> values;

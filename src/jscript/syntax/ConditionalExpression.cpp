@@ -62,7 +62,8 @@ constexpr Operator kOperators[] = {
 ConditionalVariables PredefinedVariables() {
   // What scripts ask for is whether the language is there and which version; the platform is the one that
   // they were written for.
-  return {{u"_win32", 1}, {u"_x86", 1}, {u"_jscript", 1}, {u"_jscript_version", 5.8}, {u"_jscript_build", 16384}};
+  return {
+      {u"_win32", 1}, {u"_x86", 1}, {u"_jscript", 1}, {u"_jscript_version", 5.8}, {u"_jscript_build", 16384}};
 }
 
 void ConditionalExpression::PassBlanks() noexcept {

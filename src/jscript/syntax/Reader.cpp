@@ -9,18 +9,18 @@ namespace cardwright::jscript {
 namespace {
 
 constexpr std::array<std::u16string_view, 37> kKeywords = {
-    u"break", u"case",   u"catch", u"class",  u"const",    u"continue", u"debugger",   u"default",
-    u"delete", u"do",    u"else",  u"enum",   u"export",   u"extends",  u"false",      u"finally",
-    u"for",   u"function", u"if",  u"import", u"in",       u"instanceof", u"new",      u"null",
-    u"return", u"super", u"switch", u"this",  u"throw",    u"true",     u"try",        u"typeof",
-    u"var",   u"void",   u"while", u"with",   u"yield"};
+    u"break",  u"case",     u"catch",  u"class",  u"const",  u"continue",   u"debugger", u"default",
+    u"delete", u"do",       u"else",   u"enum",   u"export", u"extends",    u"false",    u"finally",
+    u"for",    u"function", u"if",     u"import", u"in",     u"instanceof", u"new",      u"null",
+    u"return", u"super",    u"switch", u"this",   u"throw",  u"true",       u"try",      u"typeof",
+    u"var",    u"void",     u"while",  u"with",   u"yield"};
 static_assert(std::ranges::is_sorted(kKeywords));
 
 // Longest first among those with a common begin.
 constexpr std::u16string_view kSigns[] = {
-    u">>>=", u"...", u"===", u"!==", u"**=", u"<<=", u">>=", u">>>", u"&&=", u"||=", u"?\?=", u"=>", u"==",
-    u"!=",   u"<=",  u">=",  u"&&",  u"||",  u"?\?",  u"?.",  u"++",  u"--",  u"+=",  u"-=",  u"*=", u"/=",
-    u"%=",   u"&=",  u"|=",  u"^=",  u"<<",  u">>",  u"**"};
+    u">>>=", u"...", u"===", u"!==", u"**=", u"<<=", u">>=", u">>>", u"&&=", u"||=", u"?\?=",
+    u"=>",   u"==",  u"!=",  u"<=",  u">=",  u"&&",  u"||",  u"?\?", u"?.",  u"++",  u"--",
+    u"+=",   u"-=",  u"*=",  u"/=",  u"%=",  u"&=",  u"|=",  u"^=",  u"<<",  u">>",  u"**"};
 
 bool IsOneOf(std::u16string_view word, std::initializer_list<std::u16string_view> words) noexcept {
   return std::ranges::find(words, word) != words.end();
@@ -52,8 +52,8 @@ class Reader {
   }
   void Add(TokenKind kind, std::size_t end, Role role = Role::None) {
     end = std::min(end, m_Source.size());
-    m_Tokens.push_back({kind, role, m_AfterLineEnd, static_cast<std::uint32_t>(m_At),
-                        static_cast<std::uint32_t>(end), -1});
+    m_Tokens.push_back(
+        {kind, role, m_AfterLineEnd, static_cast<std::uint32_t>(m_At), static_cast<std::uint32_t>(end), -1});
     m_At = end;
     m_AfterLineEnd = false;
   }
@@ -123,7 +123,9 @@ void Reader::ReadWord() {
   const bool isMember = Last() == u"." || Last() == u"?.";
   if (isMember || !std::ranges::binary_search(kKeywords, word)) return Add(TokenKind::Name, end);
   Role role = Role::None;
-  if (word == u"function") role = IsStatementStart() ? Role::Declaration : Role::Value;
+  // One that is asynchronous is none of the language's, and left alone.
+  const bool isNewer = Last() == u"async" && !m_AfterLineEnd;
+  if (word == u"function" && !isNewer) role = IsStatementStart() ? Role::Declaration : Role::Value;
   Add(TokenKind::Keyword, end, role);
 }
 
@@ -181,18 +183,13 @@ void Reader::ReadPattern() {
 
 void Reader::ReadSign() {
   switch (m_Source[m_At]) {
-    case u'(':
-      return OpenBracket(RoundRole());
-    case u'[':
-      return OpenBracket(IsAfterOperand() ? Role::Index : Role::List);
-    case u'{':
-      return OpenBracket(CurlyRole());
+    case u'(': return OpenBracket(RoundRole());
+    case u'[': return OpenBracket(IsAfterOperand() ? Role::Index : Role::List);
+    case u'{': return OpenBracket(CurlyRole());
     case u')':
     case u']':
-    case u'}':
-      return CloseBracket();
-    default:
-      break;
+    case u'}': return CloseBracket();
+    default: break;
   }
   const std::u16string_view rest = m_Source.substr(m_At);
   std::size_t size = 1;
@@ -231,7 +228,8 @@ Role Reader::RoundRole() const {
     if (before == u"function") return Role::Parameters;
     return before == u"this" || before == u"super" || before == u"import" ? Role::Call : Role::Group;
   }
-  if (!IsAfterOperand()) return before == u"*" && last > 0 && Spelling(last - 1) == u"function" ? Role::Parameters : Role::Group;
+  if (!IsAfterOperand())
+    return before == u"*" && last > 0 && Spelling(last - 1) == u"function" ? Role::Parameters : Role::Group;
   // A name behind `function`, plain or with members as in `function a.b(`.
   std::size_t start = last;
   while (start >= 2 && Spelling(start - 1) == u"." && m_Tokens[start - 2].kind == TokenKind::Name) start -= 2;
@@ -259,24 +257,28 @@ Role Reader::CurlyRole() const {
     return m_Tokens[last].role == Role::Head ? Role::Block : Role::Body;
   }
   // A class: its name or heritage stands before.
-  if (m_Tokens[last].kind == TokenKind::Name && last > 0 && IsOneOf(Spelling(last - 1), {u"class", u"extends"}))
+  if (m_Tokens[last].kind == TokenKind::Name && last > 0 &&
+      IsOneOf(Spelling(last - 1), {u"class", u"extends"}))
     return Role::Body;
   if (before == u"class") return Role::Body;
-  return IsStatementStart() || IsOneOf(before, {u"try", u"finally", u"catch", u"else", u"do"}) ? Role::Block
-                                                                                              : Role::Literal;
+  return IsStatementStart() || IsOneOf(before, {u"try", u"finally", u"catch", u"else", u"do"})
+             ? Role::Block
+             : Role::Literal;
 }
 
 bool Reader::IsStatementStart() const {
   if (m_Tokens.empty()) return true;
   const Token& last = m_Tokens.back();
   const std::u16string_view before = Last();
-  const bool isInStatements =
-      m_Open.empty() || m_Tokens[m_Open.back().token].role == Role::Block ||
-      m_Tokens[m_Open.back().token].role == Role::Body || m_Tokens[m_Open.back().token].role == Role::ValueBody;
+  const bool isInStatements = m_Open.empty() || m_Tokens[m_Open.back().token].role == Role::Block ||
+                              m_Tokens[m_Open.back().token].role == Role::Body ||
+                              m_Tokens[m_Open.back().token].role == Role::ValueBody;
   if (before == u";") return isInStatements;
   if (before == u"{") return last.role != Role::Literal;
   if (before == u"}") return last.role != Role::Literal || last.partner < 0;
-  if (before == u")") return last.role == Role::Head || last.afterLineEnd || EndsOperand(m_Tokens, m_Tokens.size() - 1, m_Source);
+  if (before == u")")
+    return last.role == Role::Head || last.afterLineEnd ||
+           EndsOperand(m_Tokens, m_Tokens.size() - 1, m_Source);
   if (before == u":") return isInStatements && (m_Open.empty() || m_Open.back().questions == 0);
   if (IsOneOf(before, {u"else", u"do", u"try", u"finally"}) && last.kind == TokenKind::Keyword) return true;
   return EndsOperand(m_Tokens, m_Tokens.size() - 1, m_Source);
@@ -293,12 +295,9 @@ bool EndsOperand(const std::vector<Token>& tokens, std::size_t index, std::u16st
     case TokenKind::Name:
     case TokenKind::Number:
     case TokenKind::Text:
-    case TokenKind::Pattern:
-      return true;
-    case TokenKind::Keyword:
-      return IsOneOf(spelling, {u"this", u"null", u"true", u"false", u"super"});
-    case TokenKind::Sign:
-      break;
+    case TokenKind::Pattern: return true;
+    case TokenKind::Keyword: return IsOneOf(spelling, {u"this", u"null", u"true", u"false", u"super"});
+    case TokenKind::Sign: break;
   }
   if (spelling == u")") return token.role != Role::Head;
   if (spelling == u"]") return true;

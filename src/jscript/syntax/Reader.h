@@ -34,8 +34,8 @@ struct Token {
   std::int32_t partner = -1;  ///< a bracket's other one; -1 where it has none
 };
 
-/// The tokens of a source, as far as brackets and roles can be told without a grammar. What is no program gives
-/// tokens too: the compiler finds the fault.
+/// The tokens of a source, as far as brackets and roles can be told without a grammar. What is no program
+/// gives tokens too: the compiler finds the fault.
 std::vector<Token> ReadTokens(std::u16string_view source);
 
 /// Whether an operand can end with the token, so that what follows is an operator.

@@ -9,8 +9,8 @@
 namespace cardwright::jscript {
 namespace {
 
-constexpr std::u16string_view kAssignments[] = {u"=",   u"+=",  u"-=",   u"*=", u"/=", u"%=",  u"&=",
-                                                u"|=",  u"^=",  u"<<=",  u">>=", u">>>="};
+constexpr std::u16string_view kAssignments[] = {u"=",  u"+=", u"-=", u"*=",  u"/=",  u"%=",
+                                                u"&=", u"|=", u"^=", u"<<=", u">>=", u">>>="};
 
 class Writer {
  public:
@@ -40,7 +40,9 @@ class Writer {
                ? static_cast<std::size_t>(m_Tokens[index].partner)
                : kNone;
   }
-  void Insert(std::size_t position, std::u16string text) { m_Edits.push_back({position, 0, std::move(text)}); }
+  void Insert(std::size_t position, std::u16string text) {
+    m_Edits.push_back({position, 0, std::move(text)});
+  }
   void Put(std::size_t token, std::u16string text) {
     m_Edits.push_back({m_Tokens[token].begin, m_Tokens[token].end - m_Tokens[token].begin, std::move(text)});
   }
@@ -71,14 +73,15 @@ void Writer::Visit(std::size_t at) {
     if (word == u"function") return VisitFunction(at);
     const std::size_t head = Partner(at + 1);
     if (word == u"catch" && head != kNone && Spelling(head + 1) == u"{" && head == at + 3)
-      Insert(m_Tokens[head + 1].end, std::u16string(hidden::kCaught) + u"(" + std::u16string(Spelling(at + 2)) + u");");
+      Insert(m_Tokens[head + 1].end,
+             std::u16string(hidden::kCaught) + u"(" + std::u16string(Spelling(at + 2)) + u");");
     // An empty statement between a block and its else.
     if (word == u"else" && at >= 2 && Spelling(at - 1) == u";" && Spelling(at - 2) == u"}") Put(at - 1, u" ");
     return;
   }
   if (word == u"(" && token.role == Role::Call && Partner(at) != kNone) return VisitCall(at, Partner(at));
-  if (word == u"]" && token.role == Role::List && at > 0 && Spelling(at - 1) == u"," && Spelling(at - 2) != u"[" &&
-      Spelling(at - 2) != u",")
+  if (word == u"]" && token.role == Role::List && at > 0 && Spelling(at - 1) == u"," &&
+      Spelling(at - 2) != u"[" && Spelling(at - 2) != u",")
     Insert(token.begin, u",");
 }
 
@@ -98,6 +101,7 @@ void Writer::VisitFunction(std::size_t at) {
   if (body == kNone || Partner(body) == kNone) return;
   if (last != name) return WriteMemberFunction(at, last, body);
   if (m_Tokens[at].role == Role::Value) return LeakName(at, body);
+  if (m_Tokens[at].role != Role::Declaration) return;
   if (m_Depth == 0 && std::ranges::find(m_Functions, Spelling(name)) == m_Functions.end())
     m_Functions.emplace_back(Spelling(name));
 }
@@ -127,8 +131,8 @@ bool Writer::IsKnownElsewhere(std::size_t name, std::size_t body) {
     const std::u16string_view after = Spelling(k + 1);
     if (before == u"." || before == u"?." || (after == u":" && before != u"?" && before != u"case")) continue;
     // Declared, a parameter or assigned: the name means something else there.
-    if (before == u"function" || before == u"var" || before == u"let" || before == u"const" || before == u"class" ||
-        IsAssignment(k + 1))
+    if (before == u"function" || before == u"var" || before == u"let" || before == u"const" ||
+        before == u"class" || IsAssignment(k + 1))
       return true;
     for (std::size_t open = k; open > 0; --open) {
       if (Spelling(open) == u"," || m_Tokens[open].kind == TokenKind::Name) continue;
@@ -146,8 +150,8 @@ bool Writer::IsAssignment(std::size_t at) const {
          std::ranges::find(kAssignments, Spelling(at)) != std::end(kAssignments);
 }
 
-// The first token of the operand that ends with one, as `a` of `a.b[1](2).c`; none for what cannot be assigned
-// to.
+// The first token of the operand that ends with one, as `a` of `a.b[1](2).c`; none for what cannot be
+// assigned to.
 std::size_t Writer::ChainStart(std::size_t last) const {
   for (std::size_t at = last;;) {
     const std::u16string_view word = Spelling(at);
@@ -174,8 +178,8 @@ void Writer::VisitCall(std::size_t open, std::size_t close) {
     Insert(m_Tokens[open].end, std::u16string(hidden::kSource) + u"(");
     Insert(m_Tokens[close].begin, u")");
   }
-  const bool isStep = (Spelling(close + 1) == u"++" || Spelling(close + 1) == u"--") &&
-                      !m_Tokens[close + 1].afterLineEnd;
+  const bool isStep =
+      (Spelling(close + 1) == u"++" || Spelling(close + 1) == u"--") && !m_Tokens[close + 1].afterLineEnd;
   if (!IsAssignment(close + 1) && !isStep) return;
   const std::size_t start = ChainStart(callee);
   if (start == kNone || (start > 0 && Spelling(start - 1) == u"new")) return;

@@ -11,10 +11,10 @@ namespace cardwright::jscript {
 /// Names by which rewritten sources call what the engine put into its global object for them. No script hits
 /// on them by chance.
 namespace hidden {
-inline constexpr char16_t kPut[] = u"\u02ACput";              ///< (target, arguments…).v is the assigned place
+inline constexpr char16_t kPut[] = u"\u02ACput";  ///< (target, arguments…).v is the assigned place
 inline constexpr char16_t kPutMember[] = u"\u02ACputMember";  ///< (object, name, arguments…).v likewise
-inline constexpr char16_t kCaught[] = u"\u02ACcaught";        ///< (error): what a script sees of a caught error
-inline constexpr char16_t kSource[] = u"\u02ACsource";        ///< (text): what `eval` is to compile
+inline constexpr char16_t kCaught[] = u"\u02ACcaught";  ///< (error): what a script sees of a caught error
+inline constexpr char16_t kSource[] = u"\u02ACsource";  ///< (text): what `eval` is to compile
 }  // namespace hidden
 
 /// A source in the JavaScript that the library compiles.

@@ -2,10 +2,20 @@
 
 namespace cardwright::vbscript {
 
+namespace {
+
+constexpr std::size_t kBytesOfMember = sizeof(ClassMember) + 64;  // with its entry in the index
+
+}  // namespace
+
 ClassMember& ClassInfo::Member(NameId id) {
-  const auto [entry, isNew] = index.try_emplace(id, static_cast<std::int32_t>(members.size()));
-  if (isNew) members.emplace_back().name = id;
-  return members[static_cast<std::size_t>(entry->second)];
+  if (const auto known = index.find(id); known != index.end())
+    return members[static_cast<std::size_t>(known->second)];
+  m_Memory.Grow(kBytesOfMember);
+  index.emplace(id, static_cast<std::int32_t>(members.size()));
+  ClassMember& member = members.emplace_back();
+  member.name = id;
+  return member;
 }
 
 }  // namespace cardwright::vbscript

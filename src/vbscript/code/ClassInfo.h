@@ -44,6 +44,10 @@ class ClassInfo final : public RefCounted {
     return found == index.end() ? nullptr : &members[static_cast<std::size_t>(found->second)];
   }
   ClassMember& Member(NameId id);
+
+ private:
+  static constexpr std::size_t kBytesOfContainers = 1024;  // of the lists above, however short
+  MemoryShare m_Memory{kBytesOfContainers};
 };
 
 }  // namespace cardwright::vbscript

@@ -81,6 +81,7 @@ std::u16string InstructionLister::Operand(std::u16string_view kind) {
   if (kind == u"cRK") return RegisterOrConstant(i.c, (i.n & kConstantC) != 0);
   if (kind == u"bHow") return u"how=" + Number(i.b);
   if (kind == u"cHow") return u"how=" + Number(i.c);
+  if (kind == u"cCount") return Number(i.c);
   if (kind == u"error") return Number(i.a);
   return Wide(kind, i, m_At + 1);
 }

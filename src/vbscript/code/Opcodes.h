@@ -6,8 +6,9 @@ namespace cardwright::vbscript {
 
 /// The machine's operations: name, operands, effect. R is a register of the frame, K a constant of the
 /// procedure. Operands: `a`, `b`, `c` are registers, with RK constants where the flag of their side is set in
-/// `n`, with How the flags of a call; `n` is a count; `constant`, `symbol`, `field`, `shape` and `jump` are
-/// the 32 bits of b and c together, `error` is an error number in a; with + they stand in a second word.
+/// `n`, with How the flags of a call; `n` is a count, of Call cCount; `constant`, `symbol`, `field`, `shape`
+/// and `jump` are the 32 bits of b and c together, `error` is an error number in a; with + they stand in a
+/// second word.
 #define CARDWRIGHT_VBSCRIPT_OPCODES(X)                                                                      \
   /* values */                                                                                              \
   X(LoadConst, "a constant", "R[a] = K[wide]")                                                              \
@@ -88,7 +89,7 @@ namespace cardwright::vbscript {
     "what R[a] refers to = array with the n bounds from b; the word says whether values stay")              \
   X(Erase, "a", "the array that R[a] refers to loses its values")                                           \
   /* calls: arguments from a on, the result into R[a] */                                                    \
-  X(Call, "n a bHow +symbol", "R[a] = symbol word(n arguments); b tells how")                               \
+  X(Call, "cCount a bHow +symbol", "R[a] = symbol word(c arguments); b tells how")                          \
   X(CallMember, "n a b cHow +member", "R[a] = R[b].member word(n arguments); c tells how")                  \
   X(CallValue, "n a b cHow", "R[a] = default member of R[b] (n arguments), or its element")                 \
   X(PutSymbol, "n a bHow +symbol", "symbol word(n - 1 arguments) = the last one; b tells how")              \

@@ -15,7 +15,6 @@ std::uint8_t BodyCompiler::Count(std::size_t arguments) const {
 // there even without arguments, for the result.
 std::uint16_t BodyCompiler::EmitArguments(std::span<Expr* const> arguments, Passing passing,
                                           std::size_t further) {
-  Count(arguments.size() + further);
   const std::uint16_t base = m_Code.Temporary();
   m_Code.FreeTo(base);
   for (const Expr* argument : arguments) {
@@ -146,7 +145,8 @@ void BodyCompiler::CallPlace(const Place& place, std::span<Expr* const> argument
   // A function's own name with parentheses is a call of it, not its variable.
   const std::uint32_t symbol = place.kind == PlaceKind::Symbol ? place.index : SymbolIndex(place.name);
   const std::uint16_t base = EmitArguments(arguments, isLibrary ? Passing::ByValue : Passing::ByReference);
-  m_Code.Emit(Op::Call, base, flags, 0, Count(arguments.size()));
+  // Lists of hundreds of values are written as Array(…). There are registers for all of them by now.
+  m_Code.Emit(Op::Call, base, flags, static_cast<std::uint16_t>(arguments.size()));
   m_Code.EmitWord(symbol);
   if (result) *result = base;
 }

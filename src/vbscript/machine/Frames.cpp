@@ -113,6 +113,7 @@ Variant Machine::Enter(const Procedure& procedure, Instance* me, Args args) {
   std::vector<Variant> copies(args.begin(), args.end());
   PushFrame(procedure, me, copies, &outcome, ArgumentPlace::Elsewhere);
   Run();
+  StopIfAsked();  // a stop that the end of an object has swallowed is for all that runs
   return outcome;
 }
 
@@ -125,6 +126,7 @@ void Machine::RunOutermost(const Procedure& code, Variant* variables) {
   frame.top = end.start;
   frame.block = end.block;
   Run();
+  StopIfAsked();
 }
 
 }  // namespace cardwright::vbscript

@@ -494,10 +494,10 @@ void Machine::Run() {
         Current().pc = pc;
         if (use.epoch == m_Epoch && use.symbol && use.symbol->kind == SymbolKind::Procedure) {
           Variant* const result = (i.b & kDropResult) ? nullptr : R + i.a;
-          PushFrame(*use.symbol->procedure, nullptr, {R + i.a, i.n}, result);
+          PushFrame(*use.symbol->procedure, nullptr, {R + i.a, i.c}, result);
           AFTER_CALL(true);
         }
-        AFTER_CALL(CallSymbol(use, R + i.a, i.n, i.b));
+        AFTER_CALL(CallSymbol(use, R + i.a, i.c, i.b));
       }
       OPERATION(CallMember) {
         MemberUse& use = procedure->members[pc->Wide()];

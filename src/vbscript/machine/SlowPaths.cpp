@@ -92,6 +92,7 @@ void ApplyAdd(const Context& context, RegisterView view, Instruction i) {
 
 void ApplyBinary(RegisterView view, Instruction i, BinaryOperator op) {
   const Operands operands(view, i);
+  if (operands.Left().IsString()) Context::NoteWork(operands.Left().StringView().size());
   Finish(view, i, Apply(op, operands.Left(), operands.Right(), Literals(i.n)));
 }
 

@@ -1,0 +1,3 @@
+1 = 2;
+
+// expect error: 5008 at 1:0

@@ -1,0 +1,6 @@
+function f() {
+  if (x) {
+}
+
+
+// expect error: 1009 at 7:0

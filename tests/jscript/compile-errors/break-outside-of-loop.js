@@ -1,0 +1,3 @@
+break;
+
+// expect error: 1019 at 1:0

@@ -1,0 +1,3 @@
+f(1;
+
+// expect error: 1006 at 1:3

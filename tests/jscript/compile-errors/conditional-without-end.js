@@ -1,0 +1,5 @@
+/*@cc_on @if (true)
+var a; @*/
+
+
+// expect error: 1029 at 6:0

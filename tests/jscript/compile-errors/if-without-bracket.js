@@ -1,0 +1,3 @@
+if a) b();
+
+// expect error: 1005 at 1:3

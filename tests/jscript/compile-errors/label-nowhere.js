@@ -1,0 +1,3 @@
+for (;;) { break nowhere; }
+
+// expect error: 1026 at 1:17

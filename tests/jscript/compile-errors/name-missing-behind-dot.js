@@ -1,0 +1,3 @@
+a.;
+
+// expect error: 1010 at 1:2

@@ -1,0 +1,3 @@
+var 1;
+
+// expect error: 1010 at 1:4

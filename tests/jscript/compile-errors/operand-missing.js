@@ -1,0 +1,4 @@
+var a = 1;
+  var b = = 2;
+
+// expect error: 1002 at 2:10

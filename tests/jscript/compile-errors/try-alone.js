@@ -1,0 +1,4 @@
+try { a(); }
+b();
+
+// expect error: 1033 at 1:11

@@ -1,0 +1,5 @@
+var a = null;
+WScript.Echo(a.b);
+
+// expect error: 5007 at 2:0
+// expect text: 'a' is null or not an object

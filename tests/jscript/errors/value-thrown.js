@@ -1,0 +1,4 @@
+  throw "text";
+
+// expect error: 5022 at 1:2
+// expect text: Exception thrown and not caught

@@ -1,0 +1,4 @@
+/*@ nothing @*/
+//@ nothing
+WScript.Echo("run");
+// expect: run

@@ -1,0 +1,2 @@
+if (false) { WScript.Echo(1); }; else { WScript.Echo(2); }
+// expect: 2

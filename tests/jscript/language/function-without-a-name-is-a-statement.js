@@ -1,0 +1,3 @@
+function () { nowhere; }
+WScript.Echo("run");
+// expect: run

@@ -1,0 +1,2 @@
+import("x").then(() => WScript.Echo("loaded"), () => WScript.Echo("refused"));
+// expect: refused

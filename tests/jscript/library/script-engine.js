@@ -1,0 +1,3 @@
+WScript.Echo(ScriptEngine(), ScriptEngineMajorVersion(), ScriptEngineMinorVersion(), ScriptEngineBuildVersion() > 0);
+CollectGarbage();
+// expect: JScript 5 8 True

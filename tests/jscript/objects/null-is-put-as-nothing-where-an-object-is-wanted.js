@@ -1,0 +1,3 @@
+Host.Value = null;
+WScript.Echo(Host.Value === null);
+// expect: True
