@@ -12,6 +12,7 @@
 #include <js/Realm.h>
 #include <js/SourceText.h>
 #include <js/ValueArray.h>
+#include <js/experimental/JSStencil.h>
 #include <jsapi.h>
 #include <jsfriendapi.h>
 
@@ -200,15 +201,25 @@ bool DefineFunctions(JSContext* cx, JS::HandleObject global) {
          DefineHidden(cx, global, hidden::kSource, &Source);
 }
 
+// Compiled for the first session of a thread and kept for the others.
+JSScript* PreludeScript(JSContext* cx) {
+  RefPtr<JS::Stencil>& stencil = Runtime::Of(cx).Prelude();
+  if (!stencil) {
+    JS::CompileOptions options(cx);
+    options.setFileAndLine("prelude", 1).setForceFullParse();
+    const std::u16string_view text = kPrelude;
+    JS::SourceText<char16_t> source;
+    if (!source.init(cx, text.data(), text.size(), JS::SourceOwnership::Borrowed)) return nullptr;
+    stencil = JS::CompileGlobalScriptToStencil(cx, options, source);
+    if (!stencil) return nullptr;
+  }
+  return JS::InstantiateGlobalStencil(cx, JS::InstantiateOptions(), stencil);
+}
+
 bool RunPrelude(JSContext* cx, JS::HandleObject global) {
-  JS::CompileOptions options(cx);
-  options.setFileAndLine("prelude", 1);
-  const std::u16string_view text = kPrelude;
-  JS::SourceText<char16_t> source;
+  JS::RootedScript script(cx, PreludeScript(cx));
   JS::RootedValue prelude(cx), ignored(cx);
-  if (!source.init(cx, text.data(), text.size(), JS::SourceOwnership::Borrowed) ||
-      !JS::Evaluate(cx, options, source, &prelude))
-    return false;
+  if (!script || !JS_ExecuteScript(cx, script, &prelude)) return false;
   JS::RootedValueArray<4> arguments(cx);
   arguments[0].setObject(*global);
   const JSNative helpers[] = {&MakeWalk, &ParseLocal, &FaceOfError};

@@ -99,6 +99,7 @@ Runtime::Runtime(std::shared_ptr<void> library)
 }
 
 Runtime::~Runtime() {
+  m_Prelude = nullptr;
   m_Notes.clear();
   JS_DestroyContext(m_Context);
   ReleaseDead();

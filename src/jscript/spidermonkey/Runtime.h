@@ -4,6 +4,7 @@
 
 #include <js/RootingAPI.h>
 #include <js/Value.h>
+#include <js/experimental/JSStencil.h>
 
 #include <atomic>
 #include <cstddef>
@@ -38,6 +39,9 @@ class Runtime {
   void UseStack(std::size_t bytes);
   /// @}
 
+  /// What every session runs first, once compiled.
+  RefPtr<JS::Stencil>& Prelude() noexcept { return m_Prelude; }
+
   /// Runs what the scripts' promises wait for.
   void RunJobs();
 
@@ -64,6 +68,7 @@ class Runtime {
   std::shared_ptr<void> m_Library;
   JSContext* m_Context = nullptr;
   std::vector<Session*> m_Running;
+  RefPtr<JS::Stencil> m_Prelude;
   std::vector<Variant> m_Dead;
   bool m_IsDraining = false;
   std::size_t m_StackRoom = 0, m_StackUsed = 0;

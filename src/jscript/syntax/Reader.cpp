@@ -289,21 +289,23 @@ bool Reader::IsStatementStart() const {
 std::vector<Token> ReadTokens(std::u16string_view source) { return Reader(source).Read(); }
 
 bool EndsOperand(const std::vector<Token>& tokens, std::size_t index, std::u16string_view source) noexcept {
+  const auto spellingOf = [&](const Token& token) {
+    return source.substr(token.begin, token.end - token.begin);
+  };
+  const auto isStep = [&](std::size_t at) {
+    const std::u16string_view spelling = spellingOf(tokens[at]);
+    return tokens[at].kind == TokenKind::Sign && (spelling == u"++" || spelling == u"--");
+  };
+  // A step behind an operand belongs to it.
+  while (index > 0 && isStep(index) && !tokens[index].afterLineEnd) --index;
+  if (isStep(index)) return false;
   const Token& token = tokens[index];
-  const std::u16string_view spelling = source.substr(token.begin, token.end - token.begin);
-  switch (token.kind) {
-    case TokenKind::Name:
-    case TokenKind::Number:
-    case TokenKind::Text:
-    case TokenKind::Pattern: return true;
-    case TokenKind::Keyword: return IsOneOf(spelling, {u"this", u"null", u"true", u"false", u"super"});
-    case TokenKind::Sign: break;
-  }
+  const std::u16string_view spelling = spellingOf(token);
+  if (token.kind == TokenKind::Keyword)
+    return IsOneOf(spelling, {u"this", u"null", u"true", u"false", u"super"});
+  if (token.kind != TokenKind::Sign || spelling == u"]") return true;
   if (spelling == u")") return token.role != Role::Head;
-  if (spelling == u"]") return true;
-  if (spelling == u"}") return token.role == Role::Literal || token.role == Role::ValueBody;
-  if (spelling != u"++" && spelling != u"--") return false;
-  return index > 0 && !token.afterLineEnd && EndsOperand(tokens, index - 1, source);
+  return spelling == u"}" && (token.role == Role::Literal || token.role == Role::ValueBody);
 }
 
 }  // namespace cardwright::jscript

@@ -1,7 +1,7 @@
 #include "jscript/syntax/Rewriter.h"
 
 #include <algorithm>
-#include <unordered_set>
+#include <unordered_map>
 
 #include "jscript/syntax/ConditionalCode.h"
 #include "jscript/syntax/Reader.h"
@@ -17,6 +17,10 @@ class Writer {
   explicit Writer(std::u16string_view source) : m_Conditional(RunConditionalCode(source)) {
     m_Tokens = ReadTokens(m_Conditional.text);
     m_Edits = std::move(m_Conditional.values);
+    for (std::size_t k = 0; k < m_Tokens.size(); ++k) {
+      if (m_Tokens[k].kind == TokenKind::Name) m_Names[Spelling(k)].push_back(k);
+      m_IsStrict |= Spelling(k) == u"'use strict'" || Spelling(k) == u"\"use strict\"";
+    }
   }
 
   Rewritten Write() {
@@ -52,6 +56,8 @@ class Writer {
   void WriteMemberFunction(std::size_t at, std::size_t lastName, std::size_t body);
   void LeakName(std::size_t at, std::size_t body);
   bool IsKnownElsewhere(std::size_t name, std::size_t body);
+  bool IsMemberName(std::size_t at) const;
+  bool IsDeclared(std::size_t at) const;
   void VisitCall(std::size_t open, std::size_t close);
   std::size_t ChainStart(std::size_t last) const;
   bool IsAssignment(std::size_t at) const;
@@ -62,6 +68,8 @@ class Writer {
   std::vector<Edit> m_Edits;
   std::vector<std::u16string> m_Functions;
   int m_Depth = 0;  // of curly brackets
+  std::unordered_map<std::u16string_view, std::vector<std::size_t>> m_Names;
+  bool m_IsStrict = false;
 };
 
 void Writer::Visit(std::size_t at) {
@@ -122,27 +130,34 @@ void Writer::LeakName(std::size_t at, std::size_t body) {
 
 // Whether leaking the name would hurt, or nobody would see it.
 bool Writer::IsKnownElsewhere(std::size_t name, std::size_t body) {
+  if (m_IsStrict) return true;
   const std::size_t end = Partner(body);
   bool isUsed = false;
-  for (std::size_t k = 0; k < m_Tokens.size(); ++k) {
-    if (m_Tokens[k].kind == TokenKind::Text && Spelling(k).substr(1, 10) == u"use strict") return true;
-    if (k == name || m_Tokens[k].kind != TokenKind::Name || Spelling(k) != Spelling(name)) continue;
-    const std::u16string_view before = k > 0 ? Spelling(k - 1) : std::u16string_view();
-    const std::u16string_view after = Spelling(k + 1);
-    if (before == u"." || before == u"?." || (after == u":" && before != u"?" && before != u"case")) continue;
-    // Declared, a parameter or assigned: the name means something else there.
-    if (before == u"function" || before == u"var" || before == u"let" || before == u"const" ||
-        before == u"class" || IsAssignment(k + 1))
-      return true;
-    for (std::size_t open = k; open > 0; --open) {
-      if (Spelling(open) == u"," || m_Tokens[open].kind == TokenKind::Name) continue;
-      if (Spelling(open) == u"(" && m_Tokens[open].role == Role::Parameters) return true;
-      if (Spelling(open) == u"var") return true;
-      break;
-    }
-    isUsed |= k < name || k > end;
+  for (const std::size_t at : m_Names[Spelling(name)]) {
+    if (at == name || IsMemberName(at)) continue;
+    if (IsDeclared(at)) return true;
+    isUsed |= at < name || at > end;
   }
   return !isUsed;
+}
+
+bool Writer::IsMemberName(std::size_t at) const {
+  const std::u16string_view before = at > 0 ? Spelling(at - 1) : std::u16string_view();
+  return before == u"." || before == u"?." ||
+         (Spelling(at + 1) == u":" && before != u"?" && before != u"case");
+}
+
+// Declared, a parameter or assigned: the name means something of its own there.
+bool Writer::IsDeclared(std::size_t at) const {
+  if (IsAssignment(at + 1)) return true;
+  for (std::size_t open = at; open > 0; --open) {
+    const std::u16string_view before = Spelling(open - 1);
+    if (before == u"(") return m_Tokens[open - 1].role == Role::Parameters;
+    if (before == u"function" || before == u"class") return open == at;
+    if (before == u"var" || before == u"let" || before == u"const") return true;
+    if (before != u"," && m_Tokens[open - 1].kind != TokenKind::Name) return false;
+  }
+  return false;
 }
 
 bool Writer::IsAssignment(std::size_t at) const {
