@@ -11,6 +11,7 @@
 #include <cstdio>
 
 #include "automation/Errors.h"
+#include "hosting/FormScripts.h"
 #include "orv/EmbeddedHost.h"
 #include "qt/FormInput.h"
 #include "qt/Library.h"
@@ -85,6 +86,7 @@ void ChangeSomeValues(qt::FormInput& form) {
 }
 
 int Run() {
+  ProvideFormScripts();
   qt::Library library;
   const Ref<EmbeddedHost> store = EmbeddedHost::Open(kData);
   store->onRefusal = [](const Text& reason) { Say(QStringLiteral("REFUSED: ") + qt::ToQString(reason)); };

@@ -42,6 +42,9 @@ class ClassRegistry {
   Loader m_Load;
 };
 
+/// Adds the classes that reach nothing of the machine, which every script may use: Scripting.Dictionary and
+/// VBScript.RegExp.
+void AddHarmlessClasses(ClassRegistry& classes);
 /// Adds the classes that need no toolkit: Scripting.Dictionary, Scripting.FileSystemObject, VBScript.RegExp
 /// and Cardwright.CIni.
 void AddLightClasses(ClassRegistry& classes);

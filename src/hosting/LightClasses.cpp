@@ -6,10 +6,14 @@
 
 namespace cardwright {
 
-void AddLightClasses(ClassRegistry& classes) {
+void AddHarmlessClasses(ClassRegistry& classes) {
   classes.Add(u"Scripting.Dictionary", [] { return MakeRef<vbscript::Dictionary>(); });
-  classes.Add(u"Scripting.FileSystemObject", [] { return MakeRef<FileSystemObject>(); });
   classes.Add(u"VBScript.RegExp", [] { return MakeRef<vbscript::RegExp>(); });
+}
+
+void AddLightClasses(ClassRegistry& classes) {
+  AddHarmlessClasses(classes);
+  classes.Add(u"Scripting.FileSystemObject", [] { return MakeRef<FileSystemObject>(); });
   classes.Add(u"Cardwright.CIni", [] { return MakeRef<CIni>(); });
 }
 

@@ -2,6 +2,7 @@
 
 #include <span>
 #include <string_view>
+#include <vector>
 
 #include "automation/Object.h"
 
@@ -17,23 +18,36 @@ struct ScriptError {
   bool isSyntax = false;
 };
 
+/// A procedure that a script defined.
+struct ScriptProcedure {
+  Text name;
+  int argumentCount = 0;
+  bool returnsValue = false;
+};
+
 /// A named module of a script engine with code of its own over the shared global one.
 class ScriptModule : public RefCounted {
  public:
+  virtual Text Name() const = 0;
   virtual void AddCode(std::u16string_view code) = 0;
+  /// Calls a procedure of the module. Error 5 where there is none.
   virtual Variant Run(std::u16string_view procedure, Args args = {}) = 0;
+  /// In the order of their definition.
+  virtual std::vector<ScriptProcedure> Procedures() const = 0;
 };
 
 /// The script engine that a form drives. Failures are numbered errors; those inside a script stand in
-/// LastError too.
+/// LastError too. Calls nest: what a script calls may call the control again, and may reset it; the code that
+/// runs then ends in the engine that it began in.
 class ScriptControl : public RefCounted {
  public:
   virtual Text Language() const = 0;
-  /// Selects the engine; a new value replaces the old one.
+  /// Selects the engine, whatever the case of the name; a new value replaces the old one and drops all code
+  /// and objects. Error 5 for a language that there is no engine of.
   virtual void SetLanguage(std::u16string_view language) = 0;
   /// Window that owns the engine's dialogs; error 380 for a handle that is neither a window nor a connection.
   virtual void SetSiteWindow(std::int32_t handle) = 0;
-  /// Drops all code and objects.
+  /// Drops all code and objects, and the error.
   virtual void Reset() = 0;
   /// Milliseconds; -1 for no limit.
   virtual void SetTimeout(std::int32_t milliseconds) = 0;
@@ -43,8 +57,12 @@ class ScriptControl : public RefCounted {
   /// Compiles into the global module and runs what stands outside procedures.
   virtual void AddCode(std::u16string_view code) = 0;
   virtual Ref<ScriptModule> AddModule(std::u16string_view name) = 0;
+  /// The global module, whose name is "Global", and those added, in the order of their addition.
+  virtual std::vector<Ref<ScriptModule>> Modules() const = 0;
   virtual Variant Run(std::u16string_view procedure, Args args = {}) = 0;
   virtual ScriptError LastError() const = 0;
+  /// Stops what runs at its next step.
+  virtual void Interrupt() noexcept = 0;
 };
 
 }  // namespace cardwright

@@ -32,13 +32,6 @@ class ScriptHost {
   virtual Text BoxTitle() const;
 };
 
-/// A procedure that a script defined.
-struct ScriptProcedure {
-  Text name;
-  int argumentCount = 0;
-  bool returnsValue = false;
-};
-
 /// Told of each statement before it runs, for tracing and profiling. In code that a script made itself lines
 /// and columns are 0.
 class ScriptObserver {

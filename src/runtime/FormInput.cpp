@@ -169,7 +169,27 @@ void FormInput::ReportMissing(IControl& control) {
   if (auto* widget = dynamic_cast<Widget*>(control.BoundObject().get())) Attempt([&] { widget->SetFocus(); });
 }
 
+namespace {
+
+// Set for a scope.
+class Running {
+ public:
+  explicit Running(bool& flag) noexcept : m_Flag(flag) { m_Flag = true; }
+  ~Running() { m_Flag = false; }
+  Running(const Running&) = delete;
+  Running& operator=(const Running&) = delete;
+
+ private:
+  bool& m_Flag;
+};
+
+}  // namespace
+
+// A script that presses the button in an event of the same button would do so for ever: the inner press is
+// passed over.
 bool FormInput::RunOk() {
+  if (m_RunsOk) return false;
+  const Running running(m_RunsOk);
   const RedrawPause pause(AttributesWritable(), RedrawPause::End::Redraw);
   if (!RunFormEvent(u"BeforeOkClick")) return false;
   if (m_SetAttributesEnabled) WriteAttributes(*this);
@@ -179,6 +199,8 @@ bool FormInput::RunOk() {
 
 bool FormInput::RunCancel() {
   if (!CanRunScripts()) return true;
+  if (m_RunsCancel) return false;
+  const Running running(m_RunsCancel);
   const RedrawPause pause(AttributesWritable(), RedrawPause::End::Redraw);
   return RunFormEvent(u"BeforeCancelClick");
 }

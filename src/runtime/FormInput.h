@@ -95,6 +95,8 @@ class FormInput final : public TableObject, public InputOwner {
   Text m_Caption;
   AttributeList m_Attributes;
   bool m_SetAttributesEnabled = true;
+  bool m_RunsOk = false;
+  bool m_RunsCancel = false;
   std::optional<FormButton> m_OkButton;  // none once the surface has ended
   std::optional<FormButton> m_CancelButton;
 };

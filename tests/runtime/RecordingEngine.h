@@ -42,6 +42,8 @@ class RecordingEngine final : public ScriptControl {
     Note("Add " + Text(name).ToUtf8());
     return MakeRef<Module>(*this, Text(name).ToUtf8());
   }
+  std::vector<Ref<ScriptModule>> Modules() const override { return {}; }
+  void Interrupt() noexcept override {}
   Variant Run(std::u16string_view procedure, Args) override {
     const std::string name = Text(procedure).ToUtf8();
     const Ref<RecordingEngine> keepAlive(this);
@@ -72,6 +74,8 @@ class RecordingEngine final : public ScriptControl {
   class Module final : public ScriptModule {
    public:
     Module(RecordingEngine& engine, std::string name) : m_Engine(&engine), m_Name(std::move(name)) {}
+    Text Name() const override { return Text::FromUtf8(m_Name); }
+    std::vector<ScriptProcedure> Procedures() const override { return {}; }
     void AddCode(std::u16string_view text) override {
       m_Engine->initCode = text;
       m_Engine->Note("AddCode in " + m_Name);
