@@ -6,6 +6,8 @@
 
 #include "automation/Conversions.h"
 #include "automation/Split.h"
+#include "desktop/ScriptFaults.h"
+#include "model/CForm.h"
 #include "model/ControlClasses.h"
 #include "model/Enums.h"
 #include "platform/Files.h"
@@ -85,9 +87,13 @@ class SectionFaults {
   SectionFaults(std::vector<Fault>& faults, const Text& file, EmbeddedHost* data)
       : m_Faults(faults), m_Data(data) {
     m_Ini.SetFileName(file);
+    m_Elements.push_back({QStringLiteral("Form"), CForm::kTable.events});
     LookAtForm();
     LookAtControls();
   }
+
+  /// What the form's script meets.
+  std::span<const ScriptedElement> Elements() const { return m_Elements; }
 
  private:
   QString Value(std::u16string_view key) const { return qt::ToQString(m_Ini.GetText(m_Section, key)); }
@@ -146,16 +152,16 @@ class SectionFaults {
     const QString type = Value(u"Type");
     if (type.isEmpty())
       return Add(QStringLiteral("the section is missing or has no Type: there is no such control"));
-    if (!FindControlClass(WidgetIdentifier(qt::ViewOf(type))))
-      return Add(QStringLiteral("unknown type %1: the control is left out").arg(type));
-    LookAtNames(number);
+    const ControlClass* const known = FindControlClass(WidgetIdentifier(qt::ViewOf(type)));
+    if (!known) return Add(QStringLiteral("unknown type %1: the control is left out").arg(type));
+    LookAtNames(number, *known);
     LookAtNumbers();
     const QString attribute = Value(u"Attribute");
     if (m_KnowsAttributes && !attribute.isEmpty() && !m_Attributes.contains(attribute.toLower()))
       Add(QStringLiteral("the theme %1 has no attribute %2").arg(qt::ToQString(m_Theme), attribute));
   }
 
-  void LookAtNames(int number) {
+  void LookAtNames(int number, const ControlClass& known) {
     QString name = Value(u"Name");
     if (name.isEmpty()) name = QStringLiteral("object_%1").arg(number + 1);
     QString userName = Value(u"UserName");
@@ -172,6 +178,7 @@ class SectionFaults {
       Add(QStringLiteral("the user name %1 has a \"=\": its stacking is lost").arg(userName));
     m_Names.insert(name.toLower());
     m_UserNames.insert(userName.toLower());
+    m_Elements.push_back({userName, known.table->events});
   }
 
   std::vector<Fault>& m_Faults;
@@ -180,6 +187,7 @@ class SectionFaults {
   Text m_Section;
   Text m_Theme;
   QSet<QString> m_Attributes, m_Names, m_UserNames;
+  std::vector<ScriptedElement> m_Elements;
   bool m_KnowsAttributes = false;
 };
 
@@ -189,7 +197,9 @@ std::vector<Fault> FindFaults(const QString& file, EmbeddedHost* data) {
   std::vector<Fault> faults;
   const Text path = qt::FromQString(file);
   LineFaults(faults, path);
-  SectionFaults(faults, path, data);
+  const SectionFaults sections(faults, path, data);
+  const std::vector<Fault> inScript = FindScriptFaults(file, sections.Elements());
+  faults.insert(faults.end(), inScript.begin(), inScript.end());
   return faults;
 }
 

@@ -41,6 +41,12 @@ TEST(Check, TellsOnceThatTheThemeHasNoFeaturesOfTheFormsType) {
   EXPECT_EQ(outcome.status, 1);
 }
 
+std::string WithScript(const std::string& script, const std::string& language = "VBScript",
+                       const std::string& userName = "txtDepth") {
+  return "[FORM]\r\nControlsNumber= 1\r\n[CONTROLS_1]\r\nType=TextBox\r\nUserName=" + userName +
+         "\r\n[SCRIPT]\r\n" + language + "\r\n" + script;
+}
+
 struct FaultyProject {
   std::string name;
   std::string bytes;
@@ -85,6 +91,25 @@ std::vector<FaultyProject> FaultyProjects() {
        ":CONTROLS_1: line 6 is no entry; of a text with several lines only the first is read\n"},
       {"Utf8", Project("[CONTROLS_1]\r\nType=Label\r\nText=Citt\xc3\xa0\r\n", 1),
        ":CONTROLS_1: the value of Text is UTF-8 text"},
+      {"ScriptLanguage", WithScript("x = 1\r\n", "Logo"),
+       ":SCRIPT: the language Logo is neither VBScript nor JScript: no script runs\n"},
+      {"ScriptSyntax", WithScript("Option Explicit\r\n\r\nIf x Then y =\r\n"),
+       ":SCRIPT: line 3: Syntax error (error 1002, column 14)\n"},
+      {"ScriptOptionBelow", WithScript("Dim x\r\nOption Explicit\r\n"),
+       ":SCRIPT: line 2: Option Explicit has to be the first line of the script\n"},
+      {"ScriptUserName", WithScript("x = 1\r\n", "VBScript", "my depth"),
+       ":SCRIPT: the user name my depth is no identifier: the script does not start\n"},
+      {"ScriptKeyword", WithScript("x = 1\r\n", "VBScript", "Next"),
+       ":SCRIPT: the names of the form's elements: Expected identifier (error 1010, column 5)\n"},
+      {"ScriptEvent", WithScript("Sub txtDepth_OnClose()\r\nEnd Sub\r\n"),
+       ":SCRIPT: line 1: txtDepth has no event OnClose: txtDepth_OnClose is never run by the form\n"},
+      {"ScriptElement", WithScript("\r\nSub txtWidth_OnChange()\r\nEnd Sub\r\n"),
+       ":SCRIPT: line 2: the form has no element txtWidth: txtWidth_OnChange is never run by the form\n"},
+      {"ScriptHeader", WithScript("Sub  Form_Initialize ()\r\nEnd Sub\r\n"),
+       ":SCRIPT: line 1: Form_Initialize is not found by the form: its line has to begin with \"Sub "
+       "Form_Initialize(\"\n"},
+      {"JScriptEvent", WithScript("function txtDepth_OnClose() {}\r\n", "JScript"),
+       ":SCRIPT: line 1: txtDepth has no event OnClose: txtDepth_OnClose is never run by the form\n"},
       {"LostCharacter", Project("[CONTROLS_1]\r\nType=Label\r\nText=a\x81\r\n", 1),
        ":CONTROLS_1: the value of Text has a character that the code page lacks\n"},
   };
