@@ -35,7 +35,7 @@ TEST(ProjectReport, DescribesTheExampleFormAndWritesASummary) {
                                          "  Opens     always\n"
                                          "  Size      552 by 480 pixels\n"));
   EXPECT_THAT(outcome.out, HasSubstr("  Controls  26, bound to 10 attributes\n"
-                                     "  Script    VBScript, 5 procedures, 19 lines of code\n"
+                                     "  Script    VBScript, 10 procedures, 41 lines of code\n"
                                      "  Findings  nothing to report\n"));
   EXPECT_THAT(outcome.out, HasSubstr("1 project examined, 0 not readable\n"));
 
@@ -46,10 +46,10 @@ TEST(ProjectReport, DescribesTheExampleFormAndWritesASummary) {
   EXPECT_THAT(summary, ContainsRegex("  Label +10\r\n +ListBox +1\r\n"));
   EXPECT_THAT(summary, ContainsRegex("  all +26\r\n"));
   EXPECT_THAT(summary, ContainsRegex("    1  lblTitle +Label +0\r\n"));
-  EXPECT_THAT(summary, ContainsRegex("    4  txtName +TextBox +fraIdentification +NAME +yes +0\r\n"));
+  EXPECT_THAT(summary, ContainsRegex("    4  txtName +TextBox +fraIdentification +NAME +yes +1\r\n"));
   EXPECT_THAT(summary, ContainsRegex("  USE_CODE +optDomestic, optAgricultural, optIndustrial\r\n"));
   EXPECT_THAT(summary, ContainsRegex("    21 +3  Sub cmdToday_OnClick\\(\\) +OnClick of cmdToday\r\n"));
-  EXPECT_THAT(summary, ContainsRegex("    25 +3  Function IsoDate\\(moment\\) +calls: 2\r\n"));
+  EXPECT_THAT(summary, ContainsRegex("    25 +3  Function IsoDate\\(moment\\) +calls: 3\r\n"));
   EXPECT_THAT(summary, HasSubstr("Findings\r\n--------\r\n  none\r\n"));
 }
 
