@@ -37,7 +37,7 @@ std::string TestName(const ::testing::TestParamInfo<ProgramFile>& info) {
 class ProgramsTest : public ::testing::TestWithParam<ProgramFile> {};
 
 TEST_P(ProgramsTest, ShowsWhatItsCommentsSay) {
-  const Program program = Program::Read(GetParam().Path());
+  const Program program = ReadProgram(GetParam().Path());
   for (const std::string& fault : program.faults) ADD_FAILURE() << GetParam().Path() << ": " << fault;
   const ProgramOutcome actual = RunProgram(program);
   EXPECT_TRUE(Fits(program.expected, actual)) << GetParam().Path().string() << "\nexpected:\n"

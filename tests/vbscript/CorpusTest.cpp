@@ -17,7 +17,7 @@ TEST(Corpus, RunsTheSameWithRegistersInManyBlocks) {
     Limits limits;
     limits.registerBlock = block;
     for (const auto& file : ProgramFiles()) {
-      const Program program = Program::Read(file);
+      const Program program = ReadProgram(file);
       const ProgramOutcome actual = RunProgram(program, limits);
       EXPECT_TRUE(Fits(program.expected, actual)) << block << ' ' << file << '\n' << actual;
     }
@@ -27,7 +27,7 @@ TEST(Corpus, RunsTheSameWithRegistersInManyBlocks) {
 TEST(Corpus, RunsTheSameWhenItIsPrintedAndReadAgain) {
   int programs = 0;
   for (const auto& file : ProgramFiles()) {
-    Program program = Program::Read(file);
+    Program program = ReadProgram(file);
     try {
       program.source = Print(*Parse(Text::FromUtf8(program.source))).ToUtf8();
     } catch (const SyntaxError&) {
@@ -57,7 +57,7 @@ bool IsOutOfMemory(const ProgramOutcome& outcome) {
 TEST(Corpus, EndsWellOrOutOfMemoryWhereMemoryIsShort) {
   int shortages = 0;
   for (const auto& file : ProgramFiles()) {
-    const Program program = Program::Read(file);
+    const Program program = ReadProgram(file);
     // Larger ones are about amounts, and take long.
     if (!StopsAtErrors(program) || program.source.size() > 4000 || file.parent_path().filename() == "limits")
       continue;

@@ -23,7 +23,7 @@ TEST(EngineThreads, RunProgramsAtTheSameTime) {
         // Those that go to the limits of the thread's stack need one of the first thread's size.
         if (files[k].parent_path().filename() == "limits" || (k % kThreads != part && k % kOfAll != 0))
           continue;
-        const Program program = Program::Read(files[k]);
+        const Program program = ReadProgram(files[k]);
         if (Fits(program.expected, RunProgram(program))) continue;
         const std::lock_guard lock(mutex);
         wrong.push_back(files[k].string());
