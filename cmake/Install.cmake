@@ -18,7 +18,7 @@ function(cardwright_link_names result)
 endfunction()
 
 set(coreRooms ${CARDWRIGHT_ROOMS})
-list(REMOVE_ITEM coreRooms qt)
+list(REMOVE_ITEM coreRooms qt robot)
 
 add_library(cardwright_core INTERFACE)
 add_library(Cardwright::Core ALIAS cardwright_core)

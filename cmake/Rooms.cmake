@@ -1,6 +1,6 @@
 # The map of the house, in one place: each room and the rooms it may link.
 # CMakeLists.txt builds the rooms from it and cmake/CheckRooms.cmake holds the includes against it.
-set(CARDWRIGHT_ROOMS automation platform storage shared vbscript jscript hosting orv model runtime qt)
+set(CARDWRIGHT_ROOMS automation platform storage shared vbscript jscript hosting orv model runtime qt robot)
 
 set(CARDWRIGHT_USES_automation)
 set(CARDWRIGHT_USES_platform automation)
@@ -13,12 +13,14 @@ set(CARDWRIGHT_USES_orv platform)
 set(CARDWRIGHT_USES_model shared)
 set(CARDWRIGHT_USES_runtime model)
 set(CARDWRIGHT_USES_qt runtime)
+set(CARDWRIGHT_USES_robot qt hosting orv)
 
 # Those that the program holds itself; the others come with its module when they are needed.
 set(CARDWRIGHT_LIGHT_ROOMS automation platform storage shared vbscript hosting)
 
 # Foreign libraries that only the named rooms may see: in their headers too, or hidden in their sources.
 set(CARDWRIGHT_EXTERNAL_qt Qt6::Widgets)
+set(CARDWRIGHT_EXTERNAL_robot Qt6::Widgets)
 set(CARDWRIGHT_HIDDEN_orv GDAL::GDAL)
 set(CARDWRIGHT_HIDDEN_vbscript PkgConfig::PCRE2)
 set(CARDWRIGHT_HIDDEN_jscript PkgConfig::MOZJS)

@@ -19,12 +19,8 @@ struct DesktopModule {
   std::unique_ptr<ScriptDesktop> (*startForScript)(ScriptDisplay display, ClassRegistry& classes);
 };
 
-/// The symbol under which the module shows a `const DesktopModule`, with C linkage.
-inline constexpr const char* kDesktopModuleSymbol = "cardwrightDesktopModule";
-
-/// Loads the module at the first call. Error 48 with the reason where it cannot be loaded.
+/// Loads the module at the first call: its symbol `cardwrightDesktopModule`. Error 48 with the reason where
+/// it cannot be loaded.
 const DesktopModule& LoadDesktopModule();
-/// Complete path of the running program.
-std::string ProgramPath();
 
 }  // namespace cardwright::app

@@ -3,6 +3,8 @@
 #include "cardwright/CommandLine.h"
 #include "cardwright/Commands.h"
 #include "cardwright/DesktopModule.h"
+#include "cardwright/Languages.h"
+#include "cardwright/Modules.h"
 #include "hosting/ScriptHosting.h"
 
 namespace cardwright::app {
@@ -16,16 +18,16 @@ bool IsSet(const char* variable) {
 }  // namespace
 
 int RunScriptCommand(std::span<const std::string> words) {
-  CommandLine line(
-      "script",
-      "Runs a VBScript file. Status 1 after an error that the script did not catch, 130 after Ctrl+C,\n"
-      "else what WScript.Quit said, or 0.",
-      "FILE [ARG…]",
-      {{"check", "", "only compile the script"},
-       {"disassemble", "", "only compile the script and write its instructions"},
-       {"trace", "", "tell each statement on standard error before it runs"},
-       {"profile", "", "tell on standard error how long each line took"},
-       {"display", "", "insist on a display for windows"}});
+  CommandLine line("script",
+                   "Runs a VBScript or JScript file. Status 1 after an error that the script did not catch, "
+                   "130 after Ctrl+C,\n"
+                   "else what WScript.Quit said, or 0.",
+                   "FILE [ARG…]",
+                   {{"check", "", "only compile the script"},
+                    {"disassemble", "", "only compile the script, in VBScript, and write its instructions"},
+                    {"trace", "", "tell each statement on standard error before it runs"},
+                    {"profile", "", "tell on standard error how long each line took"},
+                    {"display", "", "insist on a display for windows"}});
   if (const auto status = line.Parse(words)) return *status;
   const bool hasDisplay = IsSet("DISPLAY") || IsSet("WAYLAND_DISPLAY");
   if (line.Has("display") && !hasDisplay) return line.Refuse("there is no display");
@@ -38,7 +40,7 @@ int RunScriptCommand(std::span<const std::string> words) {
   job.traces = line.Has("trace");
   job.profiles = line.Has("profile");
 
-  ScriptSurroundings surroundings;
+  ScriptSurroundings surroundings{.languages = Languages(), .classes = {}};
   surroundings.program = Text::FromUtf8(ProgramPath());
   surroundings.hasDisplay = hasDisplay;
   AddLightClasses(surroundings.classes);

@@ -2,12 +2,12 @@
 
 #include <QRegularExpression>
 
+#include "cardwright/Languages.h"
 #include "desktop/ScriptProcedures.h"
 #include "model/ControlClasses.h"
 #include "qt/QtText.h"
 #include "shared/ScriptText.h"
 #include "storage/ProjectFile.h"
-#include "vbscript/Engine.h"
 
 namespace cardwright::desktop {
 namespace {
@@ -26,16 +26,17 @@ class ScriptFaults {
   std::vector<Fault> Take() { return std::move(m_Faults); }
 
  private:
-  bool IsBasic() const { return EqualsNoCase(m_Language, u"VBScript"); }
   void Add(const QString& text) { m_Faults.push_back({QStringLiteral("SCRIPT"), text}); }
   void AddAt(int line, const QString& text) { Add(QStringLiteral("line %1: %2").arg(line).arg(text)); }
 
   void LookAtScript() {
-    if (!IsBasic() && !EqualsNoCase(m_Language, u"JScript"))
+    const ScriptLanguages languages = app::Languages();
+    const ScriptLanguage* language = languages.Named(m_Language);
+    if (!language)
       return Add(QStringLiteral("the language %1 is neither VBScript nor JScript: no script runs")
                      .arg(qt::ToQString(m_Language)));
     LookAtNames();
-    if (IsBasic()) LookAtProgram();
+    LookAtProgram(*language);
     for (const ScriptProcedure& procedure : ProceduresOf(qt::ToQString(m_Script), qt::ToQString(m_Language)))
       LookAtProcedure(procedure);
   }
@@ -53,10 +54,10 @@ class ScriptFaults {
     }
   }
 
-  void LookAtProgram() {
+  void LookAtProgram(const ScriptLanguage& language) {
     const ComposedScript composed = ComposeScript(m_Script, m_Language, m_Names);
-    ScriptError error = vbscript::Check(composed.code);
-    if (error.number == 0) error = vbscript::Check(composed.mainCode);
+    ScriptError error = language.check(composed.code);
+    if (error.number == 0) error = language.check(composed.mainCode);
     if (error.number == 0) return;
     const int line = error.line - composed.lineOffset;
     const QString text = QStringLiteral("%1 (error %2, column %3)")

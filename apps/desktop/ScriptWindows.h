@@ -2,6 +2,7 @@
 
 #include "cardwright/DesktopModule.h"
 #include "desktop/Session.h"
+#include "robot/Workplace.h"
 
 namespace cardwright::desktop {
 
@@ -17,6 +18,7 @@ class ScriptWindows final : public ScriptDesktop {
 
  private:
   Session m_Session;
+  robot::Workplace m_Workplace;
 };
 
 }  // namespace cardwright::desktop

@@ -2,6 +2,7 @@
 
 #include "automation/Conversions.h"
 #include "automation/Errors.h"
+#include "cardwright/Languages.h"
 #include "hosting/FormScripts.h"
 #include "qt/QtText.h"
 #include "shared/ModuleState.h"
@@ -27,7 +28,7 @@ Session::Session(Display display) {
   if (!chosen && display == Display::Needed && !HasDisplay())
     Raise(static_cast<int>(ErrorNumber::InvalidCall), u"there is no display to show the form on");
   QApplication::setApplicationDisplayName(QStringLiteral("Cardwright"));
-  ProvideFormScripts();
+  ProvideFormScripts(app::Languages());
   m_Library = std::make_unique<qt::Library>();
 }
 

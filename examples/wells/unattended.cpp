@@ -12,10 +12,12 @@
 
 #include "automation/Errors.h"
 #include "hosting/FormScripts.h"
+#include "jscript/Engine.h"
 #include "orv/EmbeddedHost.h"
 #include "qt/FormInput.h"
 #include "qt/Library.h"
 #include "qt/QtText.h"
+#include "vbscript/Engine.h"
 
 using namespace cardwright;
 
@@ -86,7 +88,7 @@ void ChangeSomeValues(qt::FormInput& form) {
 }
 
 int Run() {
-  ProvideFormScripts();
+  ProvideFormScripts({vbscript::Language(), jscript::Language()});
   qt::Library library;
   const Ref<EmbeddedHost> store = EmbeddedHost::Open(kData);
   store->onRefusal = [](const Text& reason) { Say(QStringLiteral("REFUSED: ") + qt::ToQString(reason)); };

@@ -3,16 +3,9 @@
 #include "hosting/FormScriptHost.h"
 #include "platform/EngineControl.h"
 #include "shared/ModuleState.h"
-#include "vbscript/Engine.h"
 
 namespace cardwright {
 namespace {
-
-ScriptLanguages Languages() {
-  ScriptLanguages languages;
-  languages.Add(u"VBScript", [](ScriptHost& host) { return vbscript::MakeEngine(host); });
-  return languages;
-}
 
 bool CanOwnDialogs(std::int32_t handle) {
   const ModuleState& module = Module();
@@ -21,9 +14,9 @@ bool CanOwnDialogs(std::int32_t handle) {
 
 }  // namespace
 
-void ProvideFormScripts() {
-  Module().makeScriptControl = []() -> Ref<ScriptControl> {
-    return MakeRef<EngineControl>(Languages(), std::make_unique<FormScriptHost>(), CanOwnDialogs);
+void ProvideFormScripts(ScriptLanguages languages) {
+  Module().makeScriptControl = [languages = std::move(languages)]() -> Ref<ScriptControl> {
+    return MakeRef<EngineControl>(languages, std::make_unique<FormScriptHost>(), CanOwnDialogs);
   };
 }
 

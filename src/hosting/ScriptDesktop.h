@@ -4,6 +4,7 @@
 #include <memory>
 
 #include "hosting/ClassRegistry.h"
+#include "platform/ScriptLanguages.h"
 
 namespace cardwright {
 
@@ -19,10 +20,11 @@ class ScriptDesktop {
 
 /// What surrounds a script run and outlives it.
 struct ScriptSurroundings {
+  ScriptLanguages languages;
   ClassRegistry classes;
-  std::unique_ptr<ScriptDesktop> desktop;  ///< null until a class or a message box has needed it
-  bool hasDisplay = false;                 ///< whether message boxes are worth loading the desktop
-  Text program;                            ///< path of the program that runs the script
+  std::unique_ptr<ScriptDesktop> desktop = nullptr;  ///< null until a class or a message box has needed it
+  bool hasDisplay = false;                           ///< whether message boxes are worth loading the desktop
+  Text program = {};                                 ///< path of the program that runs the script
 };
 
 }  // namespace cardwright

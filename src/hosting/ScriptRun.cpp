@@ -8,7 +8,6 @@
 #include "hosting/StatementLog.h"
 #include "hosting/WScript.h"
 #include "shared/ModuleState.h"
-#include "vbscript/Engine.h"
 
 namespace cardwright {
 namespace {
@@ -20,12 +19,14 @@ constexpr std::chrono::milliseconds kSlice{50};
 
 }  // namespace
 
-ScriptRun::ScriptRun(const ScriptJob& job, ScriptSurroundings& surroundings, const StandardStreams& streams)
+ScriptRun::ScriptRun(const ScriptJob& job, const ScriptLanguage& language, ScriptSurroundings& surroundings,
+                     const StandardStreams& streams)
     : m_Job(job),
+      m_Language(language),
       m_Surroundings(surroundings),
       m_Streams(streams),
       m_Events([this](std::u16string_view procedure, Args args) { CallEvent(procedure, args); }),
-      m_Engine(vbscript::MakeEngine(*this)) {
+      m_Engine(language.makeEngine(*this)) {
   m_Signal.emplace(*m_Engine);
   m_Engine->SetTimeout(-1);
   m_Engine->AddObject(u"WScript", MakeRef<WScript>(*this), false);
@@ -71,7 +72,7 @@ void ScriptRun::Fail(const Error& error) {
     failure.description = error.Description();
     failure.source = error.Source();
   }
-  m_Streams.Tell(ErrorLine(m_Job.file, failure));
+  m_Streams.Tell(ErrorLine(m_Job.file, m_Language.name, failure));
 }
 
 // What ended the run first says how; later calls come from objects at their end, which they stop only.
@@ -97,19 +98,25 @@ void ScriptRun::Sleep(std::chrono::milliseconds time) {
 // An error in an event procedure must not reach the object that raised the event, which could swallow it, and
 // which the toolkit may have called. It ends the run instead.
 void ScriptRun::CallEvent(std::u16string_view procedure, Args args) {
-  if (IsStopping() || !Defines(procedure)) return;
+  if (IsStopping()) return;
+  const Text spelling = SpellingOf(procedure);
+  if (spelling.IsEmpty()) return;
   try {
-    m_Engine->Run({}, procedure, args);
+    m_Engine->Run({}, spelling, args);
   } catch (const Error& error) {
     Fail(error);
   }
   if (IsStopping()) m_Engine->Interrupt();
 }
 
-bool ScriptRun::Defines(std::u16string_view procedure) const {
-  const std::vector<ScriptProcedure> procedures = m_Engine->Procedures({});
-  return std::ranges::any_of(
-      procedures, [&](const ScriptProcedure& known) { return EqualsNoCase(known.name, procedure); });
+// Names of events are the objects' own, whatever the case, also where the language tells cases apart.
+Text ScriptRun::SpellingOf(std::u16string_view procedure) const {
+  Text spelling;
+  for (const ScriptProcedure& known : m_Engine->Procedures({})) {
+    if (known.name == procedure) return known.name;
+    if (EqualsNoCase(known.name, procedure)) spelling = known.name;
+  }
+  return spelling;
 }
 
 Ref<Object> ScriptRun::CreateObject(std::u16string_view progid, std::u16string_view server) {

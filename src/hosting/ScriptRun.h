@@ -9,7 +9,7 @@
 #include "hosting/ScriptDesktop.h"
 #include "hosting/ScriptJob.h"
 #include "hosting/StandardStreams.h"
-#include "platform/ScriptEngine.h"
+#include "platform/ScriptLanguages.h"
 
 namespace cardwright {
 
@@ -17,7 +17,8 @@ namespace cardwright {
 /// can catch WScript.Quit, Ctrl+C or the failure of an event procedure.
 class ScriptRun final : public ScriptHost {
  public:
-  ScriptRun(const ScriptJob& job, ScriptSurroundings& surroundings, const StandardStreams& streams);
+  ScriptRun(const ScriptJob& job, const ScriptLanguage& language, ScriptSurroundings& surroundings,
+            const StandardStreams& streams);
   ~ScriptRun() override;
 
   /// Runs the source; gives the exit status.
@@ -28,6 +29,8 @@ class ScriptRun final : public ScriptHost {
   const ScriptJob& Job() const noexcept { return m_Job; }
   const Text& Program() const noexcept { return m_Surroundings.program; }
   const StandardStreams& Streams() const noexcept { return m_Streams; }
+  /// As the script's language shows it.
+  Text TextOf(const Variant& value) { return m_Engine->TextOf(value); }
   EventSinks& Events() noexcept { return m_Events; }
   Ref<Object> Create(std::u16string_view progid) { return m_Surroundings.classes.Create(progid); }
   /// Waits and serves events meanwhile; a stop ends it.
@@ -47,11 +50,13 @@ class ScriptRun final : public ScriptHost {
   /// Notes an error that nothing in the script caught, and tells of it.
   void Fail(const Error& error);
   void CallEvent(std::u16string_view procedure, Args args);
-  bool Defines(std::u16string_view procedure) const;
+  /// The script's spelling of a procedure's name, the same one first; empty where it has no such procedure.
+  Text SpellingOf(std::u16string_view procedure) const;
   /// Whether a message can be shown to a person in a window. Loads what that takes.
   bool ShowsBoxes();
 
   const ScriptJob& m_Job;
+  const ScriptLanguage& m_Language;
   ScriptSurroundings& m_Surroundings;
   const StandardStreams& m_Streams;
   EventSinks m_Events;

@@ -7,12 +7,13 @@ namespace cardwright {
 namespace {
 
 Variant Echo(Object& self, Args args) {
+  ScriptRun& run = static_cast<WScript&>(self).Run();
   Text line;
   for (std::size_t i = 0; i < args.size(); ++i) {
     if (i > 0) line += u" ";
-    line += ToText(args[i]);
+    line += run.TextOf(args[i]);
   }
-  static_cast<WScript&>(self).Run().Streams().out->WriteLine(line);
+  run.Streams().out->WriteLine(line);
   return {};
 }
 

@@ -3,7 +3,7 @@
 #include <cstddef>
 #include <memory>
 
-#include "platform/ScriptEngine.h"
+#include "platform/ScriptLanguages.h"
 
 namespace cardwright::jscript {
 
@@ -19,5 +19,8 @@ std::unique_ptr<ScriptEngine> MakeEngine(ScriptHost& host, const Limits& limits 
 
 /// Compiles a source and runs nothing: its first error, or an error of number 0.
 ScriptError Check(std::u16string_view source);
+
+/// The language, for programs that let their scripts choose.
+ScriptLanguage Language();
 
 }  // namespace cardwright::jscript

@@ -76,8 +76,10 @@ ScriptEngine& EngineControl::Engine() const {
 void EngineControl::Start() {
   m_Modules.clear();
   m_Error = {};
-  m_Engine = m_Languages.Make(m_Language, *m_Host);
-  if (!m_Engine) Raise(ErrorNumber::InvalidCall);
+  m_Engine.reset();
+  const ScriptLanguage* language = m_Languages.Named(m_Language);
+  if (!language) Raise(ErrorNumber::InvalidCall);
+  m_Engine = language->makeEngine(*m_Host);
   m_Engine->SetTimeout(m_Timeout);
   m_Engine->SetAllowUI(m_AllowUI);
   m_Modules.push_back(MakeRef<Module>(*this, kGlobalModule, u""));

@@ -63,6 +63,10 @@ class ScriptEngine {
   /// The procedures of a module in the order of their definition.
   virtual std::vector<ScriptProcedure> Procedures(std::u16string_view module) const = 0;
 
+  /// A value as the language turns it into text. May run code of the script where the value is an object of
+  /// it; fails where the language has no text for the value.
+  virtual Text TextOf(const Variant& value) = 0;
+
   /// The error that the latest call met; number 0 where it met none.
   virtual ScriptError LastError() const = 0;
   virtual void ClearError() = 0;
@@ -74,7 +78,8 @@ class ScriptEngine {
   /// Ends the objects that the scripts left, as the engine does at its own end; what they do then may still
   /// call the program. Names are empty afterwards.
   virtual void Close() = 0;
-  /// Stops the running script at its next step; from any thread. Nothing in the script can catch it.
+  /// Stops the running script at its next step, or within some milliseconds; from any thread and from a
+  /// handler of a signal. Nothing in the script can catch it.
   virtual void Interrupt() noexcept = 0;
 };
 

@@ -1,15 +1,23 @@
 #include "platform/ScriptLanguages.h"
 
 namespace cardwright {
+namespace {
 
-void ScriptLanguages::Add(std::u16string_view language, Maker make) {
-  m_Languages.push_back({Text(language), std::move(make)});
+const ScriptLanguage* Find(const std::vector<ScriptLanguage>& languages,
+                           std::u16string_view ScriptLanguage::*field, std::u16string_view value) {
+  for (const ScriptLanguage& one : languages)
+    if (EqualsNoCase(one.*field, value)) return &one;
+  return nullptr;
 }
 
-std::unique_ptr<ScriptEngine> ScriptLanguages::Make(std::u16string_view language, ScriptHost& host) const {
-  for (const Language& one : m_Languages)
-    if (EqualsNoCase(one.name, language)) return one.make(host);
-  return nullptr;
+}  // namespace
+
+const ScriptLanguage* ScriptLanguages::Named(std::u16string_view name) const {
+  return Find(m_Languages, &ScriptLanguage::name, name);
+}
+
+const ScriptLanguage* ScriptLanguages::OfExtension(std::u16string_view extension) const {
+  return Find(m_Languages, &ScriptLanguage::extension, extension);
 }
 
 }  // namespace cardwright

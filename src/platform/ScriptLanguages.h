@@ -1,6 +1,6 @@
 #pragma once
 
-#include <functional>
+#include <initializer_list>
 #include <memory>
 #include <string_view>
 #include <vector>
@@ -9,21 +9,32 @@
 
 namespace cardwright {
 
-/// The script engines that a program has, by the names of their languages.
+/// A script language and what can be done with its sources. Each room with an engine gives its own.
+struct ScriptLanguage {
+  std::u16string_view name;       ///< "VBScript"; it also stands in messages
+  std::u16string_view extension;  ///< of script files, without the dot
+  /// A new engine. `host` must outlive it.
+  std::unique_ptr<ScriptEngine> (*makeEngine)(ScriptHost& host);
+  /// Compiles a source and runs nothing: its first error, or an error of number 0.
+  ScriptError (*check)(std::u16string_view source);
+  /// The compiled form of a source without errors as text; null where the engine has none to show.
+  Text (*disassemble)(std::u16string_view source);
+};
+
+/// The script languages that a program has.
 class ScriptLanguages {
  public:
-  using Maker = std::function<std::unique_ptr<ScriptEngine>(ScriptHost& host)>;
+  ScriptLanguages(std::initializer_list<ScriptLanguage> languages) : m_Languages(languages) {}
 
-  void Add(std::u16string_view language, Maker make);
-  /// A new engine, whatever the case of the name; null for a language that there is none of.
-  std::unique_ptr<ScriptEngine> Make(std::u16string_view language, ScriptHost& host) const;
+  /// @name Null where there is none; the case does not matter
+  /// @{
+  const ScriptLanguage* Named(std::u16string_view name) const;
+  const ScriptLanguage* OfExtension(std::u16string_view extension) const;
+  /// @}
+  const std::vector<ScriptLanguage>& All() const noexcept { return m_Languages; }
 
  private:
-  struct Language {
-    Text name;
-    Maker make;
-  };
-  std::vector<Language> m_Languages;
+  std::vector<ScriptLanguage> m_Languages;
 };
 
 }  // namespace cardwright

@@ -44,6 +44,8 @@ class QtSurface final : public QObject, public Surface, private Font::User {
   /// The object that scripts know as the parent of the widgets. Not owned: it has to outlive the surface.
   void SetControl(Object* control) { m_Control = control; }
   Ref<Object> Control() const { return m_Control; }
+  /// The canvas; null once it is gone.
+  QWidget* Native() const noexcept { return m_Canvas; }
 
  private:
   struct NoCaseHash {

@@ -23,9 +23,20 @@ constexpr WidgetKind MakeKind(std::u16string_view typeName) {
 constexpr WidgetKind kCheckBox = MakeKind(u"CheckBox");
 constexpr WidgetKind kOptionButton = MakeKind(u"OptionButton");
 
-class CheckBox final : public QCheckBox {
+/// A button that a click on any point of it presses, as on the platform; the toolkit takes those on mark and
+/// caption only.
+template <class Base>
+class WholeButton : public Base {
  public:
-  using QCheckBox::QCheckBox;
+  using Base::Base;
+
+ protected:
+  bool hitButton(const QPoint& at) const override { return this->rect().contains(at); }
+};
+
+class CheckBox final : public WholeButton<QCheckBox> {
+ public:
+  using WholeButton::WholeButton;
 
  protected:
   void nextCheckState() override {
@@ -71,7 +82,7 @@ void CheckBoxWidget::SetState(int state) {
 
 OptionButtonWidget::OptionButtonWidget(WidgetPlace place)
     : QtWidget(kOptionButton, place),
-      m_Button(new QRadioButton(place.parent)),
+      m_Button(new WholeButton<QRadioButton>(place.parent)),
       m_Group(&place.state->OptionsIn(*place.parent)) {
   m_Group->addButton(m_Button);
   Adopt(*m_Button);

@@ -32,6 +32,7 @@ constexpr Member kMembers[] = {
     Method<&FormInput::GetFeatureType>(u"GetFeatureType"),
     Method<&FormInput::GetFeatureTypeString>(u"GetFeatureTypeString"),
     Property<&FormInput::WindowHandle>(u"hWnd"),
+    Property<&FormInput::Parent>(u"Parent"),
 };
 
 }  // namespace

@@ -44,6 +44,8 @@ class FormInput final : public TableObject, public InputOwner {
   FeatureTypeEnum GetFeatureType() const;
   Text GetFeatureTypeString() const { return FeatureTypeText(GetFeatureType()); }
   std::int32_t WindowHandle() const;
+  /// The host's window, as every container gives it to its controls under this name; null where there is none.
+  Ref<HostWindow> Parent() const { return m_Surface ? m_Surface->Host() : nullptr; }
 
   /// False only in a debugging run without an output object.
   bool CanRunScripts() const override;

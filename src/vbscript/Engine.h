@@ -2,7 +2,7 @@
 
 #include <memory>
 
-#include "platform/ScriptEngine.h"
+#include "platform/ScriptLanguages.h"
 
 namespace cardwright::vbscript {
 
@@ -24,5 +24,8 @@ ScriptError Check(std::u16string_view source);
 /// The compiled form of a source as text, for whoever works on the compiler. Throws an Error of number 1001
 /// to 1058 for what is no program.
 Text Disassemble(std::u16string_view source);
+
+/// The language, for programs that let their scripts choose.
+ScriptLanguage Language();
 
 }  // namespace cardwright::vbscript

@@ -108,6 +108,10 @@ std::vector<FaultyProject> FaultyProjects() {
       {"ScriptHeader", WithScript("Sub  Form_Initialize ()\r\nEnd Sub\r\n"),
        ":SCRIPT: line 1: Form_Initialize is not found by the form: its line has to begin with \"Sub "
        "Form_Initialize(\"\n"},
+      {"JScriptSyntax", WithScript("var x;\r\n\r\nif (x) { y = ;\r\n}\r\n", "JScript"),
+       ":SCRIPT: line 3: Syntax error (error 1002, column 14)\n"},
+      {"JScriptKeyword", WithScript("x = 1;\r\n", "jscript", "with"),
+       ":SCRIPT: the names of the form's elements: Expected identifier (error 1010, column 5)\n"},
       {"JScriptEvent", WithScript("function txtDepth_OnClose() {}\r\n", "JScript"),
        ":SCRIPT: line 1: txtDepth has no event OnClose: txtDepth_OnClose is never run by the form\n"},
       {"LostCharacter", Project("[CONTROLS_1]\r\nType=Label\r\nText=a\x81\r\n", 1),

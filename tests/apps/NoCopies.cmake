@@ -1,4 +1,4 @@
-# Fails when the desktop module defines a symbol that the program has: cmake -D NM=nm -D PROGRAM=... -D MODULE=... -P this.
+# Fails when a module defines a symbol that the program has: cmake -D NM=nm -D PROGRAM=... -D MODULE=... -P this.
 # Weak symbols are left out, as the loader makes one of them.
 cmake_minimum_required(VERSION 3.25)
 

@@ -1,11 +1,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
-#include <csignal>
-#include <thread>
-
+#include "CtrlC.h"
 #include "Program.h"
 
 namespace cardwright::testing {
@@ -227,28 +223,10 @@ TEST_F(ScriptTest, NeedsAFileItCanRead) {
   EXPECT_EQ(missing.status, 2);
   EXPECT_EQ(missing.err, "/no/such/file.vbs: the file cannot be read\n");
   EXPECT_EQ(Cardwright({"script", m_Folder.File("")}).status, 2);
-  EXPECT_THAT(Cardwright({"script", m_Folder.Write("a.js", "")}).err, HasSubstr("JScript"));
-  EXPECT_EQ(Cardwright({"script", m_Folder.Write("a.txt", "")}).status, 2);
-}
-
-/// Starts the script a.vbs of the folder with its output in the file "out", and sends it Ctrl+C once it has
-/// shown something.
-int StatusAfterCtrlC(const TempFolder& folder) {
-  const std::string script = folder.File("a.vbs"), out = folder.File("out"), error = folder.File("err");
-  std::filesystem::remove(error);  // of an earlier run
-  const pid_t child = fork();
-  if (child == 0) {
-    (void)!freopen(out.c_str(), "w", stdout);
-    (void)!freopen(error.c_str(), "w", stderr);
-    execl(CARDWRIGHT_PROGRAM, CARDWRIGHT_PROGRAM, "script", script.c_str(), nullptr);
-    _exit(99);
-  }
-  for (int i = 0; i < 1000 && ReadAll(error).empty(); ++i)
-    std::this_thread::sleep_for(std::chrono::milliseconds(10));
-  kill(child, SIGINT);
-  int status = 0;
-  waitpid(child, &status, 0);
-  return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+  const std::string text = m_Folder.Write("a.txt", "");
+  const Outcome other = Cardwright({"script", text});
+  EXPECT_EQ(other.status, 2);
+  EXPECT_EQ(other.err, text + ": only files in VBScript (.vbs) and JScript (.js) can be run\n");
 }
 
 TEST_F(ScriptTest, StopsOnCtrlCWhateverItDoes) {
@@ -257,8 +235,9 @@ TEST_F(ScriptTest, StopsOnCtrlCWhateverItDoes) {
         "Class C\nSub Class_Terminate\nDo\nLoop\nEnd Sub\nEnd Class\nSet o = New C",
         "Set f = CreateObject(\"Scripting.FileSystemObject\")\n"
         "f.OpenTextFile(\"/dev/zero\").SkipLine"}) {
-    m_Folder.Write("a.vbs", std::string("WScript.StdErr.WriteLine \"on\"\nWScript.Sleep 0\n") + endless);
-    EXPECT_EQ(StatusAfterCtrlC(m_Folder), 130) << endless;
+    const std::string script =
+        m_Folder.Write("a.vbs", std::string("WScript.StdErr.WriteLine \"on\"\nWScript.Sleep 0\n") + endless);
+    EXPECT_EQ(StatusAfterCtrlC(m_Folder, script), 130) << endless;
     EXPECT_THAT(ReadAll(m_Folder.File("err")), HasSubstr("interrupted"));
     EXPECT_EQ(ReadAll(m_Folder.File("out")), "");
   }

@@ -1,29 +1,9 @@
 // Scripts of form projects in the engine that a program gives its forms, on real widgets.
 
-#include "hosting/FormScripts.h"
-#include "runtime/FormTest.h"
+#include "forms/FormScriptsFixture.h"
 
 namespace cardwright {
 namespace {
-
-class FormScripts : public FormTest {
- protected:
-  FormScripts() {
-    ProvideFormScripts();
-    Module().scriptControl = Module().makeScriptControl();
-  }
-
-  bool ReadScript(const std::string& script) {
-    std::string lines = "VBScript\r\n";
-    for (const char c : script) lines += c == '\n' ? std::string("\r\n") : std::string(1, c);
-    return ReadWhole({{"TextBox", "txtDepth", ""}, {"CommandButton", "cmdToday", ""}}, {}, lines);
-  }
-  Text Depth() { return Row(u"txtDepth", u"Text"); }
-  std::string OnlyBox() {
-    const Lines shown = boxes.Take();
-    return shown.size() == 1 ? shown.front() : std::to_string(shown.size()) + " boxes";
-  }
-};
 
 TEST_F(FormScripts, ReachTheControlsByTheirNames) {
   ASSERT_TRUE(
@@ -35,8 +15,8 @@ TEST_F(FormScripts, ReachTheControlsByTheirNames) {
 
 TEST_F(FormScripts, RunAtWidgetEvents) {
   ASSERT_TRUE(ReadScript("Sub cmdToday_OnClick()\ntxtDepth.Text = txtDepth.Text & \"+\"\nEnd Sub\n"));
-  QTest::mouseClick(&Native(u"cmdToday"), Qt::LeftButton);
-  QTest::mouseClick(&Native(u"cmdToday"), Qt::LeftButton);
+  ClickToday();
+  ClickToday();
   EXPECT_EQ(Depth(), u"++");
 }
 
@@ -57,17 +37,11 @@ TEST_F(FormScripts, SendCommandsToTheHost) {
   ASSERT_TRUE(ReadScript(
       "Sub cmdToday_OnClick()\nORVExecute \"PAN 1\"\ntxtDepth.Text = ORVRequest(\"SCALE\")\nEnd Sub\n"));
   host->Take();
-  QTest::mouseClick(&Native(u"cmdToday"), Qt::LeftButton);
+  ClickToday();
   EXPECT_EQ(host->Take(), (Lines{"X PAN 1", "R SCALE"}));
 }
 
-struct Failure {
-  const char* title;
-  const char* script;
-  const char* box;
-};
-
-class FormScriptFailures : public FormScripts, public testing::WithParamInterface<Failure> {};
+class FormScriptFailures : public FormScripts, public testing::WithParamInterface<ScriptFailure> {};
 
 TEST_P(FormScriptFailures, AreToldInTheAuthorsLines) {
   EXPECT_TRUE(ReadScript(GetParam().script));
@@ -76,19 +50,20 @@ TEST_P(FormScriptFailures, AreToldInTheAuthorsLines) {
 
 INSTANTIATE_TEST_SUITE_P(
     Scripts, FormScriptFailures,
-    testing::Values(
-        Failure{"Syntax", "\n\nIf x Then y =\n", "Error N. 1002 - Syntax error \r\n(Line: 3    Column:13)"},
-        Failure{"Division", "Sub Form_Initialize()\nx = 1\nx = x / 0\nEnd Sub\n",
-                "Error N. 11 - Division by zero \r\n(Line: 3    Column:0)"},
-        Failure{"Undeclared", "Option Explicit\nSub Form_Initialize()\nx = 1\nEnd Sub\n",
-                "Error N. 500 - Variable is undefined: 'x' \r\n(Line: 3    Column:0)"},
-        Failure{"Recursion", "Sub Form_Initialize()\nForm_Initialize\nEnd Sub\n",
-                "Error N. 28 - Out of stack space \r\n(Line: 2    Column:0)"},
-        Failure{"FileSystem", "Set x = CreateObject(\"Scripting.FileSystemObject\")\n",
-                "Error N. 429 - ActiveX component can't create object: 'Scripting.FileSystemObject' "
-                "\r\n(Line: 1    Column:0)"},
-        Failure{"OptionBelow", "x = 1\nOption Explicit\n",
-                "Error N. 1024 - Expected statement \r\n(Line: 2    Column:0)"}),
+    testing::Values(ScriptFailure{"Syntax", "\n\nIf x Then y =\n",
+                                  "Error N. 1002 - Syntax error \r\n(Line: 3    Column:13)"},
+                    ScriptFailure{"Division", "Sub Form_Initialize()\nx = 1\nx = x / 0\nEnd Sub\n",
+                                  "Error N. 11 - Division by zero \r\n(Line: 3    Column:0)"},
+                    ScriptFailure{"Undeclared", "Option Explicit\nSub Form_Initialize()\nx = 1\nEnd Sub\n",
+                                  "Error N. 500 - Variable is undefined: 'x' \r\n(Line: 3    Column:0)"},
+                    ScriptFailure{"Recursion", "Sub Form_Initialize()\nForm_Initialize\nEnd Sub\n",
+                                  "Error N. 28 - Out of stack space \r\n(Line: 2    Column:0)"},
+                    ScriptFailure{
+                        "FileSystem", "Set x = CreateObject(\"Scripting.FileSystemObject\")\n",
+                        "Error N. 429 - ActiveX component can't create object: 'Scripting.FileSystemObject' "
+                        "\r\n(Line: 1    Column:0)"},
+                    ScriptFailure{"OptionBelow", "x = 1\nOption Explicit\n",
+                                  "Error N. 1024 - Expected statement \r\n(Line: 2    Column:0)"}),
     [](const auto& one) { return one.param.title; });
 
 TEST_F(FormScripts, MayUseClassesThatOnlyCompute) {
@@ -112,14 +87,14 @@ TEST_F(FormScripts, AreReplacedByThoseOfAFormReadInAnEvent) {
   host->onLine = [&](const std::string& line) {
     if (line == "X READ") second.ProjectRead(other);
   };
-  QTest::mouseClick(&Native(u"cmdToday"), Qt::LeftButton);
+  ClickToday();
   host->onLine = nullptr;
   EXPECT_EQ(boxes.Take(), Lines{});
   const IControl* written = FindControl(second.Object()->Controls(), u"txtOther");
   ASSERT_TRUE(written);
   EXPECT_EQ(ToText(written->PropertyValue(Variant(u"Text"))), u"new");
   EXPECT_EQ(Depth(), u"!") << "the procedure that was running ends in the engine that it began in";
-  QTest::mouseClick(&Native(u"cmdToday"), Qt::LeftButton);
+  ClickToday();
   EXPECT_EQ(Depth(), u"!") << "the first form's procedures are gone";
 }
 
@@ -131,7 +106,7 @@ TEST_F(FormScripts, MayPressOkInsideTheOk) {
 }
 
 TEST(ScriptControlLanguages, AreFoundWhateverTheCase) {
-  ProvideFormScripts();
+  ProvideFormScripts(BothLanguages());
   const Ref<ScriptControl> control = Module().makeScriptControl();
   control->SetLanguage(u"vBsCrIpT");
   EXPECT_EQ(control->Language(), u"vBsCrIpT");
@@ -154,6 +129,10 @@ TEST(ScriptControlLanguages, AreFoundWhateverTheCase) {
   EXPECT_EQ(control->LastError().number, 0);
   EXPECT_EQ(control->Modules().size(), 1U);
   EXPECT_THROW(init->Run(u"Main"), Error) << "its code is gone";
+  control->SetLanguage(u"jSCRIPT");
+  control->AddCode(u"function Twice(x) { return 2 * x; }");
+  EXPECT_EQ(ToLong(control->Run(u"Twice", {&two, 1})), 4);
+  EXPECT_THROW(control->Run(u"twice", {&two, 1}), Error) << "this language tells cases apart";
   EXPECT_THROW(control->SetLanguage(u"Fortran"), Error);
   EXPECT_THROW(control->AddCode(u"x = 1"), Error);
   Module().makeScriptControl = nullptr;

@@ -33,6 +33,17 @@ TEST(CheckBox, GoesGreyByCodeOnlyAndIsClearedByAClick) {
   EXPECT_EQ(ErrorOf([&] { box->SetState(-1); }), 380);
 }
 
+TEST(StateWidgets, TakeAClickOnAnyPoint) {
+  Form form;
+  for (const std::u16string_view kind : {u"vb.checkbox", u"vb.optionbutton"}) {
+    const Ref<StateWidget> widget = form.AddAt<StateWidget>(0, kind, kind);
+    widget->SetDisplayText(u"x");
+    const QSize size = NativeOf(*widget).size();
+    Click(NativeOf(*widget), QPoint(size.width() - 2, size.height() / 2));
+    EXPECT_EQ(widget->State(), 1) << Text(kind).ToUtf8();
+  }
+}
+
 class Options : public testing::Test {
  protected:
   Ref<StateWidget> AddOption(std::u16string_view name, Widget* container = nullptr) {

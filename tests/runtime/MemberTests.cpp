@@ -23,7 +23,8 @@ TEST_F(Members, StandInTheirOrder) {
   const std::vector<Text> expected = {
       u"Controls",     u"DebugMode",      u"NewFeature",           u"FeatureID",
       u"ProjectRead",  u"ProjectSave",    u"SetAttributesEnabled", u"ChangeControlName",
-      u"GetThemeName", u"GetFeatureType", u"GetFeatureTypeString", u"hWnd"};
+      u"GetThemeName", u"GetFeatureType", u"GetFeatureTypeString", u"hWnd",
+      u"Parent"};
   EXPECT_EQ(Input().MemberNames(), expected);
   EXPECT_EQ(Input().TypeName(), u"FormInput");
 }

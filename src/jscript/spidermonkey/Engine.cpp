@@ -1,6 +1,7 @@
 #include <js/CallAndConstruct.h>
 #include <js/CompilationAndEvaluation.h>
 #include <js/CompileOptions.h>
+#include <js/Conversions.h>
 #include <js/Exception.h>
 #include <js/PropertyAndElement.h>
 #include <js/PropertyDescriptor.h>
@@ -9,7 +10,7 @@
 #include <jsfriendapi.h>
 
 #include <algorithm>
-#include <mutex>
+#include <atomic>
 
 #include "automation/Errors.h"
 #include "jscript/Engine.h"
@@ -111,6 +112,7 @@ class Engine final : public ScriptEngine {
   Variant Run(std::u16string_view module, std::u16string_view procedure, Args args) override;
   Variant Evaluate(std::u16string_view module, std::u16string_view expression) override;
   std::vector<ScriptProcedure> Procedures(std::u16string_view module) const override;
+  Text TextOf(const Variant& value) override;
 
   ScriptError LastError() const override { return m_Error; }
   void ClearError() override { m_Error = {}; }
@@ -133,8 +135,8 @@ class Engine final : public ScriptEngine {
     }
   }
   void Interrupt() noexcept override {
-    const std::lock_guard lock(m_SwapMutex);
-    if (m_Session) m_Session->Stop();
+    // The watchdog soon makes the script look. A nudge from here would take locks, and this may be a signal.
+    m_StopOrder->store(true, std::memory_order_relaxed);
   }
 
  private:
@@ -153,18 +155,14 @@ class Engine final : public ScriptEngine {
   }
   // Made before the old one is told to stop, which would stop the making too.
   void Start() {
-    auto session = std::make_shared<Session>(m_Host, m_Limits);
+    auto session = std::make_shared<Session>(m_Host, m_Limits, m_StopOrder);
     session->SetTimeout(m_Timeout);
     m_Watch.reset();
     Swap(std::move(session));
     Watch();
   }
   void Swap(std::shared_ptr<Session> session) {
-    std::shared_ptr<Session> old;
-    {
-      const std::lock_guard lock(m_SwapMutex);
-      old = std::exchange(m_Session, std::move(session));
-    }
+    const std::shared_ptr<Session> old = std::exchange(m_Session, std::move(session));
     // One whose script is under way ends with it.
     if (old && old->IsRunning()) old->Stop();
   }
@@ -189,7 +187,7 @@ class Engine final : public ScriptEngine {
   ScriptHost& m_Host;
   const Limits m_Limits;
   std::int32_t m_Timeout = -1;
-  std::mutex m_SwapMutex;
+  const std::shared_ptr<std::atomic<bool>> m_StopOrder = std::make_shared<std::atomic<bool>>(false);
   std::shared_ptr<Session> m_Session;
   ScriptObserver* m_Observer = nullptr;
   std::unique_ptr<StatementWatch> m_Watch;
@@ -301,6 +299,19 @@ Variant Engine::Run(std::u16string_view name, std::u16string_view procedure, Arg
   return answer;
 }
 
+Text Engine::TextOf(const Variant& value) {
+  Text text;
+  Noting([&](Session& session) {
+    JSContext* cx = session.Context();
+    JS::RootedValue inScript(cx);
+    if (!ToScript(session, value, &inScript)) ThrowPending(session);
+    const JS::RootedString shown(cx, JS::ToString(cx, inScript));
+    if (!shown) ThrowPending(session);
+    text = jscript::TextOf(session, shown);
+  });
+  return text;
+}
+
 std::vector<ScriptProcedure> Engine::Procedures(std::u16string_view name) const {
   const Module& module = const_cast<Engine*>(this)->Required(name);
   std::vector<ScriptProcedure> procedures;
@@ -321,7 +332,7 @@ std::unique_ptr<ScriptEngine> MakeEngine(ScriptHost& host, const Limits& limits)
 
 ScriptError Check(std::u16string_view source) {
   ScriptHost host;
-  const auto session = std::make_shared<Session>(host, Limits{});
+  const auto session = std::make_shared<Session>(host, Limits{}, std::make_shared<std::atomic<bool>>(false));
   try {
     const Session::Entry entry(*session);
     Compiled compiled(session->Context());
@@ -330,6 +341,14 @@ ScriptError Check(std::u16string_view source) {
     return fault.Described();
   }
   return {};
+}
+
+ScriptLanguage Language() {
+  return {.name = u"JScript",
+          .extension = u"js",
+          .makeEngine = [](ScriptHost& host) { return MakeEngine(host); },
+          .check = Check,
+          .disassemble = nullptr};
 }
 
 }  // namespace cardwright::jscript

@@ -44,7 +44,7 @@ Session* Session::Required(JSContext* cx) {
   return session;
 }
 
-Session::Session(ScriptHost& host, const Limits& limits)
+Session::Session(ScriptHost& host, const Limits& limits, std::shared_ptr<std::atomic<bool>> stopOrder)
     : m_Host(host),
       m_Limits(limits),
       m_Runtime(Runtime::OfThread()),
@@ -56,7 +56,8 @@ Session::Session(ScriptHost& host, const Limits& limits)
       m_TimezoneOffset(Context()),
       m_SharedMethods(Context()),
       m_GlobalMethods(Context()),
-      m_Members(std::make_unique<MemberCache>(Context())) {
+      m_Members(std::make_unique<MemberCache>(Context())),
+      m_StopOrder(std::move(stopOrder)) {
   if (!m_Global) Raise(ErrorNumber::OutOfMemory);
   JS::SetReservedSlot(m_Global, kSessionSlot, JS::PrivateValue(this));
   const JSAutoRealm realm(Context(), m_Global);
@@ -140,6 +141,7 @@ Session::Entry::Entry(Session& session)
     using Clock = Watched::Clock;
     // The order to stop is for what was running; what begins now is another call.
     session.m_Stop.store(false, std::memory_order_relaxed);
+    session.m_StopOrder->store(false, std::memory_order_relaxed);
     session.m_IsOutOfMemory = false;
     session.m_MemoryAtStart.reset();
     const auto deadline = session.m_Timeout < 0 ? Clock::time_point::max()

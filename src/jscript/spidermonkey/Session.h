@@ -50,7 +50,8 @@ struct Interrupted {};
 /// One engine's scripts: their global object, what they were given, the objects that went in and out.
 class Session : public std::enable_shared_from_this<Session> {
  public:
-  Session(ScriptHost& host, const Limits& limits);
+  /// What raises `stopOrder` stops the script that runs; it may be raised at any moment, from anywhere.
+  Session(ScriptHost& host, const Limits& limits, std::shared_ptr<std::atomic<bool>> stopOrder);
   ~Session();
   Session(const Session&) = delete;
   Session& operator=(const Session&) = delete;
@@ -89,7 +90,9 @@ class Session : public std::enable_shared_from_this<Session> {
     Runtime::Nudge(Context());
   }
   bool IsRunning() const noexcept { return m_Depth != 0; }
-  bool IsStopping() const noexcept { return m_Stop.load(std::memory_order_relaxed); }
+  bool IsStopping() const noexcept {
+    return m_Stop.load(std::memory_order_relaxed) || m_StopOrder->load(std::memory_order_relaxed);
+  }
   void StopForMemory() noexcept { m_IsOutOfMemory = true; }
   /// The process's memory at the first look at it during a call.
   std::size_t MemoryAtStart(std::size_t now) noexcept {
@@ -160,6 +163,7 @@ class Session : public std::enable_shared_from_this<Session> {
   int m_LastChunk = 0;
   std::exception_ptr m_Held;
 
+  const std::shared_ptr<std::atomic<bool>> m_StopOrder;
   std::atomic<bool> m_Stop = false;
   bool m_IsOutOfMemory = false;
   std::optional<std::size_t> m_MemoryAtStart;

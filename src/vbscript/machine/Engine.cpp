@@ -32,6 +32,7 @@ class VbScriptEngine final : public ScriptEngine {
     return value;
   }
   std::vector<ScriptProcedure> Procedures(std::u16string_view module) const override;
+  Text TextOf(const Variant& value) override { return ToText(value); }
 
   ScriptError LastError() const override { return m_Error; }
   void ClearError() override { m_Error = {}; }
@@ -137,6 +138,14 @@ Text Disassemble(std::u16string_view source) {
       for (const ClassProcedure* one : {&member.method, &member.get, &member.let, &member.set})
         if (one->code) list += ListCode(*one->code, machine.names);
   return list;
+}
+
+ScriptLanguage Language() {
+  return {.name = u"VBScript",
+          .extension = u"vbs",
+          .makeEngine = [](ScriptHost& host) { return MakeEngine(host); },
+          .check = Check,
+          .disassemble = Disassemble};
 }
 
 }  // namespace cardwright::vbscript

@@ -1,0 +1,26 @@
+#include "cardwright/Languages.h"
+
+#include "cardwright/Modules.h"
+#include "vbscript/Engine.h"
+
+namespace cardwright::app {
+namespace {
+
+const ScriptLanguage& JScript() {
+  static const auto& language =
+      *static_cast<const ScriptLanguage*>(LoadModule("jscript", "cardwrightJScriptLanguage"));
+  return language;
+}
+
+}  // namespace
+
+ScriptLanguages Languages() {
+  return {vbscript::Language(),
+          {.name = u"JScript",
+           .extension = u"js",
+           .makeEngine = [](ScriptHost& host) { return JScript().makeEngine(host); },
+           .check = [](std::u16string_view source) { return JScript().check(source); },
+           .disassemble = nullptr}};
+}
+
+}  // namespace cardwright::app

@@ -1,0 +1,40 @@
+#pragma once
+
+#include "automation/Collection.h"
+#include "platform/Desktop.h"
+
+namespace cardwright::robot {
+
+/// The thread's desktop while a robot sits at it: it keeps what was shown, heard and asked for, and starts no
+/// programs. Everything else is the desktop below's, which it takes the place of for its life.
+class AttendedDesktop final : public Desktop {
+ public:
+  AttendedDesktop();
+  ~AttendedDesktop() override;
+  AttendedDesktop(const AttendedDesktop&) = delete;
+  AttendedDesktop& operator=(const AttendedDesktop&) = delete;
+
+  const Ref<Collection>& Messages() const noexcept { return m_Messages; }
+  const Ref<Collection>& Launches() const noexcept { return m_Launches; }
+  std::int32_t Beeps() const noexcept { return m_Beeps; }
+
+  int ShowMessage(const Text& text, int style, const Text& title) override;
+  Variant AskText(const Text& prompt, const Text& title, const Text& initial, const Variant& x,
+                  const Variant& y) override;
+  void Beep() override;
+  Ref<Widget> ActiveControl() const override { return m_Below.ActiveControl(); }
+  OleColor ResolveColor(OleColor color) const override { return m_Below.ResolveColor(color); }
+  bool IsWindow(std::int32_t handle) const override { return m_Below.IsWindow(handle); }
+  void Start(const Text& commandLine) override;
+  SettingsStore& Settings() override { return m_Below.Settings(); }
+
+ private:
+  void Keep(const Text& text, int style, const Text& title);
+
+  Desktop& m_Below;
+  const Ref<Collection> m_Messages = MakeRef<Collection>();
+  const Ref<Collection> m_Launches = MakeRef<Collection>();
+  std::int32_t m_Beeps = 0;
+};
+
+}  // namespace cardwright::robot

@@ -1,0 +1,41 @@
+#include "robot/Targets.h"
+
+#include "automation/Errors.h"
+#include "automation/Object.h"
+#include "model/IControl.h"
+#include "qt/QtSurface.h"
+#include "qt/WidgetCore.h"
+#include "runtime/FormInput.h"
+
+namespace cardwright::robot {
+namespace {
+
+QWidget& Alive(QWidget* widget) {
+  if (!widget) Raise(ErrorNumber::ObjectNotSet);
+  return *widget;
+}
+
+QWidget& CanvasOf(FormInput& form) {
+  auto* surface = dynamic_cast<qt::QtSurface*>(form.GetSurface());
+  return Alive(surface ? surface->Native() : nullptr);
+}
+
+/// What stands on the screen for it: its widget, or for the form as a whole the visual control.
+Ref<Object> ShownAs(const IControl& control) {
+  const Ref<Object> widget = control.BoundObject();
+  return widget ? widget : control.ParentForm();
+}
+
+}  // namespace
+
+QWidget& WidgetOf(const Variant& value) {
+  Ref<Object> object(&RequireObject(value));
+  if (const auto* control = dynamic_cast<const IControl*>(object.get())) object = ShownAs(*control);
+  if (!object) Raise(ErrorNumber::ObjectNotSet);
+  if (auto* form = dynamic_cast<FormInput*>(object.get())) return CanvasOf(*form);
+  auto* core = dynamic_cast<qt::WidgetCore*>(object.get());
+  if (!core) Raise(ErrorNumber::TypeMismatch);
+  return Alive(core->Native());
+}
+
+}  // namespace cardwright::robot

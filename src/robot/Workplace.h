@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QPointer>
+#include <vector>
+
+#include "hosting/ClassRegistry.h"
+#include "robot/ControlWindow.h"
+#include "robot/HostList.h"
+
+namespace cardwright::robot {
+
+/// The windows and the connections of one script run. Both end with it.
+class Workplace {
+ public:
+  Workplace() = default;
+  ~Workplace();
+  Workplace(const Workplace&) = delete;
+  Workplace& operator=(const Workplace&) = delete;
+
+  /// Adds Cardwright.Hosts, Cardwright.Robot and the visual controls; the classes may be used as long as the
+  /// workplace lasts. They need a QApplication and the thread's desktop.
+  void AddClasses(ClassRegistry& classes);
+
+ private:
+  Ref<Object> MakeFormInput();
+
+  const Ref<HostList> m_Hosts = MakeRef<HostList>();
+  std::vector<QPointer<ControlWindow>> m_Windows;
+};
+
+}  // namespace cardwright::robot

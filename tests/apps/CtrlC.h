@@ -1,0 +1,11 @@
+#pragma once
+
+#include "Program.h"
+
+namespace cardwright::testing {
+
+/// Starts a script that first writes to standard error, with its streams in the files "out" and "err" of the
+/// folder, and sends it Ctrl+C then. Its exit status, or -1.
+int StatusAfterCtrlC(const TempFolder& folder, const std::string& script);
+
+}  // namespace cardwright::testing

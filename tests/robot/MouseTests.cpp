@@ -1,0 +1,75 @@
+#include "robot/Mouse.h"
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QDialog>
+#include <QElapsedTimer>
+
+#include "automation/Errors.h"
+#include "robot/Recorder.h"
+
+namespace cardwright::robot {
+namespace {
+
+TEST(MouseTest, PressesAndReleasesWithTheButtonDownBetween) {
+  Recorder window;
+  Mouse mouse;
+  mouse.Click(window, {5, 6});
+  EXPECT_EQ(window.Take(), "press1/1@5,6 release1/0@5,6 ");
+  mouse.Click(window, {5, 6}, {Qt::LeftButton, Qt::ShiftModifier | Qt::ControlModifier});
+  EXPECT_EQ(window.Take(), "press1/1@5,6+3 release1/0@5,6+3 ") << "two clicks are no double click";
+}
+
+TEST(MouseTest, ClicksTwiceForADoubleClick) {
+  Recorder window;
+  Mouse().DoubleClick(window, {5, 6});
+  EXPECT_EQ(window.Take(), "press1/1@5,6 release1/0@5,6 double1/1@5,6 release1/0@5,6 ");
+}
+
+TEST(MouseTest, AsksForTheMenuWithTheRightButton) {
+  Recorder window;
+  Mouse().Click(window, {5, 6}, {Qt::RightButton, Qt::NoModifier});
+  EXPECT_EQ(window.Take(), "press2/2@5,6 menu release2/0@5,6 ");
+}
+
+TEST(MouseTest, DragsInEvenMoves) {
+  Recorder window;
+  Mouse().Drag(window, {10, 10}, {30, 20}, {}, 2);
+  EXPECT_EQ(window.Take(), "press1/1@10,10 move0/1@20,15 move0/1@30,20 release1/0@30,20 ");
+}
+
+TEST(MouseTest, GoesOnInALoopThatWaitsForTheRelease) {
+  Recorder window;
+  window.onPress = [] {
+    QElapsedTimer waiting;
+    waiting.start();
+    while (QGuiApplication::mouseButtons() && waiting.elapsed() < 5000)
+      QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
+    EXPECT_LT(waiting.elapsed(), 5000);
+  };
+  Mouse().Drag(window, {0, 0}, {8, 0}, {}, 1);
+  EXPECT_EQ(window.Take(), "press1/1@0,0 move0/1@8,0 release1/0@8,0 ");
+}
+
+TEST(MouseTest, CannotReachWhatIsNotOnTheScreen) {
+  Recorder window;
+  EXPECT_THROW(Mouse().Click(window, {5, 500}), Error);
+  window.hide();
+  EXPECT_THROW(Mouse().Click(window, {5, 5}), Error);
+  EXPECT_EQ(window.Take(), "");
+}
+
+TEST(MouseTest, MayCloseTheWindowThatItPresses) {
+  auto* window = new Recorder;
+  const QPointer<QWidget> watch = window;
+  window->onPress = [window] { window->deleteLater(); };
+  Mouse().Click(*window, {5, 5});
+  EXPECT_FALSE(watch);
+  Recorder next;
+  Mouse().Click(next, {1, 1});
+  EXPECT_EQ(next.Take(), "press1/1@1,1 release1/0@1,1 ");
+}
+
+}  // namespace
+}  // namespace cardwright::robot

@@ -1,0 +1,69 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cctype>
+#include <cstdlib>
+#include <sstream>
+
+#include "apps/Program.h"
+
+namespace cardwright::testing {
+namespace {
+
+namespace fs = std::filesystem;
+
+std::vector<fs::path> ScriptFiles() {
+  std::vector<fs::path> files;
+  for (const fs::directory_entry& entry : fs::directory_iterator(SourceFile("tests/scripts")))
+    if (entry.path().extension() == ".vbs" || entry.path().extension() == ".js")
+      files.push_back(entry.path());
+  std::sort(files.begin(), files.end());
+  return files;
+}
+
+/// What the comments of a script promise: `' expect: LINE`, or with `//` in JScript.
+std::string Expected(const std::string& source) {
+  std::istringstream lines(source);
+  std::string expected;
+  for (std::string line; std::getline(lines, line);) {
+    if (line.ends_with('\r')) line.pop_back();
+    for (const std::string mark : {"' expect:", "// expect:"}) {
+      if (!line.starts_with(mark)) continue;
+      std::string text = line.substr(mark.size());
+      if (text.starts_with(' ')) text.erase(0, 1);
+      expected += text + "\n";
+    }
+  }
+  return expected;
+}
+
+class Scripts : public ::testing::TestWithParam<fs::path> {};
+
+TEST_P(Scripts, PrintWhatTheyPromise) {
+  const TempFolder folder;
+  folder.Copy("examples/wells/well-inspection.cwf");
+  folder.Copy("examples/wells/wells.gpkg");
+  ::setenv("XDG_CONFIG_HOME", folder.File("config").c_str(), 1);
+  // The toolkit wants a folder of the user's alone for its sockets and says so where there is none.
+  fs::create_directory(folder.File("runtime"));
+  fs::permissions(folder.File("runtime"), fs::perms::owner_all);
+  ::setenv("XDG_RUNTIME_DIR", folder.File("runtime").c_str(), 1);
+  const std::string expected = Expected(ReadAll(GetParam().string()));
+  ASSERT_NE(expected, "") << "the script promises nothing";
+  const Outcome outcome = Cardwright({"script", GetParam().string(), folder.File("")});
+  EXPECT_EQ(outcome.out, expected);
+  EXPECT_EQ(outcome.err, "");
+  EXPECT_EQ(outcome.status, 0);
+}
+
+std::string NameOf(const ::testing::TestParamInfo<fs::path>& script) {
+  std::string name = script.param.stem().string();
+  std::replace_if(
+      name.begin(), name.end(), [](unsigned char c) { return !std::isalnum(c); }, '_');
+  return name;
+}
+
+INSTANTIATE_TEST_SUITE_P(Files, Scripts, ::testing::ValuesIn(ScriptFiles()), NameOf);
+
+}  // namespace
+}  // namespace cardwright::testing
