@@ -221,7 +221,8 @@ bool Translator::WordBoundary() {
   return true;
 }
 
-// As many digits as name a group of the pattern.
+// As many digits as name a group of the pattern. In parentheses, as the library's machine code counts turns
+// of a bare reference to a group that matched nothing otherwise than its interpreter.
 bool Translator::BackReference() {
   if (m_Pattern[m_At] == u'0') return false;
   std::size_t digits = 0;
@@ -237,7 +238,7 @@ bool Translator::BackReference() {
   if (digits == 0) return false;
   m_At += digits;
   const std::u16string notation = u"\\g{" + Decimal(group) + u'}';
-  Atom(m_Result.foldsReferences ? u"(?i:" + notation + u')' : notation, true);
+  Atom((m_Result.foldsReferences ? u"(?i:" : u"(?:") + notation + u')', true);
   return true;
 }
 
