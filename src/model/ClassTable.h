@@ -26,6 +26,8 @@ struct PropertyRow {
   Field field;
   std::span<const std::u16string_view> choices = {};  ///< of a ptList row
   int filter = 0;                                     ///< number of the message with the dialog filter
+  int argument = 0;  ///< number of the message that stands in the description as its argument
+  ControlTypeEnum links = ControlTypeEnum::ctDefault;  ///< of a ptControls row: the kind of control it names
 };
 
 /// Form in which a value stands in a form project.

@@ -107,6 +107,11 @@ constexpr KeyGroup Key(std::u16string_view name, Field field, const char16_t* fa
   return {{{name, KeyForm::Text, field, fallback}}};
 }
 
+/// The same of a colour.
+constexpr KeyGroup ColorKey(std::u16string_view name, Field field) {
+  return {{{name, KeyForm::Color, field}}};
+}
+
 }  // namespace keys
 /// @}
 

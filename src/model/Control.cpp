@@ -138,7 +138,14 @@ void Control::SelectInDesigner() {
   if (Designer()) Designer()->SetCtrl(Ref<IControl>(this));
 }
 
-void Control::OpenDesignerMenu() { Designer()->OpenControlMenu(*this); }
+// A widget with a menu of its own is switched off meanwhile.
+void Control::OpenDesignerMenu() {
+  if (!HasOwnMenu()) return Designer()->OpenControlMenu(*this);
+  const Ref<Widget> widget = m_Obj;
+  Attempt([&] { widget->SetEnabled(false); });
+  Attempt([&] { Designer()->OpenControlMenu(*this); });
+  Attempt([&] { widget->SetEnabled(true); });
+}
 
 bool FlagIsSet(const Text& flag) noexcept {
   return AttemptOr(false, [&] { return ToBoolean(Variant(flag)); });

@@ -68,6 +68,8 @@ class Control : public TableControl, protected WidgetListener {
   /// Makes this the designer's current control.
   void SelectInDesigner();
   virtual void OpenDesignerMenu();
+  /// Whether the widget has a menu of its own, which must not open beside the designer's.
+  virtual bool HasOwnMenu() const { return false; }
 
  private:
   Ref<Widget> m_Obj;

@@ -1,27 +1,44 @@
 #include "model/ControlClasses.h"
 
+#include "model/CAttributeSelector.h"
 #include "model/CCheckBox.h"
+#include "model/CColorSelector.h"
 #include "model/CComboBox.h"
 #include "model/CCommandButton.h"
+#include "model/CFontSelector.h"
 #include "model/CFrame.h"
 #include "model/CLabel.h"
 #include "model/CListBox.h"
 #include "model/COptionButton.h"
+#include "model/CResourceSelector.h"
 #include "model/CTextBox.h"
 #include "model/CTextBoxMultiline.h"
+#include "model/CThemeSelector.h"
 
 namespace cardwright {
 namespace {
 
 template <class C>
-constexpr ControlClass Class() {
-  return {&C::kTable, [] { return Ref<Control>(MakeRef<C>()); }};
+constexpr ControlClass Class(ControlTypeEnum type) {
+  return {type, &C::kTable, [] { return Ref<Control>(MakeRef<C>()); }};
 }
 
+using enum ControlTypeEnum;
 constexpr ControlClass kClasses[] = {
-    Class<CLabel>(),         Class<CTextBox>(),          Class<CFrame>(),
-    Class<CCheckBox>(),      Class<COptionButton>(),     Class<CComboBox>(),
-    Class<CCommandButton>(), Class<CTextBoxMultiline>(), Class<CListBox>(),
+    Class<CLabel>(ctLabel),
+    Class<CTextBox>(ctTextBox),
+    Class<CFrame>(ctFrame),
+    Class<CCheckBox>(ctCheckBox),
+    Class<COptionButton>(ctOptionButton),
+    Class<CComboBox>(ctComboBox),
+    Class<CCommandButton>(ctCommandButton),
+    Class<CTextBoxMultiline>(ctTextBoxMultiline),
+    Class<CResourceSelector>(ctResourceSelector),
+    Class<CThemeSelector>(ctThemeSelector),
+    Class<CAttributeSelector>(ctAttributeSelector),
+    Class<CFontSelector>(ctFontSelector),
+    Class<CColorSelector>(ctColorSelector),
+    Class<CListBox>(ctListBox),
 };
 
 struct FixedType {
@@ -52,6 +69,12 @@ Text WidgetIdentifier(std::u16string_view type) {
 const ControlClass* FindControlClass(std::u16string_view widgetIdentifier) noexcept {
   for (const ControlClass& candidate : kClasses)
     if (candidate.table->widgetIdentifier == widgetIdentifier) return &candidate;
+  return nullptr;
+}
+
+const ControlClass* FindControlClass(ControlTypeEnum type) noexcept {
+  for (const ControlClass& candidate : kClasses)
+    if (candidate.type == type) return &candidate;
   return nullptr;
 }
 

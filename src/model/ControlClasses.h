@@ -9,6 +9,7 @@ namespace cardwright {
 
 /// One class of control that a form may hold.
 struct ControlClass {
+  ControlTypeEnum type;
   const ClassTable* table;
   Ref<Control> (*create)();
 };
@@ -22,5 +23,7 @@ Text WidgetIdentifier(std::u16string_view type);
 /// The class that works with widgets of that identifier; null where there is none, as for
 /// "CardwrightCtrl.DbTableViewer", so that projects which mention it load without it.
 const ControlClass* FindControlClass(std::u16string_view widgetIdentifier) noexcept;
+/// The class of a kind; null for the selection tool and the table viewer.
+const ControlClass* FindControlClass(ControlTypeEnum type) noexcept;
 
 }  // namespace cardwright

@@ -69,6 +69,8 @@ class DesignerOwner : public FormOwner {
   virtual ControlTypeEnum ControlTypeToAdd() const = 0;
   virtual std::vector<Ref<IControl>> FilterControls(ControlTypeEnum type) const = 0;
   virtual void ShowArrowPointer() = 0;
+  /// Shows the grab handles around the current control where it stands now, or hides them.
+  virtual void ShowHandles(bool show) = 0;
   /// The popup menu of a control, with its items as the lock allows.
   virtual void OpenControlMenu(IControl& control) = 0;
 

@@ -118,7 +118,9 @@ PropertyTypeEnum TableControl::PropertyType(const Variant& index) const {
 
 Text TableControl::PropertyDescription(const Variant& index) const {
   const PropertyRow* row = GridRow(index);
-  return row ? GetMessage(row->description) : Text();
+  if (!row) return {};
+  return row->argument ? GetMessage(row->description, {Variant(GetMessage(row->argument))})
+                       : GetMessage(row->description);
 }
 
 Variant TableControl::PropertyValue(const Variant& index) const {
@@ -139,7 +141,15 @@ void TableControl::SetRow(std::u16string_view name, const Variant& value) {
 std::vector<Text> TableControl::PropertyList(const Variant& index) const {
   const PropertyRow* row = AnyRow(index);
   if (!row) return {};
+  if (row->type == PropertyTypeEnum::ptControls) return NamesOfKind(row->links);
   return {row->choices.begin(), row->choices.end()};
+}
+
+std::vector<Text> TableControl::NamesOfKind(ControlTypeEnum type) const {
+  std::vector<Text> names;
+  if (!Designer()) return names;
+  for (const Ref<IControl>& control : Designer()->FilterControls(type)) names.push_back(control->UserName());
+  return names;
 }
 
 Text TableControl::FilenameFilter(const Variant& index) const {

@@ -72,6 +72,8 @@ class TableControl : public IControl {
   const PropertyRow* AnyRow(const Variant& index) const;
   const PropertyRow* RowAt(int position) const;
   const PropertyRow* RowNamed(std::u16string_view name) const;
+  /// User names of the form's controls of a kind, for an author to choose from; none outside the designer.
+  std::vector<Text> NamesOfKind(ControlTypeEnum type) const;
 
   template <class Kind>
   static Kind* OwnerAt(const Ref<OwnerLink>& link) noexcept {

@@ -23,12 +23,4 @@ void TextEntry::OnKeyPress(char16_t& key) {
                   FlagIsSet(m_MinusSignEnabled));
 }
 
-// The widget is switched off meanwhile, so that its own menu does not open beside the designer's.
-void TextEntry::OpenDesignerMenu() {
-  const Ref<Widget> widget(Bound());
-  Attempt([&] { widget->SetEnabled(false); });
-  Attempt([&] { Control::OpenDesignerMenu(); });
-  Attempt([&] { widget->SetEnabled(true); });
-}
-
 }  // namespace cardwright

@@ -21,7 +21,7 @@ class TextEntry : public Control {
   void OnChange() override { RunScriptEvent(u"OnChange"); }
   void OnGotFocus() override;
   void OnKeyPress(char16_t& key) override;
-  void OpenDesignerMenu() override;
+  bool HasOwnMenu() const override { return true; }
 };
 
 }  // namespace cardwright

@@ -28,6 +28,11 @@ class WidgetListener {
   virtual void OnMouseUp(int /*button*/, int /*shift*/, float /*x*/, float /*y*/) {}
   /// A check box of a list view was clicked; `index` counts from 1.
   virtual void OnItemCheck(int /*index*/) {}
+  /// The button of a selector was pressed: before its selection opens, and when it has closed again.
+  virtual void OnBeforeButtonClick() {}
+  virtual void OnAfterButtonClick() {}
+  /// The widget gave itself another size, as one that follows its font does.
+  virtual void OnResize() {}
 
  protected:
   ~WidgetListener() = default;

@@ -1,5 +1,7 @@
 #include "runtime/AttributeBinding.h"
 
+#include <vector>
+
 #include "runtime/ControlValues.h"
 #include "runtime/FormInput.h"
 #include "runtime/RedrawPause.h"
@@ -35,14 +37,40 @@ void ForEachBound(FormInput& form, const CAttribs& attribs, Use&& use) {
   }
 }
 
+/// Values whose controls may stand before those that fill their lists: a rename puts a control behind all
+/// others. They are shown again at the end, or OK would clear their attributes.
+class LateValues {
+ public:
+  void Note(Control& control, const Text& reply) {
+    if (FollowsOthers(control)) m_Values.push_back({Ref<Control>(&control), reply});
+  }
+  void Show() const {
+    for (const Value& late : m_Values)
+      Attempt([&] {
+        if (!EqualsNoCase(late.control->DisplayText(), late.reply))
+          late.control->SetRow(u"Text", Variant(late.reply));
+      });
+  }
+
+ private:
+  struct Value {
+    Ref<Control> control;
+    Text reply;
+  };
+  std::vector<Value> m_Values;
+};
+
 void LoadControls(FormInput& form, const FeaturePlace& place, const CAttribs& attribs) {
   const bool limitsOnly = IsBlank(form.FeatureID()) || form.NewFeature();
+  LateValues late;
   ForEachBound(form, attribs, [&](Control& control, const CAttrib& attrib) {
     Attempt([&] { LimitInput(control, attrib); });
     if (limitsOnly) return;
     const Text reply = SharedHost().ORVRequest(commands::GetAttribute(place, attrib.m_Name));
     Attempt([&] { ShowReply(form.Controls(), control, attrib, reply); });
+    late.Note(control, reply);
   });
+  late.Show();
 }
 
 // The value as it stands in the command: texts between bars, a blank clearing the attribute; numbers with a

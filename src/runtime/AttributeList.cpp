@@ -16,19 +16,6 @@ std::int32_t NumberIn(const Text& field) {
   return AttemptOr(0, [&] { return ToLong(Variant(Val(field))); });
 }
 
-// A record that has not exactly four fields makes an attribute without a name, which no control can be bound
-// to.
-Ref<CAttrib> ParseRecord(const Text& record) {
-  auto attrib = MakeRef<CAttrib>();
-  const std::vector<Text> fields = Split(record, u',');
-  if (fields.size() != 4) return attrib;
-  attrib->m_Name = fields[0];
-  attrib->m_AttribType = static_cast<AttributeTypeEnum>(NumberIn(fields[1]));
-  attrib->m_Length = NumberIn(fields[2]);
-  attrib->m_Decs = NumberIn(fields[3]);
-  return attrib;
-}
-
 std::vector<Text> RequestRecords(const FeaturePlace& place) {
   HostExecutor& host = SharedHost();
   const double count = std::min(Val(host.ORVRequest(commands::AttributeNumber(place))), kMostAttributes);
@@ -42,11 +29,22 @@ std::vector<Text> RequestRecords(const FeaturePlace& place) {
 
 }  // namespace
 
+Ref<CAttrib> ParseAttributeRecord(const Text& record) {
+  auto attrib = MakeRef<CAttrib>();
+  const std::vector<Text> fields = Split(record, u',');
+  if (fields.size() != 4) return attrib;
+  attrib->m_Name = fields[0];
+  attrib->m_AttribType = static_cast<AttributeTypeEnum>(NumberIn(fields[1]));
+  attrib->m_Length = NumberIn(fields[2]);
+  attrib->m_Decs = NumberIn(fields[3]);
+  return attrib;
+}
+
 Ref<CAttribs> AttributeList::Read(const FeaturePlace& place) {
   std::vector<Text> records = RequestRecords(place);
   if (!m_Attribs || records != m_Records) {
     auto attribs = MakeRef<CAttribs>();
-    for (const Text& record : records) attribs->Add(ParseRecord(record));
+    for (const Text& record : records) attribs->Add(ParseAttributeRecord(record));
     m_Records = std::move(records);
     m_Attribs = attribs;
   }

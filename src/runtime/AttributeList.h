@@ -7,6 +7,10 @@
 
 namespace cardwright {
 
+/// What a host's record "Name,AttribType,Length,Decs" says. One that has not exactly four fields makes an
+/// attribute without a name, which no control can be bound to.
+Ref<CAttrib> ParseAttributeRecord(const Text& record);
+
 /// The attributes that the host has for a form's theme. The host is asked anew each time; as it nearly always
 /// answers what it answered before, only a record that differs is taken apart again.
 class AttributeList {

@@ -163,6 +163,8 @@ void ShowReply(const Collection& controls, Control& control, const CAttrib& attr
   if (binding && binding->show) binding->show(controls, control, attrib, reply);
 }
 
+bool FollowsOthers(const Control& control) { return control.Table().className == u"CAttributeSelector"; }
+
 bool TakeValue(Control& control, Text& value) {
   const Binding* binding = BindingOf(control);
   if (binding && binding->take) return binding->take(control, value);

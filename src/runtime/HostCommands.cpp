@@ -62,6 +62,11 @@ Text CurrentIsValid(const FeaturePlace& place) {
   return Fill(u"THEME_CURRENT_ISVALID |%%t%%| |%%ft%%|", place);
 }
 Text SelectNone(const FeaturePlace& place) { return Fill(u"THEME_SELECTION_NONE |%%t%%| |%%ft%%|", place); }
+Text ThemeNumber(const Text& theme) { return Fill(u"THEME_NUMBER |%%t%%|", {theme, {}}); }
+Text CreateTheme(const FeaturePlace& place) { return Fill(u"THEME_CREATE |%%t%%| |%%ft%%|", place); }
+Text AttributeNames(const FeaturePlace& place) {
+  return Fill(u"THEME_ATTRIBUTE_NAMES |%%t%%| |%%ft%%|", place);
+}
 Text AttributeNumber(const FeaturePlace& place) {
   return Fill(u"THEME_ATTRIBUTE_NUMBER |%%t%%| |%%ft%%|", place);
 }

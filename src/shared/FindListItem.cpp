@@ -8,8 +8,9 @@ namespace cardwright {
 namespace {
 
 /// The rows that the search looks at, of a widget known by its class.
-struct ComboRows {
-  const ComboWidget& list;
+template <class List>
+struct KnownRows {
+  const List& list;
 
   int Count() const { return list.ListCount(); }
   Text RowText(int row) const { return list.ListText(row); }
@@ -59,7 +60,11 @@ int Find(const Rows& rows, std::u16string_view text, const ListSearch& search) {
 }  // namespace
 
 int FindListItem(const ComboWidget& list, std::u16string_view text, const ListSearch& search) {
-  return Find(ComboRows{list}, text, search);
+  return Find(KnownRows<ComboWidget>{list}, text, search);
+}
+
+int FindListItem(const HostListWidget& list, std::u16string_view text, const ListSearch& search) {
+  return Find(KnownRows<HostListWidget>{list}, text, search);
 }
 
 int FindListItem(Object& list, std::u16string_view text, const ListSearch& search) {

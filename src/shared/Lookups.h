@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "automation/Object.h"
+#include "platform/SelectorWidgets.h"
 #include "platform/Surface.h"
 #include "platform/Widget.h"
 
@@ -34,6 +35,7 @@ struct ListSearch {
 /// @name First row of a list that the text names, counted from 0, or `search.notFound`. Neither fails.
 /// @{
 int FindListItem(const ComboWidget& list, std::u16string_view text, const ListSearch& search);
+int FindListItem(const HostListWidget& list, std::u16string_view text, const ListSearch& search);
 /// For any widget that has `ListCount`, `List` and `ItemData`.
 int FindListItem(Object& list, std::u16string_view text, const ListSearch& search);
 /// @}

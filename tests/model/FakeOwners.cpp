@@ -1,5 +1,6 @@
 #include "model/FakeOwners.h"
 
+#include "model/ControlClasses.h"
 #include "model/Rename.h"
 #include "model/TableControl.h"
 #include "shared/ModuleState.h"
@@ -61,6 +62,14 @@ const MemberTable& FakeInput::Members() const { return NoMembers(); }
 void FakeDesigner::SetCtrl(Ref<IControl> control) {
   Write("SetCtrl " + NameOf(*control));
   m_Current = control;
+}
+
+std::vector<Ref<IControl>> FakeDesigner::FilterControls(ControlTypeEnum type) const {
+  std::vector<Ref<IControl>> controls;
+  const ControlClass* wanted = FindControlClass(type);
+  for (const Ref<IControl>& control : ControlsOf(*m_Controls))
+    if (wanted && control->TypeName() == wanted->table->className) controls.push_back(control);
+  return controls;
 }
 
 void FakeDesigner::OpenControlMenu(IControl& control) {

@@ -50,8 +50,9 @@ class FakeDesigner final : public TableObject, public DesignerOwner, public Owne
   void SetCtrl(Ref<IControl> control) override;
   Ref<IControl> CurrentControl() const override { return m_Current; }
   ControlTypeEnum ControlTypeToAdd() const override { return typeToAdd; }
-  std::vector<Ref<IControl>> FilterControls(ControlTypeEnum) const override { return {}; }
+  std::vector<Ref<IControl>> FilterControls(ControlTypeEnum type) const override;
   void ShowArrowPointer() override { Write("arrow"); }
+  void ShowHandles(bool show) override { Write(show ? "handles" : "no handles"); }
   void OpenControlMenu(IControl& control) override;
   void SurfaceMouseDown(int button, int shift, float x, float y) override;
   void SurfaceMouseMove(int button, int shift, float x, float y) override;

@@ -101,7 +101,7 @@ TEST(Project, PutsTheContentsOfAFrameIntoIt) {
   const TempFolder folder;
   DesignForm on;
   EXPECT_TRUE(on.form->Read(folder.Put("a.frm", EveryClass(3)), {}));
-  EXPECT_EQ(on.Names(), "Form, fra, lbl, chk, opt, txt, mul, cbo, lst, cmd");
+  EXPECT_EQ(on.Names(), "Form, fra, lbl, chk, opt, txt, mul, cbo, lst, cmd, res, thm, att, fnt, col");
   EXPECT_EQ(NativeOf(*on.Find(u"opt")).parentWidget(), &NativeOf(*on.Find(u"fra")));
   EXPECT_EQ(on.Find(u"opt")->GetFont()->Values(),
             (FontValues{.name = u"Arial", .size = 12.5, .bold = true, .strikethrough = true}));

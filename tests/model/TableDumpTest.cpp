@@ -45,6 +45,9 @@ void WriteRow(std::ostream& out, std::size_t number, const PropertyRow& row) {
   for (std::size_t i = 0; i < row.choices.size(); ++i)
     out << (i == 0 ? " choices: " : ", ") << Utf8(row.choices[i]);
   if (row.filter) out << " filter: " << Message(row.filter);
+  if (row.argument) out << " with " << Message(row.argument);
+  if (const ControlClass* linked = FindControlClass(row.links))
+    out << " links: " << Utf8(linked->table->className);
   out << "\n";
 }
 
