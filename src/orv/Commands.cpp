@@ -2,6 +2,7 @@
 #include <algorithm>
 
 #include "orv/ErrorTrap.h"
+#include "orv/NewTheme.h"
 #include "orv/Refusal.h"
 #include "orv/Session.h"
 
@@ -18,9 +19,12 @@ namespace {
 
 Text NumberText(std::size_t number) { return Text::FromUtf8(std::to_string(number)); }
 
+/// A list split at commas cannot hold them.
+bool IsListed(const Text& name) { return name.View().find(u',') == std::u16string_view::npos; }
+
 /// The names that a list split at commas can hold, joined.
 void AppendName(Text& list, const Text& name) {
-  if (name.View().find(u',') != std::u16string_view::npos) return;
+  if (!IsListed(name)) return;
   if (!list.IsEmpty()) list += u",";
   list += name;
 }
@@ -40,6 +44,18 @@ Text EmbeddedHost::Session::ThemeNames(CommandReader& parts) {
   return names;
 }
 
+Text EmbeddedHost::Session::ThemeFeatureTypes(CommandReader& parts) {
+  parts.End();
+  Text types;
+  bool isFirst = true;
+  for (const auto& theme : m_Themes) {
+    if (!IsListed(theme->Name())) continue;
+    if (!std::exchange(isFirst, false)) types += u",";
+    types += theme->FeatureType();
+  }
+  return types;
+}
+
 Text EmbeddedHost::Session::ThemeNumber(CommandReader& parts) {
   const auto name = parts.Barred(u"theme name");
   parts.End();
@@ -50,6 +66,17 @@ Text EmbeddedHost::Session::ThemeActive(CommandReader& parts) {
   // Nothing here makes a theme the active one, so it is always the first.
   parts.End();
   return m_Themes.empty() ? Text() : m_Themes.front()->Name();
+}
+
+Text EmbeddedHost::Session::ThemeCreate(CommandReader& parts) {
+  const auto name = Trim(parts.Barred(u"theme name"));
+  const auto featureType = Trim(parts.Barred(u"feature type"));
+  parts.End();
+  orv::RequireThemeName(name, m_Store);
+  if (m_Index.Find(name) != orv::NameIndex::kNone) Refuse(u"There is a theme " + Quoted(name) + u" already.");
+  AddTheme(orv::CreateLayer(m_Store, name, featureType));
+  m_LastTheme = nullptr;
+  return {};
 }
 
 Text EmbeddedHost::Session::SelectByValue(CommandReader& parts) {
@@ -104,6 +131,25 @@ std::vector<std::int64_t> EmbeddedHost::Session::IdsWhere(Theme& theme, const At
     if (orv::ReadField(*feature, attribute.field, attribute.kind) == text) ids.push_back(feature->GetFID());
   layer.ResetReading();
   return ids;
+}
+
+std::vector<std::int64_t> EmbeddedHost::Session::FeatureIds(std::u16string_view name) try {
+  Theme* const theme = FindTheme(name);
+  if (!theme) return {};
+  OGRLayer& layer = theme->Layer();
+  if (m_Store.SpeaksSqlite()) {
+    const std::string key = orv::SqlKey(layer);
+    // The sum, as with a condition.
+    return m_Store.Numbers("SELECT " + key + " + 0 FROM " + orv::SqlTable(layer) + " ORDER BY " + key);
+  }
+  const orv::ErrorTrap trap;
+  std::vector<std::int64_t> ids;
+  layer.ResetReading();
+  while (const OGRFeatureUniquePtr feature{layer.GetNextFeature()}) ids.push_back(feature->GetFID());
+  layer.ResetReading();
+  return ids;
+} catch (const Refusal&) {
+  return {};
 }
 
 Text EmbeddedHost::Session::SelectNone(CommandReader& parts) {

@@ -34,6 +34,12 @@ void EmbeddedHost::Tell(const Text& reason) const {
   tell(reason);
 }
 
+std::vector<std::int64_t> EmbeddedHost::FeatureIds(std::u16string_view theme) {
+  const Ref<EmbeddedHost> self = Hold();
+  Tell(m_Session->FinishEdits());
+  return m_Session->FeatureIds(theme);
+}
+
 Text EmbeddedHost::LastError() const { return m_Session->lastError; }
 
 bool EmbeddedHost::IsReadOnly() const noexcept { return m_Session->IsReadOnly(); }

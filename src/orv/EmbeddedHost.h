@@ -4,6 +4,7 @@
 #include <functional>
 #include <memory>
 #include <string_view>
+#include <vector>
 
 #include "platform/HostConnection.h"
 
@@ -33,6 +34,10 @@ class EmbeddedHost final : public HostConnection {
   Text Execute(std::u16string_view command) override;
   /// The answer; "" where the request cannot be met. `onRefusal` is told of refused changes only.
   Text Request(std::u16string_view command) override;
+
+  /// Ids of all features of a theme in the store's order, for a program that shows them: the command language
+  /// has no such list. Empty where there is no such theme or it cannot be read.
+  std::vector<std::int64_t> FeatureIds(std::u16string_view theme);
 
   /// Why the latest command was refused, or "" if it was not.
   Text LastError() const;

@@ -20,21 +20,25 @@ Text Joined(const Text& first, const Text& second) {
 
 EmbeddedHost::Session::Session(const Text& source, bool readOnly) : m_Store(source, readOnly) {
   const orv::ErrorTrap trap;
-  for (OGRLayer* layer : m_Store.Data().GetLayers()) {
-    auto theme = std::make_unique<Theme>(*layer, m_Store);
-    // No command could name it.
-    if (theme->Name().View().find(u'|') != std::u16string_view::npos) continue;
-    m_Index.Add(theme->Name(), static_cast<int>(m_Themes.size()));
-    m_Themes.push_back(std::move(theme));
-  }
+  for (OGRLayer* layer : m_Store.Data().GetLayers()) AddTheme(*layer);
   // A layer whose columns are first read while another program holds a lock stays without them.
   if (trap.IsLock()) orv::RaiseNotOpened(source, trap.Reason());
 }
 
+void EmbeddedHost::Session::AddTheme(OGRLayer& layer) {
+  auto theme = std::make_unique<Theme>(layer, m_Store);
+  // No command could name it.
+  if (theme->Name().View().find(u'|') != std::u16string_view::npos) return;
+  m_Index.Add(theme->Name(), static_cast<int>(m_Themes.size()));
+  m_Themes.push_back(std::move(theme));
+}
+
 const EmbeddedHost::Session::Verb EmbeddedHost::Session::kVerbs[] = {
     {u"THEME_NAMES", Effect::Asks, &Session::ThemeNames},
+    {u"THEME_FEATURE_TYPES", Effect::Asks, &Session::ThemeFeatureTypes},
     {u"THEME_NUMBER", Effect::Asks, &Session::ThemeNumber},
     {u"THEME_ACTIVE", Effect::Asks, &Session::ThemeActive},
+    {u"THEME_CREATE", Effect::EndsEdits, &Session::ThemeCreate},
     {u"THEME_SELECTION_BYVALUE", Effect::EndsEdits, &Session::SelectByValue},
     {u"THEME_SELECTION_NONE", Effect::EndsEdits, &Session::SelectNone},
     {u"THEME_SELECTED_NUMBER", Effect::Asks, &Session::SelectedNumber},

@@ -31,6 +31,7 @@ class EmbeddedHost::Session {
   Outcome Run(std::u16string_view command);
   /// Stores the values that wait; the reason where they could not be stored.
   Text FinishEdits();
+  std::vector<std::int64_t> FeatureIds(std::u16string_view theme);
 
   bool IsReadOnly() const noexcept { return m_Store.IsReadOnly(); }
 
@@ -62,8 +63,11 @@ class EmbeddedHost::Session {
   /// @name The commands, each by its own name.
   /// @{
   Text ThemeNames(CommandReader& parts);
+  /// The feature type of each theme that ThemeNames answers, in its order.
+  Text ThemeFeatureTypes(CommandReader& parts);
   Text ThemeNumber(CommandReader& parts);
   Text ThemeActive(CommandReader& parts);
+  Text ThemeCreate(CommandReader& parts);
   Text SelectByValue(CommandReader& parts);
   Text SelectNone(CommandReader& parts);
   Text SelectedNumber(CommandReader& parts);
@@ -79,6 +83,7 @@ class EmbeddedHost::Session {
   Text ControlWindow(CommandReader& parts);
   /// @}
 
+  void AddTheme(OGRLayer& layer);
   void SelectById(Theme& theme, const orv::GivenValue& id);
   void SelectWhere(Theme& theme, const orv::Attribute& attribute, const orv::GivenValue& given);
   std::vector<std::int64_t> IdsWhere(Theme& theme, const orv::Attribute& attribute,

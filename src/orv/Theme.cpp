@@ -80,6 +80,10 @@ std::u16string_view TypeWord(OGRwkbGeometryType type) {
 
 }  // namespace
 
+Text NoFeatureType(std::u16string_view word) {
+  return Quoted(word) + u" is no feature type; there are POINT, ARC and POLYGON.";
+}
+
 Theme::Theme(OGRLayer& layer, const Store& store) : m_Layer(layer), m_Name(Text::FromUtf8(layer.GetName())) {
   ReadAttributes(store.IsGeoPackage());
 }
@@ -89,11 +93,18 @@ bool Theme::Answers(std::u16string_view featureType) const {
   if (featureType.empty()) return true;
   if (!EqualsNoCase(featureType, u"POINT") && !EqualsNoCase(featureType, u"ARC") &&
       !EqualsNoCase(featureType, u"POLYGON"))
-    Refuse(Quoted(featureType) + u" is no feature type; there are POINT, ARC and POLYGON.");
+    Refuse(NoFeatureType(featureType));
   const OGRwkbGeometryType type = m_Layer.GetGeomType();
   if (type == wkbNone) return false;
   const auto word = TypeWord(type);
   return word.empty() || EqualsNoCase(word, featureType);
+}
+
+std::u16string_view Theme::FeatureType() const {
+  const OGRwkbGeometryType type = m_Layer.GetGeomType();
+  if (type == wkbNone) return {};
+  const auto word = TypeWord(type);
+  return word.empty() ? u"ANY" : word;
 }
 
 const Attribute* Theme::Find(std::u16string_view name) const {

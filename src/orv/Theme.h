@@ -17,6 +17,9 @@ namespace cardwright::orv {
 /// The name under which every theme offers the id of its features.
 inline constexpr std::u16string_view kIdName = u"OVTARVOUNIQUEID";
 
+/// The refusal of a word that stands where a feature type should.
+Text NoFeatureType(std::u16string_view word);
+
 /// One attribute of a theme.
 struct Attribute {
   Text name;
@@ -37,6 +40,8 @@ class Theme {
   /// Whether the theme holds features of that type: "POINT", "ARC", "POLYGON", or "" for any. Refused for
   /// another word.
   bool Answers(std::u16string_view featureType) const;
+  /// "POINT", "ARC" or "POLYGON"; "ANY" for features of mixed types, "" for a table without geometry.
+  std::u16string_view FeatureType() const;
 
   const std::vector<Attribute>& Attributes() const noexcept { return m_Attributes; }
   /// The attribute of that name, or null.

@@ -16,12 +16,13 @@ class ExampleOfWells : public TestStore {
 
 TEST_F(ExampleOfWells, HasTheThemesAndColumnsThatItsFormNames) {
   const auto host = Open(Copy());
-  EXPECT_EQ(Request(*host, "THEME_NAMES"), "wells,aquifers,pipelines");
+  EXPECT_EQ(Request(*host, "THEME_NAMES"), "wells,aquifers,pipelines,symbols");
   EXPECT_EQ(Request(*host, "THEME_ATTRIBUTE_NAMES |wells| |POINT|"),
             "NAME,OWNER,DEPTH,DIAMETER,STATUS,AQUIFER,USE_CODE,INSPECTED,MONITORED,NOTES");
   EXPECT_EQ(Request(*host, "THEME_ATTRIBUTE |wells| |POINT| 10"), "NOTES,0,500,0");
   EXPECT_EQ(Request(*host, "THEME_ATTRIBUTE_NAMES |aquifers| |POLYGON|"), "NAME,AREA_KM2,CLASS");
   EXPECT_EQ(Request(*host, "THEME_ATTRIBUTE_NAMES |pipelines| |ARC|"), "NAME,MATERIAL,DIAMETER,LAID");
+  EXPECT_EQ(Request(*host, "THEME_ATTRIBUTE_NAMES |symbols| ||"), "NAME,THEME,KIND,LABEL,COLOR,FONT,PICTURE");
 }
 
 TEST_F(ExampleOfWells, ShowsItsThirdWellInFull) {
