@@ -19,14 +19,19 @@ void ClassRegistry::Load() {
   m_Load = nullptr;
 }
 
-Ref<Object> ClassRegistry::Create(std::u16string_view progid) {
+const ClassRegistry::Maker* ClassRegistry::Find(std::u16string_view progid) {
   auto found = m_Makers.find(progid);
   if (found == m_Makers.end() && EqualsNoCase(progid.substr(0, m_LoaderPrefix.Size()), m_LoaderPrefix)) {
     Load();
     found = m_Makers.find(progid);
   }
-  if (found == m_Makers.end()) Raise(ErrorNumber::CannotCreateObject);
-  return found->second();
+  return found == m_Makers.end() ? nullptr : &found->second;
+}
+
+Ref<Object> ClassRegistry::Create(std::u16string_view progid) {
+  const Maker* make = Find(progid);
+  if (!make) Raise(ErrorNumber::CannotCreateObject);
+  return (*make)();
 }
 
 }  // namespace cardwright

@@ -22,10 +22,14 @@ class ClassRegistry {
   void SetLoader(std::u16string_view prefix, Loader load);
   /// Runs the loader if it has not run yet. Errors of the loader.
   void Load();
+  /// Whether a class has the identifier. Errors of the loader.
+  bool Has(std::u16string_view progid) { return Find(progid) != nullptr; }
   /// A new object. Error 429 where no class has the identifier; errors of the loader and of the class.
   Ref<Object> Create(std::u16string_view progid);
 
  private:
+  const Maker* Find(std::u16string_view progid);
+
   struct Hash {
     using is_transparent = void;
     std::size_t operator()(std::u16string_view name) const noexcept { return HashNoCase(name); }

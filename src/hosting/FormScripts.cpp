@@ -14,9 +14,12 @@ bool CanOwnDialogs(std::int32_t handle) {
 
 }  // namespace
 
-void ProvideFormScripts(ScriptLanguages languages) {
-  Module().makeScriptControl = [languages = std::move(languages)]() -> Ref<ScriptControl> {
-    return MakeRef<EngineControl>(languages, std::make_unique<FormScriptHost>(), CanOwnDialogs);
+void ProvideFormScripts(ScriptLanguages languages, ClassRegistry onLeave) {
+  const auto makeHost = [classes = std::make_shared<ClassRegistry>(std::move(onLeave))] {
+    return std::make_unique<FormScriptHost>(classes);
+  };
+  Module().makeScriptControl = [languages = std::move(languages), makeHost]() -> Ref<ScriptControl> {
+    return MakeRef<EngineControl>(languages, makeHost, CanOwnDialogs);
   };
 }
 

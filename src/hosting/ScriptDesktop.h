@@ -1,6 +1,7 @@
 #pragma once
 
 #include <chrono>
+#include <functional>
 #include <memory>
 
 #include "hosting/ClassRegistry.h"
@@ -24,7 +25,9 @@ struct ScriptSurroundings {
   ClassRegistry classes;
   std::unique_ptr<ScriptDesktop> desktop = nullptr;  ///< null until a class or a message box has needed it
   bool hasDisplay = false;                           ///< whether message boxes are worth loading the desktop
-  Text program = {};                                 ///< path of the program that runs the script
+  /// Writes a line where the script's output goes: what a box says that nobody sees.
+  std::function<void(const Text& line)> say = nullptr;
+  Text program = {};  ///< path of the program that runs the script
 };
 
 }  // namespace cardwright

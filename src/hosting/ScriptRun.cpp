@@ -28,11 +28,17 @@ ScriptRun::ScriptRun(const ScriptJob& job, const ScriptLanguage& language, Scrip
       m_Events([this](std::u16string_view procedure, Args args) { CallEvent(procedure, args); }),
       m_Engine(language.makeEngine(*this)) {
   m_Signal.emplace(*m_Engine);
+  // Boxes come up in handlers of the toolkit, which no error may pass; output that fails is told of in the
+  // end.
+  m_Surroundings.say = [this](const Text& line) { Attempt([&] { m_Streams.out->WriteLine(line); }); };
   m_Engine->SetTimeout(-1);
   m_Engine->AddObject(u"WScript", MakeRef<WScript>(*this), false);
 }
 
-ScriptRun::~ScriptRun() { m_Signal.reset(); }
+ScriptRun::~ScriptRun() {
+  m_Signal.reset();
+  m_Surroundings.say = nullptr;
+}
 
 int ScriptRun::Run(const Text& source) {
   StatementLog log(m_Job.file, source, m_Streams, m_Job.traces, m_Job.profiles);

@@ -43,6 +43,8 @@ class ScriptRun final : public ScriptHost {
   int ShowMessage(const Text& text, int style, const Text& title) override;
   Variant AskText(const Text& prompt, const Text& title, const Text& initial, const Variant& x,
                   const Variant& y) override;
+  /// After Ctrl+C, which may have come between two calls of the engine.
+  bool WantsStop() override { return InterruptSignal::WasRaised(); }
 
  private:
   bool IsStopping() const noexcept;

@@ -22,6 +22,7 @@ class SettingsStore {
 /// Style of a message box: a question's buttons plus an icon, as the platform numbers them.
 namespace BoxStyle {
 inline constexpr int OkOnly = 0, OkCancel = 1, YesNoCancel = 3, YesNo = 4;
+inline constexpr int SecondIsDefault = 256;  ///< of the buttons
 inline constexpr int Critical = 16, Question = 32, Exclamation = 48, Information = 64;
 }  // namespace BoxStyle
 
@@ -37,6 +38,11 @@ class Desktop {
   /// where it was cancelled. An empty title gives the program's name.
   virtual Variant AskText(const Text& prompt, const Text& title, const Text& initial, const Variant& x,
                           const Variant& y) = 0;
+  /// Whether somebody is there to answer a box.
+  virtual bool IsAttended() const = 0;
+  /// For work that takes long: serves the toolkit's events, but of a person's hands only the Break key; what
+  /// else was pressed or clicked is passed over, and timers wait. True where Break was pressed.
+  virtual bool BreakPressed() = 0;
   virtual void Beep() = 0;
   /// The widget that has the focus, or null.
   virtual Ref<Widget> ActiveControl() const = 0;
@@ -46,6 +52,8 @@ class Desktop {
   virtual bool IsWindow(std::int32_t handle) const = 0;
   /// Starts a program by its command line and returns at once; a program that is not there is passed over.
   virtual void Start(const Text& commandLine) = 0;
+  /// What no two texts have in common: the SHA-256 digest of a text's UTF-8, in hexadecimal digits.
+  virtual Text Digest(const Text& text) const = 0;
   virtual SettingsStore& Settings() = 0;
 };
 

@@ -15,6 +15,7 @@ class EngineControl::Call {
  public:
   Call(EngineControl& control, std::shared_ptr<ScriptEngine> engine)
       : m_Engine(Required(std::move(engine))), m_Control(&control) {
+    m_Control->m_IsUsed = true;
     m_Control->m_Error = {};
     m_Engine->ClearError();
     m_Control->m_Running.push_back(m_Engine.get());
@@ -62,9 +63,16 @@ class EngineControl::Module final : public ScriptModule {
   const Text m_Name, m_InEngine;
 };
 
-EngineControl::EngineControl(ScriptLanguages languages, std::unique_ptr<ScriptHost> host,
+// What scripts are trusted with is theirs alone: one that goes on in an engine that was replaced keeps its
+// host.
+struct EngineControl::HostedEngine {
+  std::unique_ptr<ScriptHost> host;
+  std::unique_ptr<ScriptEngine> engine;
+};
+
+EngineControl::EngineControl(ScriptLanguages languages, HostMaker makeHost,
                              std::function<bool(std::int32_t)> isOwner)
-    : m_Languages(std::move(languages)), m_Host(std::move(host)), m_IsOwner(std::move(isOwner)) {}
+    : m_Languages(std::move(languages)), m_MakeHost(std::move(makeHost)), m_IsOwner(std::move(isOwner)) {}
 
 EngineControl::~EngineControl() = default;
 
@@ -74,14 +82,20 @@ ScriptEngine& EngineControl::Engine() const {
 }
 
 void EngineControl::Start() {
+  m_Engine.reset();  // what its objects do at their end may use the control, or start it
   m_Modules.clear();
   m_Error = {};
-  m_Engine.reset();
   const ScriptLanguage* language = m_Languages.Named(m_Language);
   if (!language) Raise(ErrorNumber::InvalidCall);
-  m_Engine = language->makeEngine(*m_Host);
+  const auto hosted = std::make_shared<HostedEngine>();
+  hosted->host = m_MakeHost();
+  hosted->engine = language->makeEngine(*hosted->host);
+  m_Engine = {hosted, hosted->engine.get()};
+  m_Host = hosted->host.get();
+  m_IsUsed = false;
   m_Engine->SetTimeout(m_Timeout);
   m_Engine->SetAllowUI(m_AllowUI);
+  m_Host->SetAllowUI(m_AllowUI);
   m_Modules.push_back(MakeRef<Module>(*this, kGlobalModule, u""));
 }
 
@@ -94,7 +108,10 @@ void EngineControl::SetSiteWindow(std::int32_t handle) {
   if (!m_IsOwner(handle)) Raise(ErrorNumber::InvalidPropertyValue);
 }
 
-void EngineControl::Reset() { Start(); }
+// Forms choose the language and reset for each script, and an engine of JScript takes milliseconds to make.
+void EngineControl::Reset() {
+  if (m_IsUsed || !m_Engine) Start();
+}
 
 void EngineControl::SetTimeout(std::int32_t milliseconds) {
   m_Timeout = milliseconds;
@@ -104,15 +121,18 @@ void EngineControl::SetTimeout(std::int32_t milliseconds) {
 void EngineControl::SetAllowUI(bool allowed) {
   m_AllowUI = allowed;
   Engine().SetAllowUI(allowed);
+  m_Host->SetAllowUI(allowed);
 }
 
 void EngineControl::AddObject(std::u16string_view name, Ref<Object> object, bool addMembers) {
+  m_IsUsed = true;
   Engine().AddObject(name, std::move(object), addMembers);
 }
 
 void EngineControl::AddCode(std::u16string_view code) { Call(*this, m_Engine)->AddCode({}, code); }
 
 Ref<ScriptModule> EngineControl::AddModule(std::u16string_view name) {
+  m_IsUsed = true;
   Engine().AddModule(name);
   return m_Modules.emplace_back(MakeRef<Module>(*this, name, name));
 }

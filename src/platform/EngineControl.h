@@ -10,10 +10,11 @@ namespace cardwright {
 /// The script control over the engines of this program.
 class EngineControl final : public ScriptControl {
  public:
-  /// `host` is what scripts may ask of the machine. `isOwner` tells whether a handle is a window or a
-  /// connection.
-  EngineControl(ScriptLanguages languages, std::unique_ptr<ScriptHost> host,
-                std::function<bool(std::int32_t)> isOwner);
+  using HostMaker = std::function<std::unique_ptr<ScriptHost>()>;
+
+  /// `makeHost` gives each engine what its scripts may ask of the machine. `isOwner` tells whether a handle
+  /// is a window or a connection.
+  EngineControl(ScriptLanguages languages, HostMaker makeHost, std::function<bool(std::int32_t)> isOwner);
   ~EngineControl() override;
 
   Text Language() const override { return m_Language; }
@@ -33,17 +34,20 @@ class EngineControl final : public ScriptControl {
  private:
   class Module;
   class Call;
+  struct HostedEngine;
 
   void Start();
   ScriptEngine& Engine() const;
 
   const ScriptLanguages m_Languages;
-  const std::unique_ptr<ScriptHost> m_Host;  // engines use it to their end
+  const HostMaker m_MakeHost;
   const std::function<bool(std::int32_t)> m_IsOwner;
   Text m_Language;
   std::shared_ptr<ScriptEngine> m_Engine;
+  ScriptHost* m_Host = nullptr;  // of the engine, which keeps it
   std::vector<Ref<ScriptModule>> m_Modules;
   std::vector<ScriptEngine*> m_Running;  // one for each call that has not returned
+  bool m_IsUsed = false;                 // something was put into the engine
   std::int32_t m_Timeout = -1;
   bool m_AllowUI = true;
   ScriptError m_Error;

@@ -16,6 +16,7 @@ struct ScriptError {
   int column = 0;  ///< from 0
   Text source;     ///< "Microsoft VBScript runtime error", or what the script gave
   bool isSyntax = false;
+  bool isInterruption = false;  ///< the script was stopped: by Interrupt, its host's wish or a time-out
 };
 
 /// A procedure that a script defined.

@@ -22,6 +22,10 @@ Ref<Object> ScriptHost::LoadPicture(std::u16string_view) { Raise(70); }
 
 Text ScriptHost::BoxTitle() const { return u"VBScript"; }
 
+void ScriptHost::SetAllowUI(bool) {}
+
+bool ScriptHost::WantsStop() { return false; }
+
 void ScriptObserver::OnReturn(std::u16string_view, int, int) {}
 
 }  // namespace cardwright

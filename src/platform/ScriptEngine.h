@@ -30,6 +30,12 @@ class ScriptHost {
   virtual Ref<Object> LoadPicture(std::u16string_view path);
   /// Title of boxes that name none.
   virtual Text BoxTitle() const;
+  /// Whether what the host does for scripts may ask a person anything. Until it is told, it may.
+  virtual void SetAllowUI(bool allowed);
+  /// Whether the running script is to stop. Engines ask on the script's thread while a call from outside
+  /// takes long, some times a second and between two steps of the script, so the answer may take its time and
+  /// may run scripts.
+  virtual bool WantsStop();
 };
 
 /// Told of each statement before it runs, for tracing and profiling. In code that a script made itself lines

@@ -16,6 +16,7 @@ class Library {
   Library& operator=(const Library&) = delete;
 
   cardwright::Vellum& Vellum() const noexcept { return *m_Vellum; }
+  QtDesktop& Desktop() noexcept { return m_Desktop; }
   /// Makes the connection the one that forms use, and gives its handle.
   std::int32_t Connect(Ref<HostConnection> connection);
 

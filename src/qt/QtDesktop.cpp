@@ -1,6 +1,7 @@
 #include "qt/QtDesktop.h"
 
 #include <QApplication>
+#include <QCryptographicHash>
 #include <QInputDialog>
 #include <QMessageBox>
 #include <QPointer>
@@ -11,6 +12,7 @@
 
 #include "automation/Conversions.h"
 #include "platform/Scale.h"
+#include "qt/BreakWatch.h"
 #include "qt/Colors.h"
 #include "qt/QtText.h"
 #include "qt/WidgetCore.h"
@@ -88,6 +90,17 @@ Variant QtDesktop::AskText(const Text& prompt, const Text& title, const Text& in
   return isAccepted ? Variant(typed) : Variant();
 }
 
+bool QtDesktop::IsAttended() const {
+  const QString platform = QGuiApplication::platformName();
+  return !m_IsLeft && platform != u"offscreen" && platform != u"minimal";
+}
+
+bool QtDesktop::BreakPressed() {
+  BreakWatch watch;
+  QCoreApplication::processEvents();
+  return watch.WasPressed();
+}
+
 void QtDesktop::Beep() { QApplication::beep(); }
 
 Ref<Widget> QtDesktop::ActiveControl() const {
@@ -109,6 +122,11 @@ void QtDesktop::Start(const Text& commandLine) {
   if (parts.isEmpty()) return;
   const QString program = parts.takeFirst();
   QProcess::startDetached(program, parts);
+}
+
+Text QtDesktop::Digest(const Text& text) const {
+  const QByteArray digest = QCryptographicHash::hash(ToQString(text).toUtf8(), QCryptographicHash::Sha256);
+  return FromQString(QString::fromLatin1(digest.toHex()));
 }
 
 }  // namespace cardwright::qt

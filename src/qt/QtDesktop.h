@@ -13,14 +13,21 @@ class QtDesktop : public Desktop {
   int ShowMessage(const Text& text, int style, const Text& title) override;
   Variant AskText(const Text& prompt, const Text& title, const Text& initial, const Variant& x,
                   const Variant& y) override;
+  /// False without a display.
+  bool IsAttended() const override;
+  /// Where nobody sits at the display either.
+  void LeaveUnattended() noexcept { m_IsLeft = true; }
+  bool BreakPressed() override;
   void Beep() override;
   Ref<Widget> ActiveControl() const override;
   OleColor ResolveColor(OleColor color) const override;
   bool IsWindow(std::int32_t handle) const override;
   void Start(const Text& commandLine) override;
+  Text Digest(const Text& text) const override;
   SettingsStore& Settings() override { return m_Settings; }
 
  private:
+  bool m_IsLeft = false;
   QtSettings m_Settings;
 };
 

@@ -86,6 +86,7 @@ void FormInput::SetFeatureID(const Text& id) {
 bool FormInput::ProjectRead(const Text& fileName) {
   const Ref<FormInput> keepAlive(this);
   const Ref<IControl> form = Form();
+  m_ProjectFile = fileName;
   if (!form || !form->Read(fileName, {})) return false;
   if (!CanRunScripts()) return true;
   if (m_DebugMode) LoadAttributes(*this);
@@ -104,22 +105,12 @@ bool FormInput::ProjectSave(const Text& fileName, bool isTemporary) {
   return saved;
 }
 
-void FormInput::ChangeControlName(Ref<Object> object, const Text& newName) {
-  const Ref<IControl> control(dynamic_cast<IControl*>(object.get()));
-  if (!control || Trim(newName).empty()) return;
-  const IControl* holder = FindControl(*m_Controls, newName);
-  if (holder && holder != control.get()) return;
+void FormInput::ChangeControlName(Ref<Object> control, const Text& newName) {
   const Ref<FormInput> keepAlive(this);
-  const Text oldName = control->UserName();
-  // Without a place under the new name the control keeps its old one.
-  if (!Attempt([&] { RenameInCollection(*m_Controls, *control, newName); })) return;
-  Attempt([&] { control->SetName(newName); });
-  Attempt([&] {
-    Variant args[] = {Variant(oldName), Variant(Ref<Object>(control))};
+  RenameControl(*m_Controls, control, newName, [this](const Text& oldName, IControl& renamed) {
+    Variant args[] = {Variant(oldName), Variant(Ref<Object>(&renamed))};
     RaiseEvent(u"ControlNameChanged", args);
   });
-  for (const Ref<IControl>& other : ControlsOf(*m_Controls))
-    Attempt([&] { other->LinkControlNameChanged(oldName, newName); });
 }
 
 Text FormInput::GetThemeName() const {

@@ -33,6 +33,8 @@ class FormInput final : public TableObject, public InputOwner {
   void SetFeatureID(const Text& id);
   /// Reads a form project, starts its script and runs "Initialize"; false where it could not be read.
   bool ProjectRead(const Text& fileName);
+  /// Path of the project read last, or being read.
+  const Text& ProjectFile() const noexcept { return m_ProjectFile; }
   /// Saves the form's own settings and script. Beware: run-time controls write nothing, so on an existing
   /// project their sections are gone afterwards while their count stays. Hosts know and keep to reading.
   bool ProjectSave(const Text& fileName, bool isTemporary = false);
@@ -44,7 +46,8 @@ class FormInput final : public TableObject, public InputOwner {
   FeatureTypeEnum GetFeatureType() const;
   Text GetFeatureTypeString() const { return FeatureTypeText(GetFeatureType()); }
   std::int32_t WindowHandle() const;
-  /// The host's window, as every container gives it to its controls under this name; null where there is none.
+  /// The host's window, as every container gives it to its controls under this name; null where there is
+  /// none.
   Ref<HostWindow> Parent() const { return m_Surface ? m_Surface->Host() : nullptr; }
 
   /// False only in a debugging run without an output object.
@@ -93,6 +96,7 @@ class FormInput final : public TableObject, public InputOwner {
   Ref<Collection> m_Controls = MakeRef<Collection>();
   bool m_DebugMode = false;
   bool m_NewFeature = false;
+  Text m_ProjectFile;
   Text m_FeatureID;
   Text m_Caption;
   AttributeList m_Attributes;

@@ -13,7 +13,10 @@ namespace {
 
 constexpr int kInvalidOwner = static_cast<int>(ErrorNumber::InvalidPropertyValue);
 
-FormControls* ScriptControls() { return dynamic_cast<FormControls*>(Module().formControlsObject.get()); }
+// Held by whoever runs a script: it may end the library.
+Ref<FormControls> ScriptControls() {
+  return Ref<FormControls>(dynamic_cast<FormControls*>(Module().formControlsObject.get()));
+}
 
 Text FailureText(const Error& failure, bool startsScript) {
   const ScriptError inScript = Module().scriptControl->LastError();
@@ -27,6 +30,8 @@ Text FailureText(const Error& failure, bool startsScript) {
 
 void ReportFailure(const Error& failure, bool startsScript) {
   if (!Module().scriptControl || !Module().desktop) return;
+  // Whoever stopped a script knows that it did not come to its end.
+  if (Module().scriptControl->LastError().isInterruption) return;
   Module().desktop->ShowMessage(FailureText(failure, startsScript), BoxStyle::Exclamation, {});
 }
 
@@ -60,7 +65,7 @@ void StartScript(FormInput& form, const ComposedScript& composed, const Text& la
   engine->SetTimeout(-1);
   engine->AddObject(u"OrvExecutor", executor, true);
   engine->AddObject(u"OrvDebugger", debugger, true);
-  if (FormControls* controls = ScriptControls()) controls->Serve(Ref<Object>(&form));
+  if (const Ref<FormControls> controls = ScriptControls()) controls->Serve(Ref<Object>(&form));
   engine->AddObject(u"FrmCtrls", Module().formControlsObject, true);
   engine->AddCode(composed.code);
   const Ref<ScriptModule> init = engine->AddModule(u"init");
@@ -77,6 +82,8 @@ bool RunScript(FormInput& form, const Text& script, const Text& language, bool d
   try {
     const ComposedScript composed = ComposeScript(script, language, UserNames(form));
     Module().scriptLineOffset = composed.lineOffset;
+    Module().programFile = form.ProjectFile();
+    Module().program = composed.code + composed.mainCode;
     StartScript(form, composed, language, debug);
   } catch (const Error& failure) {
     ReportFailure(failure, true);
@@ -89,7 +96,7 @@ bool RunEvent(const Text& procedure) {
   const Ref<ScriptControl> engine = Module().scriptControl;
   if (!engine) return true;
   if (!Module().procedures.Has(Module().scriptContent, procedure, Module().scriptLanguage)) return true;
-  FormControls* controls = ScriptControls();
+  const Ref<FormControls> controls = ScriptControls();
   if (controls) controls->SetResponse(true);
   try {
     engine->Run(procedure);

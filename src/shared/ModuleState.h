@@ -41,6 +41,8 @@ struct ModuleState {
   OleColor defaultForeColor = 0;
   std::int32_t scriptLineOffset = 0;  ///< declaration lines put before the user's script
   ProcedureMemory procedures;         ///< of the script read last
+  Text programFile;                   ///< form project whose script was started last
+  Text program;                       ///< all that was composed of that script
 
   std::int32_t vellumCount = 0;  ///< application objects alive
   Connections connections;

@@ -243,5 +243,19 @@ TEST_F(ScriptTest, StopsOnCtrlCWhateverItDoes) {
   }
 }
 
+TEST_F(ScriptTest, StopsOnCtrlCTheScriptsOfItsForms) {
+  const std::string form = m_Folder.Write(
+      "a.cwf", "[FORM]\r\nScaleMode= 3\r\nControlsNumber= 0\r\n[SCRIPT]\r\nVBScript\r\nDo\r\nLoop\r\n");
+  const std::string script = m_Folder.Write(
+      "a.vbs",
+      "Class Host\nFunction ORVExecute(c)\nEnd Function\nFunction ORVRequest(c)\nEnd Function\nEnd Class\n"
+      "Set vellum = CreateObject(\"Cardwright.Vellum\")\nSet hosts = CreateObject(\"Cardwright.Hosts\")\n"
+      "vellum.TarvoHandle = hosts.Register(New Host)\nSet form = CreateObject(\"Cardwright.FormInput\")\n"
+      "WScript.StdErr.WriteLine \"on\"\nform.ProjectRead \"" +
+          form + "\"\nWScript.Echo \"went on\"\n");
+  EXPECT_EQ(StatusAfterCtrlC(m_Folder, script), 130);
+  EXPECT_EQ(ReadAll(m_Folder.File("out")), "");
+}
+
 }  // namespace
 }  // namespace cardwright::testing

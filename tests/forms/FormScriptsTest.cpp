@@ -1,5 +1,8 @@
 // Scripts of form projects in the engine that a program gives its forms, on real widgets.
 
+#include <QApplication>
+#include <QMenu>
+
 #include "forms/FormScriptsFixture.h"
 
 namespace cardwright {
@@ -39,6 +42,19 @@ TEST_F(FormScripts, SendCommandsToTheHost) {
   host->Take();
   ClickToday();
   EXPECT_EQ(host->Take(), (Lines{"X PAN 1", "R SCALE"}));
+}
+
+TEST_F(FormScripts, OpenTheMenuThatAControlHas) {
+  ASSERT_TRUE(ReadScript(
+      "Sub cmdToday_OnClick()\ntxtDepth.Text = ControlMenu(cmdToday) & \" \" & ControlMenu(Form) & \" \" & "
+      "ControlMenu(Nothing) & \" \" & ControlMenu(txtDepth)\nEnd Sub\n"));
+  ClickToday();
+  EXPECT_EQ(boxes.Take(), Lines{});
+  EXPECT_EQ(Depth(), u"False False False True");
+  auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+  ASSERT_TRUE(menu);
+  EXPECT_TRUE(menu->isVisible());
+  menu->close();
 }
 
 class FormScriptFailures : public FormScripts, public testing::WithParamInterface<ScriptFailure> {};

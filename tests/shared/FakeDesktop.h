@@ -17,14 +17,20 @@ class FakeDesktop final : public Desktop, private SettingsStore {
   Variant AskText(const Text&, const Text&, const Text&, const Variant&, const Variant&) override {
     return {};
   }
+  bool IsAttended() const override { return false; }
+  bool BreakPressed() override { return false; }
   void Beep() override { ++beeps; }
   Ref<Widget> ActiveControl() const override { return active; }
-  OleColor ResolveColor(OleColor color) const override { return color; }
+  OleColor ResolveColor(OleColor color) const override {
+    const auto found = systemColors.find(color);
+    return found == systemColors.end() ? color : found->second;
+  }
   bool IsWindow(std::int32_t) const override { return false; }
   void Start(const Text& commandLine) override {
     if (fails) Raise(ErrorNumber::FileNotFound);
     started.push_back(commandLine);
   }
+  Text Digest(const Text& text) const override { return text; }
   SettingsStore& Settings() override { return *this; }
 
   Text Get(std::u16string_view app, std::u16string_view section, std::u16string_view key,
@@ -40,6 +46,7 @@ class FakeDesktop final : public Desktop, private SettingsStore {
   int beeps = 0;
   bool fails = false;
   Ref<Widget> active;
+  std::map<OleColor, OleColor> systemColors;  ///< any other answers itself
   std::vector<Text> started;
 
  private:

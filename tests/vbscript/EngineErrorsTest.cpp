@@ -116,6 +116,16 @@ TEST_F(EngineNesting, AnErrorOfTheHostIsTheScripts) {
   EXPECT_EQ(m_Engine->LastError().column, 1);
 }
 
+TEST_F(EngineNesting, AnErrorOfAnotherEngineHasItsPlaceWhereThisOneCalledOut) {
+  const auto other = MakeEngine(m_ScriptHost);
+  other->AddCode({}, u"\n\n\nSub Fail\n  x = y.z\nEnd Sub");
+  m_Gadget->onCall = [&](Args) { return other->Run({}, u"Fail", {}); };
+  EXPECT_EQ(ErrorOfCode(u"\n Host.Callback"), 424);
+  EXPECT_EQ(m_Engine->LastError().line, 2);
+  EXPECT_EQ(m_Engine->LastError().column, 1);
+  EXPECT_EQ(other->LastError().line, 5);
+}
+
 TEST_F(EngineNesting, CodeMayBeAddedFromInside) {
   m_Gadget->onCall = [this](Args args) {
     m_Engine->AddCode({}, ToText(args[0]));

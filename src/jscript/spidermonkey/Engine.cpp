@@ -210,6 +210,7 @@ void Engine::Noting(Step&& step) {
   } catch (const Interrupted&) {
     const Error error(kUserInterrupt, u"User interrupt occurred", kRuntimeErrorSource);
     m_Error = Described(error.Number(), error.Description());
+    m_Error.isInterruption = true;
     throw error;
   } catch (const Error& error) {
     m_Error = Described(error.Number(), error.Description());

@@ -9,6 +9,7 @@
 
 #include "automation/Errors.h"
 #include "jscript/errors/ErrorTexts.h"
+#include "jscript/spidermonkey/Calls.h"
 #include "jscript/spidermonkey/Faults.h"
 #include "jscript/spidermonkey/Globals.h"
 #include "jscript/spidermonkey/HostObjects.h"
@@ -130,6 +131,14 @@ Place Chunk::Original(int line, int column) const noexcept {
   return places.Original({line, static_cast<int>(SpotOf(text, line, column).unit)});
 }
 
+void Session::AskHost() {
+  if (!m_StopQuestion.IsDue()) return;
+  CallHost(*this, [this] {
+    if (m_StopQuestion.Ask(m_Host)) Stop();
+    return true;
+  });
+}
+
 Session::Entry::Entry(Session& session)
     : m_Session(session),
       m_Alive(session.shared_from_this()),
@@ -142,6 +151,7 @@ Session::Entry::Entry(Session& session)
     // The order to stop is for what was running; what begins now is another call.
     session.m_Stop.store(false, std::memory_order_relaxed);
     session.m_StopOrder->store(false, std::memory_order_relaxed);
+    session.m_StopQuestion.Begin();
     session.m_IsOutOfMemory = false;
     session.m_MemoryAtStart.reset();
     const auto deadline = session.m_Timeout < 0 ? Clock::time_point::max()

@@ -81,6 +81,7 @@ void VbScriptEngine::Noting(Step&& step) {
   } catch (const Interrupted&) {
     const Error error(kUserInterrupt, u"User interrupt occurred");
     m_Error = Described(error, error.Description(), {}, false);
+    m_Error.isInterruption = true;
     throw error;
   } catch (const std::bad_alloc&) {
     const Error error(ErrorNumber::OutOfMemory);

@@ -9,7 +9,7 @@ constexpr Position kNowhere{.line = 0, .column = 0};
 
 }  // namespace
 
-Machine::Pending Machine::Describe(const Error& error) {
+Machine::Pending Machine::Describe(const Error& error) const {
   Pending pending;
   pending.number = error.Number();
   pending.description = pending.report = error.Description();
@@ -17,7 +17,7 @@ Machine::Pending Machine::Describe(const Error& error) {
   if (pending.source.IsEmpty()) pending.source = kRuntimeErrorSource;
   if (const auto* named = dynamic_cast<const NamedError*>(&error)) {
     if (!named->Name().IsEmpty()) pending.report = pending.description + u": '" + named->Name() + u"'";
-  } else if (const auto* fault = dynamic_cast<const ScriptFault*>(&error)) {
+  } else if (const auto* fault = dynamic_cast<const ScriptFault*>(&error); fault && fault->IsOf(*this)) {
     pending.report = fault->Report();
     pending.position = fault->Where();
     pending.isPlaced = true;
@@ -27,7 +27,7 @@ Machine::Pending Machine::Describe(const Error& error) {
 
 void Machine::Handle(Pending pending, std::size_t entry) {
   // To those that called the script from inside a call of its own, the order to stop came as an error.
-  if (m_Stop.load(std::memory_order_relaxed)) {
+  if (IsStopping()) {
     Unwind(entry - 1);
     throw Interrupted{};
   }
@@ -52,7 +52,7 @@ void Machine::Handle(Pending pending, std::size_t entry) {
   }
   const MemoryBudget::Exemption exemption;
   throw ScriptFault(Error(pending.number, pending.description, pending.source), pending.position,
-                    pending.report);
+                    pending.report, *this);
 }
 
 void Machine::Unwind(std::size_t depth) noexcept {
@@ -63,18 +63,30 @@ void Machine::Unwind(std::size_t depth) noexcept {
 }
 
 void Machine::NoteTime() noexcept {
-  if (m_Deadline != kNoDeadline && std::chrono::steady_clock::now() >= m_Deadline)
-    m_Stop.store(true, std::memory_order_relaxed);
+  if (m_Deadline != kNoDeadline && std::chrono::steady_clock::now() >= m_Deadline) Interrupt();
 }
 
+// In the middle of work that nothing may come between: the host is asked after it.
 bool Machine::LookForStop() noexcept {
   NoteTime();
-  return m_Stop.load(std::memory_order_relaxed);
+  Order expected = Order::GoOn;
+  if (m_StopQuestion.IsDue())
+    m_Order.compare_exchange_strong(expected, Order::LookAround, std::memory_order_relaxed);
+  return IsStopping();
 }
 
 void Machine::CheckStop() {
   NoteTime();
-  if (m_Stop.load(std::memory_order_relaxed)) throw Interrupted{};
+  if (IsStopping()) throw Interrupted{};
+}
+
+// Between two steps of the script. What the host does meanwhile may call the script.
+void Machine::LookAround() {
+  Order expected = Order::LookAround;
+  m_Order.compare_exchange_strong(expected, Order::GoOn, std::memory_order_relaxed);
+  CheckStop();
+  if (m_StopQuestion.IsDue() && m_StopQuestion.Ask(Host())) Interrupt();
+  StopIfAsked();
 }
 
 void Machine::Observe(const Procedure& procedure, std::size_t instruction) {

@@ -7,6 +7,7 @@ namespace {
 
 constexpr int kOutOfStackSpace = 28;
 constexpr std::size_t kFirstFrames = 32;
+constexpr std::uint32_t kCallsBetweenLooks = 1024;
 
 // What is passed by value, or into a parameter by value, is a variable of its own.
 void TakeValues(const Procedure& procedure, Variant* registers) {
@@ -109,6 +110,7 @@ Variant Machine::Enter(const Procedure& procedure, Instance* me, Args args) {
   // Whole calls may be too short to look at the clock themselves, or even to come to a place to stop at:
   // objects that make objects at their end would never come to one.
   CheckStop();
+  if (++m_CallsSinceLook % kCallsBetweenLooks == 0) LookAround();
   Variant outcome;
   std::vector<Variant> copies(args.begin(), args.end());
   PushFrame(procedure, me, copies, &outcome, ArgumentPlace::Elsewhere);

@@ -87,12 +87,12 @@ void Machine::Run() {
   RegisterView { R, K, firstTemporary }
 #define OPERAND_B ((i.n & kConstantB) ? K[i.b] : R[i.b])
 #define OPERAND_C ((i.n & kConstantC) ? K[i.c] : R[i.c])
-#define TICK()                                                   \
-  do {                                                           \
-    if (--ticks < 0 || m_Stop.load(std::memory_order_relaxed)) { \
-      ticks = kTicks;                                            \
-      CheckStop();                                               \
-    }                                                            \
+#define TICK()                                                                   \
+  do {                                                                           \
+    if (--ticks < 0 || m_Order.load(std::memory_order_relaxed) != Order::GoOn) { \
+      ticks = kTicks;                                                            \
+      LookAround();                                                              \
+    }                                                                            \
   } while (false)
 // No object with a destructor may be alive at a NEXT: the jump would leave it behind.
 #define ARITHMETIC(name, builtin, sign, slowly)                                     \

@@ -8,6 +8,7 @@
 
 #include "automation/MemoryBudget.h"
 #include "platform/ScriptEngine.h"
+#include "platform/StopQuestion.h"
 #include "vbscript/Context.h"
 #include "vbscript/Engine.h"
 #include "vbscript/StopSignal.h"
@@ -78,7 +79,7 @@ class Machine final : public Context, public Linkage, private StopSignal {
   /// Clears all names and ends the instances of the script's classes, whose Class_Terminate may still call
   /// the host.
   void Close();
-  void Interrupt() noexcept { m_Stop.store(true, std::memory_order_relaxed); }
+  void Interrupt() noexcept { m_Order.store(Order::Stop, std::memory_order_relaxed); }
   void SetTimeout(std::int32_t milliseconds) noexcept { m_Timeout = milliseconds; }
   void SetObserver(ScriptObserver* observer) noexcept { m_Observer = observer; }
   bool IsObserved() const noexcept override { return m_Observer != nullptr; }
@@ -171,14 +172,16 @@ class Machine final : public Context, public Linkage, private StopSignal {
   Text LocalName(const Procedure& procedure, std::uint16_t r) const;
 
   // Faults.cpp
-  static Pending Describe(const Error& error);
+  Pending Describe(const Error& error) const;
   void Handle(Pending pending, std::size_t entry);
   void Unwind(std::size_t depth) noexcept;
   void NoteTime() noexcept;
   bool LookForStop() noexcept override;
+  bool IsStopping() const noexcept { return m_Order.load(std::memory_order_relaxed) == Order::Stop; }
   void CheckStop();
+  void LookAround();
   void StopIfAsked() {
-    if (m_Stop.load(std::memory_order_relaxed)) CheckStop();
+    if (IsStopping()) CheckStop();
   }
   void Observe(const Procedure& procedure, std::size_t instruction);
   void ObserveReturn();
@@ -199,7 +202,10 @@ class Machine final : public Context, public Linkage, private StopSignal {
   Frame* m_Current = nullptr;  // the last of those in use
   std::uint32_t m_Epoch = 1;
   int m_Entries = 0;
-  std::atomic<bool> m_Stop = false;
+  enum class Order : std::uint8_t { GoOn, LookAround, Stop };
+  std::atomic<Order> m_Order = Order::GoOn;
+  StopQuestion m_StopQuestion;
+  std::uint32_t m_CallsSinceLook = 0;
   std::int32_t m_Timeout = -1;
   static constexpr auto kNoDeadline = std::chrono::steady_clock::time_point::max();
   std::chrono::steady_clock::time_point m_Deadline = kNoDeadline;
