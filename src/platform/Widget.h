@@ -54,6 +54,9 @@ class Widget : public TableObject {
   virtual void SetZOrder(StackPosition position) = 0;
   virtual void SetFocus() = 0;
   virtual void Refresh() = 0;
+  /// Opens the menu that the widget has of its own and returns; false where it has none. Not by name: scripts
+  /// of forms ask their form for it.
+  virtual bool OpenMenu() = 0;
 
   /// One listener at most; null takes it away.
   virtual void SetListener(WidgetListener* listener) = 0;

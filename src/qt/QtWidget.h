@@ -41,6 +41,7 @@ class QtWidget : public Base, public WidgetCore {
   void SetZOrder(StackPosition position) override { Restack(position); }
   void SetFocus() override { Live().Native()->setFocus(Qt::OtherFocusReason); }
   void Refresh() override { Live().Native()->repaint(); }
+  bool OpenMenu() override { return OpenOwnMenu(); }
   void SetListener(WidgetListener* listener) override { m_Listener = listener; }
 
  protected:

@@ -27,6 +27,11 @@ class FormControls final : public TableObject {
   /// The same as a click on the button.
   void Ok();
   void Cancel();
+  /// Opens the menu that a control has of its own, as the menu key does when the control has the focus: cut,
+  /// copy and paste of a text box. Returns at once, true where the control has one.
+  bool ControlMenu(Ref<Object> control);
+  /// Names of the constants that this object gives to scripts, a blank before each.
+  Text ConstantNames() const;
 
  protected:
   const MemberTable& Members() const override;

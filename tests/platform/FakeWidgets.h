@@ -38,6 +38,10 @@ class FakeWidget : public Base {
   }
   void SetFocus() override { calls += u"focus "; }
   void Refresh() override { calls += u"refresh "; }
+  bool OpenMenu() override {
+    calls += u"menu ";
+    return true;
+  }
   void SetListener(WidgetListener*) override {}
 
   Ref<Widget> container;
@@ -54,7 +58,7 @@ class FakeWidget : public Base {
 
 using FakeLabel = FakeWidget<CaptionWidget>;
 
-class FakeState final : public FakeWidget<StateWidget> {
+class FakeState : public FakeWidget<StateWidget> {
  public:
   explicit FakeState(bool option) : m_Option(option) {}
   int State() const override { return m_State; }
@@ -94,7 +98,7 @@ class FakeEntry : public FakeWidget<Base> {
 
 using FakeTextBox = FakeEntry<TextWidget>;
 
-class FakeCombo final : public FakeEntry<ComboWidget> {
+class FakeCombo : public FakeEntry<ComboWidget> {
  public:
   bool IsEditable() const override { return true; }
   void SetEditable(bool) override {}
@@ -114,7 +118,7 @@ class FakeCombo final : public FakeEntry<ComboWidget> {
   int m_Index = -1;
 };
 
-class FakeList final : public FakeWidget<ListViewWidget> {
+class FakeList : public FakeWidget<ListViewWidget> {
  public:
   bool HasCheckBoxes() const override { return m_CheckBoxes; }
   void SetCheckBoxes(bool shown) override { m_CheckBoxes = shown; }

@@ -118,6 +118,17 @@ TEST_F(Scripts, ReachTheControlsByName) {
   EXPECT_EQ(TakeEvents().back(), "CancelClick");
 }
 
+TEST_F(Scripts, HaveConstantsThatAreListedByName) {
+  ReadScript("VBScript\r\nx = 1\r\n");
+  Object& controls = *engine->objects.at("FrmCtrls");
+  EXPECT_EQ(ToText(GetProperty(controls, u"ConstantNames")),
+            u" ftNone ftPoint ftArc ftPolygon atCharacter atNumeric itString itInteger itFloat");
+  const std::pair<const char16_t*, int> kNumbers[] = {
+      {u"ftNone", -1},   {u"ftPoint", 0},  {u"ftArc", 1},     {u"ftPolygon", 2}, {u"atCharacter", 0},
+      {u"atNumeric", 1}, {u"itString", 0}, {u"itInteger", 1}, {u"itFloat", 2}};
+  for (const auto& [name, number] : kNumbers) EXPECT_EQ(ToLong(GetProperty(controls, name)), number);
+}
+
 TEST_F(Scripts, AnswerTrueUntilTheySayOtherwise) {
   ReadScript("VBScript\r\nSub Depth_OnClick()\r\nEnd Sub\r\n");
   EXPECT_TRUE(form->Object()->RunEvent(u"Depth_OnClick"));
