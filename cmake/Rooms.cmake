@@ -1,6 +1,6 @@
 # The map of the house, in one place: each room and the rooms it may link.
 # CMakeLists.txt builds the rooms from it and cmake/CheckRooms.cmake holds the includes against it.
-set(CARDWRIGHT_ROOMS automation platform storage shared vbscript jscript hosting orv model runtime qt robot)
+set(CARDWRIGHT_ROOMS automation platform storage shared vbscript jscript hosting orv model designer runtime qt robot)
 
 set(CARDWRIGHT_USES_automation)
 set(CARDWRIGHT_USES_platform automation)
@@ -11,8 +11,9 @@ set(CARDWRIGHT_USES_jscript platform)
 set(CARDWRIGHT_USES_hosting shared vbscript)
 set(CARDWRIGHT_USES_orv platform)
 set(CARDWRIGHT_USES_model shared)
+set(CARDWRIGHT_USES_designer model)
 set(CARDWRIGHT_USES_runtime model)
-set(CARDWRIGHT_USES_qt runtime)
+set(CARDWRIGHT_USES_qt runtime designer)
 set(CARDWRIGHT_USES_robot qt hosting orv)
 
 # Those that the program holds itself; the others come with its module when they are needed.

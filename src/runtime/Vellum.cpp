@@ -5,6 +5,7 @@
 #include "runtime/FormControls.h"
 #include "shared/HostExecutor.h"
 #include "shared/ModuleState.h"
+#include "shared/ResizeHandle.h"
 #include "storage/ProjectFile.h"
 
 namespace cardwright {
@@ -142,17 +143,7 @@ float Vellum::ButtonsOffsetX() const { return PixelsToScale(kButtonsOffsetX, Mod
 void Vellum::ResizeHandleEnabled(Ref<Object> handle, bool enabled) {
   auto* box = dynamic_cast<PictureWidget*>(handle.get());
   if (!box) Raise(ErrorNumber::TypeMismatch);
-  const ModuleState& module = Module();
-  OleColor fill = module.resizeHandleBackColor;
-  OleColor edge = module.resizeHandleBorderColor;
-  if (!enabled) std::swap(fill, edge);
-  box->SetScale(module.formScaleMode);
-  box->SetAutoRedraw(true);
-  box->SetDrawWidth(1);
-  box->SetBackColor(fill);
-  box->Cls();
-  const float line = PixelsToScale(static_cast<float>(box->DrawWidth()), module.formScaleMode);
-  box->DrawBox(0, 0, box->ScaleWidth() - line, box->ScaleHeight() - line, edge);
+  PaintResizeHandle(*box, enabled);
 }
 
 bool Vellum::ResizeHandleIsEnabled(Ref<Object> handle) const {

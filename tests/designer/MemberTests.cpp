@@ -1,0 +1,175 @@
+#include <map>
+
+#include "designer/DesignerTest.h"
+
+namespace cardwright {
+namespace {
+
+using enum ControlTypeEnum;
+using MemberTest = DesignerTest;
+
+class FakeBag final : public PropertyBag {
+ public:
+  Variant ReadProperty(std::u16string_view name, const Variant& fallback) const override {
+    const auto found = values.find(std::u16string(name));
+    return found == values.end() ? fallback : found->second;
+  }
+  void WriteProperty(std::u16string_view name, const Variant& value, const Variant& fallback) override {
+    values[std::u16string(name)] = value;
+    fallbacks.push_back(ToText(fallback).ToUtf8());
+  }
+  std::map<std::u16string, Variant> values;
+  std::vector<std::string> fallbacks;
+};
+
+TEST_F(MemberTest, StandInDeclaredOrder) {
+  Lines names;
+  for (const Text& name : designer->MemberNames()) names.push_back(name.ToUtf8());
+  EXPECT_EQ(names, (Lines{"SetCtrl",
+                          "SetGrid",
+                          "Cut",
+                          "Copy",
+                          "Paste",
+                          "Delete",
+                          "SetForeground",
+                          "SetBackground",
+                          "LockUnlock",
+                          "SetMenuState",
+                          "UserControl_Resize",
+                          "GridStep",
+                          "GridAlignment",
+                          "Controls",
+                          "CurrentControl",
+                          "ControlTypeToAdd",
+                          "hWnd",
+                          "ProjectRead",
+                          "ProjectSave",
+                          "GetThemeName",
+                          "GetFeatureType",
+                          "SetThemeName",
+                          "SetFeatureType",
+                          "EnableKeyDelete",
+                          "ChangeControlName",
+                          "FilterControls",
+                          "CenterLeft",
+                          "CenterTop",
+                          "Parent"}));
+  EXPECT_EQ(designer->TypeName(), u"FormDesigner");
+}
+
+TEST_F(MemberTest, AreReachedByName) {
+  LetProperty(*designer, u"controltypetoadd", Variant(5));
+  Press(20, 30);
+  surface->listener->OnMouseDown(MouseButton::Left, 0, 20, 30);
+  const Variant current = GetProperty(*designer, u"CurrentControl");
+  EXPECT_EQ(AsControl(current)->UserName(), u"object_1");
+  CallMethod(*designer, u"ChangeControlName", {current, Variant(u"lblA")});
+  const Variant controls = GetProperty(*designer, u"Controls");
+  EXPECT_EQ(ToLong(GetProperty(RequireObject(controls), u"Count")), 2);
+  const Variant labels = CallMethod(*designer, u"FilterControls", {Variant(5)});
+  EXPECT_EQ(AsControl(GetProperty(RequireObject(labels), u"Item", {Variant(u"LBLA")})), AsControl(current));
+  EXPECT_EQ(ToLong(GetProperty(*designer, u"hWnd")), 77);
+  EXPECT_EQ(ToText(GetProperty(RequireObject(GetProperty(*designer, u"Parent")), u"Caption")), u"Designer");
+  LetProperty(*designer, u"GridStep", Variant(12));
+  EXPECT_EQ(ToLong(GetProperty(*designer, u"GridStep")), 12);
+  LetProperty(*designer, u"GridAlignment", Variant(true));
+  EXPECT_TRUE(designer->GridAlignment());
+  CallMethod(*designer, u"SetGrid");
+  CallMethod(*designer, u"SetGrid", {Variant(8), Variant(true)});
+  CallMethod(*designer, u"SetCtrl", {GetProperty(RequireObject(controls), u"Item", {Variant(1)})});
+  EXPECT_EQ(designer->CurrentControl()->UserName(), u"Form");
+}
+
+TEST_F(MemberTest, StartAsAFormWithoutControls) {
+  EXPECT_EQ(Names(), "Form");
+  EXPECT_EQ(NamesOf(designer->ZList()), "Form");
+  EXPECT_EQ(designer->CurrentControl()->UserName(), u"Form");
+  EXPECT_EQ(designer->CurrentControl()->BoundObject().get(), designer.get());
+  EXPECT_EQ(designer->ControlTypeToAdd(), ctDefault);
+  EXPECT_EQ(designer->GridStep(), 8);
+  EXPECT_FALSE(designer->GridAlignment());
+  EXPECT_TRUE(designer->EnableKeyDelete());
+  EXPECT_EQ(Module().formScaleMode, ScaleMode::Pixels);
+  EXPECT_EQ(surface->backColor, ToOleColor(SystemColor::ButtonFace));
+  EXPECT_EQ(surface->foreColor, ToOleColor(SystemColor::ButtonText));
+}
+
+TEST_F(MemberTest, StartInTheHostsColoursWhereTheyDiffer) {
+  Module().defaultBackColor = 0x101010;
+  Module().defaultForeColor = 0xF0F0F0;
+  FakeDesignSurface other;
+  const Ref<FormDesigner> second = FormDesigner::Create(other);
+  EXPECT_EQ(other.backColor, 0x101010);
+  EXPECT_EQ(other.foreColor, 0xF0F0F0);
+  second->DetachSurface();
+}
+
+TEST_F(MemberTest, KeepTheDeleteKeyInTheContainersBagAsANumber) {
+  FakeBag bag;
+  designer->SetEnableKeyDelete(false);
+  EXPECT_EQ(surface->told, (std::vector<Text>{u"EnableKeyDelete"}));
+  designer->WriteProperties(bag);
+  EXPECT_EQ(ToLong(bag.values.at(u"EnableKeyDelete")), 0);
+  EXPECT_EQ(bag.fallbacks, (Lines{"1"}));
+  designer->SetEnableKeyDelete(true);
+  designer->ReadProperties(bag);
+  EXPECT_FALSE(designer->EnableKeyDelete());
+  designer->ReadProperties(FakeBag());
+  EXPECT_TRUE(designer->EnableKeyDelete());
+  designer->WriteProperties(bag);
+  EXPECT_EQ(ToLong(bag.values.at(u"EnableKeyDelete")), 1);
+}
+
+TEST_F(MemberTest, ReadAndWriteTheFormsThemeAndFeatureType) {
+  EXPECT_EQ(designer->GetFeatureType(), FeatureTypeEnum::ftNone);
+  EXPECT_EQ(designer->GetThemeName(), u"");
+  designer->SetThemeName(u"wells");
+  designer->SetFeatureType(FeatureTypeEnum::ftArc);
+  EXPECT_EQ(Take(), (Lines{"AttribsList []", "AttribsList []"}));
+  EXPECT_EQ(designer->GetThemeName(), u"wells");
+  EXPECT_EQ(ToLong(CallMethod(*designer, u"GetFeatureType")), 1);
+}
+
+TEST_F(MemberTest, AnswerForAnEmptyCollection) {
+  designer->Controls().Clear();
+  EXPECT_EQ(designer->GetThemeName(), u"");
+  EXPECT_EQ(designer->GetFeatureType(), FeatureTypeEnum::ftNone);
+  designer->SetThemeName(u"wells");
+  designer->SetFeatureType(FeatureTypeEnum::ftPoint);
+  EXPECT_FALSE(designer->ProjectRead(folder.Put("a.cwf", "[FORM]\r\n")));
+  EXPECT_FALSE(designer->ProjectSave(folder.Name("b.cwf")));
+  designer->Delete();
+  designer->LockUnlock();
+  surface->listener->OnClick();
+  surface->Resize(10, 10);
+}
+
+TEST_F(MemberTest, FailOrAnswerNothingOnceTheSurfaceIsGone) {
+  const Ref<IControl> label = Draw(ctLabel, 20, 30, 120, 60);
+  designer->DetachSurface();
+  EXPECT_EQ(surface->WidgetCount(), 0);
+  EXPECT_EQ(surface->listener, nullptr);
+  EXPECT_EQ(surface->handles[0]->listener, nullptr);
+  surface.reset();
+  EXPECT_EQ(label->ParentForm(), nullptr);
+  EXPECT_EQ(designer->WindowHandle(), 0);
+  EXPECT_EQ(designer->OuterWidth(), 0);
+  EXPECT_EQ(designer->Parent(), nullptr);
+  designer->SetOuterSize(10, 10);
+  designer->Copy();
+  designer->Paste();
+  designer->Delete();
+  designer->CenterLeft();
+  designer->SetForeground();
+  designer->SetCtrl(label);
+  designer->SetForeground();
+  designer->Delete();
+  designer->ShowHandles(true);
+  designer->ShowArrowPointer();
+  designer->UserControl_Resize();
+  designer->SetEnableKeyDelete(false);
+  EXPECT_EQ(ErrorOf([&] { designer->SetGrid(); }), 91);
+}
+
+}  // namespace
+}  // namespace cardwright

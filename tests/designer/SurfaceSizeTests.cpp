@@ -1,0 +1,92 @@
+#include "designer/DesignerTest.h"
+
+namespace cardwright {
+namespace {
+
+using SurfaceSizeTest = DesignerTest;
+
+TEST_F(SurfaceSizeTest, TellsTheFormTheHostAndTheSizeInTwipsInThisOrder) {
+  surface->frame = {10, 30};
+  surface->Resize(500, 350);
+  EXPECT_EQ(Take(),
+            (Lines{"PropertyChanged 3 510", "PropertyChanged 4 380", "Resize", "NeedResize 7650 5700"}));
+}
+
+TEST_F(SurfaceSizeTest, LeavesTheFormsRowsAloneWhileAControlIsSelected) {
+  Draw(ControlTypeEnum::ctLabel, 10, 10, 60, 40);
+  Take();
+  surface->Resize(500, 350);
+  EXPECT_EQ(Take(), (Lines{"Resize", "NeedResize 7500 5250"}));
+}
+
+TEST_F(SurfaceSizeTest, TellsNothingWhileTracking) {
+  designer->SetTracking(true);
+  surface->Resize(500, 350);
+  EXPECT_EQ(Take(), Lines{});
+  EXPECT_TRUE(designer->IsTracking());
+}
+
+TEST_F(SurfaceSizeTest, IsGuardedAgainstAHostThatResizesInAnswer) {
+  onEvent = [&](std::string_view event) {
+    if (event == "Resize" && events.size() < 20) surface->Resize(surface->Width() + 1, 350);
+  };
+  surface->Resize(500, 350);
+  EXPECT_EQ(Take(),
+            (Lines{"PropertyChanged 3 500", "PropertyChanged 4 350", "Resize", "NeedResize 7500 5250"}));
+  EXPECT_FALSE(designer->IsTracking());
+}
+
+TEST_F(SurfaceSizeTest, CanBeCalledByAHost) {
+  CallMethod(*designer, u"UserControl_Resize");
+  EXPECT_EQ(Take(),
+            (Lines{"PropertyChanged 3 400", "PropertyChanged 4 300", "Resize", "NeedResize 6000 4500"}));
+}
+
+TEST_F(SurfaceSizeTest, GivesTheFormItsOuterSizeWithTheFrameOfTheWindow) {
+  surface->frame = {10, 30};
+  EXPECT_EQ(designer->OuterWidth(), 410);
+  EXPECT_EQ(designer->OuterHeight(), 330);
+  designer->SetOuterSize(610, 430);
+  EXPECT_EQ(surface->Width(), 600);
+  EXPECT_EQ(surface->Height(), 400);
+}
+
+TEST_F(SurfaceSizeTest, CountsInTwipsWhereTheFormDoes) {
+  surface->frame = {10, 30};
+  Module().formScaleMode = ScaleMode::Twips;
+  designer->ApplyScaleAndGrid();
+  EXPECT_EQ(designer->OuterWidth(), 6150);
+  designer->SetOuterSize(9000, 6000);
+  EXPECT_EQ(surface->Width(), 9000 - 150);
+  EXPECT_EQ(surface->Height(), 6000 - 450);
+}
+
+TEST_F(SurfaceSizeTest, DoesNothingForASizeThatIsStoredAlready) {
+  designer->SetOuterSize(600, 400);
+  designer->SetTracking(true);
+  surface->Resize(100, 100);
+  designer->SetTracking(false);
+  Take();
+  designer->SetOuterSize(600, 400);
+  EXPECT_EQ(surface->Width(), 100);
+  EXPECT_EQ(Take(), Lines{});
+}
+
+TEST_F(SurfaceSizeTest, FollowsTheFormsRows) {
+  CForm& form = dynamic_cast<CForm&>(Find(u"form"));
+  form.SetWidth(640);
+  EXPECT_EQ(surface->Width(), 640);
+  form.SetPropertyValue(u"Height", 480);
+  EXPECT_EQ(surface->Height(), 480);
+  EXPECT_EQ(surface->Width(), 640);
+}
+
+TEST_F(SurfaceSizeTest, BearsZero) {
+  surface->Resize(0, 0);
+  EXPECT_EQ(Take().back(), "NeedResize 0 0");
+  Draw(ControlTypeEnum::ctLabel, 0, 0, 0, 0);
+  EXPECT_EQ(Names(), "Form, object_1");
+}
+
+}  // namespace
+}  // namespace cardwright
