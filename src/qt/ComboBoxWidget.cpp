@@ -1,12 +1,11 @@
 #include "qt/ComboBoxWidget.h"
 
-#include <QApplication>
 #include <QComboBox>
 #include <QLineEdit>
 
-#include "qt/Colors.h"
 #include "qt/FieldKind.h"
 #include "qt/LineEditText.h"
+#include "qt/ListColors.h"
 #include "qt/QtText.h"
 
 namespace cardwright::qt {
@@ -22,15 +21,27 @@ ComboBoxWidget::ComboBoxWidget(WidgetPlace place)
     : QtWidget(kComboBox, place), m_Combo(new QComboBox(place.parent)) {
   m_Combo->setInsertPolicy(QComboBox::NoInsert);
   Adopt(*m_Combo);
-  QObject::connect(m_Combo, &QComboBox::activated, this, [this](int index) {
-    m_ListIndex = index;
-    NotifyClick();
-  });
+  QObject::connect(m_Combo, &QComboBox::activated, this, [this](int index) { OnActivated(index); });
+}
+
+void ComboBoxWidget::OnActivated(int index) {
+  const Ref<Widget> keepAlive(&Self());
+  const SurfaceState::Handling handling(*m_Place.state);
+  SetChosen(index);
+  if (Native()) NotifyClick();
+}
+
+/// Those that follow the choice know of it before the listener does.
+void ComboBoxWidget::SetChosen(int index) {
+  if (index == m_ListIndex) return;
+  m_ListIndex = index;
+  Q_EMIT m_Choice.Changed();
 }
 
 Text ComboBoxWidget::DisplayText() const {
   RequireAlive();
-  return FromQString(m_Combo->currentText());
+  const bool isPlain = !m_Combo->isEditable() && m_ListIndex < 0;
+  return FromQString(isPlain ? m_Combo->placeholderText() : m_Combo->currentText());
 }
 
 void ComboBoxWidget::SetDisplayText(const Text& text) {
@@ -39,11 +50,15 @@ void ComboBoxWidget::SetDisplayText(const Text& text) {
   if (wanted == m_Combo->currentText()) return;
   if (!m_Combo->isEditable()) {
     const int index = m_Combo->findText(wanted, Qt::MatchFixedString);
+    // A box that is only drawn shows any text, as authors are used to.
+    if (index < 0 && m_Place.state->isDesigned) return m_Combo->setPlaceholderText(wanted);
     if (index < 0) Raise(kTextIsReadOnly);
     SetListIndex(index);
     return;
   }
-  m_ListIndex = -1;
+  const Ref<Widget> keepAlive(&Self());
+  SetChosen(-1);
+  RequireAlive();
   m_Combo->lineEdit()->setText(wanted);
   m_Combo->lineEdit()->setCursorPosition(0);
   NotifyChange();
@@ -94,9 +109,11 @@ bool ComboBoxWidget::IsEditable() const {
 void ComboBoxWidget::SetEditable(bool editable) {
   RequireAlive();
   if (editable == m_Combo->isEditable()) return;
+  const QString plain = m_Combo->placeholderText();
   m_Combo->setEditable(editable);
   if (editable) SetUpEditor();
   Select(m_ListIndex);
+  if (editable && m_ListIndex < 0) m_Combo->lineEdit()->setText(plain);
 }
 
 void ComboBoxWidget::SetUpEditor() {
@@ -109,8 +126,10 @@ void ComboBoxWidget::SetUpEditor() {
   WatchPart(edit);
   // By hand or by SelText; a text that is set as a whole does not count as edited.
   QObject::connect(&edit, &QLineEdit::textEdited, this, [this] {
-    m_ListIndex = -1;
-    NotifyChange();
+    const Ref<Widget> keepAlive(&Self());
+    const SurfaceState::Handling handling(*m_Place.state);
+    SetChosen(-1);
+    if (Native()) NotifyChange();
   });
 }
 
@@ -142,14 +161,16 @@ int ComboBoxWidget::ListIndex() const {
 void ComboBoxWidget::SetListIndex(int index) {
   if (index < -1 || index >= ListCount()) Raise(ErrorNumber::InvalidPropertyValue);
   if (index == m_ListIndex) return;
+  const Ref<Widget> keepAlive(&Self());
   Select(index);
-  NotifyClick();
+  if (Native()) NotifyClick();
 }
 
 void ComboBoxWidget::Select(int index) {
-  m_ListIndex = index;
+  if (index >= 0) m_Combo->setPlaceholderText({});
   m_Combo->setCurrentIndex(index);
   if (QLineEdit* edit = m_Combo->lineEdit()) edit->setText(m_Combo->itemText(index));
+  SetChosen(index);
 }
 
 /// The toolkit selects the first entry of a list that was empty and the neighbour of an entry that goes; here
@@ -160,7 +181,7 @@ void ComboBoxWidget::ChangeList(Change&& change, int indexAfter) {
   const bool isTyped = m_ListIndex < 0;
   change();
   Select(indexAfter);
-  if (isTyped && m_Combo->isEditable()) m_Combo->lineEdit()->setText(text);
+  if (isTyped && Native() && m_Combo->isEditable()) m_Combo->lineEdit()->setText(text);
 }
 
 void ComboBoxWidget::AddItem(const Text& text, std::optional<int> index) {
@@ -179,6 +200,7 @@ void ComboBoxWidget::RemoveItem(int index) {
 void ComboBoxWidget::Clear() {
   RequireAlive();
   m_Combo->clear();
+  m_Combo->setPlaceholderText({});
   Select(-1);
 }
 
@@ -193,15 +215,7 @@ void ComboBoxWidget::OnFontApplied() {
 
 void ComboBoxWidget::CollectColors(QPalette& own, const QPalette& inherited) const {
   WidgetCore::CollectColors(own, inherited);
-  // A list that is not editable is drawn as a button.
-  if (m_State.backColor != Kind().backColor) {
-    own.setColor(QPalette::Button, ToQColor(m_State.backColor, QApplication::palette()));
-  }
-  if (m_State.foreColor != Kind().foreColor) {
-    const QColor fore = ToQColor(m_State.foreColor, QApplication::palette());
-    own.setColor(QPalette::Active, QPalette::ButtonText, fore);
-    own.setColor(QPalette::Inactive, QPalette::ButtonText, fore);
-  }
+  CollectListColors(own, Kind(), m_State.backColor, m_State.foreColor);
 }
 
 bool ComboBoxWidget::TakesWheel() const { return !m_IsLocked && m_Combo->hasFocus(); }

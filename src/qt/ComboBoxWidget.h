@@ -1,5 +1,6 @@
 #pragma once
 
+#include "qt/ChoiceNotice.h"
 #include "qt/QtWidget.h"
 
 class QComboBox;
@@ -38,6 +39,9 @@ class ComboBoxWidget final : public QtWidget<ComboWidget> {
   void RemoveItem(int index) override;
   void Clear() override;
 
+  /// Tells of another ListIndex.
+  const ChoiceNotice& Choice() const noexcept { return m_Choice; }
+
  private:
   float HeightFor(float height) const override;
   void CollectColors(QPalette& own, const QPalette& inherited) const override;
@@ -47,12 +51,15 @@ class ComboBoxWidget final : public QtWidget<ComboWidget> {
 
   QLineEdit& Editor() const;
   void SetUpEditor();
+  void OnActivated(int index);
+  void SetChosen(int index);
   void Select(int index);
   void RequireIndex(int index) const;
   template <class Change>
   void ChangeList(Change&& change, int indexAfter);
 
   QComboBox* m_Combo;
+  ChoiceNotice m_Choice;
   int m_ListIndex = -1;  // the toolkit's own index stays at the last entry while another text is typed
   int m_MaxLength = 0;
   bool m_IsLocked = false;

@@ -9,7 +9,7 @@
 namespace cardwright::qt {
 
 FormInput::FormInput(QWidget* parent)
-    : QWidget(parent),
+    : VisualControl(parent),
       m_Surface(std::make_unique<QtSurface>(*this)),
       m_Input(cardwright::FormInput::Create(*m_Surface)) {
   m_Surface->SetControl(m_Input.get());
@@ -24,9 +24,7 @@ FormInput::~FormInput() {
 
 void FormInput::Forward(std::u16string_view event, Args args) {
   if (event == u"NeedResize") {
-    m_Needed = size();
-    updateGeometry();
-    Q_EMIT NeedResize(ToSingle(args[0]), ToSingle(args[1]));
+    TellNeedResize(ToSingle(args[0]), ToSingle(args[1]));
   } else if (event == u"OkClick") {
     Q_EMIT OkClick();
   } else if (event == u"CancelClick") {
@@ -56,8 +54,6 @@ void FormInput::SetSetAttributesEnabled(bool enabled) {
   Q_EMIT SetAttributesEnabledChanged(enabled);
 }
 
-QSize FormInput::sizeHint() const { return m_Needed; }
-
 QPushButton* FormInput::FixedButton(std::u16string_view name) const {
   const Ref<Widget> widget = m_Surface->Find(name);
   const auto* core = dynamic_cast<WidgetCore*>(widget.get());
@@ -71,7 +67,7 @@ void FormInput::keyPressEvent(QKeyEvent* event) {
   QPushButton* button = nullptr;
   if (modifiers == Qt::NoModifier && enter) button = FixedButton(u"cmdOK");
   if (modifiers == Qt::NoModifier && event->key() == Qt::Key_Escape) button = FixedButton(u"cmdCancel");
-  if (!button) return QWidget::keyPressEvent(event);
+  if (!button) return VisualControl::keyPressEvent(event);
   event->accept();
   button->click();
 }
@@ -79,7 +75,7 @@ void FormInput::keyPressEvent(QKeyEvent* event) {
 // The fixed buttons are the oldest children and so first in the focus chain; a person begins in the first
 // field.
 void FormInput::showEvent(QShowEvent* event) {
-  QWidget::showEvent(event);
+  VisualControl::showEvent(event);
   if (focusWidget()) return;
   const QWidget* ok = FixedButton(u"cmdOK");
   const QWidget* cancel = FixedButton(u"cmdCancel");
@@ -92,8 +88,8 @@ void FormInput::showEvent(QShowEvent* event) {
 }
 
 void FormInput::resizeEvent(QResizeEvent* event) {
-  QWidget::resizeEvent(event);
-  if (m_DesignMode) m_Input->PlaceButtonsForDesign();
+  VisualControl::resizeEvent(event);
+  if (DesignMode()) m_Input->PlaceButtonsForDesign();
 }
 
 }  // namespace cardwright::qt

@@ -31,6 +31,14 @@ QWidget& QtHostWindow::Window() const {
   return *m_Window;
 }
 
+QWidget& WindowAround(const QWidget& canvas) {
+  QWidget* const top = canvas.window();
+  if (top == &canvas) return *top;
+  QWidget* at = canvas.parentWidget();
+  while (at != top && !at->property(kStandsForWindow).toBool()) at = at->parentWidget();
+  return *at;
+}
+
 Text QtHostWindow::Caption() const { return FromQString(Window().windowTitle()); }
 
 void QtHostWindow::SetCaption(const Text& caption) { Window().setWindowTitle(ToQString(caption)); }

@@ -40,6 +40,7 @@ QtSurface::~QtSurface() {
   m_State->SettleNone();
   m_Font->RemoveUser(*this);
   for (const auto& [name, widget] : m_Widgets) CoreOf(*widget).Detach();
+  for (const Ref<Widget>& widget : m_Own) CoreOf(*widget).Detach();
 }
 
 QWidget& QtSurface::Canvas() const {
@@ -54,7 +55,12 @@ Ref<Widget> QtSurface::Add(std::u16string_view identifier, std::u16string_view n
   return widget;
 }
 
-/// Only frames contain other widgets; anything else is no container (error 5).
+Ref<Widget> QtSurface::AddOwn(std::u16string_view identifier, std::u16string_view name) {
+  m_Own.push_back(CreateWidget(identifier, PlaceIn(nullptr, name)));
+  return m_Own.back();
+}
+
+// Only frames contain other widgets.
 WidgetPlace QtSurface::PlaceIn(Widget* container, std::u16string_view name) const {
   if (!container) return {m_State, name, nullptr, &Canvas()};
   auto* frame = dynamic_cast<FrameWidget*>(container);
@@ -91,6 +97,7 @@ void QtSurface::SetScale(ScaleMode mode) {
   m_Width = PixelsToScale(ScaleToPixels(m_Width, before), mode);
   m_Height = PixelsToScale(ScaleToPixels(m_Height, before), mode);
   for (const auto& [name, widget] : m_Widgets) CoreOf(*widget).ConvertGeometry(before, mode);
+  for (const Ref<Widget>& widget : m_Own) CoreOf(*widget).ConvertGeometry(before, mode);
 }
 
 void QtSurface::SetBackColor(OleColor color) {
@@ -134,19 +141,21 @@ float QtSurface::Height() const {
 }
 
 void QtSurface::Resize(float width, float height) {
-  Canvas().resize(WholePixels(width, m_Scale), WholePixels(height, m_Scale));
+  QWidget& canvas = Canvas();
+  const QSize pixels(WholePixels(width, m_Scale), WholePixels(height, m_Scale));
   m_Width = width;
   m_Height = height;
+  canvas.resize(pixels);
 }
 
 Ref<HostWindow> QtSurface::Host() const {
-  QWidget* window = Canvas().window();
+  QWidget* window = &WindowAround(Canvas());
   if (window == m_Canvas) return nullptr;
   if (!m_Host || m_Host->Native() != window) m_Host = MakeRef<QtHostWindow>(*window);
   return m_Host;
 }
 
-FrameSize QtSurface::HostFrame() const { return FrameOf(*Canvas().window()); }
+FrameSize QtSurface::HostFrame() const { return FrameOf(WindowAround(Canvas())); }
 
 std::int32_t QtSurface::WindowHandle() const { return WindowHandles::Instance().HandleOf(Canvas()); }
 

@@ -4,6 +4,7 @@
 #include <QPointer>
 #include <QWidget>
 #include <unordered_map>
+#include <vector>
 
 #include "platform/Surface.h"
 #include "qt/QtHostWindow.h"
@@ -25,6 +26,8 @@ class QtSurface final : public QObject, public Surface, private Font::User {
   /// Takes what the widget contains along. A name that is not there is passed over.
   void Remove(std::u16string_view name) override;
   Ref<Widget> Find(std::u16string_view name) const override;
+  /// A widget of the surface's own, which stands under no name. The surface keeps it to its end.
+  Ref<Widget> AddOwn(std::u16string_view identifier, std::u16string_view name);
 
   ScaleMode Scale() const override { return m_Scale; }
   void SetScale(ScaleMode mode) override;
@@ -46,6 +49,12 @@ class QtSurface final : public QObject, public Surface, private Font::User {
   Ref<Object> Control() const { return m_Control; }
   /// The canvas; null once it is gone.
   QWidget* Native() const noexcept { return m_Canvas; }
+  /// Error 91 where it is gone.
+  QWidget& Canvas() const;
+  SurfaceState& State() const noexcept { return *m_State; }
+  /// Where a widget inside that container goes; null for the surface itself. Error 5 for a widget that is no
+  /// container.
+  WidgetPlace PlaceIn(Widget* container, std::u16string_view name) const;
 
  private:
   struct NoCaseHash {
@@ -63,8 +72,6 @@ class QtSurface final : public QObject, public Surface, private Font::User {
   bool eventFilter(QObject* target, QEvent* event) override;
   void OnFontChanged(const Font& font) override;
 
-  QWidget& Canvas() const;
-  WidgetPlace PlaceIn(Widget* container, std::u16string_view name) const;
   void RemoveContents(const Widget& container);
   void ApplyBackColor();
   void ApplyFont();
@@ -73,6 +80,7 @@ class QtSurface final : public QObject, public Surface, private Font::User {
   Ref<SurfaceState> m_State;
   Ref<Font> m_Font;
   Widgets m_Widgets;
+  std::vector<Ref<Widget>> m_Own;
   Object* m_Control = nullptr;
   ScaleMode m_Scale = ScaleMode::Pixels;
   OleColor m_BackColor = ToOleColor(SystemColor::ButtonFace);

@@ -1,6 +1,7 @@
 #include "qt/SurfaceState.h"
 
 #include <QMetaObject>
+#include <QMouseEvent>
 #include <utility>
 
 #include "qt/QtSurface.h"
@@ -14,6 +15,12 @@ SurfaceState::Handling::~Handling() {
   for (const QPointer<QWidget>& widget : std::exchange(m_State->m_Removed, {})) {
     if (widget) widget->deleteLater();
   }
+}
+
+// Not where it goes afterwards: what a stroke has led to is looked at when it may be over.
+void SurfaceState::NoteCursor(const QMouseEvent& event) {
+  if (event.type() == QEvent::MouseMove && event.buttons() == Qt::NoButton) return;
+  cursor = event.globalPosition().toPoint();
 }
 
 QButtonGroup& SurfaceState::OptionsIn(QWidget& container) {

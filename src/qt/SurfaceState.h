@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QButtonGroup>
+#include <QPoint>
 #include <QPointer>
 #include <QWidget>
 #include <unordered_map>
@@ -9,6 +10,8 @@
 #include "automation/Ref.h"
 #include "platform/Widget.h"
 #include "qt/FontCache.h"
+
+class QMouseEvent;
 
 namespace cardwright::qt {
 
@@ -24,6 +27,11 @@ class SurfaceState final : public RefCounted {
   QtSurface* surface;  ///< null once the surface is gone
   FontCache fonts;
   WidgetCore* focused = nullptr;  ///< the widget whose listener was told of the focus last
+  /// The widgets are drawn and not used: they take the focus and tell of the mouse, but act on nothing, and
+  /// show the pointer of what they stand on.
+  bool isDesigned = false;
+  QPoint cursor;  ///< on the screen, where a button was pressed, or the mouse went with it or let it go
+  void NoteCursor(const QMouseEvent& event);
 
   /// Marks that a listener runs. A widget that it removes may be the one whose event is being handled, so the
   /// toolkit's widget stays, hidden, until the outermost listener has returned.

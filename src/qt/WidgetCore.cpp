@@ -1,6 +1,7 @@
 #include "qt/WidgetCore.h"
 
 #include <QApplication>
+#include <QContextMenuEvent>
 #include <QFocusEvent>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
@@ -26,6 +27,12 @@ constexpr float kNewHeight = 33.0F;
 int ToPixels(float value, ScaleMode mode) {
   return static_cast<int>(
       std::lround(std::clamp(ScaleToPixels(value, mode), -kGreatestPixel, kGreatestPixel)));
+}
+
+/// What a widget would do something on, beyond mouse and keys.
+bool IsUse(QEvent::Type type) {
+  return type == QEvent::Wheel || type == QEvent::ContextMenu || type == QEvent::Shortcut ||
+         type == QEvent::DragEnter || type == QEvent::InputMethod;
 }
 
 /// Asks a toolkit widget's event filters who its adapter is.
@@ -67,6 +74,7 @@ void WidgetCore::Adopt(QWidget& widget) {
   ApplyFont();
   m_State.height = HeightFor(m_State.height);
   ApplyGeometry();
+  if (m_Place.state->isDesigned) widget.unsetCursor();
   widget.installEventFilter(this);
 }
 
@@ -99,6 +107,17 @@ void WidgetCore::ConvertGeometry(ScaleMode from, ScaleMode to) {
   for (float* value : {&m_State.left, &m_State.top, &m_State.width, &m_State.height}) {
     *value = PixelsToScale(ScaleToPixels(*value, from), to);
   }
+}
+
+void WidgetCore::StandIn(Ref<Widget> container, QWidget& parent) {
+  RequireAlive();
+  m_Place.container = std::move(container);
+  m_Place.parent = &parent;
+  if (m_Widget->parentWidget() != &parent) {
+    m_Widget->setParent(&parent);
+    m_Widget->setVisible(m_State.isVisible);
+  }
+  m_Widget->raise();
 }
 
 void WidgetCore::Place(float left, float top, float width, float height) {
@@ -211,13 +230,31 @@ Ref<Object> WidgetCore::Control() const {
   return m_Place.state->surface->Control();
 }
 
+// As the menu key asks for it, but of this widget alone: what it leaves unused would go on to the surface.
+bool WidgetCore::OpenOwnMenu() {
+  RequireAlive();
+  const QPoint at = m_Widget->inputMethodQuery(Qt::ImCursorRectangle).toRect().center();
+  QContextMenuEvent event(QContextMenuEvent::Keyboard, at, m_Widget->mapToGlobal(at));
+  const bool endedHere = m_Widget->testAttribute(Qt::WA_NoMousePropagation);
+  m_Widget->setAttribute(Qt::WA_NoMousePropagation);
+  const QWidget* const openBefore = QApplication::activePopupWidget();
+  QCoreApplication::sendEvent(m_Widget, &event);
+  if (m_Widget) m_Widget->setAttribute(Qt::WA_NoMousePropagation, endedHere);
+  const QWidget* const open = QApplication::activePopupWidget();
+  return open && open != openBefore;  // some widgets take the event and have no menu
+}
+
 bool WidgetCore::eventFilter(QObject* target, QEvent* event) {
   if (event->type() == AdapterQuery::EventType()) {
-    if (target == m_Widget) static_cast<AdapterQuery*>(event)->answer = this;
+    static_cast<AdapterQuery*>(event)->answer = m_Widget ? this : nullptr;
     return true;
   }
   if (!m_Widget || !m_Place.state->surface || m_IsReplaying) return false;
   auto& widget = static_cast<QWidget&>(*target);
+  if (m_Place.state->isDesigned && IsUse(event->type())) {
+    event->ignore();  // on to the parent, which may scroll
+    return true;
+  }
   switch (event->type()) {
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonRelease:
@@ -228,6 +265,9 @@ bool WidgetCore::eventFilter(QObject* target, QEvent* event) {
       event->ignore();  // on to the parent, which may scroll
       return true;
     case QEvent::ContextMenu: return std::exchange(m_DropsMenu, false);
+    case QEvent::CursorChange:
+      if (m_Place.state->isDesigned && widget.testAttribute(Qt::WA_SetCursor)) widget.unsetCursor();
+      return false;
     case QEvent::KeyPress: return OnKey(widget, static_cast<QKeyEvent&>(*event));
     case QEvent::InputMethod: return OnInputMethod(widget, static_cast<QInputMethodEvent&>(*event));
     case QEvent::Show:

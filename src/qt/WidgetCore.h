@@ -51,13 +51,20 @@ class WidgetCore : public QObject, private Font::User {
 
   /// The toolkit's widget; null once it is gone.
   QWidget* Native() const noexcept { return m_Widget; }
-  /// The adapter of a toolkit widget, or null where it is none of this library's run-time widgets.
+  /// The adapter of a toolkit widget or of a part that it watches, or null where it is none of this library's
+  /// run-time widgets.
   static WidgetCore* Of(QWidget& widget);
   virtual Widget& Self() = 0;
+  /// A part of the widget that a person knows as such, "button" or "edit" in any case; null where it has no
+  /// such part.
+  virtual QWidget* Part(std::u16string_view /*name*/) const { return nullptr; }
 
   /// Takes the toolkit's widget off the surface.
   void Detach();
   void ConvertGeometry(ScaleMode from, ScaleMode to);
+  /// Moves the widget to another container, null for the surface itself, in front of what stands there. Its
+  /// numbers stay.
+  void StandIn(Ref<Widget> container, QWidget& parent);
 
  protected:
   WidgetCore(const WidgetKind& kind, WidgetPlace place);
@@ -67,6 +74,7 @@ class WidgetCore : public QObject, private Font::User {
   /// the widget and ends there.
   void WatchPart(QWidget& part) {
     part.setMouseTracking(true);
+    if (m_Place.state->isDesigned) part.unsetCursor();
     part.installEventFilter(this);
     m_HasParts = true;
   }
@@ -101,6 +109,7 @@ class WidgetCore : public QObject, private Font::User {
   void SetSwitchedOn(bool on);
   void Restack(StackPosition position);
   Ref<Object> Control() const;
+  bool OpenOwnMenu();
 
   /// @name What a kind does in its own way.
   /// @{
@@ -116,8 +125,11 @@ class WidgetCore : public QObject, private Font::User {
   virtual bool IsBlocked() const { return false; }
   virtual bool TakesWheel() const { return true; }
   virtual bool TakesEnter() const { return false; }
+  /// Whether a click on that part, or on the widget itself, is one on the widget as a whole.
+  virtual bool IsClickedBy(const QWidget& /*part*/) const { return true; }
   /// @}
 
+  void OnFontChanged(const Font& font) override;
   void ApplyGeometry();
   void ApplyColors();
   void SettleSoon() { m_Place.state->SettleSoon(Ref<Widget>(&Self())); }
@@ -136,12 +148,11 @@ class WidgetCore : public QObject, private Font::User {
  private:
   friend class SurfaceState;
   bool eventFilter(QObject* target, QEvent* event) override;
-  void OnFontChanged(const Font& font) override;
   void ApplyFont();
 
   bool OnMouse(QWidget& target, QMouseEvent& event);
   void TellMouse(QWidget& target, const QMouseEvent& event);
-  void TellClick(const QMouseEvent& event, QPoint at);
+  void TellClick(const QWidget& target, const QMouseEvent& event, QPoint at);
   bool EndsHere(const QWidget& target, const QMouseEvent& event) const;
   bool OnKey(QWidget& target, QKeyEvent& event);
   bool OnTyped(QWidget& target, QKeyEvent& event);

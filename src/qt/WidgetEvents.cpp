@@ -10,6 +10,7 @@
 namespace cardwright::qt {
 
 bool WidgetCore::OnMouse(QWidget& target, QMouseEvent& event) {
+  m_Place.state->NoteCursor(event);
   // A widget that is switched off lets the mouse through to what it stands on.
   if (!m_Widget->isEnabled()) {
     event.ignore();
@@ -20,21 +21,23 @@ bool WidgetCore::OnMouse(QWidget& target, QMouseEvent& event) {
   const Ref<Widget> keepAlive(&Self());
   if (!wasTold) {
     TellMouse(target, event);
-    TellClick(event, at);
+    TellClick(target, event, at);
   }
   if (m_Widget && !wasTold && !EndsHere(target, event)) return false;
   event.accept();
   return true;
 }
 
-void WidgetCore::TellClick(const QMouseEvent& event, QPoint at) {
+void WidgetCore::TellClick(const QWidget& target, const QMouseEvent& event, QPoint at) {
   if (event.type() == QEvent::MouseButtonPress) {
     m_IsPressed = event.button() == Qt::LeftButton;
   } else if (event.type() == QEvent::MouseButtonDblClick) {
     m_IsPressed = false;  // the second press of a double click makes no second click
   } else if (event.type() == QEvent::MouseButtonRelease && event.button() == Qt::LeftButton) {
     const bool clicked = std::exchange(m_IsPressed, false) && m_Widget && m_Widget->rect().contains(at);
-    if (clicked && m_Kind.click == ClickSource::MouseRelease) NotifyClick();
+    const bool isDesigned = m_Place.state->isDesigned;
+    const bool isOurs = m_Kind.click == ClickSource::MouseRelease && IsClickedBy(target);
+    if (clicked && (isDesigned || isOurs)) NotifyClick();
   }
 }
 
@@ -62,7 +65,7 @@ void WidgetCore::TellMouse(QWidget& target, const QMouseEvent& event) {
 }
 
 bool WidgetCore::EndsHere(const QWidget& target, const QMouseEvent& event) const {
-  if (IsBlocked()) return true;
+  if (IsBlocked() || m_Place.state->isDesigned) return true;
   switch (m_Kind.mouse) {
     case MouseUse::None: return true;
     case MouseUse::LeftButton: {
@@ -77,11 +80,16 @@ bool WidgetCore::EndsHere(const QWidget& target, const QMouseEvent& event) const
 bool WidgetCore::OnKey(QWidget& target, QKeyEvent& event) {
   // Tab moves between the fields and is nobody's key.
   if (event.key() == Qt::Key_Tab || event.key() == Qt::Key_Backtab) return false;
+  if (&target == m_Widget && m_Widget->focusProxy()) return false;  // left over by the part that was told
   const Ref<Widget> keepAlive(&Self());
   int code = VirtualKey(event);
   int shift = ShiftKeys(event.modifiers());
   Notify([&](WidgetListener& listener) { listener.OnKeyDown(code, shift); });
   if (!m_Widget) return true;
+  if (m_Place.state->isDesigned) {
+    event.ignore();  // on to the surface and its window
+    return true;
+  }
   if (code == 0 || IsBlocked()) return EndKey(event);
   return OnTyped(target, event);
 }

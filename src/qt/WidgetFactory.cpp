@@ -4,13 +4,19 @@
 #include <array>
 
 #include "automation/Errors.h"
+#include "qt/AttributeSelectorBox.h"
 #include "qt/CaptionWidgets.h"
+#include "qt/ColorSelectorBox.h"
 #include "qt/ComboBoxWidget.h"
+#include "qt/DbTableViewerBox.h"
+#include "qt/FontSelectorBox.h"
 #include "qt/ListViewBox.h"
 #include "qt/MultilineTextBoxWidget.h"
 #include "qt/PictureBoxWidget.h"
+#include "qt/ResourceSelectorBox.h"
 #include "qt/StateWidgets.h"
 #include "qt/TextBoxWidget.h"
+#include "qt/ThemeSelectorBox.h"
 
 namespace cardwright::qt {
 
@@ -36,7 +42,13 @@ constexpr std::array kMakers = {
     Maker{u"CardwrightCtrl.MultilineTextBox", &Make<MultilineTextBoxWidget>},
     Maker{u"VB.ComboBox", &Make<ComboBoxWidget>},
     Maker{u"MSComctlLib.ListViewCtrl.2", &Make<ListViewBox>},
+    Maker{u"CardwrightCtrl.ResourceSelector", &Make<ResourceSelectorBox>},
+    Maker{u"CardwrightCtrl.ThemeSelector", &Make<ThemeSelectorBox>},
+    Maker{u"CardwrightCtrl.AttributeSelector", &Make<AttributeSelectorBox>},
+    Maker{u"CardwrightCtrl.FontSelector", &Make<FontSelectorBox>},
+    Maker{u"CardwrightCtrl.ColorSelector", &Make<ColorSelectorBox>},
     Maker{u"VB.PictureBox", &Make<PictureBoxWidget>},
+    Maker{u"CardwrightCtrl.DbTableViewer", &Make<DbTableViewerBox>},
 };
 
 }  // namespace

@@ -287,4 +287,15 @@ TEST_F(EditableCombo, LosesItsTextWhenItIsEditableNoMore) {
   EXPECT_EQ(listener.Take(), "down1+0@8,10 up1+0@8,10");
 }
 
+TEST_F(Combo, OpensTheMenuOfItsEditFieldIfItHasOne) {
+  form.Show();
+  combo->SetEditable(true);
+  EXPECT_TRUE(combo->OpenMenu());
+  ASSERT_TRUE(QApplication::activePopupWidget());
+  QApplication::activePopupWidget()->close();
+  combo->SetEditable(false);
+  EXPECT_FALSE(combo->OpenMenu());
+  EXPECT_FALSE(QApplication::activePopupWidget());
+}
+
 }  // namespace cardwright::qt

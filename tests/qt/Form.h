@@ -27,7 +27,7 @@ namespace cardwright::qt {
 struct Listener final : WidgetListener {
   std::vector<std::string> log;
   bool logsMoves = false;
-  std::function<void()> onClick, onChange, onMouseDown, onItemCheck;
+  std::function<void()> onClick, onChange, onMouseDown, onItemCheck, onBefore, onAfter;
   std::function<void(int& keyCode, int& shift)> onKeyDown;
   std::function<void(char16_t& key)> onKeyPress;
 
@@ -70,6 +70,15 @@ struct Listener final : WidgetListener {
     log.push_back("check" + std::to_string(index));
     if (onItemCheck) onItemCheck();
   }
+  void OnBeforeButtonClick() override {
+    log.push_back("before");
+    if (onBefore) onBefore();
+  }
+  void OnAfterButtonClick() override {
+    log.push_back("after");
+    if (onAfter) onAfter();
+  }
+  void OnResize() override { log.push_back("resize"); }
 
  private:
   static std::string Mouse(const char* what, int button, int shift, float x, float y) {

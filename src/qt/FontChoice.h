@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QString>
+#include <optional>
+
+#include "platform/Font.h"
+
+class QWidget;
+
+namespace cardwright::qt {
+
+/// Has a person choose a font, from the present one on; none where it was cancelled or the dialog ended with
+/// its window. A present family that is not installed keeps its name unless another one is chosen.
+std::optional<FontValues> ChooseFont(QWidget& owner, const QString& title, const FontValues& present);
+
+}  // namespace cardwright::qt

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QPointer>
+#include <QRect>
+#include <QWidget>
+#include <array>
+
+namespace cardwright::qt {
+
+/// The outline of a rectangle above everything that stands on a canvas. Its four edges are widgets of their
+/// own: what they leave free is painted by the toolkit as ever, on each window system, and a move repaints no
+/// more than the edges.
+class DragOutline {
+ public:
+  explicit DragOutline(QWidget& canvas);
+  ~DragOutline();
+  DragOutline(const DragOutline&) = delete;
+  DragOutline& operator=(const DragOutline&) = delete;
+
+  /// `outline` is in the canvas's pixels; the pen stays inside it.
+  void Show(const QRect& outline, int penWidth);
+  void Hide();
+
+ private:
+  std::array<QPointer<QWidget>, 4> m_Edges;  // null once the canvas is gone
+};
+
+}  // namespace cardwright::qt

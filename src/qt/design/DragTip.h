@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QLabel>
+#include <QPoint>
+#include <QPointer>
+#include <QWidget>
+
+namespace cardwright::qt {
+
+/// The small window, "frmTooltip", that tells where a drag has led: one label, "lblPixel". The text is the
+/// window's title too, for those who hear it rather than see it.
+class DragTip {
+ public:
+  /// `owner` is the widget in whose window the drag runs.
+  explicit DragTip(QWidget& owner) : m_Owner(&owner) {}
+  ~DragTip() { Hide(); }
+  DragTip(const DragTip&) = delete;
+  DragTip& operator=(const DragTip&) = delete;
+
+  /// `place` is the left top corner on the screen.
+  void Show(const QString& text, QPoint place);
+  void Hide();
+
+ private:
+  const QPointer<QWidget> m_Owner;
+  QPointer<QLabel> m_Label;  // its window is there as long as the tip is shown
+};
+
+}  // namespace cardwright::qt

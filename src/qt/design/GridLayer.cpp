@@ -1,0 +1,42 @@
+#include "qt/design/GridLayer.h"
+
+#include <QPixmap>
+#include <algorithm>
+
+namespace cardwright::qt {
+
+namespace {
+
+/// Columns and rows whose points lie inside an area; points have no negative coordinates.
+QRect CellsIn(const QRect& area, int step) {
+  const auto first = [step](int pixel) { return std::max(0, (pixel + step - 1) / step); };
+  const QPoint from(first(area.left()), first(area.top()));
+  const QPoint to(area.right() < 0 ? -1 : area.right() / step, area.bottom() < 0 ? -1 : area.bottom() / step);
+  return {from, to};
+}
+
+/// One row of points, which all rows show: thousands of single points would take their time.
+QPixmap RowOf(int columns, int step, qreal ratio) {
+  QPixmap row(QSize((columns - 1) * step + 1, 1) * ratio);
+  row.setDevicePixelRatio(ratio);
+  row.fill(Qt::transparent);
+  QPainter painter(&row);
+  for (int column = 0; column < columns; ++column) painter.fillRect(column * step, 0, 1, 1, Qt::black);
+  return row;
+}
+
+void PaintPoints(QPainter& painter, const QRect& cells, int step) {
+  const QPixmap row = RowOf(cells.width(), step, painter.device()->devicePixelRatioF());
+  for (int y = cells.top(); y <= cells.bottom(); ++y) painter.drawPixmap(cells.left() * step, y * step, row);
+}
+
+}  // namespace
+
+void GridLayer::Add(int step, const QRect& cells) { m_Cells[step] += cells; }
+
+void GridLayer::Paint(QPainter& painter, const QRect& area) const {
+  for (const auto& [step, cells] : m_Cells)
+    for (const QRect& block : cells.intersected(CellsIn(area, step))) PaintPoints(painter, block, step);
+}
+
+}  // namespace cardwright::qt
