@@ -6,6 +6,7 @@
 #include <QFileDialog>
 #include <QFontDialog>
 #include <QInputDialog>
+#include <QLineEdit>
 #include <QMenu>
 #include <QMessageBox>
 #include <QPointer>
@@ -15,6 +16,7 @@
 #include "qt/Colors.h"
 #include "qt/QtText.h"
 #include "robot/Keyboard.h"
+#include "robot/WidgetPart.h"
 
 namespace cardwright::robot {
 namespace {
@@ -59,6 +61,16 @@ QAction* ItemNamed(const QMenu& menu, std::u16string_view name) {
   return nullptr;
 }
 
+/// Several files are their folder and their names with a NUL between, as the form has them; they are typed as
+/// a person would, each in quotes.
+void PutPaths(QFileDialog& dialog, const QString& path) {
+  QStringList parts = path.split(QChar::Null);
+  auto* const line = dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+  if (parts.size() < 3 || !line) return dialog.selectFile(parts.join(u'/'));
+  dialog.setDirectory(parts.takeFirst());
+  line->setText(u'"' + parts.join(QStringLiteral("\" \"")) + u'"');
+}
+
 }  // namespace
 
 Attendant::Attendant(Mouse& mouse) : m_Mouse(mouse) {
@@ -69,6 +81,8 @@ Attendant::Attendant(Mouse& mouse) : m_Mouse(mouse) {
 
 bool Attendant::eventFilter(QObject* target, QEvent* event) {
   if (event->type() == QEvent::Show && target->isWidgetType()) OnShown(static_cast<QWidget&>(*target));
+  if (event->type() == QEvent::WindowTitleChange && target->objectName() == u"frmTooltip")
+    m_LastTooltip = qt::FromQString(static_cast<QWidget&>(*target).windowTitle());
   return false;
 }
 
@@ -78,12 +92,15 @@ void Attendant::OnShown(QWidget& widget) {
   if (auto* file = qobject_cast<QFileDialog*>(&widget)) return Meet(*file, &Attendant::AnswerFile);
   if (auto* color = qobject_cast<QColorDialog*>(&widget)) return Meet(*color, &Attendant::AnswerColor);
   if (auto* font = qobject_cast<QFontDialog*>(&widget)) return Meet(*font, &Attendant::AnswerFont);
+  if (auto* dialog = qobject_cast<QDialog*>(&widget); dialog && dialog->isModal())
+    return Meet(*dialog, &Attendant::AnswerDialog);
   if (auto* menu = qobject_cast<QMenu*>(&widget)) Meet(*menu, &Attendant::AnswerMenu);
 }
 
 template <class Shown>
 void Attendant::Meet(Shown& shown, void (Attendant::*answer)(Shown&)) {
   QTimer::singleShot(0, this, [this, answer, met = QPointer<Shown>(&shown)] {
+    m_Mouse.Finish();
     if (met && met->isVisible()) (this->*answer)(*met);
   });
 }
@@ -103,8 +120,11 @@ void Attendant::AnswerInput(QInputDialog& dialog) {
 void Attendant::AnswerFile(QFileDialog& dialog) {
   const Text path = TakeNext(m_Answers.files).value_or(Text());
   if (path.IsEmpty()) return dialog.reject();
-  dialog.selectFile(qt::ToQString(path));
+  PutPaths(dialog, qt::ToQString(path));
+  const QPointer<QFileDialog> open = &dialog;
   PressKey(dialog, ParseStroke(u"Enter"));
+  // A file that is not there, or that is not to be written over: the dialog has said so and is open still.
+  if (open && open->isVisible()) open->reject();
 }
 
 void Attendant::AnswerColor(QColorDialog& dialog) {
@@ -122,6 +142,37 @@ void Attendant::AnswerFont(QFontDialog& dialog) {
   chosen.setPointSizeF(font.size);
   dialog.setCurrentFont(chosen);
   dialog.accept();
+}
+
+void Attendant::SetProcedure(const Text& dialog, Ref<Object> procedure) {
+  std::erase_if(m_Procedures, [&](const auto& known) { return EqualsNoCase(known.first, dialog); });
+  if (procedure) m_Procedures.emplace_back(dialog, std::move(procedure));
+}
+
+Ref<Object> Attendant::ProcedureFor(std::u16string_view dialog) const {
+  for (const auto& [name, procedure] : m_Procedures)
+    if (EqualsNoCase(name, dialog)) return procedure;
+  return nullptr;
+}
+
+void Attendant::RaiseFailure() {
+  if (const auto failure = std::exchange(m_Failure, std::nullopt)) throw Error(*failure);
+}
+
+void Attendant::AnswerDialog(QDialog& dialog) {
+  const QPointer<QDialog> open = &dialog;
+  const QString name = dialog.objectName();
+  if (const Ref<Object> procedure = ProcedureFor(qt::ViewOf(name))) CallProcedure(*procedure, dialog);
+  if (open && open->isVisible()) open->reject();
+}
+
+void Attendant::CallProcedure(Object& procedure, QDialog& dialog) {
+  Variant argument(Ref<Object>(MakeRef<WidgetPart>(dialog)));
+  try {
+    procedure.Invoke(procedure.DefaultMember(), CallKind::Method, Args(&argument, 1));
+  } catch (const Error& error) {
+    if (!m_Failure) m_Failure = error;
+  }
 }
 
 void Attendant::AnswerMenu(QMenu& menu) {

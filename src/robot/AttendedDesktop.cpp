@@ -34,10 +34,10 @@ class ActiveWindow {
 
 }  // namespace
 
-AttendedDesktop::AttendedDesktop() : m_Below(DesktopOfThread()) { Module().desktop = this; }
+AttendedDesktop::AttendedDesktop() : DesktopOver(DesktopOfThread()) { Module().desktop = this; }
 
 AttendedDesktop::~AttendedDesktop() {
-  if (Module().desktop == this) Module().desktop = &m_Below;
+  if (Module().desktop == this) Module().desktop = &Below();
 }
 
 void AttendedDesktop::Keep(const Text& text, int style, const Text& title) {
@@ -48,19 +48,19 @@ void AttendedDesktop::Keep(const Text& text, int style, const Text& title) {
 int AttendedDesktop::ShowMessage(const Text& text, int style, const Text& title) {
   Keep(text, style, title);
   const ActiveWindow active;
-  return m_Below.ShowMessage(text, style, title);
+  return Below().ShowMessage(text, style, title);
 }
 
 Variant AttendedDesktop::AskText(const Text& prompt, const Text& title, const Text& initial, const Variant& x,
                                  const Variant& y) {
   Keep(prompt, BoxStyle::OkCancel, title);
   const ActiveWindow active;
-  return m_Below.AskText(prompt, title, initial, x, y);
+  return Below().AskText(prompt, title, initial, x, y);
 }
 
 void AttendedDesktop::Beep() {
   ++m_Beeps;
-  m_Below.Beep();
+  Below().Beep();
 }
 
 void AttendedDesktop::Start(const Text& commandLine) { m_Launches->Add(Variant(commandLine)); }

@@ -1,13 +1,13 @@
 #pragma once
 
 #include "automation/Collection.h"
-#include "platform/Desktop.h"
+#include "platform/DesktopOver.h"
 
 namespace cardwright::robot {
 
 /// The thread's desktop while a robot sits at it: it keeps what was shown, heard and asked for, and starts no
 /// programs. Everything else is the desktop below's, which it takes the place of for its life.
-class AttendedDesktop final : public Desktop {
+class AttendedDesktop final : public DesktopOver {
  public:
   AttendedDesktop();
   ~AttendedDesktop() override;
@@ -21,17 +21,13 @@ class AttendedDesktop final : public Desktop {
   int ShowMessage(const Text& text, int style, const Text& title) override;
   Variant AskText(const Text& prompt, const Text& title, const Text& initial, const Variant& x,
                   const Variant& y) override;
+  bool IsAttended() const override { return true; }
   void Beep() override;
-  Ref<Widget> ActiveControl() const override { return m_Below.ActiveControl(); }
-  OleColor ResolveColor(OleColor color) const override { return m_Below.ResolveColor(color); }
-  bool IsWindow(std::int32_t handle) const override { return m_Below.IsWindow(handle); }
   void Start(const Text& commandLine) override;
-  SettingsStore& Settings() override { return m_Below.Settings(); }
 
  private:
   void Keep(const Text& text, int style, const Text& title);
 
-  Desktop& m_Below;
   const Ref<Collection> m_Messages = MakeRef<Collection>();
   const Ref<Collection> m_Launches = MakeRef<Collection>();
   std::int32_t m_Beeps = 0;

@@ -8,20 +8,20 @@ constexpr QSize kFirstSize(640, 480);  // until a form has asked for its own
 
 }  // namespace
 
-ControlWindow::ControlWindow() : m_Form(new qt::FormInput(this)) {
-  connect(m_Form, &qt::FormInput::SetParentCaption, this, &QWidget::setWindowTitle);
-  connect(m_Form, &qt::FormInput::NeedResize, this, [this] { resize(m_Form->size()); });
+ControlWindow::ControlWindow(std::unique_ptr<qt::VisualControl> control) : m_Control(control.release()) {
+  m_Control->setParent(this);
+  connect(m_Control, &qt::VisualControl::NeedResize, this, [this] { resize(m_Control->size()); });
   resize(kFirstSize);
 }
 
 bool ControlWindow::IsForgotten() const {
-  const cardwright::FormInput* const object = m_Form->Object().get();
+  const Object* const object = m_Control->Control().get();
   return object->IsUnique();
 }
 
 void ControlWindow::resizeEvent(QResizeEvent* event) {
   QWidget::resizeEvent(event);
-  m_Form->resize(size());
+  m_Control->resize(size());
 }
 
 }  // namespace cardwright::robot

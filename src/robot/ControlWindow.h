@@ -1,20 +1,20 @@
 #pragma once
 
 #include <QWidget>
-#include <optional>
+#include <memory>
 
-#include "qt/FormInput.h"
+#include "qt/VisualControl.h"
 
 namespace cardwright::robot {
 
 /// A host's window around one visual control, which fills it. It does what a host does: it takes the title
-/// and the size that the form asks for. What OK and Cancel mean is left to the script; closing it only hides
-/// it.
+/// and the size that the form asks for. Everything else that a control tells is left to the script; closing
+/// the window only hides it.
 class ControlWindow final : public QWidget {
  public:
-  ControlWindow();
+  explicit ControlWindow(std::unique_ptr<qt::VisualControl> control);
 
-  qt::FormInput& Form() noexcept { return *m_Form; }
+  qt::VisualControl& Control() noexcept { return *m_Control; }
   /// Whether nobody but the window holds the control any more.
   bool IsForgotten() const;
 
@@ -22,7 +22,7 @@ class ControlWindow final : public QWidget {
   void resizeEvent(QResizeEvent* event) override;
 
  private:
-  qt::FormInput* const m_Form;
+  qt::VisualControl* const m_Control;
 };
 
 }  // namespace cardwright::robot

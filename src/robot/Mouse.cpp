@@ -58,7 +58,11 @@ void Mouse::Drag(QWidget& widget, QPoint from, QPoint to, MouseGrip grip, int mo
 }
 
 void Mouse::Play(QWidget& widget, MouseGrip grip, std::vector<Step> steps) {
+  const QPointer<QWidget> target(&widget);
+  Finish();
+  if (!target) return;
   auto stroke = std::make_shared<Stroke>();
+  m_Latest = stroke;
   stroke->window = &WindowAround(widget);
   QWidget& top = *widget.window();
   if (!top.rect().contains(widget.mapTo(&top, steps.front().at)))
@@ -74,15 +78,20 @@ void Mouse::Play(QWidget& widget, MouseGrip grip, std::vector<Step> steps) {
                               held, grip.modifiers, static_cast<int>(++s_Time)});
   }
   Perform(stroke);
-  while (stroke->next < stroke->inputs.size()) ServeEvents();
+  Finish();
   ServeEvents();
 }
 
+void Mouse::Finish() {
+  while (m_Latest && m_Latest->next < m_Latest->inputs.size()) ServeEvents();
+}
+
 // A press may begin a loop that waits for the moves and the release, and then does not return before them:
-// each step is put on its way before the one ahead of it is made.
+// each step is put on its way before the one ahead of it is made. A loop that polls the mouse is to see each
+// of them, so no two come in one turn.
 void Mouse::Perform(const std::shared_ptr<Stroke>& stroke) {
   const MouseInput& input = stroke->inputs[stroke->next++];
-  if (stroke->next < stroke->inputs.size()) QTimer::singleShot(0, qApp, [stroke] { Perform(stroke); });
+  if (stroke->next < stroke->inputs.size()) QTimer::singleShot(1, qApp, [stroke] { Perform(stroke); });
   if (stroke->window) SendMouse(*stroke->window, input);
 }
 

@@ -23,6 +23,9 @@ class Mouse {
   void DoubleClick(QWidget& widget, QPoint at, MouseGrip grip = {});
   /// Presses, goes in that many even moves, and releases.
   void Drag(QWidget& widget, QPoint from, QPoint to, MouseGrip grip, int moves);
+  /// Ends the stroke that is on its way. There is one mouse: where another stroke is asked for in the middle
+  /// of one, as for a menu that its press has opened, this comes first.
+  void Finish();
 
  private:
   struct Step {
@@ -33,6 +36,8 @@ class Mouse {
 
   void Play(QWidget& widget, MouseGrip grip, std::vector<Step> steps);
   static void Perform(const std::shared_ptr<Stroke>& stroke);
+
+  std::shared_ptr<Stroke> m_Latest;
 };
 
 }  // namespace cardwright::robot

@@ -5,15 +5,19 @@
 #include <QWindow>
 #include <chrono>
 
-#include "qt/FormInput.h"
+#include "model/FormOwner.h"
+#include "qt/QtDesignSurface.h"
 #include "qt/QtText.h"
+#include "qt/VisualControl.h"
 #include "qt/WidgetCore.h"
+#include "robot/Bag.h"
 #include "robot/EventService.h"
 #include "robot/ItemClicks.h"
 #include "robot/Keyboard.h"
 #include "robot/Pointer.h"
 #include "robot/Sight.h"
 #include "robot/Targets.h"
+#include "robot/WidgetPart.h"
 #include "shared/ModuleState.h"
 #include "vbscript/objects/Dictionary.h"
 
@@ -23,7 +27,6 @@ namespace {
 using OptionalLong = std::optional<std::int32_t>;
 using std::chrono::milliseconds;
 
-constexpr std::u16string_view kSetAttributesEnabled = u"SetAttributesEnabled";
 constexpr milliseconds kWaitForWindow{1000};
 constexpr int kMovesOfDrag = 8;
 
@@ -47,16 +50,21 @@ QPoint PointIn(const QWidget& widget, const OptionalLong& x, const OptionalLong&
   return {x.value_or(centre.x()), y.value_or(centre.y())};
 }
 
+/// What went wrong in a procedure that a stroke has set off.
+void RaiseFailure(Robot& self) { self.Seat().attendant.RaiseFailure(); }
+
 void Click(Robot& self, const Variant& widget, OptionalLong x, OptionalLong y, OptionalLong button,
            OptionalLong shift) {
   QWidget& target = WidgetOf(widget);
   self.Seat().mouse.Click(target, PointIn(target, x, y), GripOf(button, shift));
+  RaiseFailure(self);
 }
 
 void DoubleClick(Robot& self, const Variant& widget, OptionalLong x, OptionalLong y, OptionalLong button,
                  OptionalLong shift) {
   QWidget& target = WidgetOf(widget);
   self.Seat().mouse.DoubleClick(target, PointIn(target, x, y), GripOf(button, shift));
+  RaiseFailure(self);
 }
 
 void Drag(Robot& self, const Variant& widget, std::int32_t x1, std::int32_t y1, std::int32_t x2,
@@ -64,10 +72,17 @@ void Drag(Robot& self, const Variant& widget, std::int32_t x1, std::int32_t y1, 
   const std::int32_t moves = steps.value_or(kMovesOfDrag);
   if (moves < 1) Raise(ErrorNumber::InvalidCall);
   self.Seat().mouse.Drag(WidgetOf(widget), {x1, y1}, {x2, y2}, GripOf(button, {}), moves);
+  RaiseFailure(self);
 }
 
-void Press(Robot&, const Variant& widget, const Text& keys) { PressKey(WidgetOf(widget), ParseStroke(keys)); }
-void Type(Robot&, const Variant& widget, const Text& text) { TypeText(WidgetOf(widget), text); }
+void Press(Robot& self, const Variant& widget, const Text& keys) {
+  PressKey(WidgetOf(widget), ParseStroke(keys));
+  RaiseFailure(self);
+}
+void Type(Robot& self, const Variant& widget, const Text& text) {
+  TypeText(WidgetOf(widget), text);
+  RaiseFailure(self);
+}
 void Focus(Robot&, const Variant& widget) { GiveFocus(WidgetOf(widget)); }
 
 Text FocusName(Robot&) {
@@ -81,6 +96,7 @@ void SelectItem(Robot& self, const Variant& widget, std::int32_t row, std::optio
   const bool isCheck = EqualsNoCase(wanted, u"check");
   if (!isCheck && !EqualsNoCase(wanted, u"text")) Raise(ErrorNumber::InvalidCall);
   ClickItem(self.Seat().mouse, WidgetOf(widget), row, isCheck ? ItemPart::Check : ItemPart::Text);
+  RaiseFailure(self);
 }
 
 bool IsReady(QWidget& window) {
@@ -101,23 +117,43 @@ void Show(Robot&, const Variant& control, OptionalLong width, OptionalLong heigh
   } while (!IsReady(window) && !end.hasExpired());
 }
 
-/// The fixed buttons and whatever else stands on the control's surface. There are no arrays of widgets on it,
-/// and a widget has no parts of its own, so those are nothing.
-Ref<Widget> Child(Robot&, const Variant& parent, const Text& name, const OptionalLong& index) {
-  auto* form = dynamic_cast<FormInput*>(&RequireObject(parent));
-  if (!form) {
-    WidgetOf(parent);
-    return nullptr;
-  }
-  const Surface* surface = form->GetSurface();
-  if (!surface) Raise(ErrorNumber::ObjectNotSet);
-  return index ? nullptr : surface->Find(name);
+/// A part of a widget that is composed of several; nothing where it is not.
+Ref<Object> PartOf(QWidget& widget, const Text& name) {
+  const qt::WidgetCore* const core = qt::WidgetCore::Of(widget);
+  QWidget* const part = core && core->Native() == &widget ? core->Part(name) : nullptr;
+  return part ? MakeRef<WidgetPart>(*part) : nullptr;
 }
 
-void Pump(Robot&, OptionalLong time) {
+/// What stands on a visual control's surface, the designer's own widgets too.
+Ref<Object> ChildOn(Surface& surface, const Text& name, const OptionalLong& index) {
+  if (const auto* designed = dynamic_cast<qt::QtDesignSurface*>(&surface))
+    if (Ref<Widget> own = designed->OwnWidget(name, index)) return own;
+  return index ? nullptr : surface.Find(name);
+}
+
+/// The fixed buttons and whatever else stands on the control's surface, what stands in a dialog, or a part of
+/// a widget. The grab handles of a designer are the one array of widgets.
+Ref<Object> Child(Robot&, const Variant& parent, const Text& name, const OptionalLong& index) {
+  Object& object = RequireObject(parent);
+  auto* const form = dynamic_cast<FormOwner*>(&object);
+  if (form && !form->GetSurface()) Raise(ErrorNumber::ObjectNotSet);
+  if (form) return ChildOn(*form->GetSurface(), name, index);
+  QWidget& widget = WidgetOf(parent);
+  if (index) return nullptr;
+  const auto* const dialog = dynamic_cast<WidgetPart*>(&object);
+  if (dialog && widget.isWindow()) return dialog->Child(name);
+  return PartOf(widget, name);
+}
+
+void WhenDialog(Robot& self, const Text& name, Ref<Object> procedure) {
+  self.Seat().attendant.SetProcedure(name, std::move(procedure));
+}
+
+void Pump(Robot& self, OptionalLong time) {
   const std::int32_t length = time.value_or(0);
   if (length < 0) Raise(ErrorNumber::InvalidCall);
   ServeEvents(milliseconds(length));
+  RaiseFailure(self);
 }
 
 Answers& AnswersOf(Robot& self) { return self.Seat().attendant.Queues(); }
@@ -144,10 +180,10 @@ void LetSetting(Robot&, const Text& app, const Text& section, const Text& key, c
   Module().desktop->Settings().Save(app, section, key, value);
 }
 
-qt::FormInput& ContainedControl(const Variant& control) {
-  auto* form = qobject_cast<qt::FormInput*>(&WidgetOf(control));
-  if (!form) Raise(ErrorNumber::TypeMismatch);
-  return *form;
+qt::VisualControl& ContainedControl(const Variant& control) {
+  auto* contained = qobject_cast<qt::VisualControl*>(&WidgetOf(control));
+  if (!contained) Raise(ErrorNumber::TypeMismatch);
+  return *contained;
 }
 
 bool GetDesignMode(Robot&, const Variant& control) { return ContainedControl(control).DesignMode(); }
@@ -156,20 +192,22 @@ void LetDesignMode(Robot&, const Variant& control, bool designing) {
 }
 
 Ref<vbscript::Dictionary> GetBag(Robot&, const Variant& control) {
-  auto bag = MakeRef<vbscript::Dictionary>();
-  bag->Add(Variant(kSetAttributesEnabled), ContainedControl(control).SetAttributesEnabled());
-  return bag;
+  return WriteBag(ContainedControl(control));
 }
 
-// A name that the bag does not have stands for the value that a new control has.
 void LetBag(Robot&, const Variant& control, Ref<vbscript::Dictionary> bag) {
   if (!bag) Raise(ErrorNumber::ObjectNotSet);
-  const Variant name(kSetAttributesEnabled);
-  const bool enabled = !bag->Exists(name) || ToBoolean(bag->Item(name));
-  ContainedControl(control).SetSetAttributesEnabled(enabled);
+  ReadBag(ContainedControl(control), *bag);
 }
 
-std::int32_t MousePointer(Robot&, const Variant& widget) { return PointerNumber(WidgetOf(widget)); }
+// A designer knows its pointer by number; two numbers of the platform look the same on the screen.
+std::int32_t MousePointer(Robot&, const Variant& widget) {
+  const QWidget& target = WidgetOf(widget);
+  auto* const form = dynamic_cast<FormOwner*>(&RequireObject(widget));
+  const auto* const designed = form ? dynamic_cast<DesignSurface*>(form->GetSurface()) : nullptr;
+  return designed ? static_cast<std::int32_t>(designed->Pointer()) : PointerNumber(target);
+}
+Text Tooltip(Robot& self) { return self.Seat().attendant.LastTooltip(); }
 std::int32_t Pixel(Robot&, const Variant& widget, std::int32_t x, std::int32_t y) {
   return PixelColor(WidgetOf(widget), {x, y});
 }
@@ -194,9 +232,11 @@ constexpr Member kMembers[] = {
     Method<&AnswerFile>(u"AnswerFile"),
     Method<&AnswerColor>(u"AnswerColor"),
     Method<&AnswerFont>(u"AnswerFont"),
+    Method<&WhenDialog>(u"WhenDialog"),
     Property<&GetDesignMode, &LetDesignMode>(u"DesignMode"),
     Method<&SelectItem>(u"ClickItem"),
     Property<&MousePointer>(u"MousePointer"),
+    Property<&Tooltip>(u"Tooltip"),
     Property<&Pixel>(u"PixelColor"),
     Property<&Beeps>(u"Beeps"),
     Property<&Launches>(u"Launches"),

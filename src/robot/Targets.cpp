@@ -2,10 +2,12 @@
 
 #include "automation/Errors.h"
 #include "automation/Object.h"
+#include "model/FormOwner.h"
 #include "model/IControl.h"
+#include "qt/QtDesignSurface.h"
 #include "qt/QtSurface.h"
 #include "qt/WidgetCore.h"
-#include "runtime/FormInput.h"
+#include "robot/WidgetPart.h"
 
 namespace cardwright::robot {
 namespace {
@@ -15,9 +17,11 @@ QWidget& Alive(QWidget* widget) {
   return *widget;
 }
 
-QWidget& CanvasOf(FormInput& form) {
-  auto* surface = dynamic_cast<qt::QtSurface*>(form.GetSurface());
-  return Alive(surface ? surface->Native() : nullptr);
+QWidget& CanvasOf(FormOwner& form) {
+  Surface* const surface = form.GetSurface();
+  if (const auto* designed = dynamic_cast<qt::QtDesignSurface*>(surface)) return Alive(designed->Native());
+  const auto* const filled = dynamic_cast<qt::QtSurface*>(surface);
+  return Alive(filled ? filled->Native() : nullptr);
 }
 
 /// What stands on the screen for it: its widget, or for the form as a whole the visual control.
@@ -32,7 +36,8 @@ QWidget& WidgetOf(const Variant& value) {
   Ref<Object> object(&RequireObject(value));
   if (const auto* control = dynamic_cast<const IControl*>(object.get())) object = ShownAs(*control);
   if (!object) Raise(ErrorNumber::ObjectNotSet);
-  if (auto* form = dynamic_cast<FormInput*>(object.get())) return CanvasOf(*form);
+  if (auto* form = dynamic_cast<FormOwner*>(object.get())) return CanvasOf(*form);
+  if (auto* part = dynamic_cast<WidgetPart*>(object.get())) return Alive(part->Native());
   auto* core = dynamic_cast<qt::WidgetCore*>(object.get());
   if (!core) Raise(ErrorNumber::TypeMismatch);
   return Alive(core->Native());

@@ -23,6 +23,9 @@ class Workplace {
 
  private:
   Ref<Object> MakeFormInput();
+  Ref<Object> MakeFormDesigner();
+  /// Gives a new control a window.
+  ControlWindow& Place(std::unique_ptr<qt::VisualControl> control);
 
   const Ref<HostList> m_Hosts = MakeRef<HostList>();
   std::vector<QPointer<ControlWindow>> m_Windows;

@@ -4,14 +4,17 @@
 
 #include <QAction>
 #include <QColorDialog>
+#include <QDialog>
 #include <QFileDialog>
 #include <QFontDialog>
+#include <QLineEdit>
 #include <QMenu>
 #include <QMessageBox>
 #include <filesystem>
 #include <fstream>
 
 #include "robot/Recorder.h"
+#include "robot/WidgetPart.h"
 
 namespace cardwright::robot {
 namespace {
@@ -59,6 +62,125 @@ TEST_F(AttendantTest, ChoosesFilesColoursAndFonts) {
   EXPECT_TRUE(isChosen);
   EXPECT_EQ(font.family(), QStringLiteral("DejaVu Sans"));
   EXPECT_EQ(font.pointSize(), 12);
+}
+
+TEST_F(AttendantTest, ChoosesSeveralFilesOfAFolder) {
+  const auto folder = std::filesystem::temp_directory_path() / "cardwright attendant";
+  std::filesystem::create_directory(folder);
+  for (const char* name : {"a.txt", "b c.txt"}) std::ofstream(folder / name) << "x";
+  const Text path = Text::FromUtf8(folder.string());
+  answers.files = {path + Text(std::u16string(u"\0a.txt\0b c.txt", 14))};
+  const QString start = QString::fromStdString(folder.string());
+  EXPECT_EQ(QFileDialog::getOpenFileNames(), QStringList({start + "/a.txt", start + "/b c.txt"}));
+  answers.files = {path};
+  EXPECT_EQ(QFileDialog::getExistingDirectory(), start);
+  std::filesystem::remove_all(folder);
+}
+
+TEST_F(AttendantTest, ChoosesInAMenuThatAPressHasOpened) {
+  Recorder window;
+  QStringList chosen;
+  window.onPress = [&] {
+    QMenu menu;
+    for (const char* name : {"mnuA", "mnuB", "mnuC"}) menu.addAction(name)->setObjectName(name);
+    const QAction* item = menu.exec(window.mapToGlobal(QPoint(5, 5)));
+    chosen += item ? item->objectName() : QStringLiteral("none");
+  };
+  answers.menus = {u"mnuC", u"", u"mnuA"};
+  for (int i = 0; i < 4; ++i) mouse.Click(window, {5, 5}, {Qt::RightButton, Qt::NoModifier});
+  EXPECT_EQ(chosen.join(u' ').toStdString(), "mnuC none mnuA none");
+}
+
+TEST_F(AttendantTest, RemembersTheTooltipOfADrag) {
+  QWidget tip;
+  tip.setObjectName(QStringLiteral("frmTooltip"));
+  tip.setWindowTitle(QStringLiteral(" 8, 16 "));
+  QWidget other;
+  other.setWindowTitle(QStringLiteral("other"));
+  EXPECT_EQ(attendant.LastTooltip(), u" 8, 16 ");
+}
+
+TEST_F(AttendantTest, LeavesNoFileDialogOpenThatDoesNotTakeItsAnswer) {
+  answers.files = {u"/no/such/file"};
+  EXPECT_EQ(QFileDialog::getOpenFileName(), QString());
+  const auto path = std::filesystem::temp_directory_path() / "cardwright-attendant-old.txt";
+  std::ofstream(path) << "x";
+  const Text old = Text::FromUtf8(path.string());
+  answers.files = {old, old};
+  answers.boxes = {7, 6};
+  EXPECT_EQ(QFileDialog::getSaveFileName(), QString()) << "not to be written over";
+  EXPECT_EQ(QFileDialog::getSaveFileName(), QString::fromStdString(path.string()));
+  std::filesystem::remove(path);
+}
+
+/// A procedure as a script hands it over.
+class Procedure final : public TableObject {
+ public:
+  explicit Procedure(std::function<void(WidgetPart&)> run) : m_Run(std::move(run)) {}
+  Text TypeName() const override { return u"Procedure"; }
+  void Run(Ref<WidgetPart> dialog) { m_Run(*dialog); }
+
+ protected:
+  const MemberTable& Members() const override {
+    static constexpr Member kMembers[] = {Method<&Procedure::Run>(u"Run")};
+    static const MemberTable table(kMembers, u"Run");
+    return table;
+  }
+
+ private:
+  std::function<void(WidgetPart&)> m_Run;
+};
+
+class AttendedDialog : public AttendantTest {
+ protected:
+  AttendedDialog() {
+    dialog.setObjectName(QStringLiteral("frmPlan"));
+    dialog.setWindowTitle(QStringLiteral("Plan"));
+    edit->setObjectName(QStringLiteral("txtName"));
+    edit->setText(QStringLiteral("old"));
+  }
+  void OnDialog(const Text& name, std::function<void(WidgetPart&)> run) {
+    attendant.SetProcedure(name, MakeRef<Procedure>(std::move(run)));
+  }
+  QDialog dialog;
+  QLineEdit* edit = new QLineEdit(&dialog);
+};
+
+TEST_F(AttendedDialog, IsDismissedUnlessAProcedureIsSetForItsName) {
+  EXPECT_EQ(dialog.exec(), QDialog::Rejected);
+  OnDialog(u"frmOther", [](WidgetPart&) { FAIL(); });
+  EXPECT_EQ(dialog.exec(), QDialog::Rejected);
+  attendant.RaiseFailure();
+}
+
+TEST_F(AttendedDialog, IsHandedToItsProcedureAtEveryOpening) {
+  int calls = 0;
+  OnDialog(u"FRMPLAN", [&](WidgetPart& part) {
+    ++calls;
+    EXPECT_EQ(part.Name(), u"frmPlan");
+    EXPECT_EQ(part.Text(), u"Plan");
+    EXPECT_EQ(part.Child(u"TXTNAME")->Text(), u"old");
+    EXPECT_FALSE(part.Child(u"txtOther"));
+    EXPECT_FALSE(part.Child(u""));
+    dialog.accept();
+  });
+  EXPECT_EQ(dialog.exec(), QDialog::Accepted);
+  EXPECT_EQ(dialog.exec(), QDialog::Accepted);
+  attendant.SetProcedure(u"frmPlan", nullptr);
+  EXPECT_EQ(dialog.exec(), QDialog::Rejected);
+  EXPECT_EQ(calls, 2);
+}
+
+TEST_F(AttendedDialog, DoesNotStayOpenBehindItsProcedureWhoseErrorIsKept) {
+  Ref<WidgetPart> kept;
+  OnDialog(u"frmPlan", [&](WidgetPart& part) {
+    kept = &part;
+    Raise(ErrorNumber::TypeMismatch);
+  });
+  EXPECT_EQ(dialog.exec(), QDialog::Rejected);
+  EXPECT_EQ(kept->Name(), u"frmPlan");
+  EXPECT_THROW(attendant.RaiseFailure(), Error);
+  attendant.RaiseFailure();
 }
 
 class AttendedMenu : public AttendantTest {

@@ -5,6 +5,8 @@
 #include <QApplication>
 #include <QDialog>
 #include <QElapsedTimer>
+#include <algorithm>
+#include <numeric>
 
 #include "automation/Errors.h"
 #include "robot/Recorder.h"
@@ -50,6 +52,22 @@ TEST(MouseTest, GoesOnInALoopThatWaitsForTheRelease) {
   };
   Mouse().Drag(window, {0, 0}, {8, 0}, {}, 1);
   EXPECT_EQ(window.Take(), "press1/1@0,0 move0/1@8,0 release1/0@8,0 ");
+}
+
+TEST(MouseTest, ShowsALoopThatPollsItOneMoveATurn) {
+  Recorder window;
+  std::vector<std::size_t> turns;
+  window.onPress = [&] {
+    window.Take();
+    while (QGuiApplication::mouseButtons()) {
+      QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+      const std::string log = window.Take();
+      turns.push_back(static_cast<std::size_t>(std::count(log.begin(), log.end(), ' ')));
+    }
+  };
+  Mouse().Drag(window, {0, 0}, {80, 40}, {}, 8);
+  EXPECT_EQ(std::accumulate(turns.begin(), turns.end(), std::size_t{0}), 9U) << "eight moves and the release";
+  EXPECT_LE(*std::max_element(turns.begin(), turns.end()), 1U);
 }
 
 TEST(MouseTest, CannotReachWhatIsNotOnTheScreen) {
