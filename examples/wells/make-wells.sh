@@ -1,6 +1,6 @@
 #!/bin/sh
-# Makes wells.gpkg anew from the three tables beside it: wells (points), aquifers (polygons) and pipelines
-# (lines), all in UTM zone 32. Needs ogr2ogr.
+# Makes wells.gpkg anew from the tables beside it: wells (points), aquifers (polygons) and pipelines (lines), all in
+# UTM zone 32, and symbols, a table without geometry that says how each of them is drawn. Needs ogr2ogr.
 set -eu
 cd "$(dirname "$0")"
 
@@ -27,5 +27,9 @@ layer aquifers "SELECT CAST(NAME AS character(40)) AS NAME, CAST(AREA_KM2 AS flo
 
 layer pipelines "SELECT CAST(NAME AS character(40)) AS NAME, CAST(MATERIAL AS character(12)) AS MATERIAL,
   CAST(DIAMETER AS integer) AS DIAMETER, CAST(LAID AS date) AS LAID FROM pipelines" -update -nlt LINESTRING
+
+layer symbols "SELECT CAST(NAME AS character(40)) AS NAME, CAST(THEME AS character(60)) AS THEME,
+  CAST(KIND AS character(7)) AS KIND, CAST(LABEL AS character(60)) AS LABEL, CAST(COLOR AS character(20)) AS COLOR,
+  CAST(FONT AS character(120)) AS FONT, CAST(PICTURE AS character(250)) AS PICTURE FROM symbols" -update -nlt NONE
 
 mv "$store" wells.gpkg
