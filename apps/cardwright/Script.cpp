@@ -45,8 +45,8 @@ int RunScriptCommand(std::span<const std::string> words) {
   surroundings.hasDisplay = hasDisplay;
   AddLightClasses(surroundings.classes);
   const ScriptDisplay display = line.Has("display") ? ScriptDisplay::Required : ScriptDisplay::IfThere;
-  surroundings.classes.SetLoader(u"Cardwright.", [&surroundings, display](ClassRegistry& classes) {
-    surroundings.desktop = LoadDesktopModule().startForScript(display, classes);
+  surroundings.classes.SetLoader(u"Cardwright.", [&surroundings, display](ClassRegistry&) {
+    surroundings.desktop = LoadDesktopModule().startForScript(display, surroundings);
   });
   return RunScript(job, surroundings);
 }

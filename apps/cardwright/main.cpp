@@ -15,6 +15,7 @@ struct Command {
 };
 
 constexpr Command kCommands[] = {
+    {"design", "draw forms in the workbench, as without a command", nullptr},
     {"fill", "fill in a form for one feature", nullptr},
     {"check", "tell the faults of form projects", nullptr},
     {"info", "show what a form project holds", nullptr},
@@ -24,7 +25,7 @@ constexpr Command kCommands[] = {
 };
 
 std::string Help() {
-  std::string text = "Usage: cardwright COMMAND [options]\n\nCommands:\n";
+  std::string text = "Usage: cardwright [COMMAND [options]]\n\nCommands:\n";
   for (const Command& command : kCommands) {
     std::string name(command.name);
     name.resize(9, ' ');
@@ -36,7 +37,8 @@ std::string Help() {
 }
 
 int Run(Words words) {
-  const std::string first = words.empty() ? std::string() : words[0];
+  if (words.empty()) return LoadDesktopModule().run("design", words);
+  const std::string& first = words[0];
   if (first == "--help" || first == "-h") {
     PrintLine(Help());
     return kDone;
@@ -50,11 +52,7 @@ int Run(Words words) {
     const Words rest = words.subspan(1);
     return command.run ? command.run(rest) : LoadDesktopModule().run(first, rest);
   }
-  if (words.empty()) {
-    PrintError(Help());
-  } else {
-    PrintError("cardwright: unknown command: " + first + "\nTry: cardwright --help");
-  }
+  PrintError("cardwright: unknown command: " + first + "\nTry: cardwright --help");
   return kWrongUse;
 }
 

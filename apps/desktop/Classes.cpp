@@ -1,5 +1,6 @@
 #include "desktop/Classes.h"
 
+#include "model/CColor.h"
 #include "model/CForm.h"
 #include "model/CItems.h"
 #include "model/ControlClasses.h"
@@ -14,17 +15,29 @@ Ref<Object> Make() {
   return MakeRef<C>();
 }
 
+void AddDataClasses(ClassRegistry& classes) {
+  classes.Add(u"Cardwright.CColor", Make<CColor>);
+  classes.Add(u"Cardwright.CItem", Make<CItem>);
+  classes.Add(u"Cardwright.CItems", Make<CItems>);
+  classes.Add(u"Cardwright.CAttrib", Make<CAttrib>);
+  classes.Add(u"Cardwright.CAttribs", Make<CAttribs>);
+}
+
 }  // namespace
 
 void AddDesktopClasses(ClassRegistry& classes) {
   classes.Add(u"Cardwright.Vellum", Make<Vellum>);
   classes.Add(u"Cardwright.CForm", Make<CForm>);
-  classes.Add(u"Cardwright.CItem", Make<CItem>);
-  classes.Add(u"Cardwright.CItems", Make<CItems>);
-  classes.Add(u"Cardwright.CAttrib", Make<CAttrib>);
-  classes.Add(u"Cardwright.CAttribs", Make<CAttribs>);
+  AddDataClasses(classes);
   for (const ControlClass& control : ControlClasses())
     classes.Add(Text(u"Cardwright.") + control.table->className, [make = control.create] { return make(); });
+}
+
+ClassRegistry ClassesOnLeave() {
+  ClassRegistry classes;
+  AddLightClasses(classes);
+  AddDataClasses(classes);
+  return classes;
 }
 
 }  // namespace cardwright::desktop

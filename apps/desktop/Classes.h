@@ -6,5 +6,8 @@ namespace cardwright::desktop {
 
 /// Adds the public classes that scripts make by name and that need the toolkit or work with it.
 void AddDesktopClasses(ClassRegistry& classes);
+/// The classes that users may allow the script of a form: files, and what holds data. None that makes or
+/// drives forms.
+ClassRegistry ClassesOnLeave();
 
 }  // namespace cardwright::desktop

@@ -11,6 +11,7 @@ int RunInfo(const QStringList& words);
 int RunRender(const QStringList& words);
 int RunOrv(const QStringList& words);
 int RunCheck(const QStringList& words);
+int RunDesign(const QStringList& words);
 /// @}
 
 }  // namespace cardwright::desktop

@@ -7,6 +7,7 @@
 #include "desktop/Options.h"
 #include "desktop/Session.h"
 #include "qt/QtText.h"
+#include "qt/TerminalBreak.h"
 #include "runtime/AttributeBinding.h"
 
 namespace cardwright::desktop {
@@ -18,8 +19,8 @@ void ChooseTheme(qt::FormInput& form, const QString& theme) {
     root->SetPropertyValue(u"ThemeName", qt::FromQString(theme));
 }
 
-bool ThemeExists(Session& session, const QString& theme) {
-  return Val(session.Log().Request(Text(u"THEME_NUMBER |") + qt::ViewOf(theme) + u"|")) > 0;
+bool ThemeExists(const DataSource& data, const QString& theme) {
+  return Val(data.Log().Request(Text(u"THEME_NUMBER |") + qt::ViewOf(theme) + u"|")) > 0;
 }
 
 }  // namespace
@@ -45,14 +46,16 @@ int RunFill(const QStringList& words) {
     return kWrongUse;
   }
   Session session(Display::Needed);
-  session.OpenData(options.Value(QStringLiteral("data")));
+  const qt::TerminalBreak terminal;
+  DataSource& data = session.Data();
+  data.Open(options.Value(QStringLiteral("data")));
   const QString theme = options.Value(QStringLiteral("theme"));
-  if (!ThemeExists(session, theme)) {
+  if (!ThemeExists(data, theme)) {
     PrintError(QStringLiteral("cardwright fill: the data source has no theme %1").arg(theme));
     return kWrongUse;
   }
 
-  FormWindow window(session);
+  FormWindow window(data);
   if (options.Has(QStringLiteral("debug"))) {
     window.ShowDebugOutput();
     window.Form().SetDebugMode(true);
@@ -63,7 +66,7 @@ int RunFill(const QStringList& words) {
   }
   ChooseTheme(window.Form(), theme);
   const QString id = options.Value(QStringLiteral("id"));
-  if (!session.HasFeature(PlaceOf(*window.Form().Object()), qt::FromQString(id))) {
+  if (!data.HasFeature(PlaceOf(*window.Form().Object()), qt::FromQString(id))) {
     PrintError(QStringLiteral("cardwright fill: the theme %1 has no feature %2 of the form's feature type")
                    .arg(theme, id));
     return kWrongUse;

@@ -12,8 +12,8 @@
 
 namespace cardwright::desktop {
 
-FormWindow::FormWindow(Session& session)
-    : m_Session(session), m_Scroll(new QScrollArea(this)), m_Form(new qt::FormInput(m_Scroll)) {
+FormWindow::FormWindow(DataSource& source)
+    : m_Data(source), m_Scroll(new QScrollArea(this)), m_Form(new qt::FormInput(m_Scroll)) {
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins({});
   layout->addWidget(m_Scroll);
@@ -57,10 +57,10 @@ void FormWindow::OnOk() {
 
 // A form passes over a feature that is gone without a word, so this is asked here.
 QString FormWindow::Failure() {
-  const QStringList refusals = m_Session.TakeRefusals();
+  const QStringList refusals = m_Data.TakeRefusals();
   if (!refusals.isEmpty()) return refusals.join(u'\n');
   const Ref<FormInput> form = m_Form->Object();
-  if (form->DebugMode() || m_Session.HasFeature(PlaceOf(*form), form->FeatureID())) return {};
+  if (form->DebugMode() || m_Data.HasFeature(PlaceOf(*form), form->FeatureID())) return {};
   return tr("Nothing was stored. The data source no longer has feature %1 of \"%2\".")
       .arg(qt::ToQString(form->FeatureID()), qt::ToQString(form->GetThemeName()));
 }

@@ -3,8 +3,8 @@
 #include <QScrollArea>
 #include <QWidget>
 
+#include "desktop/DataSource.h"
 #include "desktop/DebugPane.h"
-#include "desktop/Session.h"
 #include "qt/FormInput.h"
 
 namespace cardwright::desktop {
@@ -15,7 +15,7 @@ namespace cardwright::desktop {
 class FormWindow final : public QWidget {
   Q_OBJECT
  public:
-  explicit FormWindow(Session& session);
+  explicit FormWindow(DataSource& source);
 
   qt::FormInput& Form() noexcept { return *m_Form; }
   /// Adds a pane below the form, into which a debugging run writes.
@@ -33,7 +33,7 @@ class FormWindow final : public QWidget {
   QString Failure();
   void End();
 
-  Session& m_Session;
+  DataSource& m_Data;
   QScrollArea* m_Scroll;
   qt::FormInput* m_Form;
   Ref<DebugPane> m_DebugPane;

@@ -13,6 +13,7 @@
 #include "desktop/Session.h"
 #include "model/CItems.h"
 #include "model/Control.h"
+#include "qt/FormDesigner.h"
 #include "qt/QtText.h"
 #include "shared/ModuleState.h"
 
@@ -83,6 +84,15 @@ QJsonObject ControlJson(const IControl& control) {
   return json;
 }
 
+/// What only the designer knows of a form: the order in which its controls were stacked, each to the front
+/// (0) or to the back (1).
+QJsonObject DesignJson(const FormDesigner& designer) {
+  QJsonArray stacking;
+  for (const Ref<IControl>& control : designer.ZList())
+    stacking += QJsonObject{{"name", qt::ToQString(control->UserName())}, {"zOrder", control->ZOrder()}};
+  return {{"gridStep", designer.GridStep()}, {"stacking", stacking}};
+}
+
 QJsonObject ProjectJson(const QString& file, const Collection& controls) {
   const QString script = qt::ToQString(Module().scriptContent);
   const QString language = qt::ToQString(Module().scriptLanguage);
@@ -102,6 +112,15 @@ QJsonObject ProjectJson(const QString& file, const Collection& controls) {
           {"form", form},
           {"controls", list},
           {"script", QJsonObject{{"language", language}, {"procedures", procedures}}}};
+}
+
+QString StackingText(const QJsonObject& design) {
+  QStringList names;
+  for (const QJsonValue& place : design["stacking"].toArray()) {
+    const bool isBack = place[u"zOrder"].toInt() != 0;
+    names += place[u"name"].toString() + (isBack ? QStringLiteral(" (back)") : QString());
+  }
+  return names.join(QStringLiteral(", "));
 }
 
 QString ValueText(const QJsonValue& value) {
@@ -133,6 +152,7 @@ void PrintElement(const QJsonObject& element) {
 void PrintProject(const QJsonObject& project) {
   PrintElement(project["form"].toObject());
   for (const QJsonValue& control : project["controls"].toArray()) PrintElement(control.toObject());
+  PrintLine(QStringLiteral("Stacking ") + StackingText(project["design"].toObject()));
   const QJsonObject script = project["script"].toObject();
   const QString language = script["language"].toString();
   PrintLine(QStringLiteral("Script ") + (language.isEmpty() ? QStringLiteral("none") : language));
@@ -157,12 +177,14 @@ int RunInfo(const QStringList& words) {
     return kWrongUse;
   }
   Session session(Display::Unused);
-  FormWindow window(session);
-  if (!window.Form().ProjectRead(file)) {
+  qt::FormDesigner designer;
+  FormWindow window(session.Data());
+  if (!designer.ProjectRead(file) || !window.Form().ProjectRead(file)) {
     PrintError(QStringLiteral("cardwright info: the form project %1 could not be read").arg(file));
     return kFaultsFound;
   }
-  const QJsonObject project = ProjectJson(file, window.Form().Object()->Controls());
+  QJsonObject project = ProjectJson(file, window.Form().Object()->Controls());
+  project["design"] = DesignJson(*designer.Object());
   if (options.Has(QStringLiteral("json"))) {
     PrintLine(QString::fromUtf8(QJsonDocument(project).toJson()).trimmed());
   } else {

@@ -13,7 +13,8 @@ struct Command {
 };
 
 constexpr Command kCommands[] = {
-    {"fill", RunFill}, {"check", RunCheck}, {"info", RunInfo}, {"render", RunRender}, {"orv", RunOrv},
+    {"fill", RunFill},     {"check", RunCheck}, {"info", RunInfo},
+    {"render", RunRender}, {"orv", RunOrv},     {"design", RunDesign},
 };
 
 int Run(const std::string& command, std::span<const std::string> words) {
@@ -24,8 +25,8 @@ int Run(const std::string& command, std::span<const std::string> words) {
   qFatal("the desktop module has no command %s", command.c_str());
 }
 
-std::unique_ptr<ScriptDesktop> Start(app::ScriptDisplay display, ClassRegistry& classes) {
-  return std::make_unique<ScriptWindows>(display, classes);
+std::unique_ptr<ScriptDesktop> Start(app::ScriptDisplay display, ScriptSurroundings& surroundings) {
+  return std::make_unique<ScriptWindows>(display, surroundings);
 }
 
 }  // namespace

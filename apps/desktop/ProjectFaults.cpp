@@ -1,5 +1,6 @@
 #include "desktop/ProjectFaults.h"
 
+#include <QHash>
 #include <QSet>
 #include <QStringDecoder>
 #include <QStringList>
@@ -10,6 +11,7 @@
 #include "model/CForm.h"
 #include "model/ControlClasses.h"
 #include "model/Enums.h"
+#include "model/RegKey.h"
 #include "platform/Files.h"
 #include "qt/QtText.h"
 #include "storage/CIni.h"
@@ -144,28 +146,72 @@ class SectionFaults {
     const double count = Val(m_Ini.GetText(m_Section, u"ControlsNumber"));
     if (count > INT16_MAX)
       return Add(QStringLiteral("ControlsNumber is more than %1: the form has no controls").arg(INT16_MAX));
+    for (int i = 1; i <= count; ++i) NoteKind(i);
     for (int i = 1; i <= count; ++i) LookAtControl(i);
   }
 
+  void EnterControl(int number) { m_Section = Text(u"CONTROLS_") + ToText(Variant(std::int32_t{number})); }
+  const ControlClass* Kind() const { return FindControlClass(WidgetIdentifier(qt::ViewOf(Value(u"Type")))); }
+  QString WidgetName(int number) const {
+    const QString name = Value(u"Name");
+    return name.isEmpty() ? QStringLiteral("object_%1").arg(number + 1) : name;
+  }
+  QString UserName(int number) const {
+    const QString name = Value(u"UserName");
+    return name.isEmpty() ? WidgetName(number) : name;
+  }
+
+  // Links may lead to controls further on. Of two controls of one name the first is part of the form.
+  void NoteKind(int number) {
+    EnterControl(number);
+    const QString name = UserName(number).toLower();
+    if (const ControlClass* const kind = Kind(); kind && !m_Kinds.contains(name)) m_Kinds.insert(name, kind);
+  }
+
   void LookAtControl(int number) {
-    m_Section = Text(u"CONTROLS_") + ToText(Variant(std::int32_t{number}));
+    EnterControl(number);
     const QString type = Value(u"Type");
     if (type.isEmpty())
       return Add(QStringLiteral("the section is missing or has no Type: there is no such control"));
-    const ControlClass* const known = FindControlClass(WidgetIdentifier(qt::ViewOf(type)));
+    const ControlClass* const known = Kind();
     if (!known) return Add(QStringLiteral("unknown type %1: the control is left out").arg(type));
     LookAtNames(number, *known);
     LookAtNumbers();
+    LookAtLinks(*known);
+    LookAtRegKey(*known);
     const QString attribute = Value(u"Attribute");
     if (m_KnowsAttributes && !attribute.isEmpty() && !m_Attributes.contains(attribute.toLower()))
       Add(QStringLiteral("the theme %1 has no attribute %2").arg(qt::ToQString(m_Theme), attribute));
   }
 
+  void LookAtLinks(const ControlClass& known) {
+    for (const PropertyRow& row : known.table->rows) {
+      const ControlClass* const wanted = FindControlClass(row.links);
+      const QString target = wanted ? Value(row.name) : QString();
+      if (target.isEmpty()) continue;
+      const ControlClass* const found = m_Kinds.value(target.toLower());
+      if (!found)
+        Add(QStringLiteral("%1 names %2, which is no control of the form")
+                .arg(QStringView(row.name), target));
+      else if (found != wanted)
+        Add(QStringLiteral("%1 names %2, which is no %3")
+                .arg(QStringView(row.name), target, QStringView(wanted->table->className)));
+    }
+    if (known.type == ControlTypeEnum::ctAttributeSelector && Value(u"ThemeSelectorName").isEmpty())
+      Add(QStringLiteral("there is no ThemeSelectorName: the control lists no attributes"));
+  }
+
+  void LookAtRegKey(const ControlClass& known) {
+    const QString key = Value(u"RegKey");
+    if (known.type != ControlTypeEnum::ctResourceSelector || key.trimmed().isEmpty()) return;
+    if (!SplitRegKey(qt::ViewOf(key)))
+      Add(QStringLiteral("the RegKey %1 is not of the form Application/Section/Key: no folder is kept")
+              .arg(key));
+  }
+
   void LookAtNames(int number, const ControlClass& known) {
-    QString name = Value(u"Name");
-    if (name.isEmpty()) name = QStringLiteral("object_%1").arg(number + 1);
-    QString userName = Value(u"UserName");
-    if (userName.isEmpty()) userName = name;
+    const QString name = WidgetName(number);
+    const QString userName = UserName(number);
     const QString container = Value(u"Container");
     if (!container.isEmpty() && !m_Names.contains(container.toLower()))
       Add(QStringLiteral("the container %1 does not exist or comes later: the control is left out")
@@ -187,6 +233,7 @@ class SectionFaults {
   Text m_Section;
   Text m_Theme;
   QSet<QString> m_Attributes, m_Names, m_UserNames;
+  QHash<QString, const ControlClass*> m_Kinds;  // by lower-case user name
   std::vector<ScriptedElement> m_Elements;
   bool m_KnowsAttributes = false;
 };

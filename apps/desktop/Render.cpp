@@ -1,34 +1,53 @@
 #include <QFileInfo>
+#include <memory>
 
 #include "desktop/Commands.h"
 #include "desktop/Console.h"
-#include "desktop/FormWindow.h"
 #include "desktop/Options.h"
 #include "desktop/Session.h"
+#include "qt/FormDesigner.h"
+#include "qt/FormInput.h"
 
 namespace cardwright::desktop {
 
+namespace {
+
+QString Told(const QString& text) { return QStringLiteral("cardwright render: ") + text; }
+
+/// The form as it is shown: to an end user, or with its grid to the author who draws it.
+std::unique_ptr<qt::VisualControl> ReadForm(const QString& file, bool designed) {
+  if (designed) {
+    auto designer = std::make_unique<qt::FormDesigner>();
+    return designer->ProjectRead(file) ? std::move(designer) : nullptr;
+  }
+  auto form = std::make_unique<qt::FormInput>();
+  return form->ProjectRead(file) ? std::move(form) : nullptr;
+}
+
+}  // namespace
+
 int RunRender(const QStringList& words) {
-  Options options(QStringLiteral("render"),
-                  QStringLiteral("Makes a picture of a form as an end user meets it."),
-                  QStringLiteral("FORM"), {{"o", "FILE.png", "the picture to write"}});
+  Options options(
+      QStringLiteral("render"), QStringLiteral("Makes a picture of a form as an end user meets it."),
+      QStringLiteral("FORM"),
+      {{"o", "FILE.png", "the picture to write"}, {"design", "", "as its author draws it, with the grid"}});
   if (const auto status = options.Parse(words, 1, 1)) return *status;
   const QString target = options.Value(QStringLiteral("o"));
   if (target.isEmpty()) return options.Refuse(QStringLiteral("-o FILE.png is missing"));
   const QString file = options.Operands().at(0);
   if (!QFileInfo(file).isFile()) {
-    PrintError(QStringLiteral("cardwright render: there is no form project %1").arg(file));
+    PrintError(Told(QStringLiteral("there is no form project %1").arg(file)));
     return kWrongUse;
   }
-  Session session(Display::Unused);
-  FormWindow window(session);
-  if (!window.Form().ProjectRead(file)) {
-    PrintError(QStringLiteral("cardwright render: the form project %1 could not be read").arg(file));
+  const Session session(Display::Unused);
+  const auto form = ReadForm(file, options.Has(QStringLiteral("design")));
+  if (!form) {
+    PrintError(Told(QStringLiteral("the form project %1 could not be read").arg(file)));
     return kFaultsFound;
   }
-  window.show();
-  if (window.Form().grab().save(target)) return kDone;
-  PrintError(QStringLiteral("cardwright render: %1 could not be written").arg(target));
+  form->show();
+  if (form->grab().save(target)) return kDone;
+  PrintError(Told(QStringLiteral("%1 could not be written").arg(target)));
   return kFaultsFound;
 }
 

@@ -43,7 +43,9 @@ class ScriptFaults {
 
   // The program declares a variable for each element under its name.
   void LookAtNames() {
-    static const QRegularExpression identifier(QStringLiteral("^[A-Za-z][A-Za-z0-9_]*$"));
+    static const QRegularExpression basic(QStringLiteral("^[A-Za-z][A-Za-z0-9_]*$"));
+    static const QRegularExpression java(QStringLiteral("^[\\p{L}_$][\\p{L}\\p{N}_$]*$"));
+    const QRegularExpression& identifier = EqualsNoCase(m_Language, u"JScript") ? java : basic;
     for (const ScriptedElement& element : m_Elements) {
       if (identifier.match(element.userName).hasMatch()) {
         m_Names.push_back(qt::FromQString(element.userName));
@@ -81,12 +83,23 @@ class ScriptFaults {
       event = procedure.name.mid(one.userName.size() + 1);
     }
     if (!element) return LookForElement(procedure);
-    if (!HasEvent(element->events, event))
+    const std::u16string_view* const known = FindEvent(element->events, event);
+    if (!known)
       return AddAt(procedure.line, QStringLiteral("%1 has no event %2: %3 is never run by the form")
                                        .arg(element->userName, event, procedure.name));
     if (FindProcedure(m_Script, qt::FromQString(procedure.name), m_Language) == 0)
       AddAt(procedure.line, QStringLiteral("%1 is not found by the form: its line has to begin with \"%2\"")
                                 .arg(procedure.name, HeaderOf(procedure.name)));
+    LookAtSpelling(procedure, element->userName + u'_' + qt::ToQString(*known));
+  }
+
+  // The form finds a procedure whatever its case. A language that tells cases apart then has none of the
+  // event's name.
+  void LookAtSpelling(const ScriptProcedure& procedure, const QString& called) {
+    if (EqualsNoCase(m_Language, u"JScript") && procedure.name != called)
+      AddAt(procedure.line,
+            QStringLiteral("%1 fails as an event procedure: JScript tells cases apart, and the form calls %2")
+                .arg(procedure.name, called));
   }
 
   // A procedure of any name may stand by itself, but one that is named like an event of something was meant
@@ -96,14 +109,18 @@ class ScriptFaults {
     if (line <= 0) return;
     const QString event = procedure.name.mid(line + 1);
     for (const ControlClass& one : ControlClasses())
-      if (HasEvent(one.table->events, event))
+      if (FindEvent(one.table->events, event))
         return AddAt(procedure.line, QStringLiteral("the form has no element %1: %2 is never run by the form")
                                          .arg(procedure.name.first(line), procedure.name));
   }
 
-  static bool HasEvent(std::span<const std::u16string_view> events, const QString& event) {
-    return std::any_of(events.begin(), events.end(),
-                       [&](std::u16string_view one) { return EqualsNoCase(one, qt::ViewOf(event)); });
+  /// Null where the events have no such name.
+  static const std::u16string_view* FindEvent(std::span<const std::u16string_view> events,
+                                              const QString& name) {
+    const auto event = std::find_if(events.begin(), events.end(), [&](std::u16string_view one) {
+      return EqualsNoCase(one, qt::ViewOf(name));
+    });
+    return event == events.end() ? nullptr : &*event;
   }
   QString HeaderOf(const QString& name) const {
     return qt::ToQString(BuildProcedureHeader(qt::ViewOf(name), m_Language)).trimmed();

@@ -10,7 +10,8 @@ std::vector<ScriptProcedure> ProceduresOf(const QString& script, const QString& 
       QStringLiteral(
           "^\\s*(?:(?:public|private)\\s+)?(?:default\\s+)?(?:sub|function)\\s+(\\w+|\\[[^\\]]*\\])"),
       QRegularExpression::CaseInsensitiveOption);
-  static const QRegularExpression java(QStringLiteral("^\\s*function\\s+([\\w$]+)"));
+  static const QRegularExpression java(QStringLiteral("^\\s*function\\s+([\\w$]+)"),
+                                       QRegularExpression::UseUnicodePropertiesOption);
   const bool isJava = language.compare(u"jscript", Qt::CaseInsensitive) == 0;
   std::vector<ScriptProcedure> procedures;
   int number = 0;

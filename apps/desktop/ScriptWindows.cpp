@@ -7,14 +7,20 @@
 
 namespace cardwright::desktop {
 
-ScriptWindows::ScriptWindows(app::ScriptDisplay display, ClassRegistry& classes)
+ScriptWindows::ScriptWindows(app::ScriptDisplay display, ScriptSurroundings& surroundings)
     : m_Session(display == app::ScriptDisplay::Required ? Display::Needed : Display::IfThere) {
   // A script ends by itself, however many windows it closes.
   QApplication::setQuitOnLastWindowClosed(false);
-  // Where nobody sees the windows, nobody wants to read what their platform cannot do for them.
-  if (!m_Session.HasDisplay()) QLoggingCategory::setFilterRules(QStringLiteral("default.warning=false"));
-  AddDesktopClasses(classes);
-  m_Workplace.AddClasses(classes);
+  m_Session.LeaveUnattended();
+  if (!m_Session.HasDisplay()) {
+    // Where nobody sees the windows, nobody wants to read what their platform cannot do for them.
+    QLoggingCategory::setFilterRules(QStringLiteral("default.warning=false"));
+    m_Unseen.emplace([&surroundings](const Text& line) {
+      if (surroundings.say) surroundings.say(line);
+    });
+  }
+  AddDesktopClasses(surroundings.classes);
+  m_Workplace.AddClasses(surroundings.classes);
 }
 
 void ScriptWindows::Serve(std::chrono::milliseconds time) { robot::ServeEvents(time); }

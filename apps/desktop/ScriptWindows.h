@@ -1,7 +1,10 @@
 #pragma once
 
+#include <optional>
+
 #include "cardwright/DesktopModule.h"
 #include "desktop/Session.h"
+#include "desktop/UnseenDesktop.h"
 #include "robot/Workplace.h"
 
 namespace cardwright::desktop {
@@ -11,13 +14,14 @@ namespace cardwright::desktop {
 class ScriptWindows final : public ScriptDesktop {
  public:
   /// Error 5 with a description where a display is required and there is none.
-  ScriptWindows(app::ScriptDisplay display, ClassRegistry& classes);
+  ScriptWindows(app::ScriptDisplay display, ScriptSurroundings& surroundings);
 
   void Serve(std::chrono::milliseconds time) override;
   bool HasDisplay() const override;
 
  private:
   Session m_Session;
+  std::optional<UnseenDesktop> m_Unseen;
   robot::Workplace m_Workplace;
 };
 

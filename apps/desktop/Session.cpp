@@ -1,11 +1,9 @@
 #include "desktop/Session.h"
 
-#include "automation/Conversions.h"
 #include "automation/Errors.h"
 #include "cardwright/Languages.h"
+#include "desktop/Classes.h"
 #include "hosting/FormScripts.h"
-#include "qt/QtText.h"
-#include "shared/ModuleState.h"
 
 namespace cardwright::desktop {
 namespace {
@@ -28,33 +26,14 @@ Session::Session(Display display) {
   if (!chosen && display == Display::Needed && !HasDisplay())
     Raise(static_cast<int>(ErrorNumber::InvalidCall), u"there is no display to show the form on");
   QApplication::setApplicationDisplayName(QStringLiteral("Cardwright"));
-  ProvideFormScripts(app::Languages());
+  ProvideFormScripts(app::Languages(), ClassesOnLeave());
   m_Library = std::make_unique<qt::Library>();
-}
-
-Session::~Session() {
-  if (m_Log) Module().connections.Close(m_Library->Vellum().TarvoHandle());
+  m_Data = std::make_unique<DataSource>(*m_Library);
 }
 
 bool Session::HasDisplay() const {
   const QString platform = QApplication::platformName();
   return platform != u"offscreen" && platform != u"minimal";
 }
-
-void Session::OpenData(const QString& source) {
-  const Ref<EmbeddedHost> host = EmbeddedHost::Open(qt::FromQString(source));
-  host->onRefusal = [this](const Text& reason) { m_Refusals += qt::ToQString(reason); };
-  m_Log = MakeRef<LoggedConnection>(host);
-  host->SetHandle(m_Library->Connect(m_Log));
-}
-
-bool Session::HasFeature(const FeaturePlace& place, const Text& id) {
-  m_Log->Execute(commands::SelectByValue(place, id));
-  const bool found = Val(m_Log->Request(commands::SelectedNumber(place))) > 0;
-  m_Log->Execute(commands::SelectNone(place));
-  return found;
-}
-
-QStringList Session::TakeRefusals() { return std::exchange(m_Refusals, {}); }
 
 }  // namespace cardwright::desktop

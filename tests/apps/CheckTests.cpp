@@ -31,6 +31,19 @@ TEST(Check, ReadsAProjectWhoseLinesEndInAnyWay) {
   }
 }
 
+TEST(Check, FindsNothingInSelectorsThatAreLinkedAsTheyShouldBe) {
+  const TempFolder folder;
+  const std::string controls =
+      "[CONTROLS_1]\r\nType=attributeselector\r\nThemeSelectorName=THM\r\nFeatureSelectorName=cbo\r\n"
+      "[CONTROLS_2]\r\nType=themeselector\r\nUserName=thm\r\n[CONTROLS_3]\r\nType=ComboBox\r\nUserName="
+      "cbo\r\n"
+      "[CONTROLS_4]\r\nType=resourceselector\r\nRegKey=App/Section/Key/more\r\n"
+      "[CONTROLS_5]\r\nType=resourceselector\r\nRegKey=\r\n";
+  const Outcome outcome = Cardwright({"check", folder.Write("a.cwf", Project(controls, 5))});
+  EXPECT_EQ(outcome.out, "");
+  EXPECT_EQ(outcome.status, 0);
+}
+
 TEST(Check, TellsOnceThatTheThemeHasNoFeaturesOfTheFormsType) {
   const TempFolder folder;
   const std::string control = "[CONTROLS_1]\r\nType=TextBox\r\nAttribute=NAME\r\n";
@@ -45,6 +58,18 @@ std::string WithScript(const std::string& script, const std::string& language = 
                        const std::string& userName = "txtDepth") {
   return "[FORM]\r\nControlsNumber= 1\r\n[CONTROLS_1]\r\nType=TextBox\r\nUserName=" + userName +
          "\r\n[SCRIPT]\r\n" + language + "\r\n" + script;
+}
+
+TEST(Check, FindsNothingInNamesThatOnlyJScriptTakes) {
+  const TempFolder folder;
+  for (const std::string name : {"_depth", "$depth",
+                                 "Gr\xF6\xDF"
+                                 "e"}) {
+    const std::string script = "function " + name + "_OnChange() {}\r\n";
+    const Outcome outcome = Cardwright({"check", folder.Write("a.cwf", WithScript(script, "JScript", name))});
+    EXPECT_EQ(outcome.out, "");
+    EXPECT_EQ(outcome.status, 0);
+  }
 }
 
 struct FaultyProject {
@@ -85,6 +110,26 @@ std::vector<FaultyProject> FaultyProjects() {
        Project("[CONTROLS_1]\r\nType=TextBox\r\nAttribute=COLOUR\r\n", 1,
                "ThemeName=wells\r\nFeatureType= 0\r\n"),
        ":CONTROLS_1: the theme wells has no attribute COLOUR\n"},
+      {"MissingThemeSelector",
+       Project("[CONTROLS_1]\r\nType=attributeselector\r\nThemeSelectorName=thm\r\n", 1),
+       ":CONTROLS_1: ThemeSelectorName names thm, which is no control of the form\n"},
+      {"ThemeSelectorOfAnotherKind",
+       Project("[CONTROLS_1]\r\nType=attributeselector\r\nThemeSelectorName=LBL\r\n[CONTROLS_2]\r\nType="
+               "Label\r\nUserName=lbl\r\n",
+               2),
+       ":CONTROLS_1: ThemeSelectorName names LBL, which is no CThemeSelector\n"},
+      {"FeatureSelectorOfAnotherKind",
+       Project("[CONTROLS_1]\r\nType=themeselector\r\nUserName=thm\r\n[CONTROLS_2]\r\nType="
+               "attributeselector\r\nThemeSelectorName=thm\r\nFeatureSelectorName=thm\r\n",
+               2),
+       ":CONTROLS_2: FeatureSelectorName names thm, which is no CComboBox\n"},
+      {"NoThemeSelector",
+       Project("[CONTROLS_1]\r\nType=ComboBox\r\nUserName=cbo\r\n[CONTROLS_2]\r\nType="
+               "attributeselector\r\nFeatureSelectorName=cbo\r\n",
+               2),
+       ":CONTROLS_2: there is no ThemeSelectorName: the control lists no attributes\n"},
+      {"RegKey", Project("[CONTROLS_1]\r\nType=resourceselector\r\nRegKey=App/Section\r\n", 1),
+       ":CONTROLS_1: the RegKey App/Section is not of the form Application/Section/Key: no folder is kept\n"},
       {"LongValue", Project("[CONTROLS_1]\r\nType=Label\r\nText=" + std::string(9000, 'x') + "\r\n", 1),
        ":CONTROLS_1: the value of Text is cut to 8191 characters\n"},
       {"SecondLine", Project("[CONTROLS_1]\r\nType=textboxmultiline\r\nText=one\r\ntwo\r\n", 1),
@@ -114,6 +159,9 @@ std::vector<FaultyProject> FaultyProjects() {
        ":SCRIPT: the names of the form's elements: Expected identifier (error 1010, column 5)\n"},
       {"JScriptEvent", WithScript("function txtDepth_OnClose() {}\r\n", "JScript"),
        ":SCRIPT: line 1: txtDepth has no event OnClose: txtDepth_OnClose is never run by the form\n"},
+      {"JScriptCase", WithScript("\r\nfunction txtdepth_OnChange() {}\r\n", "jScript"),
+       ":SCRIPT: line 2: txtdepth_OnChange fails as an event procedure: JScript tells cases apart, and the "
+       "form calls txtDepth_OnChange\n"},
       {"LostCharacter", Project("[CONTROLS_1]\r\nType=Label\r\nText=a\x81\r\n", 1),
        ":CONTROLS_1: the value of Text has a character that the code page lacks\n"},
   };

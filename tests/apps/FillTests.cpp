@@ -1,9 +1,11 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <csignal>
 #include <filesystem>
 
 #include "Program.h"
+#include "RunningProgram.h"
 
 namespace cardwright::testing {
 namespace {
@@ -49,6 +51,33 @@ TEST(Fill, WithoutADisplaySaysSoAndEnds) {
                                   SourceFile("examples/wells/wells.gpkg"), "--theme", "wells", "--id", "3"});
   EXPECT_EQ(outcome.status, 2);
   EXPECT_THAT(outcome.err, HasSubstr("there is no display"));
+}
+
+std::vector<std::string> WordsToFill(const std::string& form) {
+  return {"fill", form, "--data", SourceFile("examples/wells/wells.gpkg"), "--theme", "wells", "--id", "3"};
+}
+
+TEST(Fill, IsEndedByCtrlCWhileNoScriptRuns) {
+  RunningProgram fill(WordsToFill(ExampleForm()));
+  ASSERT_TRUE(fill.WaitUntilItHandlesCtrlC());
+  fill.PressCtrlC();
+  EXPECT_EQ(fill.WaitForEnd(std::chrono::seconds(30)), SIGINT);
+}
+
+TEST(Fill, AsksAtCtrlCWhetherToStopAScriptAndIsEndedByASecondOne) {
+  const TempFolder folder;
+  for (const std::string script : {"VBScript\r\nDo\r\nLoop\r\n", "JScript\r\nfor (;;) ;\r\n"}) {
+    RunningProgram fill(WordsToFill(folder.Write(
+        "endless.cwf",
+        "[FORM]\r\nThemeName=wells\r\nFeatureType= 0\r\nControlsNumber= 0\r\n[SCRIPT]\r\n" + script)));
+    ASSERT_TRUE(fill.WaitUntilItHandlesCtrlC());
+    fill.PressCtrlC();
+    ASSERT_TRUE(fill.WaitUntilItHandlesCtrlC()) << "the first one was not met";
+    EXPECT_TRUE(fill.WaitUntilItRests()) << "the script does not wait for an answer";
+    EXPECT_EQ(fill.WaitForEnd(std::chrono::seconds(0)), std::nullopt);
+    fill.PressCtrlC();
+    EXPECT_EQ(fill.WaitForEnd(std::chrono::seconds(30)), SIGINT);
+  }
 }
 
 // The whole road with real keys and clicks: form, widgets, host commands, GeoPackage; read back by the data

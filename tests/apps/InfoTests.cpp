@@ -15,6 +15,7 @@ TEST(Info, ShowsTheFormItsControlsAndItsProcedures) {
   EXPECT_THAT(info.out, HasSubstr("ThemeName        wells\n"));
   EXPECT_THAT(info.out, HasSubstr("CTextBox txtDepth in object_"));
   EXPECT_THAT(info.out, HasSubstr("InputType        Float\n"));
+  EXPECT_THAT(info.out, HasSubstr("Stacking Form, lblTitle, fraIdentification,"));
   EXPECT_THAT(info.out, HasSubstr("Script VBScript\n"));
   EXPECT_THAT(info.out, HasSubstr("Form_Initialize"));
 }
@@ -25,6 +26,8 @@ TEST(Info, GivesTheSameAsJson) {
   EXPECT_EQ(info.out.front(), '{');
   EXPECT_THAT(info.out, HasSubstr("\"class\": \"CCheckBox\""));
   EXPECT_THAT(info.out, HasSubstr("\"language\": \"VBScript\""));
+  EXPECT_THAT(info.out, HasSubstr("\"stacking\": ["));
+  EXPECT_THAT(info.out, HasSubstr("\"gridStep\": 8"));
 }
 
 TEST(Info, ShowsAnEmptyFileAsAnEmptyForm) {

@@ -14,6 +14,16 @@ TEST(Render, WritesAPictureOfTheForm) {
   EXPECT_GT(bytes.size(), 4000U);
 }
 
+TEST(Render, ShowsTheFormAsItsAuthorDrawsIt) {
+  const TempFolder folder;
+  const std::string filled = folder.File("filled.png");
+  const std::string drawn = folder.File("drawn.png");
+  EXPECT_EQ(Cardwright({"render", ExampleForm(), "-o", filled}).status, 0);
+  EXPECT_EQ(Cardwright({"render", ExampleForm(), "--design", "-o", drawn}).status, 0);
+  EXPECT_EQ(ReadAll(drawn).substr(1, 3), "PNG");
+  EXPECT_NE(ReadAll(drawn), ReadAll(filled));
+}
+
 TEST(Render, TellsWhenThePictureCannotBeWritten) {
   const Outcome outcome = Cardwright({"render", ExampleForm(), "-o", "/no/such/folder/form.png"});
   EXPECT_EQ(outcome.status, 1);

@@ -1,0 +1,35 @@
+#include "desktop/DataSource.h"
+
+#include "automation/Conversions.h"
+#include "qt/QtText.h"
+#include "shared/ModuleState.h"
+
+namespace cardwright::desktop {
+
+void DataSource::Open(const QString& source) {
+  const Ref<EmbeddedHost> host = EmbeddedHost::Open(qt::FromQString(source));
+  Close();
+  host->onRefusal = [this](const Text& reason) { m_Refusals += qt::ToQString(reason); };
+  m_Log = MakeRef<LoggedConnection>(host);
+  m_Handle = m_Library.Connect(m_Log);
+  m_Name = source;
+  host->SetHandle(m_Handle);
+}
+
+void DataSource::Close() {
+  if (!m_Log) return;
+  m_Library.Vellum().SetTarvoHandle(0);
+  Module().connections.Close(m_Handle);
+  m_Log = nullptr;
+  m_Handle = 0;
+  m_Name.clear();
+}
+
+bool DataSource::HasFeature(const FeaturePlace& place, const Text& id) {
+  m_Log->Execute(commands::SelectByValue(place, id));
+  const bool found = Val(m_Log->Request(commands::SelectedNumber(place))) > 0;
+  m_Log->Execute(commands::SelectNone(place));
+  return found;
+}
+
+}  // namespace cardwright::desktop

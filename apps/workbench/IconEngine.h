@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QIconEngine>
+#include <QPainter>
+
+namespace cardwright::workbench {
+
+/// What a drawing of an icon paints with, on a field of 16 by 16 units.
+struct IconInk {
+  QPainter& painter;
+  QColor line;    ///< of the text
+  QColor accent;  ///< of what catches the eye
+  QColor ground;  ///< inside of a field that one types into
+
+  void Lines() const;
+  void Accent() const;
+  void Filled() const;
+};
+
+/// Draws an icon anew for each size and state.
+class IconEngine final : public QIconEngine {
+ public:
+  using Draw = void (*)(const IconInk& ink);
+  explicit IconEngine(Draw draw) : m_Draw(draw) {}
+
+  void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State state) override;
+  QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override;
+  QIconEngine* clone() const override { return new IconEngine(m_Draw); }
+
+ private:
+  Draw m_Draw;
+};
+
+}  // namespace cardwright::workbench

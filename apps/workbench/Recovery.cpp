@@ -1,0 +1,112 @@
+#include "workbench/Recovery.h"
+
+#include <QCoreApplication>
+#include <QCryptographicHash>
+#include <QDir>
+#include <QFileInfo>
+#include <QSaveFile>
+#include <QStandardPaths>
+
+#include "workbench/Preferences.h"
+
+namespace cardwright::workbench {
+namespace {
+
+// What the preferences remember: where work is kept, and on which project.
+const QString kGroup = QStringLiteral("Work");
+
+QString DataFolder() {
+  const QString folder = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +
+                         QStringLiteral("/Cardwright/work");
+  QDir().mkpath(folder);
+  return folder;
+}
+
+QString LockOf(const QString& file) { return file + QStringLiteral(".lock"); }
+
+// A slash would make a group of it.
+QString KeyOf(const QString& file) {
+  return QString::fromLatin1(file.toUtf8().toBase64(QByteArray::Base64UrlEncoding));
+}
+QString FileOf(const QString& key) {
+  return QString::fromUtf8(QByteArray::fromBase64(key.toLatin1(), QByteArray::Base64UrlEncoding));
+}
+
+bool IsKept(const QString& file) {
+  QLockFile lock(LockOf(file));
+  lock.setStaleLockTime(0);
+  return !lock.tryLock(0);
+}
+
+}  // namespace
+
+QString Recovery::FileFor(const QString& project) {
+  if (project.isEmpty())
+    return DataFolder() + QStringLiteral("/new-%1.cwf").arg(QCoreApplication::applicationPid());
+  const QFileInfo info(project);
+  const QString beside =
+      info.absolutePath() + QStringLiteral("/.") + info.fileName() + QStringLiteral(".unsaved");
+  if (QFileInfo(info.absolutePath()).isWritable()) return beside;
+  const QByteArray digest =
+      QCryptographicHash::hash(info.absoluteFilePath().toUtf8(), QCryptographicHash::Sha1).toHex();
+  return DataFolder() + QLatin1Char('/') + QString::fromLatin1(digest) + QStringLiteral(".cwf");
+}
+
+std::vector<LeftWork> Recovery::Left() {
+  std::vector<LeftWork> all;
+  Preferences preferences;
+  preferences.beginGroup(kGroup);
+  for (const QString& key : preferences.childKeys()) {
+    const LeftWork work{FileOf(key), preferences.value(key).toString(),
+                        QFileInfo(FileOf(key)).lastModified()};
+    if (!QFileInfo(work.file).isFile()) {
+      preferences.remove(key);
+    } else if (!IsKept(work.file)) {
+      all.push_back(work);
+    }
+  }
+  return all;
+}
+
+// The file beside the project counts even where nothing is remembered of it, as after a move of the folder.
+std::vector<LeftWork> Recovery::LeftOn(const QString& project) {
+  const QString path = QFileInfo(project).absoluteFilePath();
+  const QFileInfo work(FileFor(path));
+  if (!work.isFile() || IsKept(work.filePath())) return {};
+  return {{work.filePath(), path, work.lastModified()}};
+}
+
+void Recovery::Forget(const LeftWork& work) {
+  QFile::remove(work.file);
+  Preferences preferences;
+  preferences.beginGroup(kGroup);
+  preferences.remove(KeyOf(work.file));
+}
+
+void Recovery::Keep(const QString& project, const QByteArray& bytes) {
+  const QString file = FileFor(project);
+  if (file != m_File) Drop();
+  if (m_File.isEmpty()) {
+    auto lock = std::make_unique<QLockFile>(LockOf(file));
+    lock->setStaleLockTime(0);
+    if (!lock->tryLock(0)) return;  // another window works on the same project and keeps its own
+    m_Lock = std::move(lock);
+    m_File = file;
+    Preferences preferences;
+    preferences.beginGroup(kGroup);
+    preferences.setValue(KeyOf(file), project);
+  }
+  QSaveFile out(file);
+  if (!out.open(QIODevice::WriteOnly)) return;
+  out.write(bytes);
+  out.commit();
+}
+
+void Recovery::Drop() {
+  if (m_File.isEmpty()) return;
+  Forget({m_File, {}, {}});
+  m_File.clear();
+  m_Lock = nullptr;
+}
+
+}  // namespace cardwright::workbench

@@ -1,0 +1,297 @@
+#include "workbench/Workbench.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QCloseEvent>
+#include <QDockWidget>
+#include <QFileInfo>
+#include <QLabel>
+#include <QMenuBar>
+#include <QMimeData>
+#include <QStatusBar>
+
+#include "qt/QtText.h"
+#include "qt/WidgetCore.h"
+#include "runtime/HostLists.h"
+#include "workbench/ControlList.h"
+#include "workbench/FeaturePane.h"
+#include "workbench/FocusKeeper.h"
+#include "workbench/Icons.h"
+#include "workbench/Kinds.h"
+#include "workbench/OutputPane.h"
+#include "workbench/Preferences.h"
+#include "workbench/PropertyGrid.h"
+#include "workbench/ScriptPane.h"
+#include "workbench/ToolBox.h"
+
+namespace cardwright::workbench {
+namespace {
+
+constexpr int kTold = 8000;       // milliseconds that a message stands in the status bar
+constexpr int kKeepAfter = 3000;  // and after which changed work is kept
+constexpr int kLayoutVersion = 1;
+
+QWidget* NativeOf(const IControl& control) {
+  const Ref<Object> bound = control.BoundObject();
+  const auto* core = dynamic_cast<const qt::WidgetCore*>(bound.get());
+  return core ? core->Native() : nullptr;
+}
+
+}  // namespace
+
+Workbench::Workbench(desktop::DataSource& source)
+    : m_Data(source), m_Stage(new FormStage(this)), m_Document(new Document(*m_Stage, this)) {
+  setWindowIcon(IconOf(Sign::Form));
+  setAcceptDrops(true);
+  setDockNestingEnabled(true);
+  setCentralWidget(m_Stage);
+  m_ListSoon.setSingleShot(true);
+  m_KeepSoon.setSingleShot(true);
+  m_KeepSoon.setInterval(kKeepAfter);
+  connect(&m_ListSoon, &QTimer::timeout, this, &Workbench::ShowList);
+  connect(&m_KeepSoon, &QTimer::timeout, this, &Workbench::KeepWork);
+  MakePanes();
+  MakeActions();
+  ConnectDocument();
+  ConnectPanes();
+  const Preferences preferences;
+  m_GridPixels = qBound(2, preferences.value(QStringLiteral("GridStep"), 8).toInt(), 64);
+  m_Document->Designer().SetGridAlignment(preferences.value(QStringLiteral("SnapToGrid"), true).toBool());
+  resize(1280, 860);
+  RestoreLayout();
+  statusBar()->setSizeGripEnabled(false);
+  ShowSelection(m_Document->Designer().CurrentControl());
+  m_Script->Show(m_Document->GetScript());
+  UpdateGrid();
+  ShowList();
+  ShowState();
+}
+
+Workbench::~Workbench() {
+  // What a run holds refers to the data source and to the panes.
+  delete m_Run.data();
+  if (m_Data.IsOpen()) m_Data.Log().onLine = nullptr;
+  // Panes end after this, and an editor that is open then still tells what was typed.
+  for (QObject* part : findChildren<QObject*>()) part->disconnect(this);
+}
+
+QDockWidget* Workbench::AddPane(const char* name, const QString& title, QWidget* pane,
+                                Qt::DockWidgetArea area) {
+  auto* dock = new QDockWidget(title, this);
+  dock->setObjectName(QLatin1String(name));
+  dock->setWidget(pane);
+  addDockWidget(area, dock);
+  m_Panes[QLatin1String(name)] = dock;
+  return dock;
+}
+
+void Workbench::MakePanes() {
+  setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
+  setCorner(Qt::BottomLeftCorner, Qt::LeftDockWidgetArea);
+  m_Tools = new ToolBox(this);
+  m_List = new ControlList(this);
+  m_Grid = new PropertyGrid(*this, this);
+  m_Script = new ScriptPane(this);
+  m_Features = new FeaturePane(this);
+  m_Output = new OutputPane(this);
+  QDockWidget* tools = AddPane("paneTools", tr("Tool Box"), m_Tools, Qt::LeftDockWidgetArea);
+  QDockWidget* list = AddPane("paneControls", tr("Controls"), m_List, Qt::RightDockWidgetArea);
+  QDockWidget* grid = AddPane("paneProperties", tr("Properties"), m_Grid, Qt::RightDockWidgetArea);
+  QDockWidget* script = AddPane("paneScript", tr("Script"), m_Script, Qt::BottomDockWidgetArea);
+  QDockWidget* features = AddPane("paneData", tr("Data"), m_Features, Qt::BottomDockWidgetArea);
+  QDockWidget* output = AddPane("paneOutput", tr("Output"), m_Output, Qt::BottomDockWidgetArea);
+  tabifyDockWidget(script, features);
+  tabifyDockWidget(features, output);
+  script->raise();
+  resizeDocks({list, grid}, {220, 460}, Qt::Vertical);
+  resizeDocks({tools, grid}, {180, 330}, Qt::Horizontal);
+  resizeDocks({script}, {230}, Qt::Vertical);
+  setTabPosition(Qt::BottomDockWidgetArea, QTabWidget::North);
+}
+
+void Workbench::RestoreLayout() {
+  const Preferences preferences;
+  restoreGeometry(preferences.value(QStringLiteral("Geometry")).toByteArray());
+  restoreState(preferences.value(QStringLiteral("Layout")).toByteArray(), kLayoutVersion);
+}
+
+void Workbench::SaveLayout() const {
+  Preferences preferences;
+  preferences.setValue(QStringLiteral("Geometry"), saveGeometry());
+  preferences.setValue(QStringLiteral("Layout"), saveState(kLayoutVersion));
+  preferences.setValue(QStringLiteral("GridStep"), m_GridPixels);
+  preferences.setValue(QStringLiteral("SnapToGrid"), m_Document->Designer().GridAlignment());
+}
+
+void Workbench::ConnectDocument() {
+  connect(m_Document, &Document::Selected, this,
+          [this](IControl* control) { ShowSelection(Ref<IControl>(control)); });
+  connect(m_Document, &Document::RowChanged, m_Grid, [this](int row) { m_Grid->Model().Refresh(row); });
+  connect(m_Document, &Document::DrawingEnded, m_Tools, &ToolBox::Reset);
+  connect(m_Document, &Document::Resized, this, &Workbench::UpdateGrid);
+  connect(m_Document, &Document::PropertiesWanted, this, [this] {
+    m_Panes[QStringLiteral("paneProperties")]->show();
+    m_Grid->View().setFocus();
+  });
+  connect(m_Document, &Document::Locked, this,
+          [this](bool locked) { Action(QStringLiteral("mnuLock"))->setChecked(locked); });
+  connect(m_Document, &Document::MenuChanged, this, [this](const QString& name, bool enabled) {
+    m_MenuStates[name] = enabled;
+    ShowCommands();
+  });
+  connect(m_Document, &Document::Replaced, this, [this] {
+    m_Tools->Reset();
+    m_Script->Show(m_Document->GetScript());
+    UpdateGrid();
+    Action(QStringLiteral("mnuLock"))->setChecked(false);
+    for (const char* name : {"mnuForeground", "mnuBackground"}) m_MenuStates.erase(QLatin1String(name));
+    m_ListSoon.start(0);
+  });
+  connect(m_Document, &Document::Changed, this, [this] {
+    m_ListSoon.start(0);
+    m_Script->Show(m_Document->GetScript());
+    m_Grid->Model().RefreshAll();
+    ShowState();
+    if (m_Document->IsModified()) {
+      if (!m_KeepSoon.isActive()) m_KeepSoon.start();
+    } else {
+      m_KeepSoon.stop();
+      m_Recovery.Drop();
+    }
+  });
+}
+
+void Workbench::ConnectPanes() {
+  connect(m_Tools, &ToolBox::KindChosen, this,
+          [this](ControlTypeEnum kind) { m_Document->Designer().SetControlTypeToAdd(kind); });
+  connect(m_Tools, &ToolBox::InsertWanted, this, [this](ControlTypeEnum kind) {
+    const FocusKeeper keeper;
+    m_Document->Insert(kind);
+    m_Tools->Reset();
+  });
+  connect(m_List, &ControlList::Chosen, this, &Workbench::Select);
+  connect(m_List, &QTreeWidget::itemActivated, this, [this] { m_Grid->EditRow(QStringLiteral("Text")); });
+  connect(&m_Grid->Model(), &PropertyModel::Assigned, this, [this] {
+    UpdateGrid();
+    m_Document->NoteSoon();
+  });
+  connect(m_Script, &ScriptPane::Edited, m_Document, &Document::SetScript);
+  connect(m_Features, &FeaturePane::OpenWanted, this, &Workbench::ChooseData);
+  connect(m_Features, &FeaturePane::FillWanted, this, [this] { Fill(false); });
+}
+
+void Workbench::ShowSelection(const Ref<IControl>& control) {
+  m_Grid->Show(control);
+  m_List->Mark(control.get());
+  ShowCommands();
+  if (!control) return;
+  if (const QWidget* native = NativeOf(*control)) {
+    const QPoint at = native->mapTo(&m_Stage->Designer(), QPoint());
+    m_Stage->Reveal(QRect(at, native->size()));
+  }
+}
+
+// What acts on a control needs one; beside that the designer says what it does not allow.
+void Workbench::ShowCommands() {
+  const Ref<IControl>& control = m_Grid->Model().Control();
+  const bool isForm = !control || KindOf(*control) == ControlTypeEnum::ctDefault;
+  for (const char* name : {"mnuCut", "mnuCopy", "mnuDelete", "mnuForeground", "mnuBackground",
+                           "mnuCenterAcross", "mnuCenterDown"}) {
+    const auto state = m_MenuStates.find(QLatin1String(name));
+    const bool isAllowed = state == m_MenuStates.end() || state->second;
+    Action(QLatin1String(name))->setEnabled(!isForm && isAllowed);
+  }
+  const auto paste = m_MenuStates.find(QStringLiteral("mnuPaste"));
+  Action(QStringLiteral("mnuPaste"))->setEnabled(paste != m_MenuStates.end() && paste->second);
+}
+
+// Beside the rows, the names that screen readers tell.
+void Workbench::ShowList() {
+  cardwright::FormDesigner& designer = m_Document->Designer();
+  m_List->Show(designer);
+  for (const Ref<IControl>& control : ControlsOf(designer.Controls()))
+    if (QWidget* native = NativeOf(*control)) {
+      native->setAccessibleName(qt::ToQString(control->UserName()));
+      native->setAccessibleDescription(KindName(KindOf(*control)));
+    }
+}
+
+void Workbench::ShowState() {
+  Action(QStringLiteral("mnuUndo"))->setEnabled(m_Document->CanUndo());
+  Action(QStringLiteral("mnuRedo"))->setEnabled(m_Document->CanRedo());
+  Action(QStringLiteral("mnuSave"))->setEnabled(m_Document->IsModified() || m_Document->Path().isEmpty());
+  ShowTitle();
+}
+
+void Workbench::ShowTitle() {
+  const QString& path = m_Document->Path();
+  const QString name = path.isEmpty() ? tr("New form") : QFileInfo(path).fileName();
+  setWindowTitle(tr("%1[*]").arg(name));
+  setWindowFilePath(path);
+  setWindowTitle(tr("%1[*] – Cardwright").arg(name));
+  setWindowModified(m_Document->IsModified());
+}
+
+// The designer paints its grid in pixels but holds drags to the same number in the form's own unit; in a form
+// of twips that would be a fifteenth of what is seen.
+void Workbench::UpdateGrid() {
+  cardwright::FormDesigner& designer = m_Document->Designer();
+  const ScaleMode scale = designer.GetSurface()->Scale();
+  const float step = PixelsToScale(static_cast<float>(m_GridPixels), scale);
+  designer.SetGridStep(static_cast<std::int16_t>(step));
+  designer.SetGrid(m_IsGridShown ? static_cast<std::int16_t>(m_GridPixels) : std::int16_t{0}, true);
+}
+
+void Workbench::Tell(const QString& text) { statusBar()->showMessage(text, kTold); }
+
+void Workbench::Select(IControl* control) {
+  const FocusKeeper keeper;
+  m_Document->Designer().SetCtrl(Ref<IControl>(control));
+}
+
+QStringList Workbench::Themes() const {
+  QStringList names;
+  for (const ListedTheme& theme : ListThemes(m_Data.Handle())) names += qt::ToQString(theme.name);
+  return names;
+}
+
+QStringList Workbench::Attributes() const {
+  const cardwright::FormDesigner& designer = m_Document->Designer();
+  QStringList names;
+  for (const ListedAttribute& attribute :
+       ListAttributes(m_Data.Handle(), designer.GetThemeName(), designer.GetFeatureType()))
+    names += qt::ToQString(attribute.name);
+  return names;
+}
+
+QString Workbench::Folder() const { return QFileInfo(m_Document->Path()).absolutePath(); }
+
+void Workbench::closeEvent(QCloseEvent* event) {
+  if (m_Run || !MayLeave()) return event->ignore();
+  m_KeepSoon.stop();
+  m_Recovery.Drop();
+  SaveLayout();
+  event->accept();
+}
+
+void Workbench::dragEnterEvent(QDragEnterEvent* event) {
+  if (event->mimeData()->hasUrls()) event->acceptProposedAction();
+}
+
+void Workbench::dropEvent(QDropEvent* event) {
+  const QList<QUrl> urls = event->mimeData()->urls();
+  if (urls.isEmpty() || !urls.first().isLocalFile()) return;
+  const QString path = urls.first().toLocalFile();
+  if (path.endsWith(QLatin1String(".cwf"), Qt::CaseInsensitive)) {
+    if (MayLeave()) OpenProject(path);
+  } else {
+    OpenData(path);
+  }
+}
+
+void Workbench::changeEvent(QEvent* event) {
+  QMainWindow::changeEvent(event);
+  if (event->type() == QEvent::PaletteChange && m_Grid) m_Grid->Model().RefreshAll();
+}
+
+}  // namespace cardwright::workbench

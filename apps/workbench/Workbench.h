@@ -1,0 +1,142 @@
+#pragma once
+
+#include <QMainWindow>
+#include <QPointer>
+#include <QTimer>
+#include <functional>
+#include <map>
+
+#include "desktop/DataSource.h"
+#include "desktop/FormWindow.h"
+#include "workbench/Choices.h"
+#include "workbench/Document.h"
+#include "workbench/Recovery.h"
+
+class QActionGroup;
+
+namespace cardwright::workbench {
+
+class ControlList;
+class FeaturePane;
+class OutputPane;
+class PropertyGrid;
+class ScriptPane;
+class ToolBox;
+
+/// The window in which an author draws forms: the form in the middle, around it the tool box, the list of
+/// controls, the property grid, the script, the data and what runs leave behind.
+class Workbench final : public QMainWindow, private Choices {
+  Q_OBJECT
+ public:
+  explicit Workbench(desktop::DataSource& source);
+  ~Workbench() override;
+
+  /// Opens a project, and offers work that was left on it. False where it could not be read, which was told.
+  bool OpenProject(const QString& path);
+  /// Opens a data source. False where it could not be opened, which was told.
+  bool OpenData(const QString& source);
+  /// Offers work that a program which ended unexpectedly has left; true where some was taken.
+  bool OfferLeftWork();
+
+  Document& Project() noexcept { return *m_Document; }
+  FormStage& Stage() noexcept { return *m_Stage; }
+  ToolBox& Tools() noexcept { return *m_Tools; }
+  PropertyGrid& Grid() noexcept { return *m_Grid; }
+  ControlList& List() noexcept { return *m_List; }
+  ScriptPane& Script() noexcept { return *m_Script; }
+  FeaturePane& Features() noexcept { return *m_Features; }
+  OutputPane& Output() noexcept { return *m_Output; }
+  /// The window of the form that is being filled in; null while there is none.
+  desktop::FormWindow* Run() const noexcept { return m_Run; }
+  /// An action by its object name.
+  QAction* Action(const QString& name) const { return findChild<QAction*>(name); }
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+  void dragEnterEvent(QDragEnterEvent* event) override;
+  void dropEvent(QDropEvent* event) override;
+  void changeEvent(QEvent* event) override;
+
+ private:
+  /// @name Set-up
+  /// @{
+  void MakePanes();
+  void MakeActions();
+  void MakeFileActions();
+  void MakeEditActions();
+  void MakeFormatActions();
+  void MakeDataActions();
+  void MakeViewActions();
+  void MakeToolBar();
+  void ConnectDocument();
+  void ConnectPanes();
+  QAction* AddAction(QMenu& menu, const char* name, const QString& text, const QIcon& icon,
+                     const QKeySequence& keys, const std::function<void()>& run);
+  QDockWidget* AddPane(const char* name, const QString& title, QWidget* pane, Qt::DockWidgetArea area);
+  void RestoreLayout();
+  void SaveLayout() const;
+  /// @}
+
+  /// @name Projects
+  /// @{
+  void NewProject();
+  void ChooseProject();
+  bool Save();
+  bool SaveAs();
+  bool SaveTo(const QString& path);
+  /// Saves or gives up what is not saved, as the person says; false to stay.
+  bool MayLeave();
+  void Remember(const QString& path);
+  void FillRecentMenu(QMenu& menu);
+  bool Offer(const LeftWork& work);
+  void KeepWork();
+  /// @}
+
+  /// @name What the panes show
+  /// @{
+  void ShowState();
+  void ShowTitle();
+  void ShowList();
+  void ShowSelection(const Ref<IControl>& control);
+  void ShowCommands();
+  void UpdateGrid();
+  void Tell(const QString& text);
+  /// @}
+
+  /// @name Commands
+  /// @{
+  void Select(IControl* control);
+  void RunOnControl(void (cardwright::FormDesigner::*command)());
+  void ChooseGridStep();
+  void ChooseData();
+  void FillThemeMenu(QMenu& menu);
+  void BindTo(const QString& theme);
+  void Fill(bool debug);
+  bool StartRun(const QString& theme, const QString& id, bool debug);
+  void EndRun();
+  /// @}
+
+  QStringList Themes() const override;
+  QStringList Attributes() const override;
+  QString Folder() const override;
+
+  desktop::DataSource& m_Data;
+  FormStage* m_Stage;
+  Document* m_Document;
+  ToolBox* m_Tools = nullptr;
+  ControlList* m_List = nullptr;
+  PropertyGrid* m_Grid = nullptr;
+  ScriptPane* m_Script = nullptr;
+  FeaturePane* m_Features = nullptr;
+  OutputPane* m_Output = nullptr;
+  std::map<QString, QDockWidget*> m_Panes;
+  QTimer m_ListSoon;
+  QTimer m_KeepSoon;
+  Recovery m_Recovery;
+  QPointer<desktop::FormWindow> m_Run;
+  std::map<QString, bool> m_MenuStates;  // as the designer has its own menu
+  bool m_IsGridShown = true;
+  int m_GridPixels = 8;
+};
+
+}  // namespace cardwright::workbench

@@ -1,0 +1,156 @@
+// Projects of the workbench: opening, saving, and what a person is asked about them.
+
+#include <QAction>
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QLocale>
+#include <QMenu>
+#include <QMessageBox>
+#include <QPushButton>
+
+#include "storage/CodePage.h"
+#include "workbench/Preferences.h"
+#include "workbench/Workbench.h"
+
+namespace cardwright::workbench {
+namespace {
+
+constexpr int kMostRecent = 10;
+const QString kRecent = QStringLiteral("Recent");
+const QString kSuffix = QStringLiteral(".cwf");
+
+QString ProjectFilter() { return Workbench::tr("Form projects (*.cwf);;All files (*)"); }
+
+}  // namespace
+
+bool Workbench::OpenProject(const QString& path) {
+  for (const LeftWork& work : Recovery::LeftOn(path))
+    if (Offer(work)) return true;
+  const QString failure = m_Document->Open(path);
+  if (!failure.isEmpty()) {
+    QMessageBox::warning(this, tr("Open"), failure);
+    return false;
+  }
+  Remember(m_Document->Path());
+  if (!m_Document->Remark().isEmpty()) QMessageBox::information(this, tr("Open"), m_Document->Remark());
+  return true;
+}
+
+void Workbench::NewProject() {
+  if (MayLeave()) m_Document->New();
+}
+
+void Workbench::ChooseProject() {
+  if (!MayLeave()) return;
+  const QString path =
+      QFileDialog::getOpenFileName(this, tr("Open a form project"), Folder(), ProjectFilter());
+  if (!path.isEmpty()) OpenProject(path);
+}
+
+bool Workbench::Save() { return m_Document->Path().isEmpty() ? SaveAs() : SaveTo(m_Document->Path()); }
+
+bool Workbench::SaveAs() {
+  QString start = m_Document->Path();
+  if (start.isEmpty()) start = QDir(Folder()).filePath(tr("form") + kSuffix);
+  QFileDialog dialog(this, tr("Save the form project"), start, ProjectFilter());
+  dialog.setAcceptMode(QFileDialog::AcceptSave);
+  dialog.setDefaultSuffix(kSuffix);
+  dialog.selectFile(QFileInfo(start).fileName());
+  if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return false;
+  return SaveTo(dialog.selectedFiles().first());
+}
+
+bool Workbench::SaveTo(const QString& path) {
+  const QString failure = m_Document->Save(path);
+  if (!failure.isEmpty()) {
+    QMessageBox::warning(this, tr("Save"), failure);
+    return false;
+  }
+  Remember(m_Document->Path());
+  const Text& script = m_Document->GetScript().content;
+  const auto lost = CodePage::Current().FirstLost(script);
+  if (lost) {
+    Tell(tr("Saved, but the code page of form projects has no “%1”: the script holds “?” in its place")
+             .arg(QChar(script[*lost])));
+  } else {
+    Tell(tr("Saved %1").arg(QDir::toNativeSeparators(m_Document->Path())));
+  }
+  return true;
+}
+
+bool Workbench::MayLeave() {
+  m_Document->NoteNow();
+  if (!m_Document->IsModified()) return true;
+  const QString name =
+      m_Document->Path().isEmpty() ? tr("the new form") : QFileInfo(m_Document->Path()).fileName();
+  const auto answer = QMessageBox::question(
+      this, tr("Unsaved changes"), tr("Save the changes to %1?").arg(name),
+      QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, QMessageBox::Save);
+  if (answer == QMessageBox::Save) return Save();
+  return answer == QMessageBox::Discard;
+}
+
+void Workbench::Remember(const QString& path) {
+  Preferences preferences;
+  QStringList recent = preferences.value(kRecent).toStringList();
+  recent.removeAll(path);
+  recent.prepend(path);
+  preferences.setValue(kRecent, recent.mid(0, kMostRecent));
+}
+
+void Workbench::FillRecentMenu(QMenu& menu) {
+  menu.clear();
+  int number = 1;
+  for (const QString& path : Preferences().value(kRecent).toStringList()) {
+    const QString shown = QDir::toNativeSeparators(path).replace(u'&', QLatin1String("&&"));
+    QAction* action =
+        menu.addAction(QStringLiteral("%1%2  %3").arg(number < 10 ? u"&" : u"").arg(number).arg(shown));
+    connect(action, &QAction::triggered, this, [this, path] {
+      if (MayLeave()) OpenProject(path);
+    });
+    ++number;
+  }
+  if (menu.isEmpty()) menu.addAction(tr("(none)"))->setEnabled(false);
+}
+
+bool Workbench::OfferLeftWork() {
+  bool isTaken = false;
+  for (const LeftWork& work : Recovery::Left())
+    if (!isTaken) isTaken = Offer(work);
+  return isTaken;
+}
+
+bool Workbench::Offer(const LeftWork& work) {
+  const QString name = work.project.isEmpty() ? tr("a new form") : QFileInfo(work.project).fileName();
+  QMessageBox box(QMessageBox::Question, tr("Unsaved work"),
+                  tr("The program ended unexpectedly while %1 was not saved.\n"
+                     "Its work of %2 is still there.")
+                      .arg(name, QLocale().toString(work.time, QLocale::ShortFormat)),
+                  QMessageBox::NoButton, this);
+  QPushButton* take = box.addButton(tr("&Restore it"), QMessageBox::AcceptRole);
+  QPushButton* discard = box.addButton(tr("&Discard it"), QMessageBox::DestructiveRole);
+  box.addButton(tr("Ask &later"), QMessageBox::RejectRole);
+  box.setDefaultButton(take);
+  box.exec();
+  if (box.clickedButton() == discard) Recovery::Forget(work);
+  if (box.clickedButton() != take) return false;
+  const QString failure = m_Document->OpenWork(work.file, work.project);
+  if (!failure.isEmpty()) {
+    QMessageBox::warning(this, tr("Unsaved work"), failure);
+    return false;
+  }
+  // From here on the work is kept as this window's own; what was left goes once there is a copy of it.
+  KeepWork();
+  if (Recovery::FileFor(work.project) != work.file) Recovery::Forget(work);
+  return true;
+}
+
+// A form without controls has no file, and so no work to keep.
+void Workbench::KeepWork() {
+  if (m_Run) return m_KeepSoon.start();
+  const QByteArray bytes = m_Document->Bytes();
+  if (m_Document->IsModified() && !bytes.isEmpty()) m_Recovery.Keep(m_Document->Path(), bytes);
+}
+
+}  // namespace cardwright::workbench

@@ -1,0 +1,175 @@
+// Opening and saving: nothing is lost, what cannot be read or written is told.
+
+#include "storage/ProjectFile.h"
+#include "workbench/WorkbenchTest.h"
+
+namespace cardwright::workbench {
+namespace {
+
+class ProjectTest : public WorkbenchTest {
+ protected:
+  /// Opens and saves under another name; what stands there.
+  QByteArray OpenedAndSaved(const QString& path) {
+    EXPECT_TRUE(bench->OpenProject(path));
+    const QString copy = PathOf(QStringLiteral("copy.cwf"));
+    EXPECT_EQ(bench->Project().Save(copy), QString());
+    return Read(copy);
+  }
+};
+
+class ExampleProjectTest : public ProjectTest, public testing::WithParamInterface<const char*> {};
+
+// The script's tail grows by a line break with each reading and saving, which is told of the format.
+TEST_P(ExampleProjectTest, IsSavedByteForByte) {
+  const QByteArray before = Read(Example(GetParam()));
+  ASSERT_FALSE(before.isEmpty());
+  EXPECT_EQ(OpenedAndSaved(Example(GetParam())), before + "\r\n");
+}
+
+INSTANTIATE_TEST_SUITE_P(Examples, ExampleProjectTest,
+                         testing::Values("well-inspection.cwf", "map-symbol.cwf"));
+
+TEST_F(ProjectTest, GrowsNoMoreWhenItIsSavedAgainAndAgain) {
+  const QByteArray once = OpenedAndSaved(Example("well-inspection.cwf"));
+  const QString copy = PathOf(QStringLiteral("copy.cwf"));
+  ASSERT_EQ(bench->Project().Save(copy), QString());
+  EXPECT_EQ(Read(copy), once);
+}
+
+TEST_F(ProjectTest, IsTheSameAfterAChangeIsUndone) {
+  const QByteArray before = OpenedAndSaved(Example("well-inspection.cwf"));
+  Select(QStringLiteral("lblName"));
+  Type(QStringLiteral("Left"), QStringLiteral("500"));
+  Settle();
+  EXPECT_NE(bench->Project().Bytes(), before);
+  Trigger("mnuUndo");
+  EXPECT_EQ(bench->Project().Bytes(), before);
+}
+
+TEST_F(ProjectTest, KeepsTheScriptThroughAFillIn) {
+  ASSERT_TRUE(bench->OpenProject(Example("well-inspection.cwf")));
+  const QByteArray before = bench->Project().Bytes();
+  ASSERT_TRUE(bench->OpenData(Example("wells.gpkg")));
+  bench->Features().ChooseFeature(QStringLiteral("3"));
+  Trigger("mnuFill");
+  ASSERT_NE(bench->Run(), nullptr);
+  EXPECT_EQ(bench->Project().Bytes(), before);
+  bench->Run()->Form().Object()->Cancel();
+  EXPECT_TRUE(QTest::qWaitFor([&] { return !bench->Run(); }));
+  EXPECT_EQ(bench->Project().Bytes(), before);
+}
+
+TEST_F(ProjectTest, TellsWhatIsNotThereOrHoldsNoForm) {
+  QString text;
+  AnswerBox(QStringLiteral("OK"), &text);
+  EXPECT_FALSE(bench->OpenProject(PathOf(QStringLiteral("none.cwf"))));
+  EXPECT_TRUE(text.contains(QStringLiteral("none.cwf")));
+  Write(PathOf(QStringLiteral("letter.txt")), "Dear all,\r\n");
+  AnswerBox(QStringLiteral("OK"), &text);
+  EXPECT_FALSE(bench->OpenProject(PathOf(QStringLiteral("letter.txt"))));
+  EXPECT_TRUE(text.contains(QStringLiteral("letter.txt")));
+  EXPECT_EQ(bench->Project().Path(), QString());
+}
+
+TEST_F(ProjectTest, TellsOfControlsThatCouldNotBeRead) {
+  Write(PathOf(QStringLiteral("odd.cwf")),
+        "[FORM]\r\nControlsNumber= 2\r\n[CONTROLS_1]\r\nType=Label\r\n"
+        "[CONTROLS_2]\r\nType=Sundial\r\n");
+  QString text;
+  AnswerBox(QStringLiteral("OK"), &text);
+  EXPECT_TRUE(bench->OpenProject(PathOf(QStringLiteral("odd.cwf"))));
+  EXPECT_TRUE(text.contains(QStringLiteral("1 control"))) << text.toStdString();
+}
+
+TEST_F(ProjectTest, DoesNotDeleteAFileByAnEmptyForm) {
+  const QString path = PathOf(QStringLiteral("form.cwf"));
+  bench->Project().Insert(ControlTypeEnum::ctLabel);
+  ASSERT_EQ(bench->Project().Save(path), QString());
+  Trigger("mnuDelete");
+  EXPECT_FALSE(bench->Project().Save(path).isEmpty());
+  EXPECT_TRUE(QFile::exists(path));
+}
+
+TEST_F(ProjectTest, TellsThatAFileCouldNotBeWritten) {
+  bench->Project().Insert(ControlTypeEnum::ctLabel);
+  EXPECT_FALSE(bench->Project().Save(PathOf(QStringLiteral("no/such/form.cwf"))).isEmpty());
+  QDir(folder.path()).mkdir(QStringLiteral("is.cwf"));
+  EXPECT_FALSE(bench->Project().Save(PathOf(QStringLiteral("is.cwf"))).isEmpty());
+  EXPECT_TRUE(bench->Project().IsModified());
+}
+
+TEST_F(ProjectTest, ShowsFileAndMarkInTheTitle) {
+  bench->Project().Insert(ControlTypeEnum::ctLabel);
+  Settle();
+  EXPECT_TRUE(bench->isWindowModified());
+  ASSERT_EQ(bench->Project().Save(PathOf(QStringLiteral("form.cwf"))), QString());
+  EXPECT_TRUE(bench->windowTitle().startsWith(QStringLiteral("form.cwf[*]")));
+  EXPECT_FALSE(bench->isWindowModified());
+}
+
+TEST_F(ProjectTest, AsksBeforeUnsavedChangesAreLost) {
+  bench->Project().Insert(ControlTypeEnum::ctLabel);
+  ASSERT_EQ(bench->Project().Save(PathOf(QStringLiteral("form.cwf"))), QString());
+  Type(QStringLiteral("Text"), QStringLiteral("changed"));
+  AnswerBox(QStringLiteral("Cancel"));
+  EXPECT_FALSE(bench->close());
+  AnswerBox(QStringLiteral("Save"));
+  EXPECT_TRUE(bench->close());
+  EXPECT_TRUE(Read(PathOf(QStringLiteral("form.cwf"))).contains("Text=changed"));
+}
+
+TEST_F(ProjectTest, RemembersWhatWasOpened) {
+  ASSERT_TRUE(bench->OpenProject(Example("well-inspection.cwf")));
+  auto* recent = bench->findChild<QMenu*>(QStringLiteral("mnuRecent"));
+  Q_EMIT recent->aboutToShow();
+  ASSERT_FALSE(recent->actions().isEmpty());
+  EXPECT_TRUE(recent->actions().first()->text().contains(QStringLiteral("well-inspection.cwf")));
+}
+
+TEST_F(ProjectTest, LeavesALineEndOfAnotherKindAloneUntilTheScriptIsChanged) {
+  Write(PathOf(QStringLiteral("form.cwf")),
+        "[FORM]\r\nControlsNumber= 1\r\n[CONTROLS_1]\r\nType=Label\r\n[SCRIPT]\r\nvbSCRIPT\r\n' a\n' b\r\n");
+  const QByteArray saved = OpenedAndSaved(PathOf(QStringLiteral("form.cwf")));
+  EXPECT_TRUE(saved.endsWith("[SCRIPT]\r\nvbSCRIPT\r\n' a\n' b\r\n\r\n")) << saved.toStdString();
+}
+
+// What the reader makes of any bytes is the library's affair; here the windows around it must stand it.
+TEST_F(ProjectTest, StandsProjectsOfAnyContent) {
+  const QByteArray example = Read(Example("well-inspection.cwf"));
+  std::srand(20261121);
+  for (int round = 0; round < 40; ++round) {
+    QByteArray bytes = example;
+    for (int change = 0; change < 200; ++change)
+      bytes[std::rand() % static_cast<int>(bytes.size())] = static_cast<char>(std::rand());
+    bytes.replace(0, 6, "[FORM]");
+    Write(PathOf(QStringLiteral("fuzzed.cwf")), bytes);
+    ASSERT_EQ(bench->Project().Open(PathOf(QStringLiteral("fuzzed.cwf"))), QString());
+    QTest::qWait(1);
+    for (const Ref<IControl>& control : ControlsOf(Designer().Controls())) Designer().SetCtrl(control);
+    bench->Project().NoteNow();
+    bench->Project().Undo();
+  }
+}
+
+TEST_F(ProjectTest, StandsFiveThousandControls) {
+  QByteArray bytes = "[FORM]\r\nScaleMode= 3\r\nWidth= 800\r\nHeight= 600\r\nControlsNumber= 5000\r\n";
+  for (int i = 1; i <= 5000; ++i)
+    bytes += QStringLiteral(
+                 "[CONTROLS_%1]\r\nType=Label\r\nName=object_%1\r\nUserName=l%1\r\nText=%1\r\n"
+                 "Left= %2\r\nTop= %3\r\nWidth= 40\r\nHeight= 20\r\n")
+                 .arg(i)
+                 .arg(i % 100 * 8)
+                 .arg(i / 100 * 12)
+                 .toLatin1();
+  Write(PathOf(QStringLiteral("many.cwf")), bytes);
+  ASSERT_TRUE(bench->OpenProject(PathOf(QStringLiteral("many.cwf"))));
+  ASSERT_EQ(Designer().Controls().Count(), 5001);
+  Select(QStringLiteral("l4321"));
+  Trigger("mnuDelete");
+  Settle();
+  Trigger("mnuUndo");
+  EXPECT_EQ(Selected(), QStringLiteral("l4321"));
+}
+
+}  // namespace
+}  // namespace cardwright::workbench

@@ -1,0 +1,82 @@
+#include "workbench/WorkbenchTest.h"
+
+namespace cardwright::workbench {
+namespace {
+
+class RecoveryTest : public WorkbenchTest {
+ protected:
+  RecoveryTest() {
+    bench->Project().Insert(ControlTypeEnum::ctLabel);
+    EXPECT_EQ(bench->Project().Save(project), QString());
+    Type(QStringLiteral("Text"), QStringLiteral("not saved"));
+    Settle();
+  }
+  /// Leaves the work as a program does that ends in the middle of it: the file stays, nobody holds it.
+  void LeaveWork() {
+    const QString work = Recovery::FileFor(project);
+    {
+      Recovery recovery;
+      recovery.Keep(project, bench->Project().Bytes());
+      ASSERT_TRUE(QFile::copy(work, work + QStringLiteral(".copy")));
+    }
+    ASSERT_TRUE(QFile::rename(work + QStringLiteral(".copy"), work));
+    ASSERT_EQ(bench->Project().Save(PathOf(QStringLiteral("elsewhere.cwf"))), QString());
+    Start();
+  }
+
+  const QString project = PathOf(QStringLiteral("form.cwf"));
+};
+
+TEST_F(RecoveryTest, IsKeptBesideTheProjectWithinSeconds) {
+  const QString work = Recovery::FileFor(project);
+  EXPECT_EQ(QFileInfo(work).absolutePath(), QFileInfo(project).absolutePath());
+  EXPECT_TRUE(QTest::qWaitFor([&] { return QFile::exists(work); }, 6000));
+  EXPECT_TRUE(Read(work).contains("Text=not saved"));
+}
+
+TEST_F(RecoveryTest, GoesOnceTheWorkIsSaved) {
+  const QString work = Recovery::FileFor(project);
+  ASSERT_TRUE(QTest::qWaitFor([&] { return QFile::exists(work); }, 6000));
+  ASSERT_EQ(bench->Project().Save(project), QString());
+  EXPECT_FALSE(QFile::exists(work));
+}
+
+TEST_F(RecoveryTest, IsNotOfferedWhileAProgramStillKeepsIt) {
+  Recovery recovery;
+  recovery.Keep(project, "[FORM]\r\n");
+  EXPECT_TRUE(Recovery::LeftOn(project).empty());
+  recovery.Drop();
+}
+
+TEST_F(RecoveryTest, IsOfferedWithItsDateAndTaken) {
+  LeaveWork();
+  QString text;
+  AnswerBox(QStringLiteral("Restore"), &text);
+  ASSERT_TRUE(bench->OpenProject(project));
+  EXPECT_TRUE(text.contains(QLocale().toString(QDate::currentDate(), QLocale::ShortFormat)))
+      << text.toStdString();
+  EXPECT_EQ(ToText(Find(QStringLiteral("object_1")).PropertyValue(u"Text")), u"not saved");
+  EXPECT_TRUE(bench->isWindowModified());
+  EXPECT_EQ(bench->Project().Path(), project);
+  ASSERT_EQ(bench->Project().Save(project), QString());
+  EXPECT_FALSE(QFile::exists(Recovery::FileFor(project)));
+  EXPECT_TRUE(Read(project).contains("Text=not saved"));
+}
+
+TEST_F(RecoveryTest, IsGoneOnceItIsDiscarded) {
+  LeaveWork();
+  AnswerBox(QStringLiteral("Discard"));
+  ASSERT_TRUE(bench->OpenProject(project));
+  EXPECT_FALSE(QFile::exists(Recovery::FileFor(project)));
+  EXPECT_FALSE(bench->isWindowModified());
+}
+
+TEST_F(RecoveryTest, StaysWhereThePersonAsksLater) {
+  LeaveWork();
+  AnswerBox(QStringLiteral("Ask"));
+  ASSERT_TRUE(bench->OpenProject(project));
+  EXPECT_TRUE(QFile::exists(Recovery::FileFor(project)));
+}
+
+}  // namespace
+}  // namespace cardwright::workbench

@@ -1,0 +1,146 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QAction>
+#include <QDialog>
+#include <QFile>
+#include <QMenu>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+#include <functional>
+#include <memory>
+#include <ostream>
+
+#include "desktop/DataSource.h"
+#include "qt/Dialogs.h"
+#include "qt/QtText.h"
+#include "qt/WidgetCore.h"
+#include "workbench/ControlList.h"
+#include "workbench/FeaturePane.h"
+#include "workbench/OutputPane.h"
+#include "workbench/PropertyGrid.h"
+#include "workbench/ScriptPane.h"
+#include "workbench/ToolBox.h"
+#include "workbench/Workbench.h"
+
+inline void PrintTo(const QString& text, std::ostream* out) { *out << '"' << text.toStdString() << '"'; }
+
+namespace cardwright::workbench {
+
+/// A workbench in a window of its own, driven by mouse and keys.
+class WorkbenchTest : public testing::Test {
+ protected:
+  WorkbenchTest() { Start(); }
+  ~WorkbenchTest() override {
+    bench.reset();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  }
+
+  void Start() {
+    bench.reset();
+    bench = std::make_unique<Workbench>(data);
+    bench->show();
+    bench->activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(bench.get()));
+  }
+  cardwright::FormDesigner& Designer() { return bench->Project().Designer(); }
+  PropertyModel& Rows() { return bench->Grid().Model(); }
+
+  /// Draws a control by a real drag of the mouse, between two places on the form, in pixels.
+  Ref<IControl> Draw(ControlTypeEnum kind, QRect rect) {
+    Choose(kind);
+    DragOnForm(rect.topLeft(), rect.topLeft() + QPoint(rect.width(), rect.height()));
+    return Designer().CurrentControl();
+  }
+  /// Chooses a tool by a click on it.
+  void Choose(ControlTypeEnum kind) {
+    ToolBox& tools = bench->Tools();
+    for (int row = 0; row < tools.count(); ++row) {
+      QListWidgetItem* item = tools.item(row);
+      if (item->data(Qt::UserRole).toInt() != static_cast<int>(kind)) continue;
+      tools.scrollToItem(item);
+      QTest::mouseClick(tools.viewport(), Qt::LeftButton, {}, tools.visualItemRect(item).center());
+    }
+  }
+  /// Goes through the window's own event queue: the drag polls the buttons, which widgets' own events do not
+  /// press. The press does not return before the drag ends, so what follows is posted before.
+  void DragOnForm(QPoint from, QPoint to) {
+    QWidget& form = bench->Stage().Designer();
+    QWindow* window = bench->windowHandle();
+    const auto at = [&](QPoint place) { return form.mapTo(bench.get(), place); };
+    QTimer::singleShot(30, bench.get(), [=] { QTest::mouseMove(window, at(from + (to - from) / 2)); });
+    QTimer::singleShot(60, bench.get(), [=] { QTest::mouseMove(window, at(to)); });
+    QTimer::singleShot(90, bench.get(), [=] { QTest::mouseRelease(window, Qt::LeftButton, {}, at(to)); });
+    QTest::mouseMove(window, at(from));
+    QTest::mousePress(window, Qt::LeftButton, {}, at(from));
+    QTest::qWait(150);
+  }
+  void ClickOnForm(QPoint place) {
+    QWindow* window = bench->windowHandle();
+    QTest::mouseClick(window, Qt::LeftButton, {}, bench->Stage().Designer().mapTo(bench.get(), place));
+    QTest::qWait(20);
+  }
+
+  IControl& Find(const QString& name) {
+    IControl* control = FindControl(Designer().Controls(), qt::ViewOf(name));
+    EXPECT_NE(control, nullptr) << name.toStdString();
+    return *control;
+  }
+  bool Has(const QString& name) { return FindControl(Designer().Controls(), qt::ViewOf(name)) != nullptr; }
+  QString Selected() { return qt::ToQString(Designer().CurrentControl()->UserName()); }
+  void Select(const QString& name) { Designer().SetCtrl(Ref<IControl>(&Find(name))); }
+  QString ValueOf(const QString& row) {
+    return Rows().index(Rows().RowOf(row), PropertyModel::kValue).data().toString();
+  }
+  /// Types a value into a row of the grid and ends with Enter.
+  void Type(const QString& row, const QString& text) {
+    bench->Grid().EditRow(row);
+    QTest::keyClick(&bench->Grid().View(), Qt::Key_F2);
+    QWidget* editor = QApplication::focusWidget();
+    ASSERT_NE(editor, nullptr);
+    QTest::keyClick(editor, Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClicks(editor, text);
+    QTest::keyClick(editor, Qt::Key_Return);
+    QTest::qWait(5);
+  }
+  /// Takes what is under way into the history.
+  void Settle() { bench->Project().NoteNow(); }
+  void Trigger(const char* action) {
+    bench->Action(QLatin1String(action))->trigger();
+    QTest::qWait(5);
+  }
+  /// Answers the next message box by the button whose text begins so.
+  static void AnswerBox(const QString& button, QString* text = nullptr) {
+    qt::Meet<QMessageBox>([button, text](QMessageBox& box) {
+      if (text) *text = box.text();
+      for (QAbstractButton* each : box.buttons())
+        if (each->text().remove(u'&').startsWith(button)) return each->click();
+      ADD_FAILURE() << "the box has no button " << button.toStdString();
+      box.reject();
+    });
+  }
+  QString PathOf(const QString& name) { return folder.filePath(name); }
+  static QByteArray Read(const QString& path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+  }
+  static void Write(const QString& path, const QByteArray& bytes) {
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(bytes);
+  }
+  static QString Example(const char* name) {
+    return QStringLiteral(CARDWRIGHT_SOURCE_DIR "/examples/wells/") + QLatin1String(name);
+  }
+
+  QTemporaryDir folder;
+  qt::Library library;
+  desktop::DataSource data{library};
+  std::unique_ptr<Workbench> bench;
+};
+
+}  // namespace cardwright::workbench
