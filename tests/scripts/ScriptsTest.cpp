@@ -14,7 +14,7 @@ namespace fs = std::filesystem;
 
 std::vector<fs::path> ScriptFiles() {
   std::vector<fs::path> files;
-  for (const fs::directory_entry& entry : fs::directory_iterator(SourceFile("tests/scripts")))
+  for (const fs::directory_entry& entry : fs::directory_iterator(SourceFile("tests/automation")))
     if (entry.path().extension() == ".vbs" || entry.path().extension() == ".js")
       files.push_back(entry.path());
   std::sort(files.begin(), files.end());
@@ -42,6 +42,7 @@ class Scripts : public ::testing::TestWithParam<fs::path> {};
 TEST_P(Scripts, PrintWhatTheyPromise) {
   const TempFolder folder;
   folder.Copy("examples/wells/well-inspection.cwf");
+  folder.Copy("examples/wells/map-symbol.cwf");
   folder.Copy("examples/wells/wells.gpkg");
   ::setenv("XDG_CONFIG_HOME", folder.File("config").c_str(), 1);
   // The toolkit wants a folder of the user's alone for its sockets and says so where there is none.
@@ -50,14 +51,15 @@ TEST_P(Scripts, PrintWhatTheyPromise) {
   ::setenv("XDG_RUNTIME_DIR", folder.File("runtime").c_str(), 1);
   const std::string expected = Expected(ReadAll(GetParam().string()));
   ASSERT_NE(expected, "") << "the script promises nothing";
-  const Outcome outcome = Cardwright({"script", GetParam().string(), folder.File("")});
+  const Outcome outcome =
+      Cardwright({"script", GetParam().string(), fs::path(folder.File("")).parent_path().string()});
   EXPECT_EQ(outcome.out, expected);
   EXPECT_EQ(outcome.err, "");
   EXPECT_EQ(outcome.status, 0);
 }
 
 std::string NameOf(const ::testing::TestParamInfo<fs::path>& script) {
-  std::string name = script.param.stem().string();
+  std::string name = script.param.filename().string();
   std::replace_if(
       name.begin(), name.end(), [](unsigned char c) { return !std::isalnum(c); }, '_');
   return name;
