@@ -50,7 +50,8 @@ class Counter final : public ScriptObserver {
 };
 
 template <class Step>
-void Try(const ScriptEngine& engine, Step&& step) {
+void Try(ScriptEngine& engine, Step&& step) {
+  engine.ClearError();
   try {
     step();
     Require(engine.LastError().number == 0);
