@@ -29,9 +29,12 @@ void EntryList::SetEntries(std::vector<ListEntry> entries) {
 }
 
 int EntryList::Find(std::u16string_view name) const {
-  for (std::size_t i = 0; i < m_Entries.size(); ++i)
-    if (EqualsNoCase(m_Entries[i].name, name)) return static_cast<int>(i);
-  return -1;
+  int alike = -1;
+  for (std::size_t i = 0; i < m_Entries.size(); ++i) {
+    if (m_Entries[i].name == name) return static_cast<int>(i);
+    if (alike < 0 && EqualsNoCase(m_Entries[i].name, name)) alike = static_cast<int>(i);
+  }
+  return alike;
 }
 
 void EntryList::SetAction(const QString& text) {

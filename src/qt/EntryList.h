@@ -33,7 +33,7 @@ class EntryList final : public QAbstractListModel {
   const std::vector<ListEntry>& Entries() const noexcept { return m_Entries; }
   int Count() const noexcept { return static_cast<int>(m_Entries.size()); }
   void SetEntries(std::vector<ListEntry> entries);
-  /// Position of a name, whatever its case; -1 for none.
+  /// Position of a name, the same one before one of another case; -1 for none.
   int Find(std::u16string_view name) const;
 
   /// The row behind the entries; "" for none.

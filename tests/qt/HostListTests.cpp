@@ -165,6 +165,15 @@ TEST_F(ThemeSelector, KeepsItsChoiceOverANewListIfItIsStillThere) {
   EXPECT_EQ(listener.Take(), "");
 }
 
+TEST_F(ThemeSelector, KeepsItsChoiceWhereANameOfAnotherCaseComesBeforeIt) {
+  host->replies[u"THEME_NAMES"] = u"Wells,wells";
+  host->replies[u"THEME_FEATURE_TYPES"] = u"POINT,POINT";
+  themes->RefreshThemes();
+  themes->SetListIndex(1);
+  themes->RefreshThemes();
+  EXPECT_EQ(themes->ListIndex(), 1);
+}
+
 TEST_F(ThemeSelector, TellsOfWhatAPersonChooses) {
   themes->RefreshThemes();
   form.Show();
