@@ -29,8 +29,14 @@ bool DialogCell::eventFilter(QObject* object, QEvent* event) {
     Q_EMIT DialogWanted();
     return true;
   }
-  if (event->type() != QEvent::KeyPress) return QWidget::eventFilter(object, event);
+  const bool isKey = event->type() == QEvent::KeyPress || event->type() == QEvent::ShortcutOverride;
+  if (!isKey) return QWidget::eventFilter(object, event);
   const int key = static_cast<QKeyEvent*>(event)->key();
+  if (event->type() == QEvent::ShortcutOverride) {
+    // F4 is a shortcut of the window, too.
+    if (key == Qt::Key_F4) event->accept();
+    return key == Qt::Key_F4;
+  }
   const bool isEnter = key == Qt::Key_Return || key == Qt::Key_Enter;
   if (key == Qt::Key_F4 || (isEnter && object == m_Button)) {
     Q_EMIT DialogWanted();

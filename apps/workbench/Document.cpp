@@ -340,10 +340,13 @@ void Document::Insert(ControlTypeEnum type) {
   // Below the control that was selected, so that one after the other forms a column.
   const auto pixels = [&](float count) { return PixelsToScale(count, scale); };
   const bool beside = current && !intoFrame && KindOf(*current) != ControlTypeEnum::ctDefault;
-  made->SetLeft(beside ? current->Left() : pixels(16));
-  made->SetTop(beside ? current->Top() + current->Height() + pixels(8) : pixels(intoFrame ? 24 : 16));
+  const float height = pixels(static_cast<float>(size.height()));
+  const float below = beside ? current->Top() + current->Height() + pixels(8) : 0;
+  const bool hasRoom = beside && below + height <= m_Designer->GetSurface()->Height();
+  made->SetLeft(hasRoom ? current->Left() : pixels(16));
+  made->SetTop(hasRoom ? below : pixels(intoFrame ? 24 : 16));
   made->SetWidth(pixels(static_cast<float>(size.width())));
-  made->SetHeight(pixels(static_cast<float>(size.height())));
+  made->SetHeight(height);
   m_Designer->SetCtrl(made);
 }
 

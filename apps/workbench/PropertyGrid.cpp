@@ -1,6 +1,7 @@
 #include "workbench/PropertyGrid.h"
 
 #include <QAccessible>
+#include <QApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QVBoxLayout>
@@ -104,6 +105,11 @@ void PropertyGrid::ShowTitle() {
   const QString kind = KindName(KindOf(*control));
   const QString name = qt::ToQString(control->UserName());
   m_Title->setText(KindOf(*control) == ControlTypeEnum::ctDefault ? kind : tr("%1 – %2").arg(name, kind));
+}
+
+void PropertyGrid::FinishEditing() {
+  const QWidget* const focused = QApplication::focusWidget();
+  if (focused && focused != m_View && m_View->isAncestorOf(focused)) m_View->setFocus();
 }
 
 void PropertyGrid::EditRow(const QString& name) {

@@ -24,6 +24,8 @@ class PropertyGrid final : public QWidget {
   void Show(const Ref<IControl>& control);
   /// Puts the keyboard on the value of that row.
   void EditRow(const QString& name);
+  /// Takes the value of an editor that is open, as leaving it does.
+  void FinishEditing();
 
  private:
   void ShowTitle();

@@ -22,7 +22,8 @@ QString DataFolder() {
   return folder;
 }
 
-QString LockOf(const QString& file) { return file + QStringLiteral(".lock"); }
+const QString kLock = QStringLiteral(".lock");
+QString LockOf(const QString& file) { return file + kLock; }
 
 // A slash would make a group of it.
 QString KeyOf(const QString& file) {
@@ -68,12 +69,16 @@ std::vector<LeftWork> Recovery::Left() {
   return all;
 }
 
-// The file beside the project counts even where nothing is remembered of it, as after a move of the folder.
+// The files beside the project count even where nothing is remembered of them, as after a move of the folder.
 std::vector<LeftWork> Recovery::LeftOn(const QString& project) {
   const QString path = QFileInfo(project).absoluteFilePath();
-  const QFileInfo work(FileFor(path));
-  if (!work.isFile() || IsKept(work.filePath())) return {};
-  return {{work.filePath(), path, work.lastModified()}};
+  const QFileInfo latest(FileFor(path));
+  std::vector<LeftWork> all;
+  for (const QFileInfo& work : latest.dir().entryInfoList(QDir::Files | QDir::Hidden, QDir::Name)) {
+    const bool isOnIt = work.fileName().startsWith(latest.fileName()) && !work.fileName().endsWith(kLock);
+    if (isOnIt && !IsKept(work.filePath())) all.push_back({work.filePath(), path, work.lastModified()});
+  }
+  return all;
 }
 
 void Recovery::Forget(const LeftWork& work) {
@@ -81,6 +86,16 @@ void Recovery::Forget(const LeftWork& work) {
   Preferences preferences;
   preferences.beginGroup(kGroup);
   preferences.remove(KeyOf(work.file));
+}
+
+void Recovery::SetAside(const LeftWork& work) {
+  if (work.file != FileFor(work.project)) return;  // it is already, or belongs to a program that ended
+  const QString aside = work.file + work.time.toString(QStringLiteral(".yyyyMMdd-HHmmss"));
+  if (!QFile::rename(work.file, aside)) return;
+  Preferences preferences;
+  preferences.beginGroup(kGroup);
+  preferences.remove(KeyOf(work.file));
+  preferences.setValue(KeyOf(aside), work.project);
 }
 
 void Recovery::Keep(const QString& project, const QByteArray& bytes) {

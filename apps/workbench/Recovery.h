@@ -31,6 +31,8 @@ class Recovery {
   static std::vector<LeftWork> Left();
   static std::vector<LeftWork> LeftOn(const QString& project);
   static void Forget(const LeftWork& work);
+  /// Keeps left work for another time, where the work that begins now does not come over it.
+  static void SetAside(const LeftWork& work);
 
   /// Keeps the file's bytes as the work on a project.
   void Keep(const QString& project, const QByteArray& bytes);

@@ -8,6 +8,7 @@
 #include <QLabel>
 #include <QMenuBar>
 #include <QMimeData>
+#include <QScreen>
 #include <QStatusBar>
 
 #include "qt/QtText.h"
@@ -57,7 +58,8 @@ Workbench::Workbench(desktop::DataSource& source)
   const Preferences preferences;
   m_GridPixels = qBound(2, preferences.value(QStringLiteral("GridStep"), 8).toInt(), 64);
   m_Document->Designer().SetGridAlignment(preferences.value(QStringLiteral("SnapToGrid"), true).toBool());
-  resize(1280, 860);
+  constexpr QSize kFrame(16, 48);  // what the desktop adds
+  resize(QSize(1280, 860).boundedTo(screen()->availableSize() - kFrame));
   RestoreLayout();
   statusBar()->setSizeGripEnabled(false);
   ShowSelection(m_Document->Designer().CurrentControl());
@@ -219,7 +221,6 @@ void Workbench::ShowList() {
 void Workbench::ShowState() {
   Action(QStringLiteral("mnuUndo"))->setEnabled(m_Document->CanUndo());
   Action(QStringLiteral("mnuRedo"))->setEnabled(m_Document->CanRedo());
-  Action(QStringLiteral("mnuSave"))->setEnabled(m_Document->IsModified() || m_Document->Path().isEmpty());
   ShowTitle();
 }
 

@@ -8,6 +8,7 @@
 #include <QMessageBox>
 #include <QToolBar>
 
+#include "workbench/ControlList.h"
 #include "workbench/Icons.h"
 #include "workbench/Kinds.h"
 #include "workbench/PropertyGrid.h"
@@ -91,6 +92,13 @@ void Workbench::MakeEditActions() {
   })->setEnabled(false);
   AddAction(menu, "mnuDelete", tr("&Delete"), IconOf(Sign::Delete), QKeySequence::Delete,
             [this] { RunOnControl(&D::Delete); });
+  // Elsewhere these keys are those of a table's cell or of a text.
+  for (const char* name : {"mnuCut", "mnuCopy", "mnuPaste", "mnuDelete"}) {
+    QAction* action = Action(QLatin1String(name));
+    action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    m_Stage->addAction(action);
+    m_List->addAction(action);
+  }
   menu.addSeparator();
   QMenu* insert = menu.addMenu(tr("&Insert Control"));
   for (const Kind& kind : Kinds()) {

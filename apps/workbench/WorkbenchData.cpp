@@ -17,6 +17,7 @@
 #include "workbench/FeaturePane.h"
 #include "workbench/FocusKeeper.h"
 #include "workbench/OutputPane.h"
+#include "workbench/PropertyGrid.h"
 #include "workbench/Workbench.h"
 
 namespace cardwright::workbench {
@@ -77,6 +78,7 @@ void Workbench::BindTo(const QString& theme) {
 
 void Workbench::Fill(bool debug) {
   if (m_Run) return m_Run->raise();
+  m_Grid->FinishEditing();
   if (!m_Data.IsOpen()) {
     ChooseData();
     if (!m_Data.IsOpen()) return;

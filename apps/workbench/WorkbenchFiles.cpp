@@ -11,6 +11,7 @@
 
 #include "storage/CodePage.h"
 #include "workbench/Preferences.h"
+#include "workbench/PropertyGrid.h"
 #include "workbench/Workbench.h"
 
 namespace cardwright::workbench {
@@ -48,9 +49,13 @@ void Workbench::ChooseProject() {
   if (!path.isEmpty()) OpenProject(path);
 }
 
-bool Workbench::Save() { return m_Document->Path().isEmpty() ? SaveAs() : SaveTo(m_Document->Path()); }
+bool Workbench::Save() {
+  m_Grid->FinishEditing();
+  return m_Document->Path().isEmpty() ? SaveAs() : SaveTo(m_Document->Path());
+}
 
 bool Workbench::SaveAs() {
+  m_Grid->FinishEditing();
   QString start = m_Document->Path();
   if (start.isEmpty()) start = QDir(Folder()).filePath(tr("form") + kSuffix);
   QFileDialog dialog(this, tr("Save the form project"), start, ProjectFilter());
@@ -80,6 +85,7 @@ bool Workbench::SaveTo(const QString& path) {
 }
 
 bool Workbench::MayLeave() {
+  m_Grid->FinishEditing();
   m_Document->NoteNow();
   if (!m_Document->IsModified()) return true;
   const QString name =
@@ -133,14 +139,22 @@ bool Workbench::Offer(const LeftWork& work) {
   box.addButton(tr("Ask &later"), QMessageBox::RejectRole);
   box.setDefaultButton(take);
   box.exec();
-  if (box.clickedButton() == discard) Recovery::Forget(work);
-  if (box.clickedButton() != take) return false;
+  if (box.clickedButton() == discard) {
+    Recovery::Forget(work);
+    return false;
+  }
+  if (box.clickedButton() != take) {
+    Recovery::SetAside(work);
+    return false;
+  }
   const QString failure = m_Document->OpenWork(work.file, work.project);
   if (!failure.isEmpty()) {
     QMessageBox::warning(this, tr("Unsaved work"), failure);
     return false;
   }
   // From here on the work is kept as this window's own; what was left goes once there is a copy of it.
+  for (const LeftWork& other : Recovery::LeftOn(work.project))
+    if (other.file != work.file) Recovery::SetAside(other);
   KeepWork();
   if (Recovery::FileFor(work.project) != work.file) Recovery::Forget(work);
   return true;

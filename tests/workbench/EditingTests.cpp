@@ -91,6 +91,24 @@ TEST_F(EditingTest, DeletesByTheKeyOnTheForm) {
   EXPECT_FALSE(Has(first));
 }
 
+TEST_F(EditingTest, DoesNotDeleteAControlByTheKeyInAnotherPane) {
+  AddTwo();
+  for (QTableView* table : {&bench->Grid().View(), &bench->Features().View()}) {
+    table->window()->activateWindow();
+    table->setFocus();
+    QTest::keyClick(table, Qt::Key_Delete);
+    EXPECT_TRUE(Has(second));
+  }
+}
+
+TEST_F(EditingTest, PutsAControlThatHasNoRoomBelowTheOthersAtTheTop) {
+  AddTwo();
+  Find(second).SetTop(Designer().GetSurface()->Height() - Find(second).Height());
+  Select(second);
+  bench->Project().Insert(ControlTypeEnum::ctLabel);
+  EXPECT_LT(Designer().CurrentControl()->Top(), Find(second).Top());
+}
+
 TEST_F(EditingTest, DoesNotDeleteAControlWhileAValueIsTyped) {
   AddTwo();
   bench->Grid().EditRow(QStringLiteral("Text"));

@@ -36,6 +36,19 @@ TEST_F(ProjectTest, GrowsNoMoreWhenItIsSavedAgainAndAgain) {
   EXPECT_EQ(Read(copy), once);
 }
 
+TEST_F(ProjectTest, IsSavedWithTheValueThatIsBeingTyped) {
+  const QString path = PathOf(QStringLiteral("form.cwf"));
+  bench->Project().Insert(ControlTypeEnum::ctLabel);
+  ASSERT_EQ(bench->Project().Save(path), QString());
+  bench->Grid().EditRow(QStringLiteral("Text"));
+  QTest::keyClick(&bench->Grid().View(), Qt::Key_F2);
+  ASSERT_TRUE(QApplication::focusWidget());
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_A, Qt::ControlModifier);
+  QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("still typed"));
+  Trigger("mnuSave");
+  EXPECT_TRUE(Read(path).contains("Text=still typed"));
+}
+
 TEST_F(ProjectTest, IsTheSameAfterAChangeIsUndone) {
   const QByteArray before = OpenedAndSaved(Example("well-inspection.cwf"));
   Select(QStringLiteral("lblName"));

@@ -73,9 +73,20 @@ TEST_F(RecoveryTest, IsGoneOnceItIsDiscarded) {
 
 TEST_F(RecoveryTest, StaysWhereThePersonAsksLater) {
   LeaveWork();
-  AnswerBox(QStringLiteral("Ask"));
-  ASSERT_TRUE(bench->OpenProject(project));
-  EXPECT_TRUE(QFile::exists(Recovery::FileFor(project)));
+  const auto askLater = [this] {
+    AnswerBox(QStringLiteral("Ask"));
+    ASSERT_TRUE(bench->OpenProject(project));
+    ASSERT_EQ(Recovery::LeftOn(project).size(), 1U);
+    EXPECT_TRUE(Read(Recovery::LeftOn(project).front().file).contains("Text=not saved"));
+  };
+  askLater();
+  bench->activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(bench.get()));
+  Select(QStringLiteral("object_1"));
+  Type(QStringLiteral("Text"), QStringLiteral("begun anew"));
+  ASSERT_TRUE(QTest::qWaitFor([&] { return QFile::exists(Recovery::FileFor(project)); }, 6000));
+  ASSERT_EQ(bench->Project().Save(project), QString());
+  askLater();
 }
 
 }  // namespace
