@@ -67,7 +67,7 @@ void FormDesigner::PlaceControl(int button, float x, float y) {
   if (IsAdding()) {
     SetControlTypeToAdd(ControlTypeEnum::ctDefault);
     Variant args[] = {Variant(m_Tag)};
-    RaiseEvent(u"StateChanged", args);
+    Attempt([&] { RaiseEvent(u"StateChanged", args); });
   }
   if (m_Surface) m_Surface->SetPointer(PointerShape::Arrow);
   Module().designDragging = false;
@@ -138,7 +138,7 @@ void FormDesigner::FillPasted(const NewControl& made) {
     Attempt([&] { FitColumn(*made.widget, Canvas().Scale()); });
     m_Clipboard.PutProperties(*made.control);
     Attempt([&] { made.widget->Move(0, 0, made.widget->Width(), made.widget->Height()); });
-    Attempt([&] { HoldPastedSize(made); });
+    HoldPastedSize(made);
     m_Current = made.control;
   }
   Attempt([&] { Canvas().SetScreenPointer(PointerShape::Default); });
@@ -149,8 +149,12 @@ void FormDesigner::HoldPastedSize(const NewControl& made) {
   const float roomX = made.container ? made.container->Width() : Canvas().Width();
   const float roomY = made.container ? made.container->Height() : Canvas().Height();
   const float handle = Handles().Width();
-  if (made.control->Width() > roomX) made.control->SetWidth(roomX - handle);
-  if (made.control->Height() > roomY) made.control->SetHeight(roomY - handle);
+  Attempt([&] {
+    if (made.control->Width() > roomX) made.control->SetWidth(roomX - handle);
+  });
+  Attempt([&] {
+    if (made.control->Height() > roomY) made.control->SetHeight(roomY - handle);
+  });
 }
 
 // A control whose name is taken, by one that its author gave such a name, stands on the surface but is no

@@ -6,9 +6,12 @@
 namespace cardwright::qt {
 namespace {
 
+// What X11 makes of Ctrl+Pause; the toolkit has no name for it.
+constexpr quint32 kBreakSymbol = 0xFF6B;
+
 bool IsBreak(const QKeyEvent& key) {
   return !key.isAutoRepeat() &&
-         (key.key() == Qt::Key_Cancel ||
+         (key.key() == Qt::Key_Cancel || key.nativeVirtualKey() == kBreakSymbol ||
           (key.key() == Qt::Key_Pause && key.modifiers().testFlag(Qt::ControlModifier)));
 }
 

@@ -43,6 +43,14 @@ INSTANTIATE_TEST_SUITE_P(, BreakStrokes,
                                          Stroke{"Esc", Qt::Key_Escape, {}, false, false}),
                          [](const auto& one) { return one.param.title; });
 
+TEST(LookingForBreak, KnowsTheSymbolThatX11HasForCtrlPause) {
+  QtDesktop desktop;
+  QLineEdit field;
+  QCoreApplication::postEvent(
+      &field, new QKeyEvent(QEvent::KeyPress, Qt::Key_unknown, Qt::ControlModifier, 127, 0xFF6B, 4));
+  EXPECT_TRUE(desktop.BreakPressed());
+}
+
 TEST(LookingForBreak, LetsNothingElseOfAPersonThrough) {
   QtDesktop desktop;
   QWidget window;
