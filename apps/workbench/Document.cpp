@@ -309,7 +309,11 @@ void Document::OnChangeEvent(std::u16string_view event, Args args) {
   if (event == u"AttribsList") return;
   if (!m_IsLoading && event == u"PropertyChanged") Q_EMIT RowChanged(ToLong(args[0]));
   if (event == u"Resize" || event == u"RefreshPropertyList") Q_EMIT Resized();
-  if (!m_IsLoading && event == u"StateChanged") Q_EMIT DrawingEnded();
+  if (!m_IsLoading && event == u"StateChanged") {
+    // A pasted control that differs in nothing is selected without a word.
+    Q_EMIT Selected(m_Designer->CurrentControl().get());
+    Q_EMIT DrawingEnded();
+  }
   NoteSoon();
 }
 

@@ -126,8 +126,13 @@ void Workbench::SaveLayout() const {
 }
 
 void Workbench::ConnectDocument() {
-  connect(m_Document, &Document::Selected, this,
-          [this](IControl* control) { ShowSelection(Ref<IControl>(control)); });
+  connect(m_Document, &Document::Selected, this, [this](IControl* control) {
+    ShowSelection(Ref<IControl>(control));
+    // The form's selection ends the drawing without a word, after it was told of.
+    QTimer::singleShot(0, m_Tools, [this] {
+      if (m_Document->Designer().ControlTypeToAdd() == ControlTypeEnum::ctDefault) m_Tools->Reset();
+    });
+  });
   connect(m_Document, &Document::RowChanged, m_Grid, [this](int row) { m_Grid->Model().Refresh(row); });
   connect(m_Document, &Document::DrawingEnded, m_Tools, &ToolBox::Reset);
   connect(m_Document, &Document::Resized, this, &Workbench::UpdateGrid);

@@ -83,6 +83,25 @@ TEST_F(EditingTest, CopiesAndPastesByTheMenu) {
   EXPECT_EQ(Designer().CurrentControl()->Left(), 0);
 }
 
+TEST_F(EditingTest, GoesBackToThePointerWhereTheFormIsSelected) {
+  AddTwo();
+  Choose(ControlTypeEnum::ctLabel);
+  EXPECT_NE(bench->Tools().currentRow(), 0);
+  Designer().SetCtrl(Ref<IControl>(&Find(QStringLiteral("Form"))));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return bench->Tools().currentRow() == 0; }));
+}
+
+TEST_F(EditingTest, ShowsThePastedControlAlsoWhereItIsLikeTheCopiedOne) {
+  bench->Project().Insert(ControlTypeEnum::ctComboBox);
+  Designer().CurrentControl()->SetLeft(0);
+  Designer().CurrentControl()->SetTop(0);
+  Trigger("mnuCopy");
+  const Ref<IControl> copied = Designer().CurrentControl();
+  Trigger("mnuPaste");
+  ASSERT_NE(Designer().CurrentControl(), copied);
+  EXPECT_EQ(Rows().Control(), Designer().CurrentControl());
+}
+
 TEST_F(EditingTest, DeletesByTheKeyOnTheForm) {
   AddTwo();
   ClickOnForm({static_cast<int>(Find(first).Left()) + 4, static_cast<int>(Find(first).Top()) + 4});
