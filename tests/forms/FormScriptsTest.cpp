@@ -91,36 +91,6 @@ TEST_F(FormScripts, MayUseClassesThatOnlyCompute) {
   EXPECT_EQ(Depth(), u"1True");
 }
 
-TEST_F(FormScripts, AreReplacedByThoseOfAFormReadInAnEvent) {
-  const QString other = qt::ToQString(
-      folder.Put("other.cwf",
-                 ProjectText({{"TextBox", "txtOther", ""}}, {},
-                             "VBScript\r\nSub Form_Initialize()\r\ntxtOther.Text = \"new\"\r\nEnd Sub\r\n")));
-  QWidget elsewhere;
-  qt::FormInput second(&elsewhere);
-  ASSERT_TRUE(ReadScript(
-      "Sub cmdToday_OnClick()\nORVExecute \"READ\"\ntxtDepth.Text = txtDepth.Text & \"!\"\nEnd Sub\n"));
-  host->onLine = [&](const std::string& line) {
-    if (line == "X READ") second.ProjectRead(other);
-  };
-  ClickToday();
-  host->onLine = nullptr;
-  EXPECT_EQ(boxes.Take(), Lines{});
-  const IControl* written = FindControl(second.Object()->Controls(), u"txtOther");
-  ASSERT_TRUE(written);
-  EXPECT_EQ(ToText(written->PropertyValue(Variant(u"Text"))), u"new");
-  EXPECT_EQ(Depth(), u"!") << "the procedure that was running ends in the engine that it began in";
-  ClickToday();
-  EXPECT_EQ(Depth(), u"!") << "the first form's procedures are gone";
-}
-
-TEST_F(FormScripts, MayPressOkInsideTheOk) {
-  ASSERT_TRUE(ReadScript("Sub Form_BeforeOkClick()\nOk\nEnd Sub\n"));
-  TakeEvents();
-  ClickOk();
-  EXPECT_EQ(TakeEvents(), Lines{"OkClick"});
-}
-
 TEST(ScriptControlLanguages, AreFoundWhateverTheCase) {
   ProvideFormScripts(BothLanguages());
   const Ref<ScriptControl> control = Module().makeScriptControl();

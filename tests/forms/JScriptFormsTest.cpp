@@ -100,35 +100,5 @@ TEST_F(JScriptForms, MayUseClassesThatOnlyCompute) {
   EXPECT_EQ(Depth(), u"1 true");
 }
 
-TEST_F(JScriptForms, AreReplacedByThoseOfAFormReadInAnEvent) {
-  const QString other = qt::ToQString(folder.Put(
-      "other.cwf", ProjectText({{"TextBox", "txtOther", ""}}, {},
-                               "jScRiPt\r\nfunction Form_Initialize(){\r\ntxtOther.Text = 'new';\r\n}\r\n")));
-  QWidget elsewhere;
-  qt::FormInput second(&elsewhere);
-  ASSERT_TRUE(ReadScript(
-      "function cmdToday_OnClick(){\nORVExecute('READ');\ntxtDepth.Text = txtDepth.Text + '!';\n}\n"));
-  host->onLine = [&](const std::string& line) {
-    if (line == "X READ") second.ProjectRead(other);
-  };
-  ClickToday();
-  host->onLine = nullptr;
-  EXPECT_EQ(boxes.Take(), Lines{});
-  const IControl* written = FindControl(second.Object()->Controls(), u"txtOther");
-  ASSERT_TRUE(written);
-  EXPECT_EQ(ToText(written->PropertyValue(Variant(u"Text"))), u"new");
-  EXPECT_EQ(Depth(), u"!") << "the procedure that was running ends in the engine that it began in";
-  ClickToday();
-  EXPECT_EQ(Depth(), u"!") << "the first form's procedures are gone";
-}
-
-TEST_F(JScriptForms, MayPressOkInsideTheOk) {
-  ASSERT_TRUE(ReadScript("function Form_BeforeOkClick(){\nOk();\n}\n"));
-  TakeEvents();
-  ClickOk();
-  EXPECT_EQ(TakeEvents(), Lines{"OkClick"});
-  EXPECT_EQ(boxes.Take(), Lines{});
-}
-
 }  // namespace
 }  // namespace cardwright
