@@ -1,4 +1,5 @@
 #include <QFileInfo>
+#include <algorithm>
 #include <memory>
 
 #include "desktop/Commands.h"
@@ -7,6 +8,7 @@
 #include "desktop/Session.h"
 #include "qt/FormDesigner.h"
 #include "qt/FormInput.h"
+#include "qt/QtHostWindow.h"
 
 namespace cardwright::desktop {
 
@@ -43,6 +45,13 @@ int RunRender(const QStringList& words) {
   const auto form = ReadForm(file, options.Has(QStringLiteral("design")));
   if (!form) {
     PrintError(Told(QStringLiteral("the form project %1 could not be read").arg(file)));
+    return kFaultsFound;
+  }
+  if (std::max(form->width(), form->height()) > qt::kLargestWindow) {
+    PrintError(Told(QStringLiteral("the form is %1 x %2 pixels; the largest picture has %3 x %3")
+                        .arg(form->width())
+                        .arg(form->height())
+                        .arg(qt::kLargestWindow)));
     return kFaultsFound;
   }
   form->show();

@@ -3,9 +3,9 @@
 #include <QComboBox>
 #include <QLineEdit>
 
+#include "qt/FieldCombo.h"
 #include "qt/FieldKind.h"
 #include "qt/LineEditText.h"
-#include "qt/ListColors.h"
 #include "qt/QtText.h"
 
 namespace cardwright::qt {
@@ -18,7 +18,7 @@ constexpr int kTextIsReadOnly = 383;
 }  // namespace
 
 ComboBoxWidget::ComboBoxWidget(WidgetPlace place)
-    : QtWidget(kComboBox, place), m_Combo(new QComboBox(place.parent)) {
+    : QtWidget(kComboBox, place), m_Combo(new FieldCombo(place.parent)) {
   m_Combo->setInsertPolicy(QComboBox::NoInsert);
   Adopt(*m_Combo);
   QObject::connect(m_Combo, &QComboBox::activated, this, [this](int index) { OnActivated(index); });
@@ -211,11 +211,6 @@ float ComboBoxWidget::HeightFor(float /*height*/) const {
 void ComboBoxWidget::OnFontApplied() {
   m_State.height = HeightFor(0);
   ApplyGeometry();
-}
-
-void ComboBoxWidget::CollectColors(QPalette& own, const QPalette& inherited) const {
-  WidgetCore::CollectColors(own, inherited);
-  CollectListColors(own, Kind(), m_State.backColor, m_State.foreColor);
 }
 
 bool ComboBoxWidget::TakesWheel() const { return !m_IsLocked && m_Combo->hasFocus(); }

@@ -44,7 +44,6 @@ class ComboBoxWidget final : public QtWidget<ComboWidget> {
 
  private:
   float HeightFor(float height) const override;
-  void CollectColors(QPalette& own, const QPalette& inherited) const override;
   void OnFontApplied() override;
   bool IsBlocked() const override { return m_IsLocked; }
   bool TakesWheel() const override;

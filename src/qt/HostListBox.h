@@ -4,7 +4,6 @@
 #include "qt/ChoiceNotice.h"
 #include "qt/EntryList.h"
 #include "qt/FieldKind.h"
-#include "qt/ListColors.h"
 #include "qt/QtWidget.h"
 #include "qt/SelectorCombo.h"
 
@@ -120,10 +119,6 @@ class HostListBox : public QtWidget<Base> {
   void OnFontApplied() override {
     this->m_State.height = HeightFor(0);
     this->ApplyGeometry();
-  }
-  void CollectColors(QPalette& own, const QPalette& inherited) const override {
-    WidgetCore::CollectColors(own, inherited);
-    CollectListColors(own, this->Kind(), this->m_State.backColor, this->m_State.foreColor);
   }
   bool TakesWheel() const override { return !m_IsLocked && m_Combo->hasFocus(); }
 

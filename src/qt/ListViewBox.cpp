@@ -20,13 +20,23 @@ constexpr float kWidestColumn = 100000.0F;
 
 }  // namespace
 
-/// Tells of a click after the tree has taken it in, so that the listener finds the new selection.
+/// Tells of a click after the tree has taken it in, so that the listener finds the new selection. A column as
+/// wide as the list, frames and all, as forms ask for, is no reason to scroll.
 class ListViewBox::Tree final : public FocusFramed<QTreeWidget> {
  public:
   using FocusFramed::FocusFramed;
   std::function<void()> onClick;
 
+  void SetColumn(int width) {
+    setColumnWidth(0, width);
+    UpdateBar();
+  }
+
  protected:
+  void resizeEvent(QResizeEvent* event) override {
+    QTreeWidget::resizeEvent(event);
+    UpdateBar();
+  }
   void mousePressEvent(QMouseEvent* event) override {
     m_IsPressed = event->button() == Qt::LeftButton;
     QTreeWidget::mousePressEvent(event);
@@ -44,6 +54,12 @@ class ListViewBox::Tree final : public FocusFramed<QTreeWidget> {
   }
 
  private:
+  void UpdateBar() {
+    const Qt::ScrollBarPolicy policy =
+        columnWidth(0) > width() ? Qt::ScrollBarAsNeeded : Qt::ScrollBarAlwaysOff;
+    if (policy != horizontalScrollBarPolicy()) setHorizontalScrollBarPolicy(policy);
+  }
+
   bool m_IsPressed = false;
 };
 
@@ -55,7 +71,7 @@ ListViewBox::ListViewBox(WidgetPlace place) : QtWidget(kListView, place), m_Tree
   m_Tree->setEditTriggers(QAbstractItemView::NoEditTriggers);
   m_Tree->header()->setStretchLastSection(false);
   m_Tree->header()->setMinimumSectionSize(0);
-  m_Tree->setColumnWidth(0, static_cast<int>(m_ColumnPixels));
+  m_Tree->SetColumn(static_cast<int>(m_ColumnPixels));
   // A handler of the same click may have removed the list already.
   m_Tree->onClick = [this, self = QPointer<QObject>(this)] {
     if (self && Native()) NotifyClick();
@@ -178,7 +194,7 @@ void ListViewBox::SetColumnWidth(float width) {
   const float pixels = ScaleToPixels(width, Scale());
   if (!(pixels >= 0 && pixels <= kWidestColumn)) Raise(ErrorNumber::InvalidPropertyValue);
   m_ColumnPixels = pixels;
-  m_Tree->setColumnWidth(0, static_cast<int>(std::lround(pixels)));
+  m_Tree->SetColumn(static_cast<int>(std::lround(pixels)));
 }
 
 }  // namespace cardwright::qt

@@ -14,7 +14,7 @@ namespace {
 int InnerPixels(float twips, float frame) {
   const float pixels = twips / kTwipsPerPixel - frame;
   if (!std::isfinite(pixels)) Raise(ErrorNumber::InvalidPropertyValue);
-  return static_cast<int>(std::lround(std::clamp(pixels, 0.0F, static_cast<float>(QWIDGETSIZE_MAX))));
+  return static_cast<int>(std::lround(std::clamp(pixels, 0.0F, static_cast<float>(kLargestWindow))));
 }
 
 }  // namespace

@@ -7,6 +7,10 @@
 
 namespace cardwright::qt {
 
+/// No window is made larger, whatever a form project asks for: the toolkit holds a picture of each, which at
+/// this size takes 256 MB.
+inline constexpr int kLargestWindow = 8192;
+
 /// Pixels between a top-level window's outer and inner size; 0 until the window system has framed it.
 FrameSize FrameOf(const QWidget& window);
 

@@ -103,7 +103,7 @@ class EntryPainter final : public QStyledItemDelegate {
 
 }  // namespace
 
-SelectorCombo::SelectorCombo(QWidget* parent) : QComboBox(parent), m_Entries(new EntryList(this)) {
+SelectorCombo::SelectorCombo(QWidget* parent) : FieldCombo(parent), m_Entries(new EntryList(this)) {
   // The toolkit would measure every entry.
   setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
   setMinimumContentsLength(1);
@@ -157,8 +157,7 @@ void SelectorCombo::initStyleOption(QStyleOptionComboBox* option) const {
   const QVariant sign = itemData(currentIndex(), EntryList::kSignRole);
   if (!sign.isValid() || sign.toInt() < 0) return;
   const QPalette::ColorGroup group = isEnabled() ? QPalette::Active : QPalette::Disabled;
-  option->currentIcon =
-      KindSign(sign.toInt(), palette().color(group, QPalette::ButtonText), devicePixelRatioF());
+  option->currentIcon = KindSign(sign.toInt(), palette().color(group, QPalette::Text), devicePixelRatioF());
 }
 
 }  // namespace cardwright::qt

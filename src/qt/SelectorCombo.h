@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QComboBox>
+#include "qt/FieldCombo.h"
 
 namespace cardwright::qt {
 
@@ -8,7 +8,7 @@ class EntryList;
 
 /// The drop-down list of a selector: entries of an EntryList with their signs and details, in a list with a
 /// scroll bar, as it may have thousands of them.
-class SelectorCombo final : public QComboBox {
+class SelectorCombo final : public FieldCombo {
  public:
   explicit SelectorCombo(QWidget* parent);
 

@@ -70,6 +70,7 @@ void WidgetCore::Adopt(QWidget& widget) {
   widget.hide();  // said aloud, or it would appear with its parent
   widget.setMouseTracking(true);
   if (widget.focusPolicy() == Qt::WheelFocus) widget.setFocusPolicy(Qt::StrongFocus);
+  if (m_Kind.isSeeThrough) widget.setBackgroundRole(m_Kind.backRole);  // buttons would fill with their face
   ApplyColors();
   ApplyFont();
   m_State.height = HeightFor(m_State.height);
@@ -272,7 +273,7 @@ bool WidgetCore::eventFilter(QObject* target, QEvent* event) {
     case QEvent::InputMethod: return OnInputMethod(widget, static_cast<QInputMethodEvent&>(*event));
     case QEvent::Show:
     case QEvent::Paint: Settle(); return false;
-    case QEvent::FocusIn: OnFocusIn(); return false;
+    case QEvent::FocusIn: return OnFocusIn(widget);
     case QEvent::FocusOut: OnFocusOut(static_cast<QFocusEvent*>(event)->reason()); return false;
     case QEvent::PaletteChange:
       if (target == m_Widget) ApplyColors();

@@ -160,7 +160,7 @@ class WidgetCore : public QObject, private Font::User {
   bool EndKey(QKeyEvent& event) const;
   QString FilterTyped(const QString& text);
   bool Replay(QWidget& target, QEvent& event);
-  void OnFocusIn();
+  bool OnFocusIn(QWidget& widget);
   void OnFocusOut(Qt::FocusReason reason);
 
   const WidgetKind& m_Kind;

@@ -145,13 +145,16 @@ bool WidgetCore::Replay(QWidget& target, QEvent& event) {
 
 /// The listener hears of moves between widgets only: a popup or another window that takes the focus for a
 /// while gives it back to the widget that never knew. Where it comes back to another one, the first is told
-/// now.
-void WidgetCore::OnFocusIn() {
+/// now. True, and the widget hears nothing of it, where a handler has given the focus away again, as the
+/// designer does: a group box would take it back.
+bool WidgetCore::OnFocusIn(QWidget& widget) {
+  const QPointer<QWidget> target = &widget;
   SurfaceState& state = *m_Place.state;
-  if (state.focused == this) return;
+  if (state.focused == this) return false;
   WidgetCore* before = std::exchange(state.focused, this);
   if (before) before->Notify([](WidgetListener& listener) { listener.OnLostFocus(); });
   if (state.focused == this) Notify([](WidgetListener& listener) { listener.OnGotFocus(); });
+  return !target || !target->hasFocus();
 }
 
 void WidgetCore::OnFocusOut(Qt::FocusReason reason) {

@@ -1,5 +1,7 @@
 #include "robot/ControlWindow.h"
 
+#include "qt/QtHostWindow.h"
+
 namespace cardwright::robot {
 
 namespace {
@@ -11,6 +13,7 @@ constexpr QSize kFirstSize(640, 480);  // until a form has asked for its own
 ControlWindow::ControlWindow(std::unique_ptr<qt::VisualControl> control) : m_Control(control.release()) {
   m_Control->setParent(this);
   connect(m_Control, &qt::VisualControl::NeedResize, this, [this] { resize(m_Control->size()); });
+  setMaximumSize(qt::kLargestWindow, qt::kLargestWindow);
   resize(kFirstSize);
 }
 

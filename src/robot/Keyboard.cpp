@@ -18,6 +18,24 @@ bool HasFocus(const QWidget& widget) {
   return focused && (focused == &widget || widget.isAncestorOf(focused));
 }
 
+/// Sees a widget get the focus, also where its handlers send it on at once.
+class FocusWatch final : public QObject {
+ public:
+  explicit FocusWatch(QWidget& widget) : m_Widget(&widget) { qApp->installEventFilter(this); }
+
+  bool HasSeenIt() const noexcept { return m_HasSeenIt; }
+
+ protected:
+  bool eventFilter(QObject* /*target*/, QEvent* event) override {
+    if (event->type() == QEvent::FocusIn && m_Widget && HasFocus(*m_Widget)) m_HasSeenIt = true;
+    return false;
+  }
+
+ private:
+  QPointer<QWidget> m_Widget;
+  bool m_HasSeenIt = false;
+};
+
 bool TakesFocus(const QWidget& widget) {
   return widget.isEnabled() && widget.isVisible() && (widget.focusPolicy() & Qt::StrongFocus) != 0;
 }
@@ -51,11 +69,14 @@ KeyStroke StrokeFor(QStringView character) {
 
 void GiveFocus(QWidget& widget) {
   Activate(widget);
-  if (!HasFocus(widget)) widget.setFocus(Qt::OtherFocusReason);
+  const Text name = qt::FromQString(widget.objectName());
+  if (!HasFocus(widget)) {
+    const FocusWatch watch(widget);
+    widget.setFocus(Qt::OtherFocusReason);
+    if (!watch.HasSeenIt())
+      Raise(static_cast<int>(ErrorNumber::InvalidCall), name + u": the widget cannot take the focus");
+  }
   ServeEvents();
-  if (!HasFocus(widget))
-    Raise(static_cast<int>(ErrorNumber::InvalidCall),
-          qt::FromQString(widget.objectName()) + u": the widget cannot take the focus");
 }
 
 void PressKey(QWidget& widget, const KeyStroke& stroke) {

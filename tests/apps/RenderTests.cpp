@@ -24,6 +24,19 @@ TEST(Render, ShowsTheFormAsItsAuthorDrawsIt) {
   EXPECT_NE(ReadAll(drawn), ReadAll(filled));
 }
 
+TEST(Render, RefusesAPictureThatNoMemoryHolds) {
+  const TempFolder folder;
+  const std::string form =
+      folder.Write("wide.cwf", "[FORM]\r\nScaleMode= 3\r\nWidth= 99999999999\r\nHeight= 300\r\n");
+  for (const char* option : {"-o", "--design"}) {
+    std::vector<std::string> words{"render", form, "-o", folder.File("form.png")};
+    if (option[1] == '-') words.push_back(option);
+    const Outcome outcome = Cardwright(words);
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_NE(outcome.err.find("the largest picture has 8192 x 8192"), std::string::npos) << outcome.err;
+  }
+}
+
 TEST(Render, TellsWhenThePictureCannotBeWritten) {
   const Outcome outcome = Cardwright({"render", ExampleForm(), "-o", "/no/such/folder/form.png"});
   EXPECT_EQ(outcome.status, 1);
