@@ -1,7 +1,9 @@
 #include "qt/FormInput.h"
 
+#include <QApplication>
 #include <QKeyEvent>
 
+#include "qt/FieldNames.h"
 #include "qt/QtSurface.h"
 #include "qt/QtText.h"
 #include "qt/WidgetCore.h"
@@ -14,16 +16,24 @@ FormInput::FormInput(QWidget* parent)
       m_Input(cardwright::FormInput::Create(*m_Surface)) {
   m_Surface->SetControl(m_Input.get());
   m_Connection = m_Input->Connect([this](std::u16string_view event, Args args) { Forward(event, args); });
+  QAccessible::installActivationObserver(this);
+  // What scripts have changed since is known by then.
+  connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
+    if (now && isAncestorOf(now)) NameControls(now);
+  });
 }
 
 // The control may live on in the hands of a script, or in the middle of a step that closed the window.
 FormInput::~FormInput() {
+  QAccessible::removeActivationObserver(this);
+  disconnect(qApp, nullptr, this, nullptr);
   m_Input->Disconnect(m_Connection);
   m_Input->DetachSurface();
 }
 
 void FormInput::Forward(std::u16string_view event, Args args) {
   if (event == u"NeedResize") {
+    NameControls();
     TellNeedResize(ToSingle(args[0]), ToSingle(args[1]));
   } else if (event == u"OkClick") {
     Q_EMIT OkClick();
@@ -54,6 +64,15 @@ void FormInput::SetSetAttributesEnabled(bool enabled) {
   Q_EMIT SetAttributesEnabledChanged(enabled);
 }
 
+void FormInput::accessibilityActiveChanged(bool active) {
+  m_HasReader = active;
+  NameControls();
+}
+
+void FormInput::NameControls(const QWidget* only) {
+  if (m_HasReader) NameFields(ControlsOf(m_Input->Controls()), only);
+}
+
 QPushButton* FormInput::FixedButton(std::u16string_view name) const {
   const Ref<Widget> widget = m_Surface->Find(name);
   const auto* core = dynamic_cast<WidgetCore*>(widget.get());
@@ -76,6 +95,7 @@ void FormInput::keyPressEvent(QKeyEvent* event) {
 // field.
 void FormInput::showEvent(QShowEvent* event) {
   VisualControl::showEvent(event);
+  NameControls();
   if (focusWidget()) return;
   const QWidget* ok = FixedButton(u"cmdOK");
   const QWidget* cancel = FixedButton(u"cmdCancel");

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QAccessible>
 #include <QPushButton>
 #include <memory>
 
@@ -13,7 +14,9 @@ class QtSurface;
 /// The form as an end user fills it in. The one setting that a container keeps for it is the property
 /// SetAttributesEnabled; all others live in the form project. Only in design mode do its buttons follow a
 /// resize: a form that is filled in keeps the layout of its project.
-class FormInput final : public VisualControl {
+///
+/// While a screen reader runs, every control has a name for it (see NameFields).
+class FormInput final : public VisualControl, private QAccessible::ActivationObserver {
   Q_OBJECT
   Q_PROPERTY(bool SetAttributesEnabled READ SetAttributesEnabled WRITE SetSetAttributesEnabled NOTIFY
                  SetAttributesEnabledChanged)
@@ -54,11 +57,14 @@ class FormInput final : public VisualControl {
 
  private:
   void Forward(std::u16string_view event, Args args);
+  void accessibilityActiveChanged(bool active) override;
+  void NameControls(const QWidget* only = nullptr);
   QPushButton* FixedButton(std::u16string_view name) const;
 
   std::unique_ptr<QtSurface> m_Surface;
   Ref<cardwright::FormInput> m_Input;
   int m_Connection = 0;
+  bool m_HasReader = QAccessible::isActive();
 };
 
 }  // namespace cardwright::qt
