@@ -1,32 +1,18 @@
 // The project loader with real widgets: any bytes as project file, any replies of the host, then a click on
 // OK.
 
-#include <unistd.h>
-
-#include <QApplication>
 #include <cstddef>
 #include <cstdint>
-#include <filesystem>
-#include <fstream>
 #include <string_view>
 
+#include "Offscreen.h"
 #include "platform/Files.h"
 #include "qt/FormInput.h"
-#include "qt/Library.h"
 #include "qt/QtText.h"
-#include "shared/ModuleState.h"
 
 namespace {
 
 using namespace cardwright;
-
-/// Nobody is there to answer a message box.
-class SilentDesktop final : public qt::QtDesktop {
- public:
-  int ShowMessage(const Text&, int, const Text&) override { return 1; }
-  void Beep() override {}
-  void Start(const Text&) override {}
-};
 
 /// Answers with pieces of the input.
 class NoisyHost final : public HostConnection {
@@ -51,34 +37,9 @@ class NoisyHost final : public HostConnection {
   std::size_t m_At = 0;
 };
 
-struct Environment {
-  bool hasPlatform =
-      !qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM") || qputenv("QT_QPA_PLATFORM", "offscreen");
-  int argc = 1;
-  char name[5] = "fuzz";
-  char* argv[2] = {name, nullptr};
-  QApplication application{argc, argv};
-  qt::Library library;
-  SilentDesktop desktop;
-  std::filesystem::path folder =
-      std::filesystem::temp_directory_path() / ("cardwright-fuzz-" + std::to_string(::getpid()));
-
-  Environment() {
-    Module().desktop = &desktop;
-    std::filesystem::create_directories(folder);
-  }
-  ~Environment() {
-    std::error_code ignored;
-    std::filesystem::remove_all(folder, ignored);
-    Module().desktop = nullptr;
-  }
-};
-
-void Run(Environment& environment, std::string_view bytes) {
-  const auto project = environment.folder / "project.cwf";
-  std::ofstream(project, std::ios::binary | std::ios::trunc)
-      .write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-  const std::int32_t handle = environment.library.Connect(MakeRef<NoisyHost>(bytes));
+void Run(Offscreen& offscreen, std::string_view bytes) {
+  const auto project = offscreen.Put("project.cwf", bytes);
+  const std::int32_t handle = offscreen.library.Connect(MakeRef<NoisyHost>(bytes));
   {
     qt::FormInput form;
     form.ProjectRead(qt::ToQString(FromPath(project)));
@@ -86,7 +47,7 @@ void Run(Environment& environment, std::string_view bytes) {
     form.show();
     form.Object()->Ok();
     form.Object()->Cancel();
-    form.ProjectSave(qt::ToQString(FromPath(environment.folder / "saved.cwf")));
+    form.ProjectSave(qt::ToQString(FromPath(offscreen.folder / "saved.cwf")));
   }
   Module().connections.Close(handle);
 }
@@ -94,7 +55,7 @@ void Run(Environment& environment, std::string_view bytes) {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  static thread_local Environment environment;  // goes before the state that the library keeps for the thread
-  Run(environment, {reinterpret_cast<const char*>(data), size});
+  static thread_local Offscreen offscreen;
+  Run(offscreen, {reinterpret_cast<const char*>(data), size});
   return 0;
 }
