@@ -27,11 +27,14 @@ std::optional<FontValues> ChooseFont(QWidget& owner, const QString& title, const
   const QFont shown = FontCache().Get(present);
   auto* const dialog = new QFontDialog(shown, owner.window());
   if (!title.isEmpty()) dialog->setWindowTitle(title);
+  const double offered = dialog->currentFont().pointSizeF();
   std::optional<QFont> font;
   RunDialog(dialog, owner, [&](const QFontDialog& accepted) { font = accepted.selectedFont(); });
   if (!font) return std::nullopt;
   FontValues chosen = ValuesOf(*font);
   if (chosen.name == FromQString(shown.family())) chosen.name = present.name;
+  // The dialog offers whole sizes only.
+  if (font->pointSizeF() == offered) chosen.size = present.size;
   return chosen;
 }
 
