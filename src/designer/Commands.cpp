@@ -60,9 +60,9 @@ void FormDesigner::Delete() {
     Variant args[] = {Variant::ByRef(removed)};
     RaiseEvent(u"ObjectRemoved", args);
   });
-  if (m_Controls->Count() == 0) return;
-  for (const Ref<IControl>& other : ControlsOf(*m_Controls))
-    Attempt([&] { other->LinkControlDelete(*m_Controls); });
+  const Ref<Collection> left = m_Controls;  // a handler may end the surface
+  if (left->Count() == 0) return;
+  for (const Ref<IControl>& other : ControlsOf(*left)) Attempt([&] { other->LinkControlDelete(*left); });
   AttachLinks();
   if (const Ref<IControl> first = Form()) Attempt([&] { SetCtrl(first); });
   Attempt([&] { RaiseRefreshPropertyList(); });

@@ -43,6 +43,10 @@ DesignMenu::DesignMenu() {
   m_Lock = Ref<MenuItem>(Find(u"mnuLock"));
 }
 
+MenuItem* DesignMenu::FindNamed(std::u16string_view name) const noexcept {
+  return EqualsNoCase(m_Whole->m_Name, name) ? m_Whole.get() : Find(name);
+}
+
 MenuItem* DesignMenu::Find(std::u16string_view name) const noexcept {
   for (const Ref<MenuItem>& item : m_Items)
     if (EqualsNoCase(item->m_Name, name)) return item.get();

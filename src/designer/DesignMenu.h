@@ -18,6 +18,8 @@ class DesignMenu {
   const std::vector<Ref<MenuItem>>& Items() const noexcept { return m_Items; }
   /// The entry of that name, whatever its case; null where there is none.
   MenuItem* Find(std::u16string_view name) const noexcept;
+  /// The entry of that name, or the menu itself by its own.
+  MenuItem* FindNamed(std::u16string_view name) const noexcept;
   /// None for a separator or a name that no entry has.
   static std::optional<DesignCommand> CommandOf(std::u16string_view name) noexcept;
   /// Shows or hides what makes no sense without a control.
@@ -26,6 +28,7 @@ class DesignMenu {
   MenuItem& Lock() const noexcept { return *m_Lock; }
 
  private:
+  const Ref<MenuItem> m_Whole = MakeRef<MenuItem>(u"mnuPopUp", u"");
   std::vector<Ref<MenuItem>> m_Items;
   Ref<MenuItem> m_Lock;
 };

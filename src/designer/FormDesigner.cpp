@@ -96,8 +96,12 @@ void FormDesigner::DetachSurface() {
     table->ForgetOwner();
   }
   m_Handles.reset();
-  if (m_Surface) Attempt([&] { m_Surface->SetListener(nullptr); });
+  if (m_Surface) {
+    Attempt([&] { m_Surface->SetListener(nullptr); });
+    Attempt([&] { m_Surface->SetScreenPointer(PointerShape::Default); });  // in the middle of a paste
+  }
   m_Surface = nullptr;
+  m_Controls = MakeRef<Collection>();  // whoever holds the old one keeps its objects
   m_ZList->Clear();
   m_Current = nullptr;
 }
@@ -138,18 +142,20 @@ std::vector<Ref<IControl>> FormDesigner::FilterControls(ControlTypeEnum type) co
 
 void FormDesigner::ChangeControlName(Ref<Object> control, const Text& newName) {
   const Ref<FormDesigner> keepAlive(this);
+  const Ref<Collection> controls = m_Controls;  // a handler may end the surface
   const auto tell = [this](const Text& oldName, IControl& renamed) {
     Variant old(oldName);
     Variant object{Ref<Object>(&renamed)};
     Variant args[] = {Variant::ByRef(old), Variant::ByRef(object)};
     RaiseEvent(u"ControlNameChanged", args);
   };
-  if (RenameControl(*m_Controls, control, newName, tell)) AttachLinks();
+  if (RenameControl(*controls, control, newName, tell)) AttachLinks();
 }
 
 void FormDesigner::AttachLinks() {
-  for (const Ref<IControl>& control : ControlsOf(*m_Controls))
-    Attempt([&] { control->AttachControls(*m_Controls); });
+  const Ref<Collection> controls = m_Controls;
+  for (const Ref<IControl>& control : ControlsOf(*controls))
+    Attempt([&] { control->AttachControls(*controls); });
 }
 
 bool FormDesigner::ProjectRead(const Text& fileName) {

@@ -21,6 +21,10 @@ namespace cardwright {
 /// PropertyChanged(PropertyIndex, PropertyValue), PropertyMenuClick, RefreshPropertyList,
 /// AttribsList(Attribs), ObjectRemoved(ObjectName), NeedResize(Width, Height), ControlsLocked(LockValue),
 /// ControlNameChanged(OldName, Obj).
+///
+/// Of these, Obj, PropertyIndex, PropertyValue, Attribs, ObjectName, LockValue and OldName are handed over by
+/// reference, each a copy made for the event: what a handler writes into one reaches the handlers after it
+/// and nothing else.
 class FormDesigner final : public TableObject,
                            public DesignerOwner,
                            private WidgetListener,
@@ -54,7 +58,8 @@ class FormDesigner final : public TableObject,
   void CenterLeft();
   void CenterTop();
   /// @}
-  /// Switches an entry of the popup menu on or off, and tells the host, whose menus follow.
+  /// Switches an entry of the popup menu, or the menu itself ("mnuPopUp"), on or off and tells the host,
+  /// whose menus follow. The menu opens in either state.
   void SetMenuState(const Text& menuName, bool state);
 
   /// To be called when the surface was resized.
@@ -95,7 +100,8 @@ class FormDesigner final : public TableObject,
   /// The controls of a class, by their order; none for the selection tool and the table viewer.
   std::vector<Ref<IControl>> FilterControls(ControlTypeEnum type) const override;
 
-  /// The surface ends: the form's objects stay for whoever holds them, without widgets.
+  /// The surface ends: the form's objects stay for whoever holds them, without widgets, and the designer is
+  /// an empty one.
   void DetachSurface();
 
   Surface* GetSurface() override { return m_Surface; }

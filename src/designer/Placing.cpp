@@ -62,7 +62,8 @@ void FormDesigner::PlaceControl(int button, float x, float y) {
     if (!Attempt([&] { made = CreateControl(); })) return;
     if (made.widget && m_PasteMode) FillPasted(made);
     if (made.widget && !m_PasteMode) Attempt([&] { SizeDrawn(made, std::max(x, 0.0F), std::max(y, 0.0F)); });
-    if (made.widget) AdoptNew(made);
+    if (made.widget && m_Surface) AdoptNew(made);
+    if (!m_Surface) m_Current = nullptr;  // a handler has ended it, and the designer is an empty one
   }
   if (IsAdding()) {
     SetControlTypeToAdd(ControlTypeEnum::ctDefault);
@@ -138,7 +139,7 @@ void FormDesigner::FillPasted(const NewControl& made) {
     Attempt([&] { FitColumn(*made.widget, Canvas().Scale()); });
     m_Clipboard.PutProperties(*made.control);
     Attempt([&] { made.widget->Move(0, 0, made.widget->Width(), made.widget->Height()); });
-    HoldPastedSize(made);
+    Attempt([&] { HoldPastedSize(made); });
     m_Current = made.control;
   }
   Attempt([&] { Canvas().SetScreenPointer(PointerShape::Default); });

@@ -6,7 +6,7 @@ namespace cardwright {
 
 void FormDesigner::SetMenuState(const Text& menuName, bool state) {
   const Ref<FormDesigner> keepAlive(this);
-  const Ref<MenuItem> item(m_Menu.Find(menuName));
+  const Ref<MenuItem> item(m_Menu.FindNamed(menuName));
   if (!item) return;
   item->m_Enabled = state;
   Variant args[] = {Variant(item->m_Name), Variant(state)};

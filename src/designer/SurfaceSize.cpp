@@ -57,8 +57,8 @@ void FormDesigner::UserControl_Resize() {
     const Ref<IControl> form = Form();
     if (auto* resized = dynamic_cast<CForm*>(form.get())) resized->OnDesignerResized();
   });
+  Attempt([&] { RaiseEvent(u"Resize"); });
   Attempt([&] {
-    RaiseEvent(u"Resize");
     const ScaleMode scale = Canvas().Scale();
     RaiseNeedResize(ScaleToTwips(m_FormWidth, scale), ScaleToTwips(m_FormHeight, scale));
   });

@@ -23,6 +23,7 @@ class FormDesigner::Tracking {
   ~Tracking() {
     ClearScreen();
     Attempt([&] { m_Designer.ShowHandles(true); });
+    m_Designer.m_IntoFrame = false;  // a press on a frame counts for what it draws, a table viewer too
     m_Designer.m_Tracking = false;
     m_Designer.m_Dragging = false;
     Module().designDragging = false;

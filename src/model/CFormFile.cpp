@@ -95,7 +95,7 @@ void CForm::ReadAppearance(const CIni& ini) {
   if (!Designer()) return;
   Designer()->SetTracking(false);
   const ScaleMode scale = surface.Scale();
-  Designer()->RaiseNeedResize(ScaleToTwips(surface.Width(), scale), ScaleToTwips(surface.Height(), scale));
+  Designer()->RaiseNeedResize(ScaleToTwips(Width(), scale), ScaleToTwips(Height(), scale));
 }
 
 // The window's own title where the host's window takes one; only a window that refuses it leaves the title to

@@ -32,6 +32,8 @@ class HostWindow : public TableObject {
 struct FrameSize {
   float width = 0;
   float height = 0;
+
+  friend bool operator==(const FrameSize&, const FrameSize&) = default;
 };
 
 /// What a visual control (the form being filled in, the design surface) asks of the toolkit around it.

@@ -1,5 +1,6 @@
 // The second half of QtDesignSurface: what its listener hears of the toolkit's events, and the mouse.
 #include <QApplication>
+#include <QContextMenuEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPaintEvent>
@@ -22,6 +23,14 @@ constexpr int kCursorHeight = 32;
 constexpr int kFramePatience = 20;  // milliseconds between two looks for a window's frame
 constexpr int kFrameTries = 25;
 
+/// The key's own event, or the other key for it, of which not every system makes one.
+bool IsMenuKey(const QEvent& event) {
+  if (event.type() == QEvent::ContextMenu)
+    return static_cast<const QContextMenuEvent&>(event).reason() == QContextMenuEvent::Keyboard;
+  const auto& key = static_cast<const QKeyEvent&>(event);
+  return key.key() == Qt::Key_F10 && key.modifiers() == Qt::ShiftModifier;
+}
+
 }  // namespace
 
 template <class Call>
@@ -41,6 +50,10 @@ bool QtDesignSurface::eventFilter(QObject* target, QEvent* event) {
   }
   if (event->type() == QEvent::KeyPress && target == m_Watched) {
     if (OnKey(static_cast<QKeyEvent&>(*event))) return true;
+    if (IsMenuKey(*event)) {
+      Q_EMIT MenuKeyPressed();
+      return true;
+    }
   }
   return target == m_Surface.Native() && OnCanvasEvent(*event);
 }
@@ -51,14 +64,19 @@ bool QtDesignSurface::OnCanvasEvent(QEvent& event) {
     case QEvent::MouseButtonRelease:
     case QEvent::MouseButtonDblClick:
     case QEvent::MouseMove:
+      if (!m_Surface.Canvas().isEnabled()) return false;  // a host has switched the designer off
       event.accept();  // before anything is told: the surface may be gone afterwards
       OnMouse(static_cast<QMouseEvent&>(event));
       return true;
     case QEvent::ContextMenu:  // the surface has a menu of its own
       event.accept();
+      if (IsMenuKey(event)) Q_EMIT MenuKeyPressed();
       return true;
     case QEvent::Resize: TellResize(); return false;
-    case QEvent::Show: AwaitFrame(kFrameTries); return false;
+    case QEvent::Show:
+      m_AwaitsFrame = true;
+      AwaitFrame(kFrameTries);
+      return false;
     case QEvent::Paint: PaintGrid(static_cast<const QPaintEvent&>(event).rect()); return false;
     case QEvent::Hide:
     case QEvent::WindowDeactivate:
@@ -114,29 +132,35 @@ void QtDesignSurface::WatchFocus(QWidget* focused) {
   if (m_Watched && m_Watched != canvas) m_Watched->installEventFilter(this);
 }
 
+// A form's size is the outer one: a frame that came or went changes it as well, unless it is to have its part
+// of the size that was told.
 void QtDesignSurface::TellResize() {
   const QWidget* canvas = m_Surface.Native();
-  if (!canvas || canvas->size() == m_ToldSize) return;
+  if (!canvas) return;
+  const FrameSize frame = HostFrame();
+  const bool isSameOutside = frame == m_ToldFrame || canvas->size() == m_UnframedSize;
+  if (canvas->size() == m_ToldSize && isSameOutside) return;
   m_ToldSize = canvas->size();
+  m_ToldFrame = frame;
   Notify([](WidgetListener& listener) { listener.OnResize(); });
 }
 
-// A form has the outer size that it was given. While its window had no frame yet, the surface took all of it;
-// a window gets its frame when it is shown, on some systems a little later.
+// A window gets its frame when it is shown, on some systems a little later, and some never get one. A form
+// that was given its outer size before leaves the frame its part then.
 void QtDesignSurface::AwaitFrame(int tries) {
   const QWidget* canvas = m_Surface.Native();
-  if (!canvas || canvas->size() != m_UnframedSize) return;
-  if (IsFramed()) {
-    const FrameSize frame = HostFrame();
-    const auto less = [this](float size, float part) {
-      return std::max(size - PixelsToScale(part, Scale()), 0.0F);
-    };
-    Attempt([&] { Resize(less(Width(), frame.width), less(Height(), frame.height)); });
-  } else if (tries > 0) {
+  if (!canvas) return;
+  if (!IsFramed() && tries > 0) {
     QTimer::singleShot(kFramePatience, this, [this, tries] { AwaitFrame(tries - 1); });
-  } else {
-    m_UnframedSize = QSize();
+    return;
   }
+  m_AwaitsFrame = false;
+  if (std::exchange(m_UnframedSize, QSize()) != canvas->size()) return TellResize();
+  const FrameSize frame = HostFrame();
+  const auto less = [this](float size, float part) {
+    return std::max(size - PixelsToScale(part, Scale()), 0.0F);
+  };
+  Attempt([&] { Resize(less(Width(), frame.width), less(Height(), frame.height)); });
 }
 
 bool QtDesignSurface::IsFramed() const {
@@ -145,8 +169,9 @@ bool QtDesignSurface::IsFramed() const {
 }
 
 void QtDesignSurface::PaintGrid(const QRect& area) {
+  const QWidget& canvas = m_Surface.Canvas();
   QPainter painter(&m_Surface.Canvas());
-  m_Grid.Paint(painter, area);
+  m_Grid.Paint(painter, area, canvas.palette().color(canvas.backgroundRole()));
 }
 
 ScreenPoint QtDesignSurface::CursorPosition() const {

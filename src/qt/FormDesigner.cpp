@@ -1,5 +1,9 @@
 #include "qt/FormDesigner.h"
 
+#include <QCoreApplication>
+#include <QMouseEvent>
+#include <QPointer>
+
 #include "automation/Array.h"
 #include "qt/QtDesignSurface.h"
 #include "qt/QtText.h"
@@ -27,6 +31,7 @@ FormDesigner::FormDesigner(QWidget* parent)
   m_Connection = m_Designer->Connect([this](std::u16string_view event, Args args) { Forward(event, args); });
   connect(m_Surface.get(), &QtDesignSurface::KeptPropertyChanged, this,
           [this] { Q_EMIT EnableKeyDeleteChanged(EnableKeyDelete()); });
+  connect(m_Surface.get(), &QtDesignSurface::MenuKeyPressed, this, &FormDesigner::OpenMenuByKey);
 }
 
 // The control may live on in the hands of a script, or in the middle of a drag that closed the window.
@@ -85,6 +90,19 @@ QWidget* FormDesigner::CurrentWidget() const {
   const Ref<cardwright::Object> bound = control ? control->BoundObject() : nullptr;
   const auto* core = dynamic_cast<const WidgetCore*>(bound.get());
   return core ? core->Native() : nullptr;
+}
+
+// As the right button would in the middle of what is selected: of a control, or of the bare surface.
+void FormDesigner::OpenMenuByKey() {
+  QWidget* const current = CurrentWidget();
+  const QPointer<QWidget> pressed = current ? current : this;
+  const QPoint at = current ? current->rect().center() : visibleRegion().boundingRect().center();
+  const auto send = [&](QEvent::Type type, Qt::MouseButtons held) {
+    QMouseEvent event(type, at, pressed->mapToGlobal(at), Qt::RightButton, held, Qt::NoModifier);
+    QCoreApplication::sendEvent(pressed, &event);
+  };
+  send(QEvent::MouseButtonPress, Qt::RightButton);
+  if (pressed) send(QEvent::MouseButtonRelease, Qt::NoButton);
 }
 
 // The focus is parked while a control is selected: Tab goes on from the control and not from there, and past

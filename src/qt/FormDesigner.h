@@ -60,6 +60,7 @@ class FormDesigner final : public VisualControl {
   void Forward(std::u16string_view event, Args args);
   void ForwardControl(std::u16string_view event, Args args);
   QWidget* CurrentWidget() const;
+  void OpenMenuByKey();
 
   std::unique_ptr<QtDesignSurface> m_Surface;
   Ref<cardwright::FormDesigner> m_Designer;

@@ -4,6 +4,7 @@
 #include <QKeyEvent>
 #include <QMimeData>
 #include <QPlainTextEdit>
+#include <QScrollBar>
 #include <QTextBlock>
 #include <algorithm>
 
@@ -75,6 +76,16 @@ class MultilineTextBoxWidget::Edit final : public FocusFramed<QPlainTextEdit> {
   }
 
  protected:
+  // Where a scroll bar leaves no room for text, showing it and hiding it again would chase each other, and
+  // each round takes the toolkit several times as long as the one before.
+  bool event(QEvent* event) override {
+    if (event->type() == QEvent::Resize) {
+      const int room = width() - 2 * frameWidth() - verticalScrollBar()->sizeHint().width();
+      setVerticalScrollBarPolicy(room > 0 ? Qt::ScrollBarAsNeeded : Qt::ScrollBarAlwaysOff);
+    }
+    return FocusFramed::event(event);
+  }
+
   void keyPressEvent(QKeyEvent* event) override {
     const bool deletes = event->key() == Qt::Key_Backspace;
     const QString typed = IsEnter(*event) ? QStringLiteral("\n") : TypedText(*event);

@@ -71,8 +71,7 @@ void QtDesignSurface::Resize(float width, float height) {
   const QPointer<QObject> self(this);
   m_Surface.Resize(width, height);
   if (!self) return;
-  const QWidget& canvas = m_Surface.Canvas();
-  m_UnframedSize = canvas.isVisible() || IsFramed() ? QSize() : canvas.size();
+  m_UnframedSize = m_AwaitsFrame && !IsFramed() ? m_Surface.Canvas().size() : QSize();
   TellResize();  // the toolkit keeps it back while the canvas is hidden
 }
 

@@ -84,6 +84,8 @@ class QtDesignSurface final : public QObject, public DesignSurface {
  Q_SIGNALS:
   /// What a container keeps under this name has changed.
   void KeptPropertyChanged(const QString& name);
+  /// The menu key, or Shift+F10, was pressed while the surface had the keyboard.
+  void MenuKeyPressed();
 
  private:
   static constexpr int kHandleCount = 9;
@@ -116,10 +118,12 @@ class QtDesignSurface final : public QObject, public DesignSurface {
   PointerShape m_Pointer = PointerShape::Default;
   bool m_HasScreenPointer = false;
   int m_RedrawLocks = 0;
-  bool m_IsPressed = false;     // the left button went down on the bare surface
-  bool m_IsPressLost = false;   // since the mouse was taken
-  QSize m_ToldSize;             // of which the listener knows
-  QSize m_UnframedSize;         // asked for while the window was not shown; invalid where it was
+  bool m_IsPressed = false;    // the left button went down on the bare surface
+  bool m_IsPressLost = false;  // since the mouse was taken
+  bool m_AwaitsFrame = true;   // the window may still get one
+  QSize m_ToldSize;            // of which the listener knows
+  FrameSize m_ToldFrame;
+  QSize m_UnframedSize;         // asked for while the frame was awaited; invalid where there was one
   mutable QPoint m_ToldCursor;  // which whoever polls the mouse knows of
   QPointer<QWindow> m_DragWindow;
   QPointer<QWidget> m_Watched;  // has the focus, on the surface

@@ -23,8 +23,8 @@ class VisualControl : public QWidget {
   QSize sizeHint() const override { return m_Needed; }
 
  Q_SIGNALS:
-  /// Size that the host's window needs, its frame included. A form that is filled in tells it in its own
-  /// scale (FormScaleMode), a designer in twips.
+  /// Outer size of the form: what the control measures, and the frame of the host's window as far as that has
+  /// one yet. A form that is filled in tells it in its own scale (FormScaleMode), a designer in twips.
   void NeedResize(float width, float height);
 
  protected:

@@ -221,6 +221,15 @@ TEST_F(ClipboardTest, PastesIntoTheSelectedFrameAndHoldsTheSizeByAHandlesWidth) 
   EXPECT_EQ(BoxOf(*designer->CurrentControl()), "0,0,43,13");
 }
 
+TEST_F(ClipboardTest, HoldsTheHeightWhereNoWidthIsLeft) {
+  Draw(ctListBox, 0, 0, 400, 300);
+  designer->Copy();
+  surface->Resize(5, 96);  // narrower than a handle
+  designer->SetCtrl(ControlsOf(designer->Controls())[0]);
+  designer->Paste();
+  EXPECT_EQ(BoxOf(*designer->CurrentControl()), "0,0,400,89");
+}
+
 TEST_F(ClipboardTest, SharesTheFontWithTheSourceUntilItIsPasted) {
   const Ref<IControl> label = DrawLabel();
   designer->Copy();

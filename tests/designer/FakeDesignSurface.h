@@ -26,7 +26,8 @@ class OnFakeSurface {
   }
 };
 
-/// A widget on the fake surface: its operations fail with error 91 once it has been removed.
+/// A widget on the fake surface: its operations fail with error 91 once it has been removed, and no size is
+/// negative.
 template <class Fake>
 class Placed final : public Fake, public OnFakeSurface {
  public:
@@ -60,6 +61,7 @@ class Placed final : public Fake, public OnFakeSurface {
   }
   void Move(float left, float top, float width, float height) override {
     RequireAlive();
+    if (width < 0 || height < 0) Raise(ErrorNumber::InvalidPropertyValue);
     Fake::Move(left, top, width, height);
   }
   Ref<Widget> Container() const override {

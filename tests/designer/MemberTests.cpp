@@ -171,5 +171,65 @@ TEST_F(MemberTest, FailOrAnswerNothingOnceTheSurfaceIsGone) {
   EXPECT_EQ(ErrorOf([&] { designer->SetGrid(); }), 91);
 }
 
+TEST_F(MemberTest, AreThoseOfAnEmptyDesignerOnceTheSurfaceIsGone) {
+  designer->SetThemeName(u"wells");
+  designer->SetFeatureType(FeatureTypeEnum::ftArc);
+  const Ref<IControl> label = Draw(ctLabel, 20, 30, 120, 60);
+  const Ref<Collection> held = designer->ControlCollection();
+  const std::string project = folder.File("a.cwf");
+  ASSERT_TRUE(designer->ProjectSave(folder.Name("a.cwf")));
+  designer->DetachSurface();
+  EXPECT_EQ(designer->Controls().Count(), 0);
+  EXPECT_TRUE(designer->ZList().empty());
+  EXPECT_EQ(designer->CurrentControl(), nullptr);
+  EXPECT_TRUE(designer->FilterControls(ctLabel).empty());
+  EXPECT_EQ(designer->GetThemeName(), u"");
+  EXPECT_EQ(designer->GetFeatureType(), FeatureTypeEnum::ftNone);
+  EXPECT_FALSE(designer->ProjectRead(folder.Name("a.cwf")));
+  EXPECT_FALSE(designer->ProjectSave(folder.Name("a.cwf")));
+  EXPECT_TRUE(std::filesystem::exists(project));
+  designer->SetThemeName(u"rivers");
+  designer->LockUnlock();
+  EXPECT_EQ(held->Count(), 2);
+  EXPECT_EQ(label->UserName(), u"object_1");
+}
+
+// The handler that ends the surface is one of many that the members call in the middle of their work.
+TEST_F(MemberTest, BearASurfaceThatEndsInTheMiddleOfThem) {
+  for (const char* event : {"ControlNameChanged", "ObjectRemoved", "CurrObjectChanged", "RefreshPropertyList",
+                            "MenuStateChanged", "ControlsLocked", "PropertyChanged", "StateChanged"}) {
+    FakeDesignSurface own;
+    const Ref<FormDesigner> each = FormDesigner::Create(own);
+    each->Connect([&](std::u16string_view told, Args) {
+      if (Text(told).ToUtf8() == event) each->DetachSurface();
+    });
+    each->SetControlTypeToAdd(ctAttributeSelector);
+    each->SurfaceMouseUp(MouseButton::Left, 0, 50, 50);
+    const Ref<IControl> control = each->CurrentControl();
+    if (control) Attempt([&] { each->ChangeControlName(control, u"chosen"); });
+    Attempt([&] { each->Copy(); });
+    Attempt([&] { each->Paste(); });
+    Attempt([&] { each->LockUnlock(); });
+    Attempt([&] { each->CenterLeft(); });
+    Attempt([&] { each->Delete(); });
+    EXPECT_EQ(each->GetSurface(), nullptr) << event;
+    EXPECT_EQ(each->Controls().Count(), 0) << event;
+    EXPECT_EQ(own.screenPointers.back(), 0) << event;
+  }
+}
+
+TEST_F(MemberTest, AreThoseOfAnEmptyDesignerWhereAPasteEndsTheSurface) {
+  Draw(ctLabel, 20, 30, 120, 60);
+  designer->Copy();
+  onEvent = [&](std::string_view event) {
+    if (event == "PropertyChanged") designer->DetachSurface();
+  };
+  designer->Paste();
+  EXPECT_EQ(designer->Controls().Count(), 0);
+  EXPECT_EQ(designer->CurrentControl(), nullptr);
+  EXPECT_TRUE(designer->ZList().empty());
+  EXPECT_EQ(surface->screenPointers.back(), 0);
+}
+
 }  // namespace
 }  // namespace cardwright

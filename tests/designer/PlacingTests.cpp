@@ -160,6 +160,52 @@ TEST_F(PlacingTest, MakesAWidgetWithoutAnObjectForTheTableViewer) {
   EXPECT_TRUE(designer->FilterControls(ctDefault).empty());
 }
 
+TEST_F(PlacingTest, LeavesTheFrameAgainWithATableViewerOrADrawingThatCameToNothing) {
+  const Ref<IControl> frame = Draw(ctFrame, 50, 50, 250, 250);
+  DrawInside(*frame, ctDbTableViewer, 10, 10, 60, 40);
+  EXPECT_EQ(surface->Find(u"object_2")->Container().get(), &WidgetOf(*frame));
+  EXPECT_FALSE(designer->IsIntoFrame());
+  EXPECT_EQ(BoxOf(*Draw(ctLabel, 300, 100, 350, 130)), "300,100,50,30");
+  EXPECT_EQ(WidgetOf(*designer->CurrentControl()).Container(), nullptr);
+
+  designer->SetCtrl(frame);
+  designer->SetControlTypeToAdd(ctLabel);
+  Press(60, 60);
+  surface->Then([&] { surface->Remove(frame->Name()); });
+  FakeDesignSurface::At(WidgetOf(*frame)).listener->OnMouseDown(MouseButton::Left, 0, 10, 10);
+  EXPECT_FALSE(designer->IsIntoFrame());
+}
+
+// A numbered error of the host's handler.
+TEST_F(PlacingTest, ComesToItsEndWhereAHandlerFails) {
+  for (const char* failing : {"StateChanged", "CurrObjectChanged"}) {
+    onEvent = [&](std::string_view event) {
+      if (event == failing) Raise(ErrorNumber::InvalidCall);
+    };
+    surface->pointer = PointerShape::Cross;
+    const Ref<IControl> drawn = Draw(ctLabel, 20, 30, 120, 60);
+    EXPECT_EQ(surface->pointer, PointerShape::Arrow) << failing;
+    EXPECT_EQ(designer->ControlTypeToAdd(), ctDefault) << failing;
+    EXPECT_FALSE(Module().designDragging) << failing;
+    EXPECT_EQ(surface->lockDepth, 0) << failing;
+    onEvent = nullptr;
+    const Ref<IControl> frame = Draw(ctFrame, 100, 100, 300, 250);
+    designer->Copy();
+    onEvent = [&](std::string_view event) {
+      if (event == failing) Raise(ErrorNumber::InvalidCall);
+    };
+    designer->Paste();
+    onEvent = nullptr;
+    EXPECT_FALSE(designer->IsIntoFrame()) << failing;
+    EXPECT_EQ(surface->lockDepth, 0) << failing;
+    EXPECT_EQ(surface->screenPointers.back(), 0) << failing;
+    designer->SetCtrl(frame);
+    const Ref<IControl> next = Draw(ctLabel, 10, 10, 60, 40);  // would be pasted in the frame otherwise
+    EXPECT_EQ(BoxOf(*next), "10,10,50,30") << failing;
+    EXPECT_EQ(WidgetOf(*next).Container(), nullptr) << failing;
+  }
+}
+
 TEST_F(PlacingTest, NumbersObjectsPastTheWidgetsThatAreThere) {
   surface->Add(u"VB.Label", u"Object_1", nullptr);
   EXPECT_EQ(Draw(ctLabel, 10, 10, 60, 40)->Name(), u"object_2");

@@ -121,6 +121,8 @@ TEST_F(PopupMenuTest, FollowsTheHostsSwitches) {
   const Ref<IControl> label = DrawLabel();
   designer->SetMenuState(u"MNUPASTE", false);
   EXPECT_EQ(Take(), (Lines{"MenuStateChanged mnuPaste False"}));
+  designer->SetMenuState(u"mnuPopup", false);
+  EXPECT_EQ(Take(), (Lines{"MenuStateChanged mnuPopUp False"}));
   designer->SetMenuState(u"mnuNothing", false);
   EXPECT_EQ(Take(), Lines{});
   RightClick(*label);

@@ -203,6 +203,34 @@ TEST_F(ProjectTest, CarriesFiveThousandControls) {
   RecordProperty("save_ms", ms(used, Clock::now()));
 }
 
+// The INI engine hands out no more than the first 8,191 characters of a section's names.
+TEST_F(ProjectTest, LosesNothingOfThousandsOfControlsButTheStackingOfTheLater) {
+  const std::string first = Many(5000, false);
+  ASSERT_TRUE(Read(first));
+  designer->SetCtrl(Ref<IControl>(&Find(u"object_5000")));
+  designer->SetBackground();
+  std::string saved = Saved();
+  for (int again = 0; again < 2; ++again) {
+    FakeDesignSurface own;
+    const Ref<FormDesigner> each = FormDesigner::Create(own);
+    ASSERT_TRUE(each->ProjectRead(folder.Put("in.cwf", saved)));
+    EXPECT_EQ(NamesOf(ControlsOf(each->Controls())), Names());
+    for (const Ref<IControl>& control : ControlsOf(each->Controls())) {
+      IControl& before = Find(control->UserName());
+      EXPECT_EQ(control->Name(), before.Name());
+      if (control->TypeName() == u"CForm") continue;
+      EXPECT_EQ(BoxOf(*control), BoxOf(before));
+      EXPECT_EQ(WidgetOf(*control).DisplayText(), WidgetOf(before).DisplayText());
+    }
+    const std::string before = saved.substr(0, saved.find("[ZORDER]"));
+    ASSERT_TRUE(each->ProjectSave(folder.Name("again.cwf")));
+    saved = folder.Get("again.cwf");
+    EXPECT_EQ(saved.substr(0, saved.find("[ZORDER]")), before);
+    EXPECT_GT(each->ZList().size(), 700U);
+    each->DetachSurface();
+  }
+}
+
 TEST_F(ProjectTest, CarriesThousandsOfNestedFrames) {
   ASSERT_TRUE(Read(Many(2000, true)));
   EXPECT_EQ(designer->Controls().Count(), 2001);

@@ -36,6 +36,31 @@ TEST_F(SurfaceSizeTest, IsGuardedAgainstAHostThatResizesInAnswer) {
   EXPECT_FALSE(designer->IsTracking());
 }
 
+TEST_F(SurfaceSizeTest, TellsWhatComesAfterAHandlerThatFails) {
+  for (const char* failing : {"PropertyChanged", "Resize"}) {
+    onEvent = [&](std::string_view event) {
+      if (event == failing) Raise(ErrorNumber::InvalidCall);
+    };
+    surface->Resize(surface->Width() + 100, 350);
+    const Lines heard = Take();
+    EXPECT_EQ(heard[heard.size() - 2], "Resize") << failing;
+    EXPECT_EQ(heard.back(), failing[0] == 'P' ? "NeedResize 7500 5250" : "NeedResize 9000 5250");
+    EXPECT_FALSE(designer->IsTracking()) << failing;
+  }
+}
+
+TEST_F(SurfaceSizeTest, TellsTheOuterSizeAtTheEndOfAReading) {
+  surface->frame = {10, 30};
+  ASSERT_TRUE(designer->ProjectRead(
+      folder.Put("a.cwf", "[FORM]\r\nScaleMode=1\r\nWidth=9060\r\nHeight=6000\r\nControlsNumber=0\r\n")));
+  EXPECT_EQ(surface->Width(), 9060 - 150);
+  EXPECT_EQ(Take().front(), "NeedResize 9060 6000");
+  ASSERT_TRUE(designer->ProjectRead(
+      folder.Put("b.cwf", "[FORM]\r\nScaleMode=3\r\nWidth=700\r\nHeight=500\r\nControlsNumber=0\r\n")));
+  EXPECT_EQ(surface->Height(), 470);
+  EXPECT_EQ(Take().front(), "NeedResize 10500 7500");
+}
+
 TEST_F(SurfaceSizeTest, CanBeCalledByAHost) {
   CallMethod(*designer, u"UserControl_Resize");
   EXPECT_EQ(Take(),

@@ -28,9 +28,7 @@ class DesignSurfaceTest : public ::testing::Test {
     surface.SetListener(&listener);
   }
   void Show() {
-    window.show();
-    window.activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    ASSERT_TRUE(ShowActive(window));
     listener.Take();
   }
   Ref<Widget> Add(std::u16string_view identifier, std::u16string_view name, Widget* container = nullptr) {

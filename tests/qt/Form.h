@@ -4,6 +4,7 @@
 
 #include <QTest>
 #include <QWidget>
+#include <QWindow>
 #include <functional>
 #include <ostream>
 #include <string>
@@ -87,6 +88,15 @@ struct Listener final : WidgetListener {
   }
 };
 
+/// Shows a window and waits until it has its place and the focus. Some systems give that of their own accord,
+/// and later than they show the window.
+[[nodiscard]] inline bool ShowActive(QWidget& window) {
+  window.show();
+  window.activateWindow();
+  return QTest::qWaitForWindowActive(&window) &&
+         QTest::qWaitFor([&] { return window.windowHandle()->isActive(); });
+}
+
 /// A window with a canvas in it, and a surface on the canvas.
 struct Form {
   Form() {
@@ -107,11 +117,7 @@ struct Form {
     widget->Move(10, static_cast<float>(10 + 40 * row), 120, 30);
     return widget;
   }
-  void Show() {
-    window.show();
-    window.activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
-  }
+  void Show() { ASSERT_TRUE(ShowActive(window)); }
 
   QWidget window;
   QWidget* canvas = new QWidget(&window);

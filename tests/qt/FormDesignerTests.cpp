@@ -1,9 +1,13 @@
 #include "qt/FormDesigner.h"
 
+#include <QDialog>
+#include <QElapsedTimer>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMenu>
 #include <QTemporaryDir>
 #include <QTimer>
+#include <fstream>
 
 #include "Form.h"
 #include "qt/QtDesignSurface.h"
@@ -21,9 +25,7 @@ class DesignerTest : public ::testing::Test {
   DesignerTest() {
     window->resize(400, 300);
     designer->setGeometry(0, 0, 400, 300);
-    window->show();
-    window->activateWindow();
-    EXPECT_TRUE(QTest::qWaitForWindowActive(window));
+    EXPECT_TRUE(ShowActive(*window));
   }
   ~DesignerTest() override { delete window.data(); }
 
@@ -115,10 +117,6 @@ TEST_F(DesignerTest, TellsItsHostByTheSignals) {
                    [&](const QString& before, const QString& now) { note(before + " is " + now); });
   QObject::connect(designer, &FormDesigner::EnableKeyDeleteChanged,
                    [&](bool on) { note(on ? "key" : "no key"); });
-  QObject::connect(designer, &FormDesigner::Resize, [&] { note("resize"); });
-  QObject::connect(designer, &FormDesigner::NeedResize, [&](float width, float height) {
-    note(QStringLiteral("need %1 %2").arg(width).arg(height));
-  });
   const Ref<IControl> label = Draw(ControlTypeEnum::ctLabel, {40, 50, 100, 30});
   EXPECT_EQ(told.join(u'|').toStdString(), "property 8 -2147483630|current object_1|state Default");
   told.clear();
@@ -136,6 +134,10 @@ TEST_F(DesignerTest, TellsItsHostByTheSignals) {
             "object_1 is lblName|mnuForeground off|mnuBackground off|lock|mnuForeground on|mnuBackground "
             "on|unlock|no key|key|removed object_1|current Form|refresh");
   told.clear();
+  QObject::connect(designer, &FormDesigner::Resize, [&] { note("resize"); });
+  QObject::connect(designer, &FormDesigner::NeedResize, [&](float width, float height) {
+    note(QStringLiteral("need %1 %2").arg(width).arg(height));
+  });
   designer->resize(410, 300);
   const QSize outer = QSize(410, 300) + window->frameGeometry().size() - window->size();
   EXPECT_EQ(told.join(u'|'), QStringLiteral("property 3 %1|property 4 %2|resize|need %3 %4")
@@ -214,6 +216,7 @@ TEST_F(DesignerTest, TakesTheLastMoveOfAQuickStroke) {
            To(from + QPoint(16, 8))();
            QTest::mouseRelease(window->windowHandle(), Qt::LeftButton, {}, last);
            To(from + QPoint(60, 60))();
+           last = from + QPoint(16, 8);
          }});
   EXPECT_EQ(PlaceOf(*box), "56,58 100x30");
 }
@@ -250,6 +253,18 @@ TEST_F(DesignerTest, ParksTheFocusWhereNothingIsTyped) {
   EXPECT_EQ(QApplication::focusWidget()->objectName(), QStringLiteral("picInvisible"));
   QTest::keyClick(window->windowHandle(), Qt::Key_X);
   EXPECT_EQ(box->DisplayText(), Text(u"Text1"));
+}
+
+TEST_F(DesignerTest, SelectsAFrameThatIsGivenTheFocus) {
+  for (const bool hasContents : {false, true}) {
+    const Ref<IControl> frame = Draw(ControlTypeEnum::ctFrame, {40, 50, 200, 100});
+    if (hasContents) Draw(ControlTypeEnum::ctTextBox, {60, 80, 100, 30});
+    Object().SetCtrl(Ref<IControl>(AsControl(Object().Controls().Item(Variant(1)))));
+    dynamic_cast<Widget&>(*frame->BoundObject()).SetFocus();
+    EXPECT_EQ(Object().CurrentControl(), frame) << hasContents;
+    EXPECT_EQ(QApplication::focusWidget()->objectName(), QStringLiteral("picInvisible"));
+    Object().Delete();
+  }
 }
 
 TEST_F(DesignerTest, TheDeleteKeyDeletesWhereItMay) {
@@ -324,6 +339,40 @@ TEST_F(DesignerTest, TheRightButtonOpensTheMenuOfWhatIsUnderIt) {
   EXPECT_EQ(Object().CurrentControl(), box);
 }
 
+TEST_F(DesignerTest, MeasuresItselfAnewWhenItsWindowGetsAFrameLate) {
+  QWidget late(nullptr, Qt::FramelessWindowHint);
+  late.resize(500, 400);
+  auto* const inside = new FormDesigner(&late);
+  cardwright::FormDesigner& form = *inside->Object();
+  form.SetOuterSize(400, 300);
+  std::vector<QSizeF> needed;
+  QObject::connect(inside, &FormDesigner::NeedResize,
+                   [&](float width, float height) { needed.emplace_back(width / 15, height / 15); });
+  const auto measured = [&] { return QSizeF(form.OuterWidth(), form.OuterHeight()); };
+  late.show();
+  ASSERT_TRUE(QTest::qWaitForWindowExposed(&late));
+  form.SetOuterSize(420, 310);  // a project that is read as soon as the window is seen
+  EXPECT_EQ(inside->size(), QSize(420, 310));
+  late.windowHandle()->setFlag(Qt::FramelessWindowHint, false);
+  late.windowHandle()->resize(510, 400);  // the toolkit asks for the frame with the window's next change
+  ASSERT_TRUE(QTest::qWaitFor([&] { return inside->width() < 420; }));
+  EXPECT_EQ(measured(), QSizeF(420, 310));
+  EXPECT_EQ(needed.back(), measured());
+
+  // A size that the host gave: the frame comes on top of it, and the form is as large as both.
+  late.hide();
+  late.windowHandle()->setFlag(Qt::FramelessWindowHint);
+  inside->resize(400, 300);
+  late.show();
+  ASSERT_TRUE(QTest::qWaitForWindowExposed(&late));
+  late.windowHandle()->setFlag(Qt::FramelessWindowHint, false);
+  late.windowHandle()->resize(500, 400);
+  ASSERT_TRUE(QTest::qWaitFor([&] { return needed.back().width() > 400; }));
+  EXPECT_EQ(needed.back(), measured());
+  form.SetOuterSize(400, 300);
+  EXPECT_LT(inside->width(), 400) << "400 is not what it measures";
+}
+
 // What may happen in the middle of a drag.
 
 TEST_F(DesignerTest, ADragEndsWithTheControlThatItMoves) {
@@ -373,14 +422,43 @@ TEST_F(DesignerTest, ADragEndsWhereAnotherWindowComesInBetween) {
   const QPoint from = At(Handle(0), {3, 3});
   QWidget other;
   bool isThere = true;
-  Stroke(from, {To(from + QPoint(16, 8)),
-                [&] {
-                  other.show();
-                  other.activateWindow();
-                  EXPECT_TRUE(QTest::qWaitForWindowActive(&other));
-                },
+  Stroke(from, {To(from + QPoint(16, 8)), [&] { EXPECT_TRUE(ShowActive(other)); },
                 [&] { isThere = Module().designDragging; }});
   EXPECT_FALSE(isThere);
+}
+
+TEST_F(DesignerTest, ADragEndsWhereADialogComesInBetween) {
+  const Ref<IControl> box = Draw(ControlTypeEnum::ctTextBox, {40, 50, 100, 30});
+  const QPoint from = At(Handle(0), {3, 3});
+  QDialog dialog(window);
+  bool isThere = true;
+  Stroke(from, {To(from + QPoint(16, 8)), [&] { dialog.open(); }, [&] { isThere = Module().designDragging; },
+                [&] { dialog.close(); }, To(from + QPoint(90, 90))});
+  EXPECT_FALSE(isThere);
+  EXPECT_EQ(PlaceOf(*box), "56,58 100x30");
+  EXPECT_EQ(Outlines(), 0);
+}
+
+TEST_F(DesignerTest, ADragGoesOnWhereTheFocusGoesElsewhereInItsWindow) {
+  auto* const field = new QLineEdit(window);
+  field->setGeometry(0, 0, 20, 20);
+  field->show();
+  const Ref<IControl> box = Draw(ControlTypeEnum::ctTextBox, {40, 50, 100, 30});
+  const QPoint from = At(Handle(0), {3, 3});
+  Stroke(from, {To(from + QPoint(16, 8)), [&] { field->setFocus(); }, To(from + QPoint(32, 8))});
+  EXPECT_EQ(PlaceOf(*box), "72,58 100x30");
+}
+
+// The button is known to be up whoever gets the release.
+TEST_F(DesignerTest, ADragEndsWhereAMenuTakesTheRelease) {
+  const Ref<IControl> box = Draw(ControlTypeEnum::ctTextBox, {40, 50, 100, 30});
+  const QPoint from = At(Handle(0), {3, 3});
+  QMenu menu;
+  menu.addAction(QStringLiteral("entry"));
+  Stroke(from, {To(from + QPoint(16, 8)), [&] { menu.popup(window->mapToGlobal(QPoint(0, 0))); }});
+  EXPECT_FALSE(Module().designDragging);
+  EXPECT_EQ(PlaceOf(*box), "56,58 100x30");
+  EXPECT_EQ(Outlines(), 0);
 }
 
 TEST_F(DesignerTest, ADragEndsWithTheWindow) {
@@ -402,11 +480,13 @@ TEST_F(DesignerTest, ADrawingEndsWithTheWindow) {
 
 TEST_F(DesignerTest, AHostMayEndTheDesignerInAnySignal) {
   QObject::connect(designer, &FormDesigner::StateChanged, [&] { window->deleteLater(); });
+  const Ref<Collection> controls = object->ControlCollection();
   Object().SetControlTypeToAdd(ControlTypeEnum::ctTextBox);
   Drag({20, 20}, {80, 60});
   QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   EXPECT_EQ(designer, nullptr);
-  EXPECT_EQ(object->Controls().Count(), 2);
+  EXPECT_EQ(controls->Count(), 2);
+  EXPECT_EQ(object->Controls().Count(), 0);
 }
 
 TEST_F(DesignerTest, AGrownSurfaceInTheMiddleOfADragIsNoHarm) {
@@ -438,6 +518,19 @@ TEST_F(DesignerTest, ASurfaceWithoutASizeTakesWhatIsDrawnAndPasted) {
   EXPECT_TRUE(Handle(0).isVisible());
 }
 
+// The toolkit's layout took minutes, with text in a box that has no room beside its scroll bar.
+TEST_F(DesignerTest, AMultilineTextBoxIsAsNarrowAsItIsDrawn) {
+  const Ref<IControl> box = Draw(ControlTypeEnum::ctTextBoxMultiline, {40, 50, 10, 40});
+  QElapsedTimer time;
+  time.start();
+  for (float width = 7; width < 20; ++width) {
+    box->SetWidth(width);
+    for (int turn = 0; turn < 7; ++turn) QCoreApplication::processEvents();
+  }
+  EXPECT_LT(time.elapsed(), 2000);
+  EXPECT_EQ(PlaceOf(*box), "40,50 19x40");
+}
+
 TEST_F(DesignerTest, ViewersOfTablesStandThereForTheirOwnSake) {
   const Ref<IControl> before = Object().CurrentControl();
   EXPECT_EQ(Draw(ControlTypeEnum::ctDbTableViewer, {40, 50, 100, 80}), before);
@@ -446,6 +539,36 @@ TEST_F(DesignerTest, ViewersOfTablesStandThereForTheirOwnSake) {
   ASSERT_NE(viewer, nullptr);
   EXPECT_EQ(viewer->TypeName(), Text(u"DbTableViewer"));
   EXPECT_EQ(viewer->Height(), 80);
+}
+
+TEST_F(DesignerTest, AThousandFramesWithinEachOtherAreShownSavedAndDeleted) {
+  constexpr int kFrames = 1000;
+  const QTemporaryDir folder;
+  const QString path = folder.filePath(QStringLiteral("nested.cwf"));
+  {
+    std::ofstream file(path.toStdString(), std::ios::binary);
+    file << "[FORM]\r\nScaleMode=3\r\nWidth=400\r\nHeight=300\r\nControlsNumber=" << kFrames << "\r\n";
+    for (int i = 1; i <= kFrames; ++i) {
+      file << "[CONTROLS_" << i << "]\r\nType=Frame\r\nName=object_" << i << "\r\nUserName=frame" << i
+           << "\r\nLeft=1\r\nTop=1\r\nWidth=300\r\nHeight=200\r\n";
+      if (i > 1) file << "Container=object_" << i - 1 << "\r\n";
+    }
+  }
+  ASSERT_TRUE(designer->ProjectRead(path));
+  window->grab();
+  EXPECT_TRUE(designer->ProjectSave(path));
+  const auto frames = ControlsOf(Object().Controls());
+  ASSERT_EQ(frames.size(), kFrames + 1U);
+  Object().SetCtrl(frames.back());
+  Object().Copy();
+  Object().Paste();
+  EXPECT_EQ(Object().Controls().Count(), kFrames + 2);
+  const QPoint from = At(Handle(1), {3, 3});
+  Drag(from, from - QPoint(8, 8));
+  Object().SetCtrl(frames[1]);
+  Object().Delete();
+  EXPECT_EQ(Object().GetSurface()->Find(u"object_2"), nullptr);
+  EXPECT_EQ(Object().CurrentControl()->TypeName(), Text(u"CForm"));
 }
 
 TEST_F(DesignerTest, FiveThousandControlsAreSelectedAndMoved) {

@@ -15,18 +15,24 @@ QRect CellsIn(const QRect& area, int step) {
   return {from, to};
 }
 
+/// Points are set in colour 0, black. It was chosen for light surfaces; on a dark one nobody would see it.
+QColor InkOn(const QColor& ground) {
+  constexpr int kDark = 80;
+  return qGray(ground.rgb()) < kDark ? QColor(0xb0, 0xb0, 0xb0) : QColor(Qt::black);
+}
+
 /// One row of points, which all rows show: thousands of single points would take their time.
-QPixmap RowOf(int columns, int step, qreal ratio) {
+QPixmap RowOf(int columns, int step, qreal ratio, const QColor& ink) {
   QPixmap row(QSize((columns - 1) * step + 1, 1) * ratio);
   row.setDevicePixelRatio(ratio);
   row.fill(Qt::transparent);
   QPainter painter(&row);
-  for (int column = 0; column < columns; ++column) painter.fillRect(column * step, 0, 1, 1, Qt::black);
+  for (int column = 0; column < columns; ++column) painter.fillRect(column * step, 0, 1, 1, ink);
   return row;
 }
 
-void PaintPoints(QPainter& painter, const QRect& cells, int step) {
-  const QPixmap row = RowOf(cells.width(), step, painter.device()->devicePixelRatioF());
+void PaintPoints(QPainter& painter, const QRect& cells, int step, const QColor& ink) {
+  const QPixmap row = RowOf(cells.width(), step, painter.device()->devicePixelRatioF(), ink);
   for (int y = cells.top(); y <= cells.bottom(); ++y) painter.drawPixmap(cells.left() * step, y * step, row);
 }
 
@@ -34,9 +40,10 @@ void PaintPoints(QPainter& painter, const QRect& cells, int step) {
 
 void GridLayer::Add(int step, const QRect& cells) { m_Cells[step] += cells; }
 
-void GridLayer::Paint(QPainter& painter, const QRect& area) const {
+void GridLayer::Paint(QPainter& painter, const QRect& area, const QColor& ground) const {
+  const QColor ink = InkOn(ground);
   for (const auto& [step, cells] : m_Cells)
-    for (const QRect& block : cells.intersected(CellsIn(area, step))) PaintPoints(painter, block, step);
+    for (const QRect& block : cells.intersected(CellsIn(area, step))) PaintPoints(painter, block, step, ink);
 }
 
 }  // namespace cardwright::qt

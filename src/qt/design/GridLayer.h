@@ -12,8 +12,8 @@ class GridLayer {
   /// Sets the points of the columns and rows in `cells`, `step` pixels apart.
   void Add(int step, const QRect& cells);
   void Clear() { m_Cells.clear(); }
-  /// Paints what lies inside `area`.
-  void Paint(QPainter& painter, const QRect& area) const;
+  /// Paints what lies inside `area`, on a canvas of the colour `ground`.
+  void Paint(QPainter& painter, const QRect& area, const QColor& ground) const;
 
  private:
   std::map<int, QRegion> m_Cells;  // by step; a cell is a column and a row
