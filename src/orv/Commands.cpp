@@ -152,6 +152,25 @@ std::vector<std::int64_t> EmbeddedHost::Session::FeatureIds(std::u16string_view 
   return {};
 }
 
+void EmbeddedHost::Session::ReadFeatures(
+    std::u16string_view name, std::span<const Text> attributes,
+    const std::function<void(std::int64_t id, std::vector<Text> values)>& onFeature) {
+  Theme* const theme = FindTheme(name);
+  if (!theme) return;
+  std::vector<const Attribute*> columns;
+  for (const Text& attribute : attributes) columns.push_back(theme->Find(attribute));
+  const orv::ErrorTrap trap;
+  OGRLayer& layer = theme->Layer();
+  layer.ResetReading();
+  while (const OGRFeatureUniquePtr feature{layer.GetNextFeature()}) {
+    std::vector<Text> values;
+    for (const Attribute* column : columns)
+      values.push_back(column ? orv::ReadField(*feature, column->field, column->kind) : Text());
+    onFeature(feature->GetFID(), std::move(values));
+  }
+  layer.ResetReading();
+}
+
 Text EmbeddedHost::Session::SelectNone(CommandReader& parts) {
   Theme* const theme = ReadAnsweringTheme(parts);
   parts.End();

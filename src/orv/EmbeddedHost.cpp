@@ -40,6 +40,14 @@ std::vector<std::int64_t> EmbeddedHost::FeatureIds(std::u16string_view theme) {
   return m_Session->FeatureIds(theme);
 }
 
+void EmbeddedHost::ReadFeatures(
+    std::u16string_view theme, std::span<const Text> attributes,
+    const std::function<void(std::int64_t id, std::vector<Text> values)>& onFeature) {
+  const Ref<EmbeddedHost> self = Hold();
+  Tell(m_Session->FinishEdits());
+  m_Session->ReadFeatures(theme, attributes, onFeature);
+}
+
 Text EmbeddedHost::LastError() const { return m_Session->lastError; }
 
 bool EmbeddedHost::IsReadOnly() const noexcept { return m_Session->IsReadOnly(); }

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <span>
 #include <string_view>
 #include <vector>
 
@@ -38,6 +39,11 @@ class EmbeddedHost final : public HostConnection {
   /// Ids of all features of a theme in the store's order, for a program that shows them: the command language
   /// has no such list. Empty where there is no such theme or it cannot be read.
   std::vector<std::int64_t> FeatureIds(std::u16string_view theme);
+  /// Reads the features of a theme in the store's order, in one pass: a table of all of them would send three
+  /// commands and more for each. `onFeature` gets the id and what THEME_GET_ATTRIBUTE would answer for each
+  /// of `attributes`, "" where the theme has none of that name. Ends early, in silence, where reading fails.
+  void ReadFeatures(std::u16string_view theme, std::span<const Text> attributes,
+                    const std::function<void(std::int64_t id, std::vector<Text> values)>& onFeature);
 
   /// Why the latest command was refused, or "" if it was not.
   Text LastError() const;

@@ -32,6 +32,8 @@ class EmbeddedHost::Session {
   /// Stores the values that wait; the reason where they could not be stored.
   Text FinishEdits();
   std::vector<std::int64_t> FeatureIds(std::u16string_view theme);
+  void ReadFeatures(std::u16string_view theme, std::span<const Text> attributes,
+                    const std::function<void(std::int64_t id, std::vector<Text> values)>& onFeature);
 
   bool IsReadOnly() const noexcept { return m_Store.IsReadOnly(); }
 

@@ -114,6 +114,21 @@ TEST_F(EmbeddedHostQuestions, AreNotTellingAnybodyWhenTheyFail) {
   EXPECT_EQ(m_Host->LastError(), u"");
 }
 
+// A table of all features shows the same whether it asks for one or reads them all.
+TEST_F(EmbeddedHostQuestions, AreAnsweredAlikeForAllFeaturesAtOnce) {
+  const std::vector<Text> attributes = {u"NAME", u"DEPTH", u"none", u"SEEN", u"OPEN"};
+  std::vector<std::int64_t> ids;
+  m_Host->ReadFeatures(u"wells", attributes, [&](std::int64_t id, const std::vector<Text>& values) {
+    ids.push_back(id);
+    Select(*m_Host, "wells", std::to_string(id));
+    ASSERT_EQ(values.size(), attributes.size());
+    for (std::size_t at = 0; at < values.size(); ++at)
+      EXPECT_EQ(values[at].ToUtf8(), Get(*m_Host, "wells", attributes[at].ToUtf8())) << id << ' ' << at;
+  });
+  EXPECT_EQ(ids, m_Host->FeatureIds(u"wells"));
+  m_Host->ReadFeatures(u"nowhere", attributes, [](std::int64_t, const std::vector<Text>&) { FAIL(); });
+}
+
 TEST_F(EmbeddedHostQuestions, ReadViewsAndTablesThatNobodyRegistered) {
   RunSql(m_Path, "CREATE VIEW deep AS SELECT fid AS OGC_FID, NAME FROM wells WHERE DEPTH > 50");
   RunSql(m_Path, "CREATE TABLE loose(word TEXT(4), amount REAL)");
