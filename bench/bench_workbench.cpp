@@ -7,9 +7,9 @@
 #include "FormFiles.h"
 #include "Measure.h"
 #include "qt/QtText.h"
-#include "workbench/ControlList.h"
-#include "workbench/PropertyGrid.h"
 #include "workbench/Workbench.h"
+#include "workbench/grid/PropertyGrid.h"
+#include "workbench/panes/ControlList.h"
 
 namespace {
 

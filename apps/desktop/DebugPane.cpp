@@ -1,5 +1,7 @@
 #include "desktop/DebugPane.h"
 
+#include <QScrollBar>
+
 #include "qt/QtText.h"
 
 namespace cardwright::desktop {
@@ -20,11 +22,15 @@ const MemberTable& DebugPane::Members() const {
   return table;
 }
 
+// What a person has selected or scrolled to stays.
 void DebugPane::SetSelText(const Text& text) {
   if (!m_Pane) return;
-  m_Pane->moveCursor(QTextCursor::End);
-  m_Pane->insertPlainText(qt::ToQString(text).remove(u'\r'));
-  m_Pane->ensureCursorVisible();
+  QScrollBar& bar = *m_Pane->verticalScrollBar();
+  const bool follows = bar.value() == bar.maximum();
+  QTextCursor end(m_Pane->document());
+  end.movePosition(QTextCursor::End);
+  end.insertText(qt::ToQString(text).remove(u'\r'));
+  if (follows) bar.setValue(bar.maximum());
 }
 
 }  // namespace cardwright::desktop

@@ -65,15 +65,19 @@ QString FormWindow::Failure() {
       .arg(qt::ToQString(form->FeatureID()), qt::ToQString(form->GetThemeName()));
 }
 
+// A window that is being closed is not closed by a second request.
 void FormWindow::End() {
   m_Ended = true;
-  close();
+  if (!m_IsClosing) close();
 }
 
 void FormWindow::closeEvent(QCloseEvent* event) {
-  if (m_Ended) return event->accept();
-  event->ignore();
-  m_Form->Object()->Cancel();
+  if (!m_Ended) {
+    m_IsClosing = true;
+    m_Form->Object()->Cancel();
+    m_IsClosing = false;
+  }
+  event->setAccepted(m_Ended);
 }
 
 }  // namespace cardwright::desktop

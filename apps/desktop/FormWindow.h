@@ -39,6 +39,7 @@ class FormWindow final : public QWidget {
   Ref<DebugPane> m_DebugPane;
   bool m_Accepted = false;
   bool m_Ended = false;
+  bool m_IsClosing = false;
 };
 
 }  // namespace cardwright::desktop

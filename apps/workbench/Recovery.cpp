@@ -42,8 +42,12 @@ bool IsKept(const QString& file) {
 }  // namespace
 
 QString Recovery::FileFor(const QString& project) {
-  if (project.isEmpty())
-    return DataFolder() + QStringLiteral("/new-%1.cwf").arg(QCoreApplication::applicationPid());
+  if (project.isEmpty()) {
+    // Numbers of programs come again, after a restart of the machine soon, and work may have been left till
+    // then.
+    static const qint64 began = QDateTime::currentMSecsSinceEpoch();
+    return DataFolder() + QStringLiteral("/new-%1-%2.cwf").arg(QCoreApplication::applicationPid()).arg(began);
+  }
   const QFileInfo info(project);
   const QString beside =
       info.absolutePath() + QStringLiteral("/.") + info.fileName() + QStringLiteral(".unsaved");

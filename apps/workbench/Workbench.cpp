@@ -8,22 +8,25 @@
 #include <QLabel>
 #include <QMenuBar>
 #include <QMimeData>
+#include <QPlainTextEdit>
 #include <QScreen>
 #include <QStatusBar>
+#include <QToolBar>
 
 #include "qt/QtText.h"
 #include "qt/WidgetCore.h"
 #include "runtime/HostLists.h"
-#include "workbench/ControlList.h"
-#include "workbench/FeaturePane.h"
-#include "workbench/FocusKeeper.h"
-#include "workbench/Icons.h"
-#include "workbench/Kinds.h"
-#include "workbench/OutputPane.h"
 #include "workbench/Preferences.h"
-#include "workbench/PropertyGrid.h"
-#include "workbench/ScriptPane.h"
-#include "workbench/ToolBox.h"
+#include "workbench/grid/PropertyGrid.h"
+#include "workbench/panes/ControlList.h"
+#include "workbench/panes/FeaturePane.h"
+#include "workbench/panes/FocusKeeper.h"
+#include "workbench/panes/Icons.h"
+#include "workbench/panes/OutputPane.h"
+#include "workbench/panes/PaneFrame.h"
+#include "workbench/panes/ScriptPane.h"
+#include "workbench/panes/ToolBox.h"
+#include "workbench/project/Kinds.h"
 
 namespace cardwright::workbench {
 namespace {
@@ -45,7 +48,9 @@ Workbench::Workbench(desktop::DataSource& source)
   setWindowIcon(IconOf(Sign::Form));
   setAcceptDrops(true);
   setDockNestingEnabled(true);
-  setCentralWidget(m_Stage);
+  auto* stage = new PaneFrame(*m_Stage, m_Stage->Title(), this);
+  setCentralWidget(stage);
+  m_Work.push_back(stage);
   m_ListSoon.setSingleShot(true);
   m_KeepSoon.setSingleShot(true);
   m_KeepSoon.setInterval(kKeepAfter);
@@ -60,6 +65,7 @@ Workbench::Workbench(desktop::DataSource& source)
   m_Document->Designer().SetGridAlignment(preferences.value(QStringLiteral("SnapToGrid"), true).toBool());
   constexpr QSize kFrame(16, 48);  // what the desktop adds
   resize(QSize(1280, 860).boundedTo(screen()->availableSize() - kFrame));
+  ProposeLayout();
   RestoreLayout();
   statusBar()->setSizeGripEnabled(false);
   ShowSelection(m_Document->Designer().CurrentControl());
@@ -81,7 +87,7 @@ QDockWidget* Workbench::AddPane(const char* name, const QString& title, QWidget*
                                 Qt::DockWidgetArea area) {
   auto* dock = new QDockWidget(title, this);
   dock->setObjectName(QLatin1String(name));
-  dock->setWidget(pane);
+  dock->setWidget(new PaneFrame(*pane, *pane, dock));
   addDockWidget(area, dock);
   m_Panes[QLatin1String(name)] = dock;
   return dock;
@@ -96,6 +102,8 @@ void Workbench::MakePanes() {
   m_Script = new ScriptPane(this);
   m_Features = new FeaturePane(this);
   m_Output = new OutputPane(this);
+  m_Grid->setFocusProxy(&m_Grid->View());
+  m_Script->setFocusProxy(m_Script->findChild<QPlainTextEdit*>());
   QDockWidget* tools = AddPane("paneTools", tr("Tool Box"), m_Tools, Qt::LeftDockWidgetArea);
   QDockWidget* list = AddPane("paneControls", tr("Controls"), m_List, Qt::RightDockWidgetArea);
   QDockWidget* grid = AddPane("paneProperties", tr("Properties"), m_Grid, Qt::RightDockWidgetArea);
@@ -105,10 +113,17 @@ void Workbench::MakePanes() {
   tabifyDockWidget(script, features);
   tabifyDockWidget(features, output);
   script->raise();
-  resizeDocks({list, grid}, {220, 460}, Qt::Vertical);
-  resizeDocks({tools, grid}, {180, 330}, Qt::Horizontal);
-  resizeDocks({script}, {230}, Qt::Vertical);
   setTabPosition(Qt::BottomDockWidgetArea, QTabWidget::North);
+  for (QDockWidget* dock : {tools, list, grid, script, features}) m_Work.push_back(dock->widget());
+}
+
+// Most of the room for the form, on a small screen too.
+void Workbench::ProposeLayout() {
+  const auto pane = [this](const char* name) { return m_Panes[QLatin1String(name)]; };
+  const int right = qMin(330, width() * 3 / 10);
+  resizeDocks({pane("paneControls"), pane("paneProperties")}, {height() / 4, height() / 2}, Qt::Vertical);
+  resizeDocks({pane("paneTools"), pane("paneProperties")}, {qMin(180, width() / 6), right}, Qt::Horizontal);
+  resizeDocks({pane("paneScript")}, {qMin(230, height() * 3 / 10)}, Qt::Vertical);
 }
 
 void Workbench::RestoreLayout() {
@@ -154,6 +169,10 @@ void Workbench::ConnectDocument() {
     for (const char* name : {"mnuForeground", "mnuBackground"}) m_MenuStates.erase(QLatin1String(name));
     m_ListSoon.start(0);
   });
+  connect(m_Document, &Document::Begun, this, [this] {
+    m_List->Forget();
+    m_Script->Begin(m_Document->GetScript());
+  });
   connect(m_Document, &Document::Changed, this, [this] {
     m_ListSoon.start(0);
     m_Script->Show(m_Document->GetScript());
@@ -178,13 +197,16 @@ void Workbench::ConnectPanes() {
   });
   connect(m_List, &ControlList::Chosen, this, &Workbench::Select);
   connect(m_List, &QTreeWidget::itemActivated, this, [this] { m_Grid->EditRow(QStringLiteral("Text")); });
+  // The grid itself may show another control by the time that the reason is read.
+  connect(&m_Grid->Model(), &PropertyModel::Refused, this, &Workbench::Tell);
   connect(&m_Grid->Model(), &PropertyModel::Assigned, this, [this] {
+    m_Document->Designer().ShowHandles(true);  // which do not follow the height that a font gives a list
     UpdateGrid();
     m_Document->NoteSoon();
   });
   connect(m_Script, &ScriptPane::Edited, m_Document, &Document::SetScript);
   connect(m_Features, &FeaturePane::OpenWanted, this, &Workbench::ChooseData);
-  connect(m_Features, &FeaturePane::FillWanted, this, [this] { Fill(false); });
+  connect(m_Features, &FeaturePane::FillWanted, this, [this] { Fill(RunKind::Fill); });
 }
 
 void Workbench::ShowSelection(const Ref<IControl>& control) {
@@ -232,7 +254,6 @@ void Workbench::ShowState() {
 void Workbench::ShowTitle() {
   const QString& path = m_Document->Path();
   const QString name = path.isEmpty() ? tr("New form") : QFileInfo(path).fileName();
-  setWindowTitle(tr("%1[*]").arg(name));
   setWindowFilePath(path);
   setWindowTitle(tr("%1[*] – Cardwright").arg(name));
   setWindowModified(m_Document->IsModified());
@@ -273,6 +294,7 @@ QStringList Workbench::Attributes() const {
 QString Workbench::Folder() const { return QFileInfo(m_Document->Path()).absolutePath(); }
 
 void Workbench::closeEvent(QCloseEvent* event) {
+  if (m_Run && m_Run->isVisible()) LeaveRun();
   if (m_Run || !MayLeave()) return event->ignore();
   m_KeepSoon.stop();
   m_Recovery.Drop();
@@ -281,12 +303,12 @@ void Workbench::closeEvent(QCloseEvent* event) {
 }
 
 void Workbench::dragEnterEvent(QDragEnterEvent* event) {
-  if (event->mimeData()->hasUrls()) event->acceptProposedAction();
+  if (event->mimeData()->hasUrls() && !m_Run) event->acceptProposedAction();
 }
 
 void Workbench::dropEvent(QDropEvent* event) {
   const QList<QUrl> urls = event->mimeData()->urls();
-  if (urls.isEmpty() || !urls.first().isLocalFile()) return;
+  if (m_Run || urls.isEmpty() || !urls.first().isLocalFile()) return;
   const QString path = urls.first().toLocalFile();
   if (path.endsWith(QLatin1String(".cwf"), Qt::CaseInsensitive)) {
     if (MayLeave()) OpenProject(path);
@@ -298,6 +320,7 @@ void Workbench::dropEvent(QDropEvent* event) {
 void Workbench::changeEvent(QEvent* event) {
   QMainWindow::changeEvent(event);
   if (event->type() == QEvent::PaletteChange && m_Grid) m_Grid->Model().RefreshAll();
+  if (event->type() == QEvent::FontChange && m_Bar) m_Bar->setIconSize(IconSize(fontMetrics()));
 }
 
 }  // namespace cardwright::workbench

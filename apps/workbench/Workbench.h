@@ -5,14 +5,16 @@
 #include <QTimer>
 #include <functional>
 #include <map>
+#include <vector>
 
 #include "desktop/DataSource.h"
 #include "desktop/FormWindow.h"
-#include "workbench/Choices.h"
-#include "workbench/Document.h"
 #include "workbench/Recovery.h"
+#include "workbench/grid/Choices.h"
+#include "workbench/project/Document.h"
 
 class QActionGroup;
+class QToolBar;
 
 namespace cardwright::workbench {
 
@@ -72,7 +74,9 @@ class Workbench final : public QMainWindow, private Choices {
   void ConnectPanes();
   QAction* AddAction(QMenu& menu, const char* name, const QString& text, const QIcon& icon,
                      const QKeySequence& keys, const std::function<void()>& run);
+  QMenu& AddMenu(const QString& title);
   QDockWidget* AddPane(const char* name, const QString& title, QWidget* pane, Qt::DockWidgetArea area);
+  void ProposeLayout();
   void RestoreLayout();
   void SaveLayout() const;
   /// @}
@@ -86,7 +90,8 @@ class Workbench final : public QMainWindow, private Choices {
   bool SaveTo(const QString& path);
   /// Saves or gives up what is not saved, as the person says; false to stay.
   bool MayLeave();
-  void Remember(const QString& path);
+  /// Remembers the project just opened, and tells what is to be known about it.
+  void TellOpened();
   void FillRecentMenu(QMenu& menu);
   bool Offer(const LeftWork& work);
   void KeepWork();
@@ -108,12 +113,23 @@ class Workbench final : public QMainWindow, private Choices {
   void Select(IControl* control);
   void RunOnControl(void (cardwright::FormDesigner::*command)());
   void ChooseGridStep();
+  /// Where a dialog for data starts.
+  QString DataFolder() const;
   void ChooseData();
+  void ChooseDataFolder();
+  void ConnectData();
+  void FillRecentDataMenu(QMenu& menu);
   void FillThemeMenu(QMenu& menu);
   void BindTo(const QString& theme);
-  void Fill(bool debug);
-  bool StartRun(const QString& theme, const QString& id, bool debug);
+  enum class RunKind { Fill, FillNew, Debug };
+  void Fill(RunKind kind);
+  bool StartRun(const QString& theme, const QString& id, RunKind kind);
+  void ShowRun();
   void EndRun();
+  /// Closes the form that is being filled in, as the person says; the workbench follows when it is gone.
+  void LeaveRun();
+  /// While a form is being filled in, only what it tells can be used.
+  void AllowWork(bool allow);
   /// @}
 
   QStringList Themes() const override;
@@ -129,11 +145,14 @@ class Workbench final : public QMainWindow, private Choices {
   ScriptPane* m_Script = nullptr;
   FeaturePane* m_Features = nullptr;
   OutputPane* m_Output = nullptr;
+  QToolBar* m_Bar = nullptr;
   std::map<QString, QDockWidget*> m_Panes;
+  std::vector<QWidget*> m_Work;  // what can be used only while no form is being filled in
   QTimer m_ListSoon;
   QTimer m_KeepSoon;
   Recovery m_Recovery;
   QPointer<desktop::FormWindow> m_Run;
+  QPointer<QWidget> m_FocusBefore;       // the run
   std::map<QString, bool> m_MenuStates;  // as the designer has its own menu
   bool m_IsGridShown = true;
   int m_GridPixels = 8;

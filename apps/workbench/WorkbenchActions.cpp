@@ -8,25 +8,21 @@
 #include <QMessageBox>
 #include <QToolBar>
 
-#include "workbench/ControlList.h"
-#include "workbench/Icons.h"
-#include "workbench/Kinds.h"
-#include "workbench/PropertyGrid.h"
-#include "workbench/ToolBox.h"
 #include "workbench/Workbench.h"
+#include "workbench/grid/PropertyGrid.h"
+#include "workbench/panes/ControlList.h"
+#include "workbench/panes/FocusKeeper.h"
+#include "workbench/panes/Icons.h"
+#include "workbench/panes/PaneFrame.h"
+#include "workbench/panes/ToolBox.h"
+#include "workbench/project/Kinds.h"
 
 namespace cardwright::workbench {
 namespace {
 
-/// The pane itself or the first thing in it that takes keys.
-QWidget& FirstForKeys(QWidget& pane) {
-  QWidget* at = &pane;
-  do {
-    if ((at->focusPolicy() & Qt::TabFocus) && at->isEnabled() && at->isVisibleTo(&pane)) return *at;
-    at = at->nextInFocusChain();
-  } while (pane.isAncestorOf(at));
-  return pane;
-}
+/// In the order of their keys.
+constexpr const char* kPanes[] = {"paneTools",  "paneControls", "paneProperties",
+                                  "paneScript", "paneData",     "paneOutput"};
 
 }  // namespace
 
@@ -39,6 +35,12 @@ QAction* Workbench::AddAction(QMenu& menu, const char* name, const QString& text
   return action;
 }
 
+QMenu& Workbench::AddMenu(const QString& title) {
+  QMenu* menu = menuBar()->addMenu(title);
+  m_Work.push_back(menu);
+  return *menu;
+}
+
 void Workbench::MakeActions() {
   MakeFileActions();
   MakeEditActions();
@@ -49,7 +51,7 @@ void Workbench::MakeActions() {
 }
 
 void Workbench::MakeFileActions() {
-  QMenu& menu = *menuBar()->addMenu(tr("&File"));
+  QMenu& menu = AddMenu(tr("&File"));
   AddAction(menu, "mnuNew", tr("&New"), IconOf(Sign::New), QKeySequence::New, [this] { NewProject(); });
   AddAction(menu, "mnuOpen", tr("&Open…"), IconOf(Sign::Open), QKeySequence::Open,
             [this] { ChooseProject(); });
@@ -62,7 +64,9 @@ void Workbench::MakeFileActions() {
   AddAction(menu, "mnuSaveAs", tr("Save &As…"), {}, QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S),
             [this] { SaveAs(); });
   menu.addSeparator();
-  AddAction(menu, "mnuQuit", tr("&Quit"), {}, QKeySequence(Qt::CTRL | Qt::Key_Q), [this] { close(); });
+  // Also while the menu cannot be used.
+  addAction(
+      AddAction(menu, "mnuQuit", tr("&Quit"), {}, QKeySequence(Qt::CTRL | Qt::Key_Q), [this] { close(); }));
 }
 
 void Workbench::RunOnControl(void (cardwright::FormDesigner::*command)()) {
@@ -76,10 +80,13 @@ void Workbench::RunOnControl(void (cardwright::FormDesigner::*command)()) {
 
 void Workbench::MakeEditActions() {
   using D = cardwright::FormDesigner;
-  QMenu& menu = *menuBar()->addMenu(tr("&Edit"));
-  AddAction(menu, "mnuUndo", tr("&Undo"), IconOf(Sign::Undo), QKeySequence::Undo,
-            [this] { m_Document->Undo(); });
+  QMenu& menu = AddMenu(tr("&Edit"));
+  AddAction(menu, "mnuUndo", tr("&Undo"), IconOf(Sign::Undo), QKeySequence::Undo, [this] {
+    const FocusKeeper keeper;
+    m_Document->Undo();
+  });
   AddAction(menu, "mnuRedo", tr("&Redo"), IconOf(Sign::Redo), {}, [this] {
+    const FocusKeeper keeper;
     m_Document->Redo();
   })->setShortcuts({QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z), QKeySequence(Qt::CTRL | Qt::Key_Y)});
   menu.addSeparator();
@@ -109,7 +116,7 @@ void Workbench::MakeEditActions() {
 
 void Workbench::MakeFormatActions() {
   using D = cardwright::FormDesigner;
-  QMenu& menu = *menuBar()->addMenu(tr("F&ormat"));
+  QMenu& menu = AddMenu(tr("F&ormat"));
   AddAction(menu, "mnuForeground", tr("Bring to &Front"), IconOf(Sign::Front),
             QKeySequence(Qt::CTRL | Qt::Key_J), [this] { RunOnControl(&D::SetForeground); });
   AddAction(menu, "mnuBackground", tr("Send to &Back"), IconOf(Sign::Back),
@@ -156,41 +163,51 @@ void Workbench::ChooseGridStep() {
 }
 
 void Workbench::MakeDataActions() {
-  QMenu& menu = *menuBar()->addMenu(tr("&Data"));
+  QMenu& menu = AddMenu(tr("&Data"));
   AddAction(menu, "mnuOpenData", tr("&Open Data Source…"), IconOf(Sign::Data),
             QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_O), [this] { ChooseData(); });
+  AddAction(menu, "mnuOpenFolder", tr("Open Fo&lder…"), {}, {}, [this] { ChooseDataFolder(); });
+  AddAction(menu, "mnuConnect", tr("&Connect…"), {}, {}, [this] { ConnectData(); });
+  QMenu* recent = menu.addMenu(tr("Open &Recent"));
+  recent->setObjectName(QStringLiteral("mnuRecentData"));
+  connect(recent, &QMenu::aboutToShow, this, [this, recent] { FillRecentDataMenu(*recent); });
+  FillRecentDataMenu(*recent);
+  menu.addSeparator();
   QMenu* themes = menu.addMenu(tr("&Theme of the Form"));
   themes->setObjectName(QStringLiteral("mnuThemes"));
   connect(themes, &QMenu::aboutToShow, this, [this, themes] { FillThemeMenu(*themes); });
   FillThemeMenu(*themes);
   menu.addSeparator();
   AddAction(menu, "mnuFill", tr("&Fill In"), IconOf(Sign::Fill), QKeySequence(Qt::CTRL | Qt::Key_R), [this] {
-    Fill(false);
+    Fill(RunKind::Fill);
   })->setToolTip(tr("Fill in the form for the chosen feature"));
+  AddAction(menu, "mnuFillNew", tr("Fill In as &New"), {}, {}, [this] {
+    Fill(RunKind::FillNew);
+  })->setToolTip(tr("Fill in the form as for a feature just made: its values are not loaded"));
   AddAction(menu, "mnuDebug", tr("&Debug Run"), IconOf(Sign::Debug),
-            QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_R), [this] { Fill(true); })
+            QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_R), [this] { Fill(RunKind::Debug); })
       ->setToolTip(tr("Fill in the form; what would be stored is only shown"));
 }
 
 void Workbench::MakeViewActions() {
   QMenu& menu = *menuBar()->addMenu(tr("&View"));
   int number = 1;
-  for (const char* name :
-       {"paneTools", "paneControls", "paneProperties", "paneScript", "paneData", "paneOutput"}) {
+  for (const char* name : kPanes) {
     QDockWidget* dock = m_Panes[QLatin1String(name)];
     QAction* show = menu.addAction(tr("&%1 %2").arg(number).arg(dock->windowTitle()));
     show->setShortcut(QKeySequence(Qt::ALT | static_cast<Qt::Key>(Qt::Key_0 + number)));
     connect(show, &QAction::triggered, dock, [dock] {
       dock->show();
       dock->raise();
-      FirstForKeys(*dock->widget()).setFocus(Qt::ShortcutFocusReason);
+      static_cast<const PaneFrame*>(dock->widget())->Pane().setFocus(Qt::ShortcutFocusReason);
     });
     ++number;
   }
   AddAction(menu, "mnuForm", tr("&Form"), {}, QKeySequence(Qt::ALT | Qt::Key_0),
             [this] { m_Stage->Designer().setFocus(Qt::ShortcutFocusReason); });
   menu.addSeparator();
-  for (QDockWidget* dock : findChildren<QDockWidget*>()) {
+  for (const char* name : kPanes) {
+    const QDockWidget* dock = m_Panes[QLatin1String(name)];
     QAction* toggle = dock->toggleViewAction();
     toggle->setText(tr("Show %1").arg(dock->windowTitle()));
     menu.addAction(toggle);
@@ -201,11 +218,11 @@ void Workbench::MakeViewActions() {
 }
 
 void Workbench::MakeToolBar() {
-  QToolBar* bar = addToolBar(tr("Commands"));
-  bar->setObjectName(QStringLiteral("barCommands"));
-  bar->setMovable(false);
-  const int side = qMax(20, fontMetrics().height() + 4);
-  bar->setIconSize(QSize(side, side));
+  m_Bar = addToolBar(tr("Commands"));
+  m_Bar->setObjectName(QStringLiteral("barCommands"));
+  m_Bar->setMovable(false);
+  m_Bar->setIconSize(IconSize(fontMetrics()));
+  m_Work.push_back(m_Bar);
   for (const char* name : {"mnuNew",
                            "mnuOpen",
                            "mnuSave",
@@ -229,9 +246,9 @@ void Workbench::MakeToolBar() {
                            "mnuFill",
                            "mnuDebug"}) {
     if (*name == '\0') {
-      bar->addSeparator();
+      m_Bar->addSeparator();
     } else {
-      bar->addAction(Action(QLatin1String(name)));
+      m_Bar->addAction(Action(QLatin1String(name)));
     }
   }
 }

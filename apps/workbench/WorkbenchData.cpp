@@ -5,8 +5,11 @@
 #include <QDockWidget>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QInputDialog>
 #include <QMenu>
 #include <QMessageBox>
+#include <QRegularExpression>
+#include <QScreen>
 
 #include "automation/Errors.h"
 #include "qt/KindSigns.h"
@@ -14,13 +17,31 @@
 #include "runtime/AttributeBinding.h"
 #include "runtime/HostLists.h"
 #include "shared/ModuleState.h"
-#include "workbench/FeaturePane.h"
-#include "workbench/FocusKeeper.h"
-#include "workbench/OutputPane.h"
-#include "workbench/PropertyGrid.h"
+#include "workbench/Recent.h"
 #include "workbench/Workbench.h"
+#include "workbench/grid/PropertyGrid.h"
+#include "workbench/panes/FeaturePane.h"
+#include "workbench/panes/FocusKeeper.h"
+#include "workbench/panes/OutputPane.h"
 
 namespace cardwright::workbench {
+namespace {
+
+const Recent kRecent(QStringLiteral("RecentData"));
+
+/// A file or folder with its whole path; a connection text as it is.
+QString Complete(const QString& source) {
+  return QFileInfo::exists(source) ? QFileInfo(source).absoluteFilePath() : source;
+}
+
+/// What does not belong among the preferences.
+bool HoldsPassword(const QString& source) {
+  static const QRegularExpression password(QStringLiteral("(password|pwd)\\s*="),
+                                           QRegularExpression::CaseInsensitiveOption);
+  return source.contains(password);
+}
+
+}  // namespace
 
 bool Workbench::OpenData(const QString& source) {
   try {
@@ -30,22 +51,45 @@ bool Workbench::OpenData(const QString& source) {
     };
     m_Features->Open(source);
   } catch (const Error& error) {
+    if (QFileInfo(source).isAbsolute() && !QFileInfo::exists(source)) kRecent.Remove(source);
     QMessageBox::warning(this, tr("Open a data source"), qt::ToQString(error.Description()));
     return false;
   }
   m_Features->ShowTheme(qt::ToQString(m_Document->Designer().GetThemeName()));
   m_Panes[QStringLiteral("paneData")]->show();
   m_Panes[QStringLiteral("paneData")]->raise();
+  if (!HoldsPassword(source)) kRecent.Add(Complete(source));
   Tell(tr("Opened %1").arg(source));
   return true;
 }
 
+QString Workbench::DataFolder() const {
+  return QFileInfo::exists(m_Data.Name()) ? QFileInfo(m_Data.Name()).absolutePath() : Folder();
+}
+
 void Workbench::ChooseData() {
-  const QString start = m_Data.IsOpen() ? QFileInfo(m_Data.Name()).absolutePath() : Folder();
   const QString path = QFileDialog::getOpenFileName(
-      this, tr("Open a data source"), start,
+      this, tr("Open a data source"), DataFolder(),
       tr("GeoPackages (*.gpkg);;Other sources (*.shp *.geojson *.json *.csv *.sqlite *.fgb);;All files (*)"));
   if (!path.isEmpty()) OpenData(path);
+}
+
+void Workbench::ChooseDataFolder() {
+  const QString path =
+      QFileDialog::getExistingDirectory(this, tr("Open a folder of shape files or tables"), DataFolder());
+  if (!path.isEmpty()) OpenData(path);
+}
+
+void Workbench::ConnectData() {
+  const QString start = QFileInfo::exists(m_Data.Name()) ? QString() : m_Data.Name();
+  const QString text = QInputDialog::getText(this, tr("Connect to a data source"),
+                                             tr("Connection text, such as PG:dbname=survey or ODBC:survey:"),
+                                             QLineEdit::Normal, start);
+  if (!text.trimmed().isEmpty()) OpenData(text.trimmed());
+}
+
+void Workbench::FillRecentDataMenu(QMenu& menu) {
+  kRecent.Fill(menu, [this](const QString& source) { OpenData(source); });
 }
 
 void Workbench::FillThemeMenu(QMenu& menu) {
@@ -76,8 +120,8 @@ void Workbench::BindTo(const QString& theme) {
   m_Document->NoteNow();
 }
 
-void Workbench::Fill(bool debug) {
-  if (m_Run) return m_Run->raise();
+void Workbench::Fill(RunKind kind) {
+  if (m_Run) return m_Run->activateWindow();
   m_Grid->FinishEditing();
   if (!m_Data.IsOpen()) {
     ChooseData();
@@ -95,17 +139,19 @@ void Workbench::Fill(bool debug) {
     return;
   }
   m_Document->NoteNow();
-  StartRun(theme, id, debug);
+  StartRun(theme, id, kind);
 }
 
-bool Workbench::StartRun(const QString& theme, const QString& id, bool debug) {
+bool Workbench::StartRun(const QString& theme, const QString& id, RunKind kind) {
   const QString file = m_Document->RunFile();
   m_Run = new desktop::FormWindow(m_Data);
+  m_Run->setParent(this,
+                   Qt::Dialog | Qt::WindowMinMaxButtonsHint | Qt::WindowCloseButtonHint);  // stays above
   m_Run->setAttribute(Qt::WA_DeleteOnClose);
-  m_Run->setWindowModality(Qt::ApplicationModal);
   connect(m_Run, &QObject::destroyed, this, &Workbench::EndRun);
+  AllowWork(false);
   qt::FormInput& form = m_Run->Form();
-  if (debug) {
+  if (kind == RunKind::Debug) {
     Module().debugOutput = m_Output->Debug();
     m_Panes[QStringLiteral("paneOutput")]->show();
     m_Panes[QStringLiteral("paneOutput")]->raise();
@@ -125,16 +171,48 @@ bool Workbench::StartRun(const QString& theme, const QString& id, bool debug) {
                          tr("The theme %1 has no feature %2 of the form's feature type.").arg(theme, id));
     return false;
   }
+  form.SetNewFeature(kind == RunKind::FillNew);
   form.SetFeatureID(id);
-  m_Run->show();
+  ShowRun();
   return true;
+}
+
+// Over the form that it shows, so that what it tells can be seen beside it.
+void Workbench::ShowRun() {
+  const QRect room = screen()->availableGeometry();
+  const QSize free = room.size() - m_Run->size();
+  const QPoint corner = m_Stage->mapToGlobal(m_Stage->rect().center()) - m_Run->rect().center();
+  const QPoint inside = corner - room.topLeft();
+  m_Run->move(room.topLeft() + QPoint(qBound(0, inside.x(), qMax(0, free.width())),
+                                      qBound(0, inside.y(), qMax(0, free.height()))));
+  m_Run->show();
+  m_Run->activateWindow();
 }
 
 void Workbench::EndRun() {
   m_Run = nullptr;
   m_Document->Reclaim();
+  AllowWork(true);
   const FocusKeeper keeper;
   m_Features->Reload();
+}
+
+void Workbench::LeaveRun() {
+  const auto answer = QMessageBox::question(
+      m_Run, tr("Quit"), tr("A form is being filled in. Close it without storing what was typed?"),
+      QMessageBox::Close | QMessageBox::Cancel, QMessageBox::Cancel);
+  if (answer != QMessageBox::Close || !m_Run) return;
+  const auto leave = connect(m_Run, &QObject::destroyed, this, &QWidget::close, Qt::QueuedConnection);
+  m_Run->close();
+  if (m_Run && m_Run->isVisible()) disconnect(leave);  // its script does not let it go
+}
+
+// What a run must not meet is switched off, not the whole program, so that what it tells can be read, copied
+// and cleared meanwhile.
+void Workbench::AllowWork(bool allow) {
+  if (!allow) m_FocusBefore = focusWidget();
+  for (QWidget* widget : m_Work) widget->setEnabled(allow);
+  if (allow && !focusWidget() && m_FocusBefore) m_FocusBefore->setFocus(Qt::OtherFocusReason);
 }
 
 }  // namespace cardwright::workbench

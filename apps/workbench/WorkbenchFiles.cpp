@@ -1,6 +1,5 @@
 // Projects of the workbench: opening, saving, and what a person is asked about them.
 
-#include <QAction>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -10,15 +9,14 @@
 #include <QPushButton>
 
 #include "storage/CodePage.h"
-#include "workbench/Preferences.h"
-#include "workbench/PropertyGrid.h"
+#include "workbench/Recent.h"
 #include "workbench/Workbench.h"
+#include "workbench/grid/PropertyGrid.h"
 
 namespace cardwright::workbench {
 namespace {
 
-constexpr int kMostRecent = 10;
-const QString kRecent = QStringLiteral("Recent");
+const Recent kRecent(QStringLiteral("Recent"));
 const QString kSuffix = QStringLiteral(".cwf");
 
 QString ProjectFilter() { return Workbench::tr("Form projects (*.cwf);;All files (*)"); }
@@ -28,14 +26,20 @@ QString ProjectFilter() { return Workbench::tr("Form projects (*.cwf);;All files
 bool Workbench::OpenProject(const QString& path) {
   for (const LeftWork& work : Recovery::LeftOn(path))
     if (Offer(work)) return true;
-  const QString failure = m_Document->Open(path);
+  QString failure = m_Document->Open(path);
   if (!failure.isEmpty()) {
+    if (!QFileInfo::exists(path) && kRecent.Remove(QFileInfo(path).absoluteFilePath()))
+      failure += QLatin1Char('\n') + tr("It is no longer among the recent ones.");
     QMessageBox::warning(this, tr("Open"), failure);
     return false;
   }
-  Remember(m_Document->Path());
-  if (!m_Document->Remark().isEmpty()) QMessageBox::information(this, tr("Open"), m_Document->Remark());
+  TellOpened();
   return true;
+}
+
+void Workbench::TellOpened() {
+  if (QFileInfo::exists(m_Document->Path())) kRecent.Add(m_Document->Path());
+  if (!m_Document->Remark().isEmpty()) QMessageBox::information(this, tr("Open"), m_Document->Remark());
 }
 
 void Workbench::NewProject() {
@@ -72,7 +76,7 @@ bool Workbench::SaveTo(const QString& path) {
     QMessageBox::warning(this, tr("Save"), failure);
     return false;
   }
-  Remember(m_Document->Path());
+  kRecent.Add(m_Document->Path());
   const Text& script = m_Document->GetScript().content;
   const auto lost = CodePage::Current().FirstLost(script);
   if (lost) {
@@ -97,27 +101,10 @@ bool Workbench::MayLeave() {
   return answer == QMessageBox::Discard;
 }
 
-void Workbench::Remember(const QString& path) {
-  Preferences preferences;
-  QStringList recent = preferences.value(kRecent).toStringList();
-  recent.removeAll(path);
-  recent.prepend(path);
-  preferences.setValue(kRecent, recent.mid(0, kMostRecent));
-}
-
 void Workbench::FillRecentMenu(QMenu& menu) {
-  menu.clear();
-  int number = 1;
-  for (const QString& path : Preferences().value(kRecent).toStringList()) {
-    const QString shown = QDir::toNativeSeparators(path).replace(u'&', QLatin1String("&&"));
-    QAction* action =
-        menu.addAction(QStringLiteral("%1%2  %3").arg(number < 10 ? u"&" : u"").arg(number).arg(shown));
-    connect(action, &QAction::triggered, this, [this, path] {
-      if (MayLeave()) OpenProject(path);
-    });
-    ++number;
-  }
-  if (menu.isEmpty()) menu.addAction(tr("(none)"))->setEnabled(false);
+  kRecent.Fill(menu, [this](const QString& path) {
+    if (MayLeave()) OpenProject(path);
+  });
 }
 
 bool Workbench::OfferLeftWork() {
@@ -157,6 +144,7 @@ bool Workbench::Offer(const LeftWork& work) {
     if (other.file != work.file) Recovery::SetAside(other);
   KeepWork();
   if (Recovery::FileFor(work.project) != work.file) Recovery::Forget(work);
+  TellOpened();
   return true;
 }
 

@@ -1,8 +1,8 @@
 // A form drawn from nothing with the mouse, bound, saved, and filled in.
 
 #include "qt/FormInput.h"
-#include "workbench/Kinds.h"
 #include "workbench/WorkbenchTest.h"
+#include "workbench/project/Kinds.h"
 
 namespace cardwright::workbench {
 namespace {
@@ -46,6 +46,16 @@ TEST_F(DrawingTest, PutsAControlIntoTheFrameThatIsPressed) {
   const Ref<Object> bound = Designer().CurrentControl()->BoundObject();
   const auto& widget = dynamic_cast<const Widget&>(*bound);
   EXPECT_EQ(Ref<Object>(widget.Container()), frame->BoundObject());
+}
+
+TEST_F(DrawingTest, SetsTheGridInBlackButOnDarkGround) {
+  const auto pointOn = [&](OleColor ground) {
+    Designer().GetSurface()->SetBackColor(ground);
+    return bench->Stage().Designer().grab().toImage().pixelColor(8, 8);
+  };
+  EXPECT_EQ(pointOn(0xFFFFFF), QColor(Qt::black));
+  EXPECT_EQ(pointOn(0x808080), QColor(Qt::black));
+  EXPECT_GT(pointOn(0x2E2D2D).lightness(), 128);
 }
 
 TEST_F(DrawingTest, SizesTheFormByItsEdge) {

@@ -1,7 +1,7 @@
 // Opening and saving: nothing is lost, what cannot be read or written is told.
 
-#include "storage/ProjectFile.h"
 #include "workbench/WorkbenchTest.h"
+#include "workbench/project/Stacking.h"
 
 namespace cardwright::workbench {
 namespace {
@@ -84,6 +84,42 @@ TEST_F(ProjectTest, TellsWhatIsNotThereOrHoldsNoForm) {
   EXPECT_EQ(bench->Project().Path(), QString());
 }
 
+/// Takes a file away in the moment in which a project is about to be read into a new designer.
+class FileTaker final : public QObject {
+ public:
+  explicit FileTaker(QString path) : m_Path(std::move(path)) { qApp->installEventFilter(this); }
+  bool eventFilter(QObject* object, QEvent* event) override {
+    if (event->type() == QEvent::Show && dynamic_cast<qt::FormDesigner*>(object)) QFile::remove(m_Path);
+    return false;
+  }
+
+ private:
+  QString m_Path;
+};
+
+TEST_F(ProjectTest, StaysWhereAnotherOneCannotBeRead) {
+  const QString mine = PathOf(QStringLiteral("mine.cwf"));
+  const QString gone = PathOf(QStringLiteral("gone.cwf"));
+  Write(gone, Read(Example("well-inspection.cwf")));
+  bench->Project().Insert(ControlTypeEnum::ctLabel);
+  ASSERT_EQ(bench->Project().Save(mine), QString());
+  Type(QStringLiteral("Text"), QStringLiteral("mine"));
+  const QByteArray before = bench->Project().Bytes();
+  {
+    const FileTaker taker(gone);
+    QString text;
+    AnswerBox(QStringLiteral("OK"), &text);
+    EXPECT_FALSE(bench->OpenProject(gone));
+    EXPECT_TRUE(text.contains(QStringLiteral("gone.cwf"))) << text.toStdString();
+  }
+  ASSERT_FALSE(QFile::exists(gone));
+  EXPECT_EQ(bench->Project().Path(), mine);
+  EXPECT_EQ(bench->Project().Bytes(), before);
+  EXPECT_TRUE(bench->isWindowModified());
+  Trigger("mnuUndo");
+  EXPECT_FALSE(bench->isWindowModified());
+}
+
 TEST_F(ProjectTest, TellsOfControlsThatCouldNotBeRead) {
   Write(PathOf(QStringLiteral("odd.cwf")),
         "[FORM]\r\nControlsNumber= 2\r\n[CONTROLS_1]\r\nType=Label\r\n"
@@ -137,6 +173,96 @@ TEST_F(ProjectTest, RemembersWhatWasOpened) {
   Q_EMIT recent->aboutToShow();
   ASSERT_FALSE(recent->actions().isEmpty());
   EXPECT_TRUE(recent->actions().first()->text().contains(QStringLiteral("well-inspection.cwf")));
+}
+
+TEST_F(ProjectTest, ForgetsOneThatIsGone) {
+  const QString path = PathOf(QStringLiteral("short-lived.cwf"));
+  Write(path, Read(Example("well-inspection.cwf")));
+  ASSERT_TRUE(bench->OpenProject(path));
+  QFile::remove(path);
+  auto* recent = bench->findChild<QMenu*>(QStringLiteral("mnuRecent"));
+  const auto entry = [&]() -> QAction* {
+    Q_EMIT recent->aboutToShow();
+    for (QAction* action : recent->actions())
+      if (action->text().contains(QStringLiteral("short-lived.cwf"))) return action;
+    return nullptr;
+  };
+  ASSERT_TRUE(entry());
+  QString text;
+  AnswerBox(QStringLiteral("OK"), &text);
+  entry()->trigger();
+  EXPECT_TRUE(text.contains(QStringLiteral("short-lived.cwf"))) << text.toStdString();
+  EXPECT_FALSE(entry());
+}
+
+class FramesTest : public ProjectTest {
+ protected:
+  FramesTest() {
+    Add(ControlTypeEnum::ctFrame, {}, QStringLiteral("outer"));
+    Add(ControlTypeEnum::ctLabel, QStringLiteral("outer"), QStringLiteral("first"));
+    Add(ControlTypeEnum::ctFrame, QStringLiteral("outer"), QStringLiteral("inner"));
+    Add(ControlTypeEnum::ctTextBox, QStringLiteral("inner"), QStringLiteral("deep"));
+    Add(ControlTypeEnum::ctLabel, QStringLiteral("outer"), QStringLiteral("last"));
+    Settle();
+  }
+  void Add(ControlTypeEnum kind, const QString& frame, const QString& name) {
+    if (!frame.isEmpty()) Select(frame);
+    bench->Project().Insert(kind);
+    Type(QStringLiteral("Name"), name);
+  }
+  void Rename(const QString& name, const QString& wanted) {
+    Select(name);
+    Type(QStringLiteral("Name"), wanted);
+    Settle();
+  }
+  /// The controls in the order of the file, each below the frame that it lies in.
+  QString Order() {
+    QStringList order;
+    for (const Ref<IControl>& control : ControlsOf(Designer().Controls())) {
+      QString path = qt::ToQString(control->UserName());
+      for (const Widget* frame = ContainerOf(*control); frame; frame = frame->Container().get())
+        for (const Ref<IControl>& other : ControlsOf(Designer().Controls()))
+          if (other->Name() == frame->Name()) path.prepend(qt::ToQString(other->UserName()) + u'/');
+      order += path;
+    }
+    return order.join(u' ');
+  }
+  void SaveAndOpen() {
+    const QString path = PathOf(QStringLiteral("frames.cwf"));
+    ASSERT_EQ(bench->Project().Save(path), QString());
+    ASSERT_TRUE(bench->OpenProject(path));
+  }
+};
+
+TEST_F(FramesTest, AreWholeAfterTheOuterOneIsRenamed) {
+  Rename(QStringLiteral("outer"), QStringLiteral("hull"));
+  const auto* const wanted = u"Form hull hull/first hull/inner hull/inner/deep hull/last";
+  EXPECT_EQ(Order(), wanted);
+  SaveAndOpen();
+  EXPECT_EQ(Order(), wanted);
+}
+
+TEST_F(FramesTest, AreWholeAfterTheInnerOneIsRenamed) {
+  Rename(QStringLiteral("inner"), QStringLiteral("INNER"));
+  const auto* const wanted = u"Form outer outer/first outer/last outer/INNER outer/INNER/deep";
+  EXPECT_EQ(Order(), wanted);
+  SaveAndOpen();
+  EXPECT_EQ(Order(), wanted);
+}
+
+TEST_F(FramesTest, AreWholeAfterARenamingIsUndoneAndDoneAgain) {
+  const QString before = Order();
+  Rename(QStringLiteral("outer"), QStringLiteral("hull"));
+  Rename(QStringLiteral("hull"), QStringLiteral("hold"));
+  const QString after = Order();
+  Trigger("mnuUndo");
+  Trigger("mnuUndo");
+  EXPECT_EQ(Order(), before);
+  Trigger("mnuRedo");
+  Trigger("mnuRedo");
+  EXPECT_EQ(Order(), after);
+  SaveAndOpen();
+  EXPECT_EQ(Order(), after);
 }
 
 TEST_F(ProjectTest, LeavesALineEndOfAnotherKindAloneUntilTheScriptIsChanged) {

@@ -1,43 +1,59 @@
 // The property grid: each kind of editor writes by the control's contract, and says why it refuses.
 
-#include <QClipboard>
-#include <QComboBox>
+#include <QColorDialog>
 #include <QFontDialog>
 
 #include "model/CItems.h"
 #include "platform/Picture.h"
-#include "workbench/DialogCell.h"
-#include "workbench/ItemsDialog.h"
-#include "workbench/Pictures.h"
-#include "workbench/WorkbenchTest.h"
+#include "qt/QtDesignSurface.h"
+#include "workbench/PropertyGridTest.h"
+#include "workbench/grid/ItemsDialog.h"
+#include "workbench/grid/Pictures.h"
 
 namespace cardwright::workbench {
 namespace {
 
-class PropertyGridTest : public WorkbenchTest {
- protected:
-  void Add(ControlTypeEnum kind) { bench->Project().Insert(kind); }
-  /// Opens the editor of a row.
-  QWidget* Edit(const QString& row) {
-    bench->Grid().EditRow(row);
-    bench->Grid().View().edit(bench->Grid().View().currentIndex());
-    return QApplication::focusWidget();
+TEST_F(PropertyGridTest, KeepsAFontSizeThatItsDialogHasNot) {
+  const Ref<IControl> label = Add(ControlTypeEnum::ctLabel);
+  ASSERT_EQ(label->GetFont()->Values().size, 8.25);
+  qt::Meet<QFontDialog>([](QFontDialog& dialog) {
+    QFont font = dialog.currentFont();
+    font.setUnderline(true);
+    dialog.setCurrentFont(font);
+    dialog.accept();
+  });
+  GoTo(QStringLiteral("Font"));
+  PressAndSettle(Qt::Key_F4);
+  EXPECT_TRUE(label->GetFont()->Values().underline);
+  EXPECT_EQ(label->GetFont()->Values().size, 8.25);
+}
+
+TEST_F(PropertyGridTest, ChoosesAColourOfItsOwnInADialog) {
+  const Ref<IControl> label = Add(ControlTypeEnum::ctLabel);
+  qt::Meet<QColorDialog>([](QColorDialog& dialog) {
+    dialog.setCurrentColor(QColor(1, 2, 3));
+    dialog.accept();
+  });
+  Pick(QStringLiteral("ForeColor"), QString::fromUtf8("Other…"));
+  EXPECT_EQ(label->ForeColor(), Rgb(1, 2, 3));
+  qt::Meet<QColorDialog>([](QColorDialog& dialog) { dialog.reject(); });
+  Pick(QStringLiteral("ForeColor"), QString::fromUtf8("Other…"));
+  EXPECT_EQ(label->ForeColor(), Rgb(1, 2, 3));
+  EXPECT_EQ(ValueOf(QStringLiteral("ForeColor")), QStringLiteral("#010203"));
+}
+
+TEST_F(PropertyGridTest, TakesColoursByNameByThreeDigitsAndByNumber) {
+  const Ref<IControl> label = Add(ControlTypeEnum::ctLabel);
+  for (const auto& [text, color] : std::initializer_list<std::pair<const char*, OleColor>>{
+           {"tomato", Rgb(255, 99, 71)},
+           {"#fa0", Rgb(255, 170, 0)},
+           {"255", Rgb(255, 0, 0)},
+           {"-2147483643", ToOleColor(SystemColor::Window)},
+           {"2147483656", ToOleColor(SystemColor::WindowText)}}) {
+    Type(QStringLiteral("BackColor"), QLatin1String(text));
+    EXPECT_EQ(label->BackColor(), color) << text;
   }
-  QComboBox* Combo(const QString& row) {
-    Edit(row);
-    const auto combos = bench->Grid().View().viewport()->findChildren<QComboBox*>();
-    return combos.isEmpty() ? nullptr : combos.last();
-  }
-  void Pick(const QString& row, const QString& text) {
-    QComboBox* combo = Combo(row);
-    ASSERT_NE(combo, nullptr);
-    const int at = combo->findText(text);
-    ASSERT_GE(at, 0) << text.toStdString();
-    combo->setCurrentIndex(at);
-    Q_EMIT combo->activated(at);
-    QTest::qWait(5);
-  }
-};
+}
 
 TEST_F(PropertyGridTest, ShowsTheRowsOfTheTableInItsOrder) {
   Add(ControlTypeEnum::ctTextBox);
@@ -73,42 +89,6 @@ TEST_F(PropertyGridTest, KeepsTheKeyboardWhileItMovesTheControl) {
   EXPECT_TRUE(bench->Grid().isAncestorOf(QApplication::focusWidget()));
 }
 
-TEST_F(PropertyGridTest, RefusesWhatIsNoNumberAndSaysSo) {
-  Add(ControlTypeEnum::ctLabel);
-  const float before = Designer().CurrentControl()->Left();
-  Type(QStringLiteral("Left"), QStringLiteral("far"));
-  EXPECT_EQ(Designer().CurrentControl()->Left(), before);
-  EXPECT_TRUE(bench->Grid().Notice().contains(QStringLiteral("far"))) << bench->Grid().Notice().toStdString();
-}
-
-TEST_F(PropertyGridTest, RenamesAndRefusesANameThatIsTaken) {
-  Add(ControlTypeEnum::ctLabel);
-  Type(QStringLiteral("Name"), QStringLiteral("lblDepth"));
-  EXPECT_TRUE(Has(QStringLiteral("lblDepth")));
-  Add(ControlTypeEnum::ctTextBox);
-  const Text before = Designer().CurrentControl()->UserName();
-  Type(QStringLiteral("Name"), QStringLiteral("LBLDEPTH"));
-  EXPECT_EQ(Designer().CurrentControl()->UserName(), before);
-  EXPECT_TRUE(bench->Grid().Notice().contains(QStringLiteral("lblDepth")))
-      << bench->Grid().Notice().toStdString();
-  Type(QStringLiteral("Name"), QStringLiteral("  "));
-  EXPECT_EQ(Designer().CurrentControl()->UserName(), before);
-  EXPECT_TRUE(bench->Grid().Notice().contains(QStringLiteral("needs a name")));
-}
-
-TEST_F(PropertyGridTest, WarnsOfANameThatScriptsCannotUse) {
-  Add(ControlTypeEnum::ctLabel);
-  Type(QStringLiteral("Name"), QStringLiteral("two words"));
-  EXPECT_TRUE(Has(QStringLiteral("two words")));
-  EXPECT_TRUE(bench->Grid().Notice().contains(QStringLiteral("Scripts")));
-}
-
-TEST_F(PropertyGridTest, WarnsOfACharacterThatTheFileCannotHold) {
-  Add(ControlTypeEnum::ctLabel);
-  Rows().Assign(Rows().RowOf(QStringLiteral("Text")), Variant(u"10 Ω"));
-  EXPECT_TRUE(bench->Grid().Notice().contains(QStringLiteral("Ω"))) << bench->Grid().Notice().toStdString();
-}
-
 TEST_F(PropertyGridTest, TakesSystemColoursAndTypedOnes) {
   Add(ControlTypeEnum::ctLabel);
   const Ref<IControl> label = Designer().CurrentControl();
@@ -120,16 +100,6 @@ TEST_F(PropertyGridTest, TakesSystemColoursAndTypedOnes) {
   Type(QStringLiteral("ForeColor"), QStringLiteral("greenish"));
   EXPECT_EQ(label->ForeColor(), Rgb(0xFF, 0x80, 0));
   EXPECT_TRUE(bench->Grid().Notice().contains(QStringLiteral("greenish")));
-}
-
-TEST_F(PropertyGridTest, TogglesFlagsByTheBlankKey) {
-  Add(ControlTypeEnum::ctTextBox);
-  const Ref<IControl> box = Designer().CurrentControl();
-  bench->Grid().EditRow(QStringLiteral("IsNeeded"));
-  QTest::keyClick(&bench->Grid().View(), Qt::Key_Space);
-  EXPECT_EQ(ToText(box->PropertyValue(u"IsNeeded")), u"True");
-  QTest::keyClick(&bench->Grid().View(), Qt::Key_Space);
-  EXPECT_EQ(ToText(box->PropertyValue(u"IsNeeded")), u"False");
 }
 
 TEST_F(PropertyGridTest, OffersTheTextsOfAList) {
@@ -148,7 +118,7 @@ TEST_F(PropertyGridTest, OffersTheControlsThatALinkMayName) {
 
 TEST_F(PropertyGridTest, OffersThemesAndAttributesOfTheDataSource) {
   ASSERT_TRUE(bench->OpenData(Example("wells.gpkg")));
-  Designer().SetCtrl(Ref<IControl>(&Find(QStringLiteral("Form"))));
+  SelectForm();
   Pick(QStringLiteral("ThemeName"), QStringLiteral("wells"));
   Pick(QStringLiteral("FeatureType"), QStringLiteral("Points"));
   EXPECT_EQ(Designer().GetThemeName(), u"wells");
@@ -156,6 +126,39 @@ TEST_F(PropertyGridTest, OffersThemesAndAttributesOfTheDataSource) {
   Add(ControlTypeEnum::ctTextBox);
   Pick(QStringLiteral("Attribute"), QStringLiteral("NAME"));
   EXPECT_EQ(Designer().CurrentControl()->AttributeName(), u"NAME");
+}
+
+TEST_F(PropertyGridTest, KeepsTheTextOfAComboBoxWhoseItemsChange) {
+  const Ref<IControl> combo = Add(ControlTypeEnum::ctComboBox);
+  const Variant row(u"Items");
+  auto item = MakeRef<CItem>();
+  item->m_Text = u"Sandstone";
+  dynamic_cast<CItems&>(*combo->PropertyValue(row).ObjectPtr()).Add(item);
+  combo->Refresh();
+  combo->SetPropertyValue(Variant(u"Text"), Variant(u"Sandstone"));
+  MeetByKeys<ItemsDialog>([](ItemsDialog&) {
+    Press(Qt::Key_Insert);
+    KeyIn(QStringLiteral("Clay"));
+    Press(Qt::Key_Return);
+    Press(Qt::Key_O, Qt::AltModifier);
+  });
+  GoTo(QStringLiteral("Items"));
+  Press(Qt::Key_F4);
+  EXPECT_EQ(dynamic_cast<CItems&>(*combo->PropertyValue(row).ObjectPtr()).Count(), 2);
+  EXPECT_EQ(ValueOf(QStringLiteral("Text")), QStringLiteral("Sandstone"));
+}
+
+TEST_F(PropertyGridTest, KeepsTheHandlesAtAListThatAFontMakesHigher) {
+  const Ref<IControl> combo = Add(ControlTypeEnum::ctComboBox);
+  const float before = combo->Height();
+  const Ref<Font> font = combo->GetFont();
+  FontValues values = font->Values();
+  values.size = 24;
+  font->Assign(values);
+  Rows().Assign(Rows().RowOf(QStringLiteral("Font")), Variant(Ref<Object>(font)));
+  ASSERT_GT(combo->Height(), before);
+  auto& surface = dynamic_cast<qt::QtDesignSurface&>(*Designer().GetSurface());
+  EXPECT_EQ(surface.Handle(8).Top(), combo->Top() + combo->Height());
 }
 
 TEST_F(PropertyGridTest, ChangesTheFontInItsDialog) {
@@ -167,49 +170,9 @@ TEST_F(PropertyGridTest, ChangesTheFontInItsDialog) {
     dialog.accept();
   });
   Edit(QStringLiteral("Font"));
-  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
-  QTest::qWait(20);
+  PressAndSettle(Qt::Key_Return);
   EXPECT_EQ(Designer().CurrentControl()->GetFont()->Values().size, 14);
   EXPECT_TRUE(ValueOf(QStringLiteral("Font")).contains(QStringLiteral("14 pt")));
-}
-
-TEST_F(PropertyGridTest, ChangesItemsInTheirDialog) {
-  Add(ControlTypeEnum::ctComboBox);
-  QApplication::clipboard()->setText(QStringLiteral("good\tG\npoor\n"));
-  qt::Meet<ItemsDialog>([](ItemsDialog& dialog) {
-    auto* table = dialog.findChild<QTableWidget*>();
-    QTest::keyClick(table, Qt::Key_V, Qt::ControlModifier);
-    for (QPushButton* button : dialog.findChildren<QPushButton*>())
-      if (button->text() == u"Move &up") button->click();
-    dialog.accept();
-  });
-  Edit(QStringLiteral("Items"));
-  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
-  QTest::qWait(20);
-  EXPECT_EQ(ValueOf(QStringLiteral("Items")), QStringLiteral("2 items"));
-  const Variant value = Designer().CurrentControl()->PropertyValue(u"Items");
-  const auto& items = dynamic_cast<const CItems&>(*value.ObjectPtr());
-  EXPECT_EQ(items.Item(Variant(1))->m_Text, u"poor");
-  EXPECT_EQ(items.Item(Variant(2))->m_Value, u"G");
-}
-
-TEST(ItemsDialogTest, RemovesTheRowAtHand) {
-  CItems& items = *MakeRef<CItems>().Detach();
-  const Ref<CItems> hold(&items);
-  items.Release();
-  for (const char16_t* text : {u"a", u"b", u"c"}) {
-    auto item = MakeRef<CItem>();
-    item->m_Text = text;
-    items.Add(item);
-  }
-  QWidget owner;
-  ItemsDialog dialog(owner, items);
-  auto* table = dialog.findChild<QTableWidget*>();
-  table->setCurrentCell(1, 0);
-  QTest::keyClick(table, Qt::Key_Delete);
-  dialog.Store(items);
-  ASSERT_EQ(items.Count(), 2);
-  EXPECT_EQ(items.Item(Variant(2))->m_Text, u"c");
 }
 
 TEST(PicturesTest, TurnAnImageIntoAnIconAndBack) {

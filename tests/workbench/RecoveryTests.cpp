@@ -1,3 +1,7 @@
+#include <unistd.h>
+
+#include <csignal>
+
 #include "workbench/WorkbenchTest.h"
 
 namespace cardwright::workbench {
@@ -30,13 +34,13 @@ class RecoveryTest : public WorkbenchTest {
 TEST_F(RecoveryTest, IsKeptBesideTheProjectWithinSeconds) {
   const QString work = Recovery::FileFor(project);
   EXPECT_EQ(QFileInfo(work).absolutePath(), QFileInfo(project).absolutePath());
-  EXPECT_TRUE(QTest::qWaitFor([&] { return QFile::exists(work); }, 6000));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return QFile::exists(work); }, 30000));
   EXPECT_TRUE(Read(work).contains("Text=not saved"));
 }
 
 TEST_F(RecoveryTest, GoesOnceTheWorkIsSaved) {
   const QString work = Recovery::FileFor(project);
-  ASSERT_TRUE(QTest::qWaitFor([&] { return QFile::exists(work); }, 6000));
+  ASSERT_TRUE(QTest::qWaitFor([&] { return QFile::exists(work); }, 30000));
   ASSERT_EQ(bench->Project().Save(project), QString());
   EXPECT_FALSE(QFile::exists(work));
 }
@@ -63,6 +67,37 @@ TEST_F(RecoveryTest, IsOfferedWithItsDateAndTaken) {
   EXPECT_TRUE(Read(project).contains("Text=not saved"));
 }
 
+TEST_F(RecoveryTest, IsOpenedAsAnyProjectOnceItIsTaken) {
+  LeaveWork();
+  Write(Recovery::FileFor(project),
+        "[FORM]\r\nControlsNumber= 2\r\n[CONTROLS_1]\r\nType=Label\r\n"
+        "[CONTROLS_2]\r\nType=Sundial\r\n");
+  QString remark;
+  AnswerBox(QStringLiteral("Restore"));
+  QTimer::singleShot(0, bench.get(), [&] { AnswerBox(QStringLiteral("OK"), &remark); });
+  ASSERT_TRUE(bench->OpenProject(project));
+  EXPECT_TRUE(remark.contains(QStringLiteral("1 control"))) << remark.toStdString();
+  auto* recent = bench->findChild<QMenu*>(QStringLiteral("mnuRecent"));
+  Q_EMIT recent->aboutToShow();
+  EXPECT_TRUE(recent->actions().first()->text().contains(project));
+}
+
+// A program that is killed in the middle of the work, as the machine or the user does it.
+TEST_F(RecoveryTest, IsThereAfterTheProgramIsKilled) {
+  const QString work = Recovery::FileFor(project);
+  const auto die = [&] {
+    ::alarm(60);  // it is waited for
+    if (QTest::qWaitFor([&] { return QFile::exists(work); }, 20000)) ::kill(::getpid(), SIGKILL);
+  };
+  EXPECT_EXIT(die(), testing::KilledBySignal(SIGKILL), "");
+  ASSERT_EQ(bench->Project().Save(PathOf(QStringLiteral("elsewhere.cwf"))), QString());
+  ASSERT_TRUE(QFile::exists(work));
+  AnswerBox(QStringLiteral("Restore"));
+  ASSERT_TRUE(bench->OpenProject(project));
+  EXPECT_EQ(ToText(Find(QStringLiteral("object_1")).PropertyValue(u"Text")), u"not saved");
+  EXPECT_TRUE(bench->isWindowModified());
+}
+
 TEST_F(RecoveryTest, IsGoneOnceItIsDiscarded) {
   LeaveWork();
   AnswerBox(QStringLiteral("Discard"));
@@ -84,7 +119,7 @@ TEST_F(RecoveryTest, StaysWhereThePersonAsksLater) {
   ASSERT_TRUE(QTest::qWaitForWindowActive(bench.get()));
   Select(QStringLiteral("object_1"));
   Type(QStringLiteral("Text"), QStringLiteral("begun anew"));
-  ASSERT_TRUE(QTest::qWaitFor([&] { return QFile::exists(Recovery::FileFor(project)); }, 6000));
+  ASSERT_TRUE(QTest::qWaitFor([&] { return QFile::exists(Recovery::FileFor(project)); }, 30000));
   ASSERT_EQ(bench->Project().Save(project), QString());
   askLater();
 }

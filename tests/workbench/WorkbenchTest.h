@@ -19,13 +19,13 @@
 #include "qt/Dialogs.h"
 #include "qt/QtText.h"
 #include "qt/WidgetCore.h"
-#include "workbench/ControlList.h"
-#include "workbench/FeaturePane.h"
-#include "workbench/OutputPane.h"
-#include "workbench/PropertyGrid.h"
-#include "workbench/ScriptPane.h"
-#include "workbench/ToolBox.h"
 #include "workbench/Workbench.h"
+#include "workbench/grid/PropertyGrid.h"
+#include "workbench/panes/ControlList.h"
+#include "workbench/panes/FeaturePane.h"
+#include "workbench/panes/OutputPane.h"
+#include "workbench/panes/ScriptPane.h"
+#include "workbench/panes/ToolBox.h"
 
 inline void PrintTo(const QString& text, std::ostream* out) { *out << '"' << text.toStdString() << '"'; }
 
@@ -34,7 +34,11 @@ namespace cardwright::workbench {
 /// A workbench in a window of its own, driven by mouse and keys.
 class WorkbenchTest : public testing::Test {
  protected:
-  WorkbenchTest() { Start(); }
+  WorkbenchTest() {
+    QObject::connect(&m_Patience, &QTimer::timeout, &m_Patience, [this] { EndWhatNobodyAnswers(); });
+    m_Patience.start(10000);
+    Start();
+  }
   ~WorkbenchTest() override {
     bench.reset();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
@@ -67,17 +71,26 @@ class WorkbenchTest : public testing::Test {
     }
   }
   /// Goes through the window's own event queue: the drag polls the buttons, which widgets' own events do not
-  /// press. The press does not return before the drag ends, so what follows is posted before.
+  /// press. The press does not return before the drag ends, so the rest follows by itself, but not before the
+  /// press was seen: a button that is let go too early would be down for ever.
   void DragOnForm(QPoint from, QPoint to) {
     QWidget& form = bench->Stage().Designer();
     QWindow* window = bench->windowHandle();
     const auto at = [&](QPoint place) { return form.mapTo(bench.get(), place); };
-    QTimer::singleShot(30, bench.get(), [=] { QTest::mouseMove(window, at(from + (to - from) / 2)); });
-    QTimer::singleShot(60, bench.get(), [=] { QTest::mouseMove(window, at(to)); });
-    QTimer::singleShot(90, bench.get(), [=] { QTest::mouseRelease(window, Qt::LeftButton, {}, at(to)); });
+    const QPoint stops[] = {at(from + (to - from) / 2), at(to)};
+    std::size_t next = 0;
+    QTimer rest;
+    QObject::connect(&rest, &QTimer::timeout, &rest, [&] {
+      if (!(QGuiApplication::mouseButtons() & Qt::LeftButton)) return;
+      if (next < std::size(stops)) return QTest::mouseMove(window, stops[next++]);
+      rest.stop();
+      QTest::mouseRelease(window, Qt::LeftButton, {}, stops[1]);
+    });
     QTest::mouseMove(window, at(from));
+    rest.start(20);
     QTest::mousePress(window, Qt::LeftButton, {}, at(from));
-    QTest::qWait(150);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !rest.isActive(); }));
+    QTest::qWait(20);
   }
   void ClickOnForm(QPoint place) {
     QWindow* window = bench->windowHandle();
@@ -141,6 +154,28 @@ class WorkbenchTest : public testing::Test {
   qt::Library library;
   desktop::DataSource data{library};
   std::unique_ptr<Workbench> bench;
+
+ private:
+  /// A dialog or menu that is still there when it is looked at again would stay for ever, and the test with
+  /// it.
+  void EndWhatNobodyAnswers() {
+    QWidget* const popup = QApplication::activePopupWidget();
+    QWidget* const modal = popup ? popup : QApplication::activeModalWidget();
+    if (modal && modal == m_Seen) {
+      const auto* const box = dynamic_cast<QMessageBox*>(modal);
+      ADD_FAILURE() << "nobody answers " << modal->metaObject()->className() << " "
+                    << (box ? box->text() : modal->windowTitle()).toStdString();
+      if (auto* const dialog = dynamic_cast<QDialog*>(modal)) {
+        dialog->reject();
+      } else {
+        modal->close();
+      }
+    }
+    m_Seen = modal;
+  }
+
+  QTimer m_Patience;
+  QPointer<QWidget> m_Seen;
 };
 
 }  // namespace cardwright::workbench

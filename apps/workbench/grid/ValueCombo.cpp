@@ -1,0 +1,61 @@
+#include "workbench/grid/ValueCombo.h"
+
+#include <QAbstractItemView>
+#include <QLineEdit>
+#include <QScopedValueRollback>
+#include <QScrollBar>
+
+namespace cardwright::workbench {
+
+ValueCombo::ValueCombo(QWidget* parent, bool canType) : QComboBox(parent) {
+  setEditable(canType);
+  setInsertPolicy(NoInsert);
+  setMaxVisibleItems(16);
+  setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
+  connect(this, &QComboBox::activated, this, [this] {
+    if (!m_IsStepping) Q_EMIT Picked();
+  });
+}
+
+void ValueCombo::SetText(const QString& text) {
+  setCurrentIndex(findText(text));
+  if (!isEditable()) return;
+  setEditText(text);
+  const int length = static_cast<int>(text.length());
+  lineEdit()->setSelection(length, -length);  // the beginning is what is seen of a long text
+}
+
+std::optional<QString> ValueCombo::Chosen() const {
+  if (IsOther() || (!isEditable() && currentIndex() < 0)) return std::nullopt;
+  return currentText();
+}
+
+void ValueCombo::AddOther(const QString& text) { addItem(text, true); }
+
+bool ValueCombo::IsOther() const {
+  return currentData().toBool() && currentText() == itemText(currentIndex());
+}
+
+// The column of values is narrow.
+void ValueCombo::showPopup() {
+  view()->setMinimumWidth(view()->sizeHintForColumn(0) + view()->verticalScrollBar()->sizeHint().width());
+  QComboBox::showPopup();
+}
+
+void ValueCombo::keyPressEvent(QKeyEvent* event) {
+  const QScopedValueRollback stepping(m_IsStepping, true);
+  QComboBox::keyPressEvent(event);
+}
+
+void ValueCombo::wheelEvent(QWheelEvent* event) {
+  const QScopedValueRollback stepping(m_IsStepping, true);
+  QComboBox::wheelEvent(event);
+}
+
+// Leaving the box chooses what was typed, if it is one of the choices.
+void ValueCombo::focusOutEvent(QFocusEvent* event) {
+  const QScopedValueRollback stepping(m_IsStepping, true);
+  QComboBox::focusOutEvent(event);
+}
+
+}  // namespace cardwright::workbench

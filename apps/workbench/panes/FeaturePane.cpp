@@ -1,0 +1,228 @@
+#include "workbench/panes/FeaturePane.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QClipboard>
+#include <QEvent>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QVBoxLayout>
+#include <algorithm>
+
+#include "qt/KindSigns.h"
+#include "qt/QtText.h"
+
+namespace cardwright::workbench {
+namespace {
+
+constexpr int kSearchAfter = 200;  // milliseconds that nothing was typed
+
+/// Reading all features of a large theme takes its time.
+class WaitCursor {
+ public:
+  WaitCursor() { QApplication::setOverrideCursor(Qt::WaitCursor); }
+  ~WaitCursor() { QApplication::restoreOverrideCursor(); }
+  WaitCursor(const WaitCursor&) = delete;
+  WaitCursor& operator=(const WaitCursor&) = delete;
+};
+
+}  // namespace
+
+FeaturePane::FeaturePane(QWidget* parent)
+    : QWidget(parent),
+      m_Model(new FeatureModel(this)),
+      m_Themes(new QComboBox(this)),
+      m_Count(new QLabel(this)),
+      m_Search(new QLineEdit(this)),
+      m_Open(new QPushButton(tr("Open…"), this)),
+      m_Fill(new QPushButton(tr("Fill in"), this)),
+      m_View(new QTableView(this)) {
+  MakeTable();
+  MakeActions();
+  setFocusProxy(m_View);
+  auto* layout = new QVBoxLayout(this);
+  layout->setContentsMargins({});
+  layout->setSpacing(4);
+  layout->addLayout(MakeHead());
+  layout->addWidget(m_View, 1);
+  m_SearchSoon.setSingleShot(true);
+  m_SearchSoon.setInterval(kSearchAfter);
+
+  connect(m_Open, &QPushButton::clicked, this, &FeaturePane::OpenWanted);
+  connect(m_Fill, &QPushButton::clicked, this, &FeaturePane::FillWanted);
+  connect(m_View, &QTableView::doubleClicked, this, &FeaturePane::FillWanted);
+  connect(m_Themes, &QComboBox::activated, this, [this] { ShowTheme(m_Themes->currentText()); });
+  connect(m_Search, &QLineEdit::textEdited, this, [this] { m_SearchSoon.start(); });
+  connect(m_Search, &QLineEdit::returnPressed, this, [this] {
+    m_SearchSoon.stop();
+    Search();
+    m_View->setFocus(Qt::OtherFocusReason);
+  });
+  connect(&m_SearchSoon, &QTimer::timeout, this, &FeaturePane::Search);
+  connect(m_View->horizontalHeader(), &QHeaderView::sortIndicatorChanged, this, &FeaturePane::Sort);
+  ShowChoice();
+}
+
+QLayout* FeaturePane::MakeHead() {
+  m_Themes->setAccessibleName(tr("Theme"));
+  m_Themes->setMinimumContentsLength(8);
+  auto* label = new QLabel(tr("&Theme:"), this);
+  label->setBuddy(m_Themes);
+  m_Search->setPlaceholderText(tr("Search (Ctrl+F)"));
+  m_Search->setAccessibleName(tr("Search the features"));
+  m_Search->setClearButtonEnabled(true);
+  m_Open->setAutoDefault(false);
+  m_Open->setAccessibleName(tr("Open a data source"));
+  m_Open->setToolTip(tr("Opens another data source (Ctrl+Shift+O)"));
+  m_Fill->setAutoDefault(false);
+  m_Fill->setToolTip(tr("Opens the form for the chosen feature (Ctrl+R)"));
+  // What gives way on a small screen.
+  m_Search->setMinimumWidth(fontMetrics().averageCharWidth() * 10);
+  m_Count->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+  auto* head = new QHBoxLayout;
+  head->setContentsMargins(4, 4, 4, 0);
+  head->addWidget(label);
+  head->addWidget(m_Themes);
+  head->addWidget(m_Search, 1);
+  head->addWidget(m_Count, 1);
+  head->addWidget(m_Open);
+  head->addWidget(m_Fill);
+  return head;
+}
+
+void FeaturePane::MakeTable() {
+  m_View->setModel(m_Model);
+  m_View->setAccessibleName(tr("Features"));
+  m_View->setSelectionBehavior(QAbstractItemView::SelectRows);
+  m_View->setEditTriggers(QAbstractItemView::NoEditTriggers);
+  m_View->setTabKeyNavigation(false);
+  m_View->setAlternatingRowColors(true);
+  m_View->setWordWrap(false);
+  m_View->verticalHeader()->hide();
+  m_View->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 8);
+  QHeaderView& header = *m_View->horizontalHeader();
+  header.setHighlightSections(false);
+  header.setResizeContentsPrecision(0);
+  header.setSectionsClickable(true);
+  header.setSortIndicatorShown(true);
+  header.setSortIndicator(-1, Qt::AscendingOrder);
+  header.setSortIndicatorClearable(true);
+}
+
+void FeaturePane::MakeActions() {
+  auto* copy = new QAction(tr("&Copy Rows"), this);
+  copy->setShortcut(QKeySequence::Copy);
+  copy->setShortcutContext(Qt::WidgetShortcut);
+  connect(copy, &QAction::triggered, this, &FeaturePane::Copy);
+  m_View->addAction(copy);
+  m_View->setContextMenuPolicy(Qt::ActionsContextMenu);
+  auto* search = new QAction(this);
+  search->setShortcut(QKeySequence::Find);
+  search->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+  connect(search, &QAction::triggered, m_Search, [this] {
+    m_Search->setFocus(Qt::ShortcutFocusReason);
+    m_Search->selectAll();
+  });
+  addAction(search);
+}
+
+void FeaturePane::Open(const QString& source) {
+  m_Model->Open(source);
+  m_Themes->clear();
+  for (const ListedTheme& theme : m_Model->Themes())
+    m_Themes->addItem(qt::ToQString(theme.name), static_cast<int>(theme.featureType));
+  ShowSigns();
+  if (m_Themes->count() > 0) ShowTheme(m_Themes->itemText(0));
+  ShowChoice();
+}
+
+void FeaturePane::ShowTheme(const QString& theme) {
+  const int at = m_Themes->findText(theme, Qt::MatchExactly | Qt::MatchCaseSensitive);
+  if (at < 0 || (theme == m_Model->Theme() && m_Model->Total() > 0)) return;
+  m_Themes->setCurrentIndex(at);
+  m_Search->clear();
+  m_Model->Show(theme);
+  m_View->horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
+  if (m_Model->rowCount() > 0) m_View->setCurrentIndex(m_Model->index(0, 0));
+  FitColumns();
+  ShowChoice();
+}
+
+// To what the first rows hold, so that no more of the theme is read than is seen.
+void FeaturePane::FitColumns() {
+  QHeaderView& header = *m_View->horizontalHeader();
+  const int most = fontMetrics().averageCharWidth() * 40;
+  for (int column = 0; column < header.count(); ++column) {
+    m_View->resizeColumnToContents(column);
+    if (header.sectionSize(column) > most) header.resizeSection(column, most);
+  }
+}
+
+QString FeaturePane::Feature() const {
+  const QModelIndex current = m_View->currentIndex();
+  return current.isValid() ? m_Model->IdOf(current.row()) : QString();
+}
+
+void FeaturePane::ChooseFeature(const QString& id) {
+  const int row = m_Model->RowOf(id);
+  if (row >= 0) m_View->setCurrentIndex(m_Model->index(row, 0));
+}
+
+void FeaturePane::Reload() {
+  const QString id = Feature();
+  m_Model->Reload();
+  ChooseFeature(id);
+  ShowChoice();
+}
+
+// What is found is ready to be filled in: the feature chosen before, or the first one.
+void FeaturePane::Search() {
+  const WaitCursor wait;
+  const QString id = Feature();
+  m_Model->Search(m_Search->text().trimmed());
+  if (m_Model->rowCount() > 0) m_View->setCurrentIndex(m_Model->index(qMax(0, m_Model->RowOf(id)), 0));
+  ShowChoice();
+}
+
+void FeaturePane::Sort(int column, Qt::SortOrder order) {
+  const WaitCursor wait;
+  const QString id = Feature();
+  m_Model->sort(column, order);
+  ChooseFeature(id);
+}
+
+void FeaturePane::Copy() {
+  const WaitCursor wait;
+  std::vector<int> rows;
+  for (const QModelIndex& index : m_View->selectionModel()->selectedRows()) rows.push_back(index.row());
+  std::ranges::sort(rows);
+  if (!rows.empty()) QApplication::clipboard()->setText(m_Model->AsText(rows));
+}
+
+// In the colour of the text beside them.
+void FeaturePane::ShowSigns() {
+  const QColor ink = palette().color(QPalette::Active, QPalette::WindowText);
+  for (int at = 0; at < m_Themes->count(); ++at)
+    m_Themes->setItemIcon(at, qt::KindSign(m_Themes->itemData(at).toInt(), ink, devicePixelRatioF()));
+}
+
+void FeaturePane::ShowChoice() {
+  const int shown = m_Model->rowCount();
+  const int total = m_Model->Total();
+  m_Fill->setEnabled(shown > 0);
+  m_Themes->setEnabled(m_Themes->count() > 0);
+  m_Search->setEnabled(m_Themes->count() > 0);
+  m_Count->setText(m_Themes->count() == 0 ? tr("No data source is open.")
+                   : shown < total        ? tr("%L1 of %L2 features").arg(shown).arg(total)
+                   : total == 1           ? tr("1 feature")
+                                          : tr("%L1 features").arg(total));
+}
+
+void FeaturePane::changeEvent(QEvent* event) {
+  QWidget::changeEvent(event);
+  if (event->type() == QEvent::PaletteChange) ShowSigns();
+  if (event->type() == QEvent::FontChange)
+    m_View->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 8);
+}
+
+}  // namespace cardwright::workbench

@@ -1,0 +1,61 @@
+#pragma once
+
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTableView>
+#include <QTimer>
+
+#include "workbench/panes/FeatureModel.h"
+
+namespace cardwright::workbench {
+
+/// The data source: its themes, and the features of one in a table that is searched, sorted and copied from.
+class FeaturePane final : public QWidget {
+  Q_OBJECT
+ public:
+  explicit FeaturePane(QWidget* parent);
+
+  /// Shows another source; "" for none.
+  void Open(const QString& source);
+  /// Shows a theme if the source has it.
+  void ShowTheme(const QString& theme);
+  FeatureModel& Model() noexcept { return *m_Model; }
+  QTableView& View() noexcept { return *m_View; }
+  QLineEdit& SearchField() noexcept { return *m_Search; }
+  /// Theme and identifier of the feature chosen; "" where none is.
+  QString Theme() const { return m_Model->Theme(); }
+  QString Feature() const;
+  void ChooseFeature(const QString& id);
+  /// Reads the features anew, as after one was changed.
+  void Reload();
+
+ Q_SIGNALS:
+  void OpenWanted();
+  void FillWanted();
+
+ protected:
+  void changeEvent(QEvent* event) override;
+
+ private:
+  void MakeTable();
+  void MakeActions();
+  QLayout* MakeHead();
+  void Search();
+  void Sort(int column, Qt::SortOrder order);
+  void Copy();
+  void FitColumns();
+  void ShowSigns();
+  void ShowChoice();
+
+  FeatureModel* m_Model;
+  QComboBox* m_Themes;
+  QLabel* m_Count;
+  QLineEdit* m_Search;
+  QPushButton *m_Open, *m_Fill;
+  QTableView* m_View;
+  QTimer m_SearchSoon;
+};
+
+}  // namespace cardwright::workbench

@@ -1,0 +1,59 @@
+#include "workbench/panes/IconEngine.h"
+
+#include <QApplication>
+#include <QPalette>
+
+namespace cardwright::workbench {
+namespace {
+
+constexpr qreal kField = 16;
+
+QPen PenOf(const QColor& color) { return {color, 1.2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin}; }
+
+}  // namespace
+
+void IconInk::Lines() const {
+  painter.setPen(PenOf(line));
+  painter.setBrush(Qt::NoBrush);
+}
+
+void IconInk::Accent() const {
+  painter.setPen(PenOf(accent));
+  painter.setBrush(Qt::NoBrush);
+}
+
+void IconInk::Filled() const {
+  painter.setPen(PenOf(line));
+  painter.setBrush(ground);
+}
+
+void IconEngine::paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State) {
+  const QPalette palette = QApplication::palette();
+  const auto group = mode == QIcon::Disabled ? QPalette::Disabled : QPalette::Active;
+  const bool selected = mode == QIcon::Selected;
+  const QColor line = palette.color(group, selected ? QPalette::HighlightedText : QPalette::WindowText);
+  QColor accent = palette.color(group, QPalette::Highlight);
+  if (selected || mode == QIcon::Disabled) accent = line;
+  QColor ground = palette.color(group, QPalette::Base);
+  if (selected) ground = Qt::transparent;
+
+  painter->save();
+  painter->setRenderHint(QPainter::Antialiasing);
+  const qreal side = qMin(rect.width(), rect.height());
+  painter->translate(rect.center() + QPointF(0.5, 0.5) - QPointF(side, side) / 2);
+  painter->scale(side / kField, side / kField);
+  const IconInk ink{*painter, line, accent, ground};
+  ink.Lines();
+  m_Draw(ink);
+  painter->restore();
+}
+
+QPixmap IconEngine::pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) {
+  QPixmap picture(size);
+  picture.fill(Qt::transparent);
+  QPainter painter(&picture);
+  paint(&painter, QRect({}, size), mode, state);
+  return picture;
+}
+
+}  // namespace cardwright::workbench

@@ -1,0 +1,43 @@
+#include "workbench/project/AfterReading.h"
+
+#include <algorithm>
+
+#include "automation/Conversions.h"
+#include "model/FormOwner.h"
+#include "storage/CIni.h"
+
+namespace cardwright::workbench {
+namespace {
+
+int ControlsIn(const CIni& project) {
+  const double count = Val(project.GetText(u"FORM", u"ControlsNumber", u"0"));
+  return count > 0 && count <= INT16_MAX ? static_cast<int>(count) : 0;
+}
+
+void KeepTexts(Collection& controls, const CIni& project) {
+  const int count = ControlsIn(project);
+  for (std::int32_t i = 1; i <= count; ++i) {
+    const Text section = Text(u"CONTROLS_") + ToText(Variant(i));
+    if (!EqualsNoCase(project.GetText(section, u"Type"), u"combobox")) continue;
+    const IControl* const combo = FindControl(controls, project.GetText(section, u"UserName"));
+    if (!combo) continue;
+    const Ref<Object> bound = combo->BoundObject();
+    auto* const widget = dynamic_cast<ComboWidget*>(bound.get());
+    if (widget && widget->ListIndex() < 0)
+      Attempt([&] { widget->SetDisplayText(project.GetText(section, u"Text")); });
+  }
+}
+
+}  // namespace
+
+int CompleteReading(cardwright::FormDesigner& designer, const Text& path) {
+  Collection& controls = designer.Controls();
+  for (const Ref<IControl>& control : ControlsOf(controls))
+    Attempt([&] { control->AttachControls(controls); });
+  CIni project;
+  project.SetFileName(path);
+  KeepTexts(controls, project);
+  return std::max(0, ControlsIn(project) - (controls.Count() - 1));
+}
+
+}  // namespace cardwright::workbench

@@ -1,0 +1,215 @@
+#include "workbench/project/Document.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFileInfo>
+
+#include "model/FormOwner.h"
+#include "qt/QtText.h"
+#include "workbench/project/AfterReading.h"
+#include "workbench/project/Kinds.h"
+#include "workbench/project/ModuleScope.h"
+
+namespace cardwright::workbench {
+namespace {
+
+constexpr int kSettling = 150;  // milliseconds of quiet before a change becomes a step
+
+// Steps are written and read for each change: in memory, where the machine has such a folder.
+QString StepFolder() {
+  const QString runtime = qEnvironmentVariable("XDG_RUNTIME_DIR");
+  const QString base = QFileInfo(runtime).isWritable() ? runtime : QDir::tempPath();
+  return base + QStringLiteral("/cardwright-workbench-XXXXXX");
+}
+
+QByteArray ReadAll(const QString& path) {
+  QFile file(path);
+  return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+}  // namespace
+
+Document::Document(FormStage& stage, QObject* parent)
+    : QObject(parent), m_Stage(stage), m_Folder(StepFolder()) {
+  m_Soon.setSingleShot(true);
+  m_Soon.setInterval(kSettling);
+  connect(&m_Soon, &QTimer::timeout, this, &Document::OnQuiet);
+  qApp->installEventFilter(this);
+  New();
+}
+
+void Document::Adopt() {
+  if (m_Designer) {
+    const Ref<cardwright::FormDesigner> before = m_Designer;
+    qt::FormDesigner& stage = m_Stage.Renew();
+    m_Designer = stage.Object();
+    m_Designer->TakeClipboard(*before);
+    m_Designer->SetGridStep(before->GridStep());
+    m_Designer->SetGridAlignment(before->GridAlignment());
+  } else {
+    m_Designer = m_Stage.Designer().Object();
+  }
+  Connect();
+}
+
+void Document::Connect() {
+  // The toolkit's signals lack nothing, but an event's order among the others counts here.
+  m_Designer->Connect([this, designer = m_Designer.get()](std::u16string_view event, Args args) {
+    if (designer == m_Designer.get()) OnDesignerEvent(event, args);
+  });
+}
+
+void Document::New() {
+  m_IsLoading = true;
+  Adopt();
+  m_Path.clear();
+  m_Remark.clear();
+  m_Script = {u"VBScript", {}};
+  m_Stage.SetCaption(tr("Form"));
+  Reclaim();
+  m_IsLoading = false;
+  Begin(true);
+}
+
+QString Document::Open(const QString& path) {
+  const QString failure = Read(path);
+  if (!failure.isEmpty()) return failure;
+  m_Path = QFileInfo(path).absoluteFilePath();
+  Begin(true);
+  return {};
+}
+
+QString Document::OpenWork(const QString& work, const QString& path) {
+  const QString failure = Read(work);
+  if (!failure.isEmpty()) return failure;
+  // The work was saved by the rules of projects, which add a line break to the script.
+  QString content = qt::ToQString(m_Script.content);
+  if (content.endsWith(QLatin1String("\r\n"))) content.chop(2);
+  m_Script.content = qt::FromQString(content);
+  m_Path = path;
+  Reclaim();
+  Begin(false);
+  return {};
+}
+
+// What was shown comes back where the project cannot be read: on a stage that holds half of it, or nothing,
+// saving would take the file away.
+QString Document::Read(const QString& path) {
+  const QFileInfo info(path);
+  if (!info.isFile()) return tr("There is no file %1.").arg(path);
+  QFile file(path);
+  if (!file.open(QIODevice::ReadOnly)) return tr("%1 could not be read: %2.").arg(path, file.errorString());
+  const QByteArray bytes = file.readAll();
+  if (!bytes.isEmpty() && !bytes.toLower().contains("[form]"))
+    return tr("%1 holds no form project.").arg(path);
+  NoteNow();
+  m_IsLoading = true;
+  Adopt();
+  const bool isRead = Load(info.absoluteFilePath());
+  m_IsLoading = false;
+  if (!isRead) {
+    GoTo(m_History.Current());
+    return tr("%1 could not be read. What was shown before stays.").arg(path);
+  }
+  return {};
+}
+
+bool Document::Load(const QString& path) {
+  const bool isRead = m_Designer->ProjectRead(qt::FromQString(path));
+  m_Script = {Module().scriptLanguage, Module().scriptContent};
+  const int missing = CompleteReading(*m_Designer, qt::FromQString(path));
+  m_Remark = missing > 0 ? tr("%n control(s) of this project could not be read. Saving leaves them out.",
+                              nullptr, missing)
+                         : QString();
+  m_Designer->SetCtrl(Form());
+  return isRead;
+}
+
+void Document::Begin(bool isSaved) {
+  m_IsChanging = false;
+  m_IsTyping = false;
+  m_IsLocked = false;
+  m_Soon.stop();
+  m_History.Begin(StateNow(), isSaved);
+  Q_EMIT Replaced();
+  Q_EMIT Begun();
+  Q_EMIT Selected(m_Designer->CurrentControl().get());
+  Q_EMIT Changed();
+}
+
+Ref<IControl> Document::Form() const {
+  return Ref<IControl>(AsControl(m_Designer->Controls().Item(Variant(1))));
+}
+
+bool Document::IsEmpty() const { return m_Designer->Controls().Count() <= 1; }
+
+void Document::Reclaim() { ModuleScope::Put(m_Script, m_Designer->GetSurface()->Scale()); }
+
+bool Document::WriteTo(const QString& path, const Script& script) const {
+  if (IsEmpty()) return false;
+  const ModuleScope scope(script, m_Designer->GetSurface()->Scale());
+  return m_Designer->ProjectSave(qt::FromQString(path), true);
+}
+
+QByteArray Document::Bytes() const { return BytesWith(m_Script); }
+
+QByteArray Document::BytesWith(const Script& script) const {
+  const QString step = m_Folder.filePath(QStringLiteral("step.cwf"));
+  return WriteTo(step, script) ? ReadAll(step) : QByteArray();
+}
+
+QString Document::RunFile() const {
+  if (!IsModified() && QFileInfo(m_Path).isFile()) return m_Path;
+  const QString run = m_Folder.filePath(QStringLiteral("run.cwf"));
+  WriteTo(run, m_Script);
+  return run;
+}
+
+QString Document::Save(const QString& path) {
+  if (IsEmpty()) return tr("A form without controls has no file. Draw a control first, then save.");
+  NoteNow();
+  const QFileInfo info(path);
+  if (!QFileInfo(info.absolutePath()).isDir()) return tr("There is no folder %1.").arg(info.absolutePath());
+  const QByteArray wanted = Bytes();
+  {
+    const ModuleScope scope(m_Script, m_Designer->GetSurface()->Scale());
+    m_Designer->ProjectSave(qt::FromQString(info.absoluteFilePath()));
+  }
+  // Saving passes over what it cannot write, so what counts is what stands in the file.
+  if (wanted.isEmpty() || ReadAll(info.absoluteFilePath()) != wanted)
+    return tr("%1 could not be written.").arg(path);
+  m_Path = info.absoluteFilePath();
+  m_History.MarkSaved();
+  Q_EMIT Changed();
+  return {};
+}
+
+void Document::Insert(ControlTypeEnum type) {
+  const Ref<IControl> current = m_Designer->CurrentControl();
+  const bool intoFrame = current && KindOf(*current) == ControlTypeEnum::ctFrame;
+  QSize size;
+  for (const Kind& kind : Kinds())
+    if (kind.type == type) size = kind.size;
+  if (size.isEmpty()) return;
+  const ScaleMode scale = m_Designer->GetSurface()->Scale();
+  m_Designer->SetIntoFrame(intoFrame);
+  m_Designer->SetControlTypeToAdd(type);
+  m_Designer->SurfaceMouseUp(MouseButton::Left, 0, PixelsToScale(static_cast<float>(size.width()), scale),
+                             PixelsToScale(static_cast<float>(size.height()), scale));
+  m_Designer->SetIntoFrame(false);
+  const Ref<IControl> made = m_Designer->CurrentControl();
+  if (!made || made == current) return;
+  // Below the control that was selected, so that one after the other forms a column.
+  const auto pixels = [&](float count) { return PixelsToScale(count, scale); };
+  const bool beside = current && !intoFrame && KindOf(*current) != ControlTypeEnum::ctDefault;
+  const float height = pixels(static_cast<float>(size.height()));
+  const float below = beside ? current->Top() + current->Height() + pixels(8) : 0;
+  const bool hasRoom = beside && below + height <= m_Designer->GetSurface()->Height();
+  made->SetLeft(hasRoom ? current->Left() : pixels(16));
+  made->SetTop(hasRoom ? below : pixels(intoFrame ? 24 : 16));
+  made->SetWidth(pixels(static_cast<float>(size.width())));
+  made->SetHeight(height);
+  m_Designer->SetCtrl(made);
+}
+
+}  // namespace cardwright::workbench

@@ -1,0 +1,218 @@
+// The steps of a project: how a change becomes one, and the way back and forth.
+
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QMouseEvent>
+
+#include "model/FormOwner.h"
+#include "qt/QtText.h"
+#include "workbench/project/AfterReading.h"
+#include "workbench/project/Document.h"
+#include "workbench/project/ModuleScope.h"
+#include "workbench/project/Stacking.h"
+
+namespace cardwright::workbench {
+
+ProjectState Document::StateNow() const {
+  ProjectState state;
+  state.script = m_Script;
+  state.theme = m_Designer->GetThemeName();
+  state.scale = m_Designer->GetSurface()->Scale();
+  const Ref<IControl> current = m_Designer->CurrentControl();
+  if (current) state.selected = current->UserName();
+  const QByteArray bytes = BytesWith({});
+  if (!bytes.isEmpty()) {
+    state.file = qCompress(bytes, 1);
+    return state;
+  }
+  const Ref<IControl> form = Form();
+  if (!form) return state;
+  for (std::int32_t row = 0; row < form->PropertyCount(); ++row) {
+    // The font is an object of the designer's, which another one has in its place after a step.
+    const bool isFont = form->PropertyType(Variant(row)) == PropertyTypeEnum::ptFont;
+    state.formRows.push_back(
+        isFont ? Variant() : AttemptOr(Variant(), [&] { return form->PropertyValue(Variant(row)); }));
+  }
+  if (const Ref<Font> font = form->GetFont()) state.formFont = font->Values();
+  return state;
+}
+
+void Document::NoteSoon() {
+  if (m_IsLoading) return;
+  TakeTyped();
+  m_IsChanging = true;
+  m_Soon.start();
+}
+
+void Document::NoteNow() {
+  if (m_IsLoading || m_History.IsEmpty()) return m_Soon.stop();
+  if (m_Designer->IsTracking() || Module().designDragging) return m_Soon.start();
+  TakeTyped();
+  TakeForm();
+  Q_EMIT Changed();
+}
+
+void Document::OnQuiet() {
+  if (!m_IsTyping) return NoteNow();
+  TakeTyped();
+  Q_EMIT Changed();
+}
+
+// Nobody hears of the steps that are taken on the way: the editor would be shown the script of before.
+void Document::SetScript(const Script& script) {
+  if (m_Script == script) return;
+  if (m_Soon.isActive() && !m_IsTyping) TakeForm();
+  if (!m_Typing.Continues(m_Script, script)) {
+    TakeTyped();
+    m_History.EndTyping();
+  }
+  m_Script = script;
+  Reclaim();
+  m_IsTyping = true;
+  m_Soon.start();
+}
+
+void Document::TakeForm() {
+  m_Soon.stop();
+  m_IsChanging = false;
+  ProjectState now = StateNow();
+  if (m_History.Current().IsSameProject(now)) {
+    m_History.Select(now.selected);
+  } else {
+    m_History.Add(std::move(now));
+  }
+}
+
+// The form is as it was, so it need not be written again to be compared.
+void Document::TakeTyped() {
+  if (!m_IsTyping) return;
+  m_Soon.stop();
+  m_IsTyping = false;
+  ProjectState now = m_History.Current();
+  now.script = m_Script;
+  m_History.AddTyped(std::move(now));
+}
+
+void Document::Undo() {
+  if (m_Designer->IsTracking()) return;
+  NoteNow();
+  if (m_History.CanUndo()) Go(&History::Undo);
+}
+
+void Document::Redo() {
+  if (m_Designer->IsTracking()) return;
+  NoteNow();
+  if (m_History.CanRedo()) Go(&History::Redo);
+}
+
+void Document::Go(const ProjectState& (History::*step)()) {
+  const ProjectState before = m_History.Current();
+  const ProjectState& state = (m_History.*step)();
+  if (!state.HasSameForm(before)) return GoTo(state);
+  m_Script = state.script;
+  Reclaim();
+  if (state.selected != before.selected) SelectByName(Text(state.selected));
+  Q_EMIT Changed();
+}
+
+void Document::GoTo(const ProjectState& state) {
+  const ProjectState kept = state;
+  m_IsLoading = true;
+  Restore(kept);
+  m_IsLoading = false;
+  ProjectState now = StateNow();  // which may say the same otherwise
+  now.selected = kept.selected;
+  m_History.Settle(std::move(now));
+  m_IsChanging = false;
+  m_IsTyping = false;
+  m_Soon.stop();
+  Q_EMIT Replaced();
+  SelectByName(kept.selected);
+  if (m_IsLocked && !IsEmpty()) m_Designer->LockUnlock();  // no state holds the lock
+  Q_EMIT Selected(m_Designer->CurrentControl().get());
+  Q_EMIT Changed();
+}
+
+void Document::Restore(const ProjectState& state) {
+  const QWidget* focus = QApplication::focusWidget();
+  const bool hadFocus = focus && m_Stage.isAncestorOf(focus);
+  Adopt();
+  if (state.file.isEmpty()) {
+    RestoreForm(state);
+  } else {
+    const QString step = m_Folder.filePath(QStringLiteral("step.cwf"));
+    QFile file(step);
+    if (file.open(QIODevice::WriteOnly)) file.write(qUncompress(state.file));
+    file.close();
+    m_Designer->ProjectRead(qt::FromQString(step));
+    CompleteReading(*m_Designer, qt::FromQString(step));
+    // Reading has put another theme in the place of one that the data does not have.
+    if (m_Designer->GetThemeName() != state.theme) m_Designer->SetThemeName(state.theme);
+  }
+  m_Script = state.script;
+  Reclaim();
+  if (hadFocus) m_Stage.Designer().setFocus();
+}
+
+void Document::RestoreForm(const ProjectState& state) {
+  Module().formScaleMode = state.scale;
+  m_Designer->ApplyScaleAndGrid();
+  const Ref<IControl> form = Form();
+  for (std::size_t row = 0; row < state.formRows.size(); ++row) {
+    const Variant index(static_cast<std::int32_t>(row));
+    if (form->PropertyType(index) != PropertyTypeEnum::ptFont)
+      Attempt([&] { form->SetPropertyValue(index, state.formRows[row]); });
+  }
+  if (const Ref<Font> font = form->GetFont()) font->Assign(state.formFont);
+}
+
+void Document::SelectByName(const Text& name) {
+  IControl* control = FindControl(m_Designer->Controls(), name);
+  m_Designer->SetCtrl(control ? Ref<IControl>(control) : Form());
+}
+
+void Document::OnDesignerEvent(std::u16string_view event, Args args) {
+  if (event == u"CurrObjectChanged") {
+    IControl* control = AsControl(args[0].Deref());
+    if (!m_IsLoading && !m_IsChanging && control) m_History.Select(control->UserName());
+    if (!m_IsLoading) Q_EMIT Selected(control);
+  } else if (event == u"MenuStateChanged") {
+    Q_EMIT MenuChanged(qt::ToQString(ToText(args[0])), ToBoolean(args[1]));
+  } else if (event == u"ControlsLocked") {
+    m_IsLocked = ToBoolean(args[0]);
+    Q_EMIT Locked(m_IsLocked);
+  } else if (event == u"PropertyMenuClick") {
+    Q_EMIT PropertiesWanted();
+  } else {
+    OnChangeEvent(event, args);
+  }
+}
+
+void Document::OnChangeEvent(std::u16string_view event, Args args) {
+  if (event == u"AttribsList") return;
+  if (event == u"ControlNameChanged")
+    if (const IControl* renamed = AsControl(args[1].Deref()))
+      MoveContentsBehind(m_Designer->Controls(), *renamed);
+  if (!m_IsLoading && event == u"PropertyChanged") Q_EMIT RowChanged(ToLong(args[0]));
+  if (event == u"Resize" || event == u"RefreshPropertyList") Q_EMIT Resized();
+  if (!m_IsLoading && event == u"StateChanged") {
+    // A pasted control that differs in nothing is selected without a word.
+    Q_EMIT Selected(m_Designer->CurrentControl().get());
+    Q_EMIT DrawingEnded();
+  }
+  NoteSoon();
+}
+
+// The designer's popup menu restacks without a word, so what a right click leads to is looked at.
+bool Document::eventFilter(QObject* object, QEvent* event) {
+  if (event->type() == QEvent::MouseButtonPress &&
+      static_cast<QMouseEvent*>(event)->button() == Qt::RightButton && object->isWidgetType() &&
+      m_Stage.isAncestorOf(static_cast<QWidget*>(object)) && !m_IsLoading) {
+    TakeTyped();
+    m_Soon.start();
+  }
+  return QObject::eventFilter(object, event);
+}
+
+}  // namespace cardwright::workbench

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QByteArray>
+#include <vector>
+
+#include "automation/Variant.h"
+#include "platform/Font.h"
+#include "platform/Scale.h"
+
+namespace cardwright::workbench {
+
+/// A form's script, which belongs to the project and not to the designer.
+struct Script {
+  Text language;  ///< "VBScript", "JScript" or what the project has
+  Text content;
+
+  friend bool operator==(const Script&, const Script&) = default;
+};
+
+/// All of a project at one moment.
+struct ProjectState {
+  /// The project as it is saved, but without the script; empty for a form without controls, which has no
+  /// file.
+  QByteArray file;
+  Text theme;  ///< the form's
+  /// @name Such a form's own settings.
+  /// @{
+  ScaleMode scale = ScaleMode::Pixels;
+  std::vector<Variant> formRows;
+  FontValues formFont;
+  /// @}
+  Script script;
+  Text selected;  ///< user name of the selected control
+
+  /// Whether the forms are the same, whatever the scripts; what is selected does not count.
+  bool HasSameForm(const ProjectState& other) const;
+  bool IsSameProject(const ProjectState& other) const { return script == other.script && HasSameForm(other); }
+};
+
+}  // namespace cardwright::workbench
