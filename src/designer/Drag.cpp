@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace cardwright {
 namespace {
@@ -99,10 +100,7 @@ bool FormDesigner::Drag::HasFixedHeight() const {
 bool FormDesigner::Drag::Run() {
   while (Canvas().IsLeftButtonDown()) {
     const ScreenPoint cursor = Canvas().CursorPosition();
-    if (cursor != m_Cursor) {
-      m_Cursor = cursor;
-      Follow();
-    }
+    if (cursor != m_Cursor) Follow(cursor);
     // What is served meanwhile may clear it.
     m_Designer.m_Tracking = true;
     Canvas().Yield();
@@ -116,10 +114,27 @@ bool FormDesigner::Drag::IsTargetThere() const {
   return !m_Container || AttemptOr(false, [&] { return Canvas().Find(m_Container->Name()) == m_Container; });
 }
 
-void FormDesigner::Drag::Follow() {
-  if (!m_Outline->MoveTo(m_Cursor)) return;
+void FormDesigner::Drag::Follow(ScreenPoint cursor) {
+  const ScreenPoint before = std::exchange(m_Cursor, cursor);
+  const bool hasMoved = m_Designer.m_TracesMouse && Trace(before);
+  if (!m_Outline->MoveTo(m_Cursor) && !hasMoved) return;
   Canvas().ShowTooltip(TooltipText(), {m_Cursor.x, m_Cursor.y + m_TooltipDistance});
   ShowOutline();
+}
+
+// A grid takes a place that is exactly on it, and a quick hand is seen at few of them.
+bool FormDesigner::Drag::Trace(ScreenPoint from) {
+  const int right = m_Cursor.x - from.x;
+  const int down = m_Cursor.y - from.y;
+  const int steps = std::max(std::abs(right), std::abs(down));
+  bool hasMoved = false;
+  for (int step = 1; step < steps; ++step) {
+    const double part = static_cast<double>(step) / steps;
+    const ScreenPoint between{from.x + static_cast<int>(std::lround(right * part)),
+                              from.y + static_cast<int>(std::lround(down * part))};
+    hasMoved = m_Outline->MoveTo(between) || hasMoved;
+  }
+  return hasMoved;
 }
 
 // An empty rectangle is still to be seen.

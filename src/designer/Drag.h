@@ -37,7 +37,8 @@ class FormDesigner::Drag {
   LeastSize Least() const;
   void SetUp(DragMode mode);
   bool IsTargetThere() const;
-  void Follow();
+  void Follow(ScreenPoint cursor);
+  bool Trace(ScreenPoint from);
   void ShowOutline() const;
   Text TooltipText() const;
   const ScreenRect& Start() const { return m_Outline->Start(); }

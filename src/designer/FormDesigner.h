@@ -70,6 +70,10 @@ class FormDesigner final : public TableObject,
   /// Whether a drag is held to the grid.
   bool GridAlignment() const noexcept { return m_GridAlignment; }
   void SetGridAlignment(bool align) noexcept { m_GridAlignment = align; }
+  /// Whether a drag counts the mouse as having been at each point between two places where it is seen.
+  /// Without it, as at first, a hand that is quicker than the grid is fine passes grid points unseen. For a
+  /// host; no script sees it.
+  void SetTracesMouse(bool traces) noexcept { m_TracesMouse = traces; }
 
   Collection& Controls() override { return *m_Controls; }
   Ref<Collection> ControlCollection() const { return m_Controls; }
@@ -214,6 +218,7 @@ class FormDesigner final : public TableObject,
   std::int16_t m_NameCounter = 0;
   std::int16_t m_GridStep = 8;
   bool m_GridAlignment = false;
+  bool m_TracesMouse = false;
   bool m_EnableKeyDelete = true;
   bool m_Locked = false;
   bool m_PasteMode = false;

@@ -91,11 +91,15 @@ bool Control::Read(const Text& filePath, const Text& sectionName) {
 
 bool Control::Save(const Text& filePath, const Text& sectionName) {
   if (!Designer() || !m_Obj || !FileExists(filePath)) return false;
+  // What was in a frame inside a deleted frame stays among the controls; without its widget there is nothing
+  // to save.
+  Text name;
+  if (!Attempt([&] { name = m_Obj->Name(); })) return false;
   CIni ini;
   ini.SetFileName(filePath);
   Steps step;
   step([&] { ini.WriteValue(sectionName, u"Type", Table().typeText); });
-  step([&] { ini.WriteValue(sectionName, u"Name", m_Obj->Name()); });
+  step([&] { ini.WriteValue(sectionName, u"Name", name); });
   step([&] { ini.WriteValue(sectionName, u"UserName", m_UserName); });
   for (const FileKey& key : Table().keys) step([&] { WriteKey(*this, key, ini, sectionName); });
   step([&] {

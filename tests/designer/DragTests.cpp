@@ -77,6 +77,20 @@ TEST_F(DragTest, HoldsToTheGridWhereAligned) {
   EXPECT_EQ(BoxOf(*label), "24,32,100,30");
 }
 
+TEST_F(DragTest, FindsTheGridUnderAQuickHandWhereTheMouseIsTraced) {
+  const Ref<IControl> label = DrawLabel();
+  designer->SetGridAlignment(true);
+  DragHandle(0, {{70, 45}, {127, 98}});
+  EXPECT_EQ(BoxOf(*label), "20,30,100,30");
+  TakeOutlines();
+  designer->SetTracesMouse(true);
+  DragHandle(0, {{70, 45}, {127, 98}});
+  EXPECT_EQ(TakeOutlines(), (Lines{"20,30,120,60", "72,80,172,110"}));
+  EXPECT_EQ(BoxOf(*label), "72,80,100,30");
+  DragHandle(1, {{172, 110}, {101, 190}});
+  EXPECT_EQ(BoxOf(*label), "72,80,32,104");
+}
+
 TEST_F(DragTest, KeepsFractionsOfAPixelInTwips) {
   Module().formScaleMode = ScaleMode::Twips;
   designer->ApplyScaleAndGrid();

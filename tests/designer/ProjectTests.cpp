@@ -93,6 +93,19 @@ TEST_F(ProjectTest, HoldsWhatWasDrawn) {
       << saved;
 }
 
+TEST_F(ProjectTest, HoldsNothingOfWhatWentWithAFrameInAFrame) {
+  Draw(ctTextBox, 300, 250, 380, 280);
+  const Ref<IControl> outer = Draw(ctFrame, 10, 10, 250, 240);
+  const Ref<IControl> inner = DrawInside(*outer, ctFrame, 20, 20, 200, 180);
+  const Ref<IControl> deep = DrawInside(*inner, ctTextBox, 20, 20, 100, 50);
+  deep->SetPropertyValue(Variant(u"Attribute"), Variant(u"OWNER"));
+  designer->SetCtrl(outer);
+  designer->Delete();
+  const std::string saved = Saved();
+  EXPECT_NE(saved.find("[CONTROLS_1]"), std::string::npos);
+  EXPECT_EQ(saved.find("[CONTROLS_2]"), std::string::npos);
+}
+
 TEST_F(ProjectTest, NumbersNewControlsPastThoseThatWereRead) {
   Read(Example());
   std::set<std::u16string> names;
