@@ -143,8 +143,8 @@ float QtSurface::Height() const {
 void QtSurface::Resize(float width, float height) {
   QWidget& canvas = Canvas();
   const QSize pixels(WholePixels(width, m_Scale), WholePixels(height, m_Scale));
-  m_Width = width;
-  m_Height = height;
+  m_Width = std::fmax(width, 0.0F);  // a form that is smaller than the frame of its window has none
+  m_Height = std::fmax(height, 0.0F);
   canvas.resize(pixels);
 }
 

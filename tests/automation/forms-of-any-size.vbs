@@ -20,7 +20,7 @@ For Each kind In Split("FormInput FormDesigner")
     robot.Show control, 300, 200
     control.ProjectRead Project(size)
     robot.Pump
-    WScript.Echo kind, size, control.Controls.Count, control.Parent.Width < 9000 * 15, control.Parent.Height >= 0
+    WScript.Echo kind, size, control.Controls.Count, control.Parent.Width < 9000 * 15, control.Controls(1).Width >= 0
     control.Parent.Width = 3E+38
     robot.Pump
     control.Parent.Close
