@@ -34,11 +34,11 @@ QString Complete(const QString& source) {
   return QFileInfo::exists(source) ? QFileInfo(source).absoluteFilePath() : source;
 }
 
-/// What does not belong among the preferences.
-bool HoldsPassword(const QString& source) {
-  static const QRegularExpression password(QStringLiteral("(password|pwd)\\s*="),
+/// The source as others may see it, without a password.
+QString Shown(QString source) {
+  static const QRegularExpression password(QStringLiteral("((?:password|pwd)\\s*=\\s*)('[^']*'|[^\\s;]+)"),
                                            QRegularExpression::CaseInsensitiveOption);
-  return source.contains(password);
+  return source.replace(password, QStringLiteral("\\1…"));
 }
 
 }  // namespace
@@ -52,14 +52,14 @@ bool Workbench::OpenData(const QString& source) {
     m_Features->Open(source);
   } catch (const Error& error) {
     if (QFileInfo(source).isAbsolute() && !QFileInfo::exists(source)) kRecent.Remove(source);
-    QMessageBox::warning(this, tr("Open a data source"), qt::ToQString(error.Description()));
+    QMessageBox::warning(this, tr("Open a data source"), Shown(qt::ToQString(error.Description())));
     return false;
   }
   m_Features->ShowTheme(qt::ToQString(m_Document->Designer().GetThemeName()));
   m_Panes[QStringLiteral("paneData")]->show();
   m_Panes[QStringLiteral("paneData")]->raise();
-  if (!HoldsPassword(source)) kRecent.Add(Complete(source));
-  Tell(tr("Opened %1").arg(source));
+  if (Shown(source) == source) kRecent.Add(Complete(source));
+  Tell(tr("Opened %1").arg(Shown(source)));
   return true;
 }
 

@@ -94,9 +94,14 @@ bool Workbench::MayLeave() {
   if (!m_Document->IsModified()) return true;
   const QString name =
       m_Document->Path().isEmpty() ? tr("the new form") : QFileInfo(m_Document->Path()).fileName();
-  const auto answer = QMessageBox::question(
-      this, tr("Unsaved changes"), tr("Save the changes to %1?").arg(name),
-      QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, QMessageBox::Save);
+  QMessageBox box(QMessageBox::Question, tr("Unsaved changes"), tr("Save the changes to %1?").arg(name),
+                  QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, this);
+  box.setDefaultButton(QMessageBox::Save);
+  // Not every desktop gives them letters.
+  box.button(QMessageBox::Save)->setText(tr("&Save"));
+  box.button(QMessageBox::Discard)->setText(tr("&Discard"));
+  box.button(QMessageBox::Cancel)->setText(tr("&Cancel"));
+  const int answer = box.exec();
   if (answer == QMessageBox::Save) return Save();
   return answer == QMessageBox::Discard;
 }

@@ -1,6 +1,7 @@
 // The data pane, fill-in runs and debugging runs.
 
 #include <QClipboard>
+#include <QContextMenuEvent>
 #include <QDir>
 #include <QHeaderView>
 #include <QInputDialog>
@@ -239,6 +240,66 @@ TEST_F(DataTest, KeepsWhatIsSearchedAndSortedThroughARun) {
   ASSERT_TRUE(QTest::qWaitFor([&] { return !bench->Run(); }));
   EXPECT_EQ(pane.Model().RowOf(QStringLiteral("3")), row);
   EXPECT_EQ(pane.Feature(), QStringLiteral("3"));
+}
+
+TEST_F(DataTest, SortsByKeysFromTheMenuOfTheTable) {
+  FeaturePane& pane = bench->Features();
+  const QHeaderView& header = *pane.View().horizontalHeader();
+  const auto choose = [&](const QList<Qt::Key>& keys) {
+    pane.View().setFocus();
+    QTimer::singleShot(20, bench.get(), [&] {
+      for (const Qt::Key key : QList<Qt::Key>{Qt::Key_Up, Qt::Key_Right} + keys) {
+        ASSERT_NE(QApplication::activePopupWidget(), nullptr);
+        QTest::keyClick(QApplication::activePopupWidget(), key);
+      }
+    });
+    QContextMenuEvent event(QContextMenuEvent::Keyboard, QPoint(), QPoint());
+    QCoreApplication::sendEvent(QApplication::focusWidget(), &event);
+    QTest::qWait(5);
+  };
+  const QString first = pane.Model().IdOf(0);
+  choose({Qt::Key_Down, Qt::Key_Down, Qt::Key_Return});
+  EXPECT_EQ(header.sortIndicatorSection(), 1);
+  EXPECT_EQ(header.sortIndicatorOrder(), Qt::AscendingOrder);
+  const QString attribute = pane.Model().headerData(1, Qt::Horizontal).toString();
+  const int last = pane.Model().rowCount() - 1;
+  EXPECT_LT(QString::localeAwareCompare(Cell(0, attribute), Cell(last, attribute)), 0);
+  choose({Qt::Key_Up, Qt::Key_Return});
+  EXPECT_EQ(header.sortIndicatorSection(), 1);
+  EXPECT_GT(QString::localeAwareCompare(Cell(0, attribute), Cell(last, attribute)), 0);
+  choose({Qt::Key_Return});
+  EXPECT_EQ(header.sortIndicatorSection(), -1);
+  EXPECT_EQ(pane.Model().IdOf(0), first);
+}
+
+TEST_F(DataTest, KeepsTheWidthsOfColumnsThroughARun) {
+  QHeaderView& header = *bench->Features().View().horizontalHeader();
+  header.resizeSection(ColumnOf(QStringLiteral("NAME")), 231);
+  const auto widths = [&] {
+    QList<int> all;
+    for (int column = 0; column < header.count(); ++column) all += header.sectionSize(column);
+    return all;
+  };
+  const QList<int> before = widths();
+  Trigger("mnuFill");
+  ASSERT_NE(bench->Run(), nullptr);
+  bench->Run()->Form().Object()->Ok();
+  ASSERT_TRUE(QTest::qWaitFor([&] { return !bench->Run(); }));
+  EXPECT_EQ(widths(), before);
+}
+
+TEST_F(DataTest, FitsOnlyColumnsThatAreNew) {
+  const QString file = PathOf(QStringLiteral("pumps.csv"));
+  Write(file, "NAME,DEPTH\nOne,12\n");
+  ASSERT_TRUE(bench->OpenData(file));
+  FeaturePane& pane = bench->Features();
+  pane.View().setColumnWidth(ColumnOf(QStringLiteral("DEPTH")), 77);
+  const QString remark = QStringLiteral("a remark that is wider than any column is without it");
+  Write(file, "REMARK,NAME,DEPTH\n" + remark.toLatin1() + ",One,12\n");
+  pane.Reload();
+  EXPECT_EQ(pane.View().columnWidth(ColumnOf(QStringLiteral("DEPTH"))), 77);
+  EXPECT_GT(pane.View().columnWidth(ColumnOf(QStringLiteral("REMARK"))),
+            pane.fontMetrics().averageCharWidth() * 30);
 }
 
 TEST_F(DataTest, TellsWhatCannotBeOpenedAndKeepsWhatIsOpen) {

@@ -148,6 +148,37 @@ TEST_F(GridKeyTest, TabTakesTheValueAndEditsTheNextRow) {
   EXPECT_EQ(label->Left(), 40);
 }
 
+TEST_F(GridKeyTest, TypingReplacesTheValueOfAListHoweverItWasOpened) {
+  const Ref<IControl> box = Add(ControlTypeEnum::ctTextBox);
+  struct {
+    const char* row;
+    const char* first;
+    const char* second;
+  } const rows[] = {{"BackColor", "#112233", "#445566"}, {"Attribute", "NAME", "OWNER"}};
+  for (const auto& [row, first, second] : rows) {
+    const QString name = QLatin1String(row);
+    Edit(name);
+    KeyIn(QLatin1String(first));
+    PressAndSettle(Qt::Key_Return);
+    EXPECT_EQ(ValueOf(name), QLatin1String(first));
+    GoTo(name);
+    KeyIn(QLatin1String(second));
+    PressAndSettle(Qt::Key_Return);
+    EXPECT_EQ(ValueOf(name), QLatin1String(second));
+  }
+}
+
+TEST_F(GridKeyTest, HomeAndEndGoToTheFirstAndTheLastRow) {
+  Add(ControlTypeEnum::ctLabel);
+  GoTo(QStringLiteral("Left"));
+  Press(Qt::Key_End);
+  EXPECT_EQ(View().currentIndex().row(), Rows().rowCount() - 1);
+  EXPECT_EQ(View().currentIndex().column(), PropertyModel::kValue);
+  Press(Qt::Key_Home);
+  EXPECT_EQ(View().currentIndex().row(), 0);
+  EXPECT_EQ(View().currentIndex().column(), PropertyModel::kValue);
+}
+
 TEST_F(GridKeyTest, TabFromTheLastRowEndsTheEditing) {
   Add(ControlTypeEnum::ctLabel);
   Edit(Rows().NameOf(Rows().rowCount() - 1));

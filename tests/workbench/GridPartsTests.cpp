@@ -23,7 +23,7 @@ class AnyControl final : public IControl {
  public:
   Text TypeName() const override { return u"AnyControl"; }
   std::uint8_t PropertyCount() const override { return kRows; }
-  Text PropertyName(const Variant& index) const override { return Text(u"Row") + ToText(index); }
+  Text PropertyName(const Variant& index) const override { return beginning + ToText(index); }
   PropertyTypeEnum PropertyType(const Variant& index) const override { return TypeAt(ToLong(index)); }
   Variant PropertyValue(const Variant& index) const override { return values[ToLong(index)]; }
   void SetPropertyValue(const Variant& index, const Variant& value) override {
@@ -32,6 +32,7 @@ class AnyControl final : public IControl {
   std::vector<Text> PropertyList(const Variant&) const override { return {u"one", u"two"}; }
 
   mutable std::map<std::int32_t, Variant> values;
+  Text beginning = u"Row";
 };
 
 class NoChoices final : public Choices {
@@ -114,6 +115,40 @@ TEST_F(GridPartsTest, ShowsTheNamesInANarrowPane) {
   QTest::qWait(5);
   EXPECT_EQ(grid.View().horizontalHeader()->offset(), 0);
   EXPECT_LE(grid.View().horizontalHeader()->length(), grid.View().viewport()->width());
+}
+
+TEST_F(GridPartsTest, GivesNamesTheWidthTheyNeedUpToHalfOfTheGrid) {
+  const Ref<AnyControl> other = MakeRef<AnyControl>();
+  other->beginning = u"AThemeSelectorOfThisName";
+  const QTableView& view = grid.View();
+  const auto names = [&] { return view.columnWidth(PropertyModel::kName); };
+  const auto resizeTo = [&](int width) {
+    grid.resize(width, 600);
+    QTest::qWait(5);
+  };
+  resizeTo(1000);
+  const int narrow = names();
+  grid.Show(other);
+  const QString name = grid.Model().NameOf(kRows - 1);
+  const int wide = names();
+  EXPECT_GT(wide, narrow);
+  EXPECT_GT(wide, view.fontMetrics().horizontalAdvance(name));
+  EXPECT_LT(wide, view.viewport()->width() / 2);
+  resizeTo(200);
+  EXPECT_EQ(names(), view.viewport()->width() / 2);
+  resizeTo(1000);
+  EXPECT_EQ(names(), wide);
+  const QModelIndex cell = grid.Model().index(kRows - 1, PropertyModel::kName);
+  EXPECT_TRUE(cell.data(Qt::ToolTipRole).toString().startsWith(name + u'\n'));
+}
+
+TEST_F(GridPartsTest, KeepsTheShareOfTheNamesThatTheUserChose) {
+  QTableView& view = grid.View();
+  view.horizontalHeader()->resizeSection(PropertyModel::kName, view.viewport()->width() / 4);
+  grid.resize(1000, 600);
+  QTest::qWait(5);
+  grid.Show(MakeRef<AnyControl>());
+  EXPECT_NEAR(view.columnWidth(PropertyModel::kName), view.viewport()->width() / 4, 2);
 }
 
 TEST_F(GridPartsTest, ShowsSystemColoursAsTheyAreNow) {

@@ -148,6 +148,28 @@ TEST_F(ShortcutTest, SavesWhatIsBeingTyped) {
   EXPECT_FALSE(bench->isWindowModified());
 }
 
+TEST_F(ShortcutTest, AnswersTheQuestionOfUnsavedChangesByLetters) {
+  const QString file = PathOf(QStringLiteral("left.cwf"));
+  ASSERT_EQ(bench->Project().Save(file), QString());
+  const auto leave = [&](Qt::Key letter) {
+    qt::Meet<QMessageBox>([letter](QMessageBox& box) { QTest::keyClick(&box, letter); });
+    Press(Qt::Key_N, Qt::ControlModifier);
+    bench->activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(bench.get()));
+    return bench->Project().Path().isEmpty();
+  };
+  Type(QStringLiteral("Text"), QStringLiteral("first"));
+  EXPECT_FALSE(leave(Qt::Key_C));
+  EXPECT_FALSE(Read(file).contains("first"));
+  EXPECT_TRUE(leave(Qt::Key_S));
+  EXPECT_TRUE(Read(file).contains("first"));
+  ASSERT_TRUE(bench->OpenProject(file));
+  Select(name);
+  Type(QStringLiteral("Text"), QStringLiteral("second"));
+  EXPECT_TRUE(leave(Qt::Key_D));
+  EXPECT_FALSE(Read(file).contains("second"));
+}
+
 TEST_F(ShortcutTest, GoesToTheGridByF4) {
   GoToForm();
   Press(Qt::Key_F4);

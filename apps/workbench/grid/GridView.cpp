@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QScopedValueRollback>
 
 namespace cardwright::workbench {
 
@@ -29,6 +30,31 @@ GridView::GridView(PropertyModel& model, QWidget* parent) : QTableView(parent), 
   connect(this, &QTableView::clicked, this, [this](const QModelIndex& at) {
     if (at.column() == PropertyModel::kValue && (at.flags() & Qt::ItemIsEditable)) edit(at);
   });
+  connect(&model, &PropertyModel::modelReset, this, &GridView::ShareWidth);
+  connect(horizontalHeader(), &QHeaderView::sectionResized, this, [this](int column, int, int width) {
+    if (column == PropertyModel::kName && !m_IsSharing)
+      m_NameShare = static_cast<double>(width) / qMax(1, viewport()->width());
+  });
+}
+
+void GridView::ShareWidth() {
+  const QScopedValueRollback sharing(m_IsSharing, true);
+  const int all = viewport()->width();
+  QHeaderView& header = *horizontalHeader();
+  const int wanted =
+      m_NameShare > 0 ? qRound(all * m_NameShare) : qMin(sizeHintForColumn(PropertyModel::kName), all / 2);
+  // A column of no width would be widened by the header, as if by the user.
+  header.resizeSection(PropertyModel::kName, qMax(header.minimumSectionSize(), wanted));
+}
+
+void GridView::resizeEvent(QResizeEvent* event) {
+  QTableView::resizeEvent(event);
+  ShareWidth();
+}
+
+void GridView::changeEvent(QEvent* event) {
+  QTableView::changeEvent(event);
+  if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) ShareWidth();
 }
 
 // F4 is a shortcut of the window, too.
@@ -72,6 +98,8 @@ QModelIndex GridView::moveCursor(CursorAction action, Qt::KeyboardModifiers modi
   const int row = currentIndex().row();
   if (action == MoveNext) return m_Model.index(row + 1, PropertyModel::kValue);
   if (action == MovePrevious) return m_Model.index(row - 1, PropertyModel::kValue);
+  if (action == MoveHome) return m_Model.index(0, PropertyModel::kValue);
+  if (action == MoveEnd) return m_Model.index(m_Model.rowCount() - 1, PropertyModel::kValue);
   return QTableView::moveCursor(action, modifiers);
 }
 

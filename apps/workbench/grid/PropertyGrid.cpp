@@ -31,7 +31,6 @@ PropertyGrid::PropertyGrid(const Choices& choices, QWidget* parent)
       m_Title(new QLabel(this)),
       m_Notice(new QLabel(this)) {
   m_View->setItemDelegate(new ValueDelegate(*m_Model, choices, m_View));
-  m_View->horizontalHeader()->resizeSection(PropertyModel::kName, fontMetrics().averageCharWidth() * 20);
   m_Title->setContentsMargins(4, 4, 4, 2);
   m_Title->setFont(BoldFont());
   m_Notice->setWordWrap(true);

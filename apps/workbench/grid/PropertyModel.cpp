@@ -141,8 +141,9 @@ int PropertyModel::columnCount(const QModelIndex& parent) const {
 QVariant PropertyModel::data(const QModelIndex& index, int role) const {
   if (!index.isValid()) return {};
   const Row& row = m_Rows[static_cast<std::size_t>(index.row())];
-  if (role == Qt::ToolTipRole || role == Qt::AccessibleDescriptionRole || role == Qt::StatusTipRole)
-    return row.refusal ? row.refusal->reason : row.description;
+  const QString& told = row.refusal ? row.refusal->reason : row.description;
+  if (role == Qt::AccessibleDescriptionRole || role == Qt::StatusTipRole) return told;
+  if (role == Qt::ToolTipRole) return index.column() == kName ? row.name + u'\n' + told : told;
   if (index.column() == kName) return role == Qt::DisplayRole ? QVariant(row.name) : QVariant();
   const QString& text = row.refusal ? row.refusal->text : row.text;
   switch (role) {

@@ -1,6 +1,7 @@
 #include "workbench/grid/ValueCombo.h"
 
 #include <QAbstractItemView>
+#include <QFocusEvent>
 #include <QLineEdit>
 #include <QScopedValueRollback>
 #include <QScrollBar>
@@ -19,10 +20,7 @@ ValueCombo::ValueCombo(QWidget* parent, bool canType) : QComboBox(parent) {
 
 void ValueCombo::SetText(const QString& text) {
   setCurrentIndex(findText(text));
-  if (!isEditable()) return;
-  setEditText(text);
-  const int length = static_cast<int>(text.length());
-  lineEdit()->setSelection(length, -length);  // the beginning is what is seen of a long text
+  if (isEditable()) setEditText(text);
 }
 
 std::optional<QString> ValueCombo::Chosen() const {
@@ -50,6 +48,16 @@ void ValueCombo::keyPressEvent(QKeyEvent* event) {
 void ValueCombo::wheelEvent(QWheelEvent* event) {
   const QScopedValueRollback stepping(m_IsStepping, true);
   QComboBox::wheelEvent(event);
+}
+
+// What is typed takes the place of the value. The beginning is what is seen of a long text.
+void ValueCombo::focusInEvent(QFocusEvent* event) {
+  QComboBox::focusInEvent(event);
+  const bool isBack =
+      event->reason() == Qt::PopupFocusReason || event->reason() == Qt::ActiveWindowFocusReason;
+  if (!isEditable() || isBack) return;
+  const int length = static_cast<int>(currentText().length());
+  lineEdit()->setSelection(length, -length);
 }
 
 // Leaving the box chooses what was typed, if it is one of the choices.

@@ -36,7 +36,8 @@ FeaturePane::FeaturePane(QWidget* parent)
       m_Search(new QLineEdit(this)),
       m_Open(new QPushButton(tr("Open…"), this)),
       m_Fill(new QPushButton(tr("Fill in"), this)),
-      m_View(new QTableView(this)) {
+      m_View(new QTableView(this)),
+      m_SortBy(new QMenu(tr("Sort &by"), this)) {
   MakeTable();
   MakeActions();
   setFocusProxy(m_View);
@@ -115,6 +116,8 @@ void FeaturePane::MakeActions() {
   copy->setShortcutContext(Qt::WidgetShortcut);
   connect(copy, &QAction::triggered, this, &FeaturePane::Copy);
   m_View->addAction(copy);
+  connect(m_SortBy, &QMenu::aboutToShow, this, &FeaturePane::FillSortMenu);
+  m_View->addAction(m_SortBy->menuAction());
   m_View->setContextMenuPolicy(Qt::ActionsContextMenu);
   auto* search = new QAction(this);
   search->setShortcut(QKeySequence::Find);
@@ -124,6 +127,31 @@ void FeaturePane::MakeActions() {
     m_Search->selectAll();
   });
   addAction(search);
+}
+
+// What the heads of the columns are to the mouse.
+void FeaturePane::FillSortMenu() {
+  QHeaderView* header = m_View->horizontalHeader();
+  const int sorted = header->sortIndicatorSection();
+  const Qt::SortOrder order = sorted < 0 ? Qt::AscendingOrder : header->sortIndicatorOrder();
+  m_SortBy->clear();
+  for (int column = -1; column < header->count(); ++column) {
+    const QString name =
+        column < 0 ? tr("Order of the Store") : m_Model->headerData(column, Qt::Horizontal).toString();
+    QAction* action = m_SortBy->addAction(QString(name).replace(u'&', QLatin1String("&&")));
+    action->setCheckable(true);
+    action->setChecked(column == sorted);
+    connect(action, &QAction::triggered, header,
+            [header, column, order] { header->setSortIndicator(column, order); });
+  }
+  m_SortBy->addSeparator();
+  QAction* descending = m_SortBy->addAction(tr("&Descending"));
+  descending->setCheckable(true);
+  descending->setChecked(order == Qt::DescendingOrder);
+  descending->setEnabled(sorted >= 0);
+  connect(descending, &QAction::triggered, header, [header, sorted](bool isOn) {
+    header->setSortIndicator(sorted, isOn ? Qt::DescendingOrder : Qt::AscendingOrder);
+  });
 }
 
 void FeaturePane::Open(const QString& source) {
@@ -148,11 +176,24 @@ void FeaturePane::ShowTheme(const QString& theme) {
   ShowChoice();
 }
 
-// To what the first rows hold, so that no more of the theme is read than is seen.
-void FeaturePane::FitColumns() {
+QMap<QString, int> FeaturePane::ColumnWidths() const {
+  QMap<QString, int> widths;
+  for (int column = 0; column < m_Model->columnCount(); ++column)
+    widths[m_Model->headerData(column, Qt::Horizontal).toString()] = m_View->columnWidth(column);
+  return widths;
+}
+
+// To what the first rows hold, so that no more of the theme is read than is seen; not those whose width is
+// known.
+void FeaturePane::FitColumns(const QMap<QString, int>& known) {
   QHeaderView& header = *m_View->horizontalHeader();
   const int most = fontMetrics().averageCharWidth() * 40;
   for (int column = 0; column < header.count(); ++column) {
+    const auto width = known.constFind(m_Model->headerData(column, Qt::Horizontal).toString());
+    if (width != known.cend()) {
+      header.resizeSection(column, *width);
+      continue;
+    }
     m_View->resizeColumnToContents(column);
     if (header.sectionSize(column) > most) header.resizeSection(column, most);
   }
@@ -170,7 +211,9 @@ void FeaturePane::ChooseFeature(const QString& id) {
 
 void FeaturePane::Reload() {
   const QString id = Feature();
+  const QMap<QString, int> widths = ColumnWidths();
   m_Model->Reload();
+  FitColumns(widths);
   ChooseFeature(id);
   ShowChoice();
 }
@@ -210,6 +253,7 @@ void FeaturePane::ShowChoice() {
   const int shown = m_Model->rowCount();
   const int total = m_Model->Total();
   m_Fill->setEnabled(shown > 0);
+  m_SortBy->setEnabled(m_Model->columnCount() > 0);
   m_Themes->setEnabled(m_Themes->count() > 0);
   m_Search->setEnabled(m_Themes->count() > 0);
   m_Count->setText(m_Themes->count() == 0 ? tr("No data source is open.")

@@ -3,6 +3,8 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMap>
+#include <QMenu>
 #include <QPushButton>
 #include <QTableView>
 #include <QTimer>
@@ -45,7 +47,9 @@ class FeaturePane final : public QWidget {
   void Search();
   void Sort(int column, Qt::SortOrder order);
   void Copy();
-  void FitColumns();
+  void FillSortMenu();
+  QMap<QString, int> ColumnWidths() const;
+  void FitColumns(const QMap<QString, int>& known = {});
   void ShowSigns();
   void ShowChoice();
 
@@ -55,6 +59,7 @@ class FeaturePane final : public QWidget {
   QLineEdit* m_Search;
   QPushButton *m_Open, *m_Fill;
   QTableView* m_View;
+  QMenu* m_SortBy;
   QTimer m_SearchSoon;
 };
 

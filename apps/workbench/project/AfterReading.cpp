@@ -14,11 +14,15 @@ int ControlsIn(const CIni& project) {
   return count > 0 && count <= INT16_MAX ? static_cast<int>(count) : 0;
 }
 
-void KeepTexts(Collection& controls, const CIni& project) {
+/// Returns how many controls the project holds.
+int KeepTexts(Collection& controls, const CIni& project) {
   const int count = ControlsIn(project);
+  int found = 0;
   for (std::int32_t i = 1; i <= count; ++i) {
     const Text section = Text(u"CONTROLS_") + ToText(Variant(i));
-    if (!EqualsNoCase(project.GetText(section, u"Type"), u"combobox")) continue;
+    const Text type = project.GetText(section, u"Type");
+    if (!type.IsEmpty()) ++found;
+    if (!EqualsNoCase(type, u"combobox")) continue;
     const IControl* const combo = FindControl(controls, project.GetText(section, u"UserName"));
     if (!combo) continue;
     const Ref<Object> bound = combo->BoundObject();
@@ -26,6 +30,7 @@ void KeepTexts(Collection& controls, const CIni& project) {
     if (widget && widget->ListIndex() < 0)
       Attempt([&] { widget->SetDisplayText(project.GetText(section, u"Text")); });
   }
+  return found;
 }
 
 }  // namespace
@@ -36,8 +41,7 @@ int CompleteReading(cardwright::FormDesigner& designer, const Text& path) {
     Attempt([&] { control->AttachControls(controls); });
   CIni project;
   project.SetFileName(path);
-  KeepTexts(controls, project);
-  return std::max(0, ControlsIn(project) - (controls.Count() - 1));
+  return std::max(0, KeepTexts(controls, project) - (controls.Count() - 1));
 }
 
 }  // namespace cardwright::workbench

@@ -49,6 +49,7 @@ void Document::Adopt() {
   } else {
     m_Designer = m_Stage.Designer().Object();
   }
+  m_Designer->SetTracesMouse(true);
   Connect();
 }
 
