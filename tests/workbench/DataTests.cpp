@@ -254,7 +254,7 @@ TEST_F(DataTest, SortsByKeysFromTheMenuOfTheTable) {
       }
     });
     QContextMenuEvent event(QContextMenuEvent::Keyboard, QPoint(), QPoint());
-    QCoreApplication::sendEvent(QApplication::focusWidget(), &event);
+    QCoreApplication::sendEvent(&pane.View(), &event);
     QTest::qWait(5);
   };
   const QString first = pane.Model().IdOf(0);
