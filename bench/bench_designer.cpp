@@ -10,11 +10,11 @@
 
 #include "FormFiles.h"
 #include "Measure.h"
-#include "qt/FormDesigner.h"
-#include "qt/FormInput.h"
-#include "qt/Library.h"
-#include "qt/QtDesignSurface.h"
-#include "robot/PlatformInput.h"
+#include "cardwright/qt/FormDesigner.h"
+#include "cardwright/qt/FormInput.h"
+#include "cardwright/qt/Library.h"
+#include "cardwright/qt/QtDesignSurface.h"
+#include "cardwright/robot/PlatformInput.h"
 
 namespace {
 

@@ -10,9 +10,9 @@
 
 #include "FormFiles.h"
 #include "Measure.h"
-#include "orv/EmbeddedHost.h"
-#include "qt/FormInput.h"
-#include "qt/Library.h"
+#include "cardwright/orv/EmbeddedHost.h"
+#include "cardwright/qt/FormInput.h"
+#include "cardwright/qt/Library.h"
 
 namespace {
 

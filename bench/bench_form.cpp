@@ -16,8 +16,8 @@
 
 #include "FormFiles.h"
 #include "Measure.h"
-#include "qt/FormInput.h"
-#include "qt/Library.h"
+#include "cardwright/qt/FormInput.h"
+#include "cardwright/qt/Library.h"
 
 namespace {
 

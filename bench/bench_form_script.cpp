@@ -6,13 +6,13 @@
 
 #include "FormFiles.h"
 #include "Measure.h"
-#include "hosting/FormScripts.h"
-#include "jscript/Engine.h"
-#include "qt/FormInput.h"
-#include "qt/Library.h"
-#include "runtime/ScriptRun.h"
-#include "shared/ModuleState.h"
-#include "vbscript/Engine.h"
+#include "cardwright/hosting/FormScripts.h"
+#include "cardwright/jscript/Engine.h"
+#include "cardwright/qt/FormInput.h"
+#include "cardwright/qt/Library.h"
+#include "cardwright/runtime/ScriptRun.h"
+#include "cardwright/shared/ModuleState.h"
+#include "cardwright/vbscript/Engine.h"
 
 namespace {
 

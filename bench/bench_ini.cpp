@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "Measure.h"
-#include "storage/CIni.h"
+#include "cardwright/storage/CIni.h"
 
 namespace {
 

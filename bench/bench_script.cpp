@@ -12,8 +12,8 @@
 #include <vector>
 
 #include "Measure.h"
-#include "automation/MemberTable.h"
-#include "vbscript/Engine.h"
+#include "cardwright/automation/MemberTable.h"
+#include "cardwright/vbscript/Engine.h"
 
 namespace {
 

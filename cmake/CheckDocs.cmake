@@ -6,8 +6,8 @@ include("${CMAKE_CURRENT_LIST_DIR}/Rooms.cmake")
 
 set(faults)
 foreach(room IN LISTS CARDWRIGHT_ROOMS)
-  if(NOT EXISTS "${root}/src/${room}/README.md")
-    list(APPEND faults "src/${room}: has no README.md")
+  if(NOT EXISTS "${root}/src/cardwright/${room}/README.md")
+    list(APPEND faults "src/cardwright/${room}: has no README.md")
   endif()
 endforeach()
 

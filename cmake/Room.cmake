@@ -1,7 +1,7 @@
-# cardwright_add_room(<room>): the static library cardwright_<room> from src/<room>/*.cpp, linked to the rooms that
+# cardwright_add_room(<room>): the static library cardwright_<room> from src/cardwright/<room>/*.cpp, linked to the rooms that
 # cmake/Rooms.cmake allows it and to nothing else. Outside the project it is Cardwright::<room>.
 function(cardwright_add_room room)
-  set(folder "${PROJECT_SOURCE_DIR}/src/${room}")
+  set(folder "${PROJECT_SOURCE_DIR}/src/cardwright/${room}")
   file(GLOB_RECURSE sources CONFIGURE_DEPENDS "${folder}/*.cpp")
   file(GLOB_RECURSE headers CONFIGURE_DEPENDS "${folder}/*.h")
   if(NOT sources AND NOT headers)
@@ -48,5 +48,5 @@ function(cardwright_add_room room)
   endif()
 
   install(TARGETS ${target} EXPORT CardwrightTargets FILE_SET HEADERS
-          DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/cardwright")
+          DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}")
 endfunction()

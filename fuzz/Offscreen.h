@@ -8,8 +8,8 @@
 #include <string>
 #include <string_view>
 
-#include "qt/Library.h"
-#include "shared/ModuleState.h"
+#include "cardwright/qt/Library.h"
+#include "cardwright/shared/ModuleState.h"
 
 namespace cardwright {
 

@@ -3,7 +3,7 @@
 #include <array>
 #include <vector>
 
-#include "vbscript/builtins/Builtin.h"
+#include "cardwright/vbscript/builtins/Builtin.h"
 
 namespace cardwright::vbscript {
 

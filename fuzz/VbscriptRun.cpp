@@ -3,10 +3,10 @@
 #include <cstdlib>
 #include <vector>
 
-#include "automation/Errors.h"
-#include "automation/MemoryBudget.h"
-#include "vbscript/Engine.h"
-#include "vbscript/objects/Dictionary.h"
+#include "cardwright/automation/Errors.h"
+#include "cardwright/automation/MemoryBudget.h"
+#include "cardwright/vbscript/Engine.h"
+#include "cardwright/vbscript/objects/Dictionary.h"
 
 namespace cardwright::vbscript {
 

@@ -25,10 +25,10 @@
 #include <vector>
 
 #include "Offscreen.h"
-#include "platform/Files.h"
-#include "qt/FormDesigner.h"
-#include "qt/QtText.h"
-#include "qt/WidgetCore.h"
+#include "cardwright/platform/Files.h"
+#include "cardwright/qt/FormDesigner.h"
+#include "cardwright/qt/QtText.h"
+#include "cardwright/qt/WidgetCore.h"
 
 namespace {
 

@@ -4,7 +4,7 @@
 #include <cstdlib>
 #include <string>
 
-#include "storage/IniFile.h"
+#include "cardwright/storage/IniFile.h"
 
 using cardwright::IniFile;
 

@@ -6,9 +6,9 @@
 #include <cstdlib>
 #include <vector>
 
-#include "automation/Collection.h"
-#include "automation/Errors.h"
-#include "jscript/Engine.h"
+#include "cardwright/automation/Collection.h"
+#include "cardwright/automation/Errors.h"
+#include "cardwright/jscript/Engine.h"
 
 namespace {
 

@@ -6,9 +6,9 @@
 #include <string_view>
 
 #include "Offscreen.h"
-#include "platform/Files.h"
-#include "qt/FormInput.h"
-#include "qt/QtText.h"
+#include "cardwright/platform/Files.h"
+#include "cardwright/qt/FormInput.h"
+#include "cardwright/qt/QtText.h"
 
 namespace {
 

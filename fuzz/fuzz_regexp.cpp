@@ -7,9 +7,9 @@
 #include <cstdlib>
 #include <string_view>
 
-#include "automation/Errors.h"
-#include "vbscript/objects/RegExp.h"
-#include "vbscript/objects/RegExpMatches.h"
+#include "cardwright/automation/Errors.h"
+#include "cardwright/vbscript/objects/RegExp.h"
+#include "cardwright/vbscript/objects/RegExpMatches.h"
 
 namespace {
 

@@ -17,11 +17,11 @@
 #include <string_view>
 #include <vector>
 
-#include "automation/MemberTable.h"
-#include "automation/MemoryBudget.h"
-#include "jscript/Engine.h"
-#include "platform/EngineControl.h"
-#include "vbscript/Engine.h"
+#include "cardwright/automation/MemberTable.h"
+#include "cardwright/automation/MemoryBudget.h"
+#include "cardwright/jscript/Engine.h"
+#include "cardwright/platform/EngineControl.h"
+#include "cardwright/vbscript/Engine.h"
 
 namespace {
 

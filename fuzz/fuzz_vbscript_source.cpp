@@ -6,9 +6,9 @@
 #include <cstdint>
 
 #include "VbscriptRun.h"
-#include "vbscript/Engine.h"
-#include "vbscript/syntax/Parser.h"
-#include "vbscript/syntax/Printer.h"
+#include "cardwright/vbscript/Engine.h"
+#include "cardwright/vbscript/syntax/Parser.h"
+#include "cardwright/vbscript/syntax/Printer.h"
 
 namespace {
 

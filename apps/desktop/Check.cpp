@@ -1,10 +1,10 @@
 #include <QFileInfo>
 
+#include "cardwright/qt/QtText.h"
 #include "desktop/Commands.h"
 #include "desktop/Console.h"
 #include "desktop/Options.h"
 #include "desktop/ProjectFaults.h"
-#include "qt/QtText.h"
 
 namespace cardwright::desktop {
 

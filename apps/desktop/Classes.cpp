@@ -1,11 +1,11 @@
 #include "desktop/Classes.h"
 
-#include "model/CColor.h"
-#include "model/CForm.h"
-#include "model/CItems.h"
-#include "model/ControlClasses.h"
-#include "runtime/CAttrib.h"
-#include "runtime/Vellum.h"
+#include "cardwright/model/CColor.h"
+#include "cardwright/model/CForm.h"
+#include "cardwright/model/CItems.h"
+#include "cardwright/model/ControlClasses.h"
+#include "cardwright/runtime/CAttrib.h"
+#include "cardwright/runtime/Vellum.h"
 
 namespace cardwright::desktop {
 namespace {

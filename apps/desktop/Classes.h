@@ -1,6 +1,6 @@
 #pragma once
 
-#include "hosting/ClassRegistry.h"
+#include "cardwright/hosting/ClassRegistry.h"
 
 namespace cardwright::desktop {
 

@@ -1,8 +1,8 @@
 #include "desktop/DataSource.h"
 
-#include "automation/Conversions.h"
-#include "qt/QtText.h"
-#include "shared/ModuleState.h"
+#include "cardwright/automation/Conversions.h"
+#include "cardwright/qt/QtText.h"
+#include "cardwright/shared/ModuleState.h"
 
 namespace cardwright::desktop {
 

@@ -2,9 +2,9 @@
 
 #include <QStringList>
 
-#include "orv/EmbeddedHost.h"
-#include "qt/Library.h"
-#include "runtime/HostCommands.h"
+#include "cardwright/orv/EmbeddedHost.h"
+#include "cardwright/qt/Library.h"
+#include "cardwright/runtime/HostCommands.h"
 
 namespace cardwright::desktop {
 

@@ -2,7 +2,7 @@
 
 #include <QScrollBar>
 
-#include "qt/QtText.h"
+#include "cardwright/qt/QtText.h"
 
 namespace cardwright::desktop {
 namespace {

@@ -3,7 +3,7 @@
 #include <QPlainTextEdit>
 #include <QPointer>
 
-#include "automation/MemberTable.h"
+#include "cardwright/automation/MemberTable.h"
 
 namespace cardwright::desktop {
 

@@ -1,8 +1,8 @@
+#include "cardwright/qt/TerminalBreak.h"
 #include "desktop/Commands.h"
 #include "desktop/Console.h"
 #include "desktop/Options.h"
 #include "desktop/Session.h"
-#include "qt/TerminalBreak.h"
 #include "workbench/Workbench.h"
 
 namespace cardwright::desktop {

@@ -1,14 +1,14 @@
 #include <QFileInfo>
 
-#include "automation/Errors.h"
+#include "cardwright/automation/Errors.h"
+#include "cardwright/qt/QtText.h"
+#include "cardwright/qt/TerminalBreak.h"
+#include "cardwright/runtime/AttributeBinding.h"
 #include "desktop/Commands.h"
 #include "desktop/Console.h"
 #include "desktop/FormWindow.h"
 #include "desktop/Options.h"
 #include "desktop/Session.h"
-#include "qt/QtText.h"
-#include "qt/TerminalBreak.h"
-#include "runtime/AttributeBinding.h"
 
 namespace cardwright::desktop {
 namespace {

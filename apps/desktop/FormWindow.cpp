@@ -6,9 +6,9 @@
 #include <QStyle>
 #include <QVBoxLayout>
 
-#include "qt/QtText.h"
-#include "runtime/AttributeBinding.h"
-#include "shared/ModuleState.h"
+#include "cardwright/qt/QtText.h"
+#include "cardwright/runtime/AttributeBinding.h"
+#include "cardwright/shared/ModuleState.h"
 
 namespace cardwright::desktop {
 

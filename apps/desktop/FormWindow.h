@@ -3,9 +3,9 @@
 #include <QScrollArea>
 #include <QWidget>
 
+#include "cardwright/qt/FormInput.h"
 #include "desktop/DataSource.h"
 #include "desktop/DebugPane.h"
-#include "qt/FormInput.h"
 
 namespace cardwright::desktop {
 

@@ -3,19 +3,19 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
-#include "automation/Conversions.h"
-#include "automation/Errors.h"
+#include "cardwright/automation/Conversions.h"
+#include "cardwright/automation/Errors.h"
+#include "cardwright/model/CItems.h"
+#include "cardwright/model/Control.h"
+#include "cardwright/qt/FormDesigner.h"
+#include "cardwright/qt/QtText.h"
+#include "cardwright/shared/ModuleState.h"
 #include "desktop/Commands.h"
 #include "desktop/Console.h"
 #include "desktop/FormWindow.h"
 #include "desktop/Options.h"
 #include "desktop/ScriptProcedures.h"
 #include "desktop/Session.h"
-#include "model/CItems.h"
-#include "model/Control.h"
-#include "qt/FormDesigner.h"
-#include "qt/QtText.h"
-#include "shared/ModuleState.h"
 
 namespace cardwright::desktop {
 namespace {

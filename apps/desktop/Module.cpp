@@ -1,8 +1,8 @@
 #include <QString>
 
-#include "cardwright/DesktopModule.h"
 #include "desktop/Commands.h"
 #include "desktop/ScriptWindows.h"
+#include "launcher/DesktopModule.h"
 
 namespace cardwright::desktop {
 namespace {

@@ -1,9 +1,9 @@
 #include "desktop/Options.h"
 
-#include "automation/Locale.h"
+#include "cardwright/automation/Locale.h"
+#include "cardwright/qt/QtText.h"
+#include "cardwright/storage/CodePage.h"
 #include "desktop/Console.h"
-#include "qt/QtText.h"
-#include "storage/CodePage.h"
 
 namespace cardwright::desktop {
 

@@ -3,12 +3,12 @@
 #include <iostream>
 #include <string>
 
-#include "automation/Errors.h"
+#include "cardwright/automation/Errors.h"
+#include "cardwright/orv/EmbeddedHost.h"
+#include "cardwright/qt/QtText.h"
 #include "desktop/Commands.h"
 #include "desktop/Console.h"
 #include "desktop/Options.h"
-#include "orv/EmbeddedHost.h"
-#include "qt/QtText.h"
 
 namespace cardwright::desktop {
 namespace {

@@ -5,17 +5,17 @@
 #include <QStringDecoder>
 #include <QStringList>
 
-#include "automation/Conversions.h"
-#include "automation/Split.h"
+#include "cardwright/automation/Conversions.h"
+#include "cardwright/automation/Split.h"
+#include "cardwright/model/CForm.h"
+#include "cardwright/model/ControlClasses.h"
+#include "cardwright/model/Enums.h"
+#include "cardwright/model/RegKey.h"
+#include "cardwright/platform/Files.h"
+#include "cardwright/qt/QtText.h"
+#include "cardwright/storage/CIni.h"
+#include "cardwright/storage/CodePage.h"
 #include "desktop/ScriptFaults.h"
-#include "model/CForm.h"
-#include "model/ControlClasses.h"
-#include "model/Enums.h"
-#include "model/RegKey.h"
-#include "platform/Files.h"
-#include "qt/QtText.h"
-#include "storage/CIni.h"
-#include "storage/CodePage.h"
 
 namespace cardwright::desktop {
 namespace {

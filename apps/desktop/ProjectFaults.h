@@ -3,7 +3,7 @@
 #include <QString>
 #include <vector>
 
-#include "orv/EmbeddedHost.h"
+#include "cardwright/orv/EmbeddedHost.h"
 
 namespace cardwright::desktop {
 

@@ -2,13 +2,13 @@
 #include <algorithm>
 #include <memory>
 
+#include "cardwright/qt/FormDesigner.h"
+#include "cardwright/qt/FormInput.h"
+#include "cardwright/qt/QtHostWindow.h"
 #include "desktop/Commands.h"
 #include "desktop/Console.h"
 #include "desktop/Options.h"
 #include "desktop/Session.h"
-#include "qt/FormDesigner.h"
-#include "qt/FormInput.h"
-#include "qt/QtHostWindow.h"
 
 namespace cardwright::desktop {
 

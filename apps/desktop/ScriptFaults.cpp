@@ -2,12 +2,12 @@
 
 #include <QRegularExpression>
 
-#include "cardwright/Languages.h"
+#include "cardwright/model/ControlClasses.h"
+#include "cardwright/qt/QtText.h"
+#include "cardwright/shared/ScriptText.h"
+#include "cardwright/storage/ProjectFile.h"
 #include "desktop/ScriptProcedures.h"
-#include "model/ControlClasses.h"
-#include "qt/QtText.h"
-#include "shared/ScriptText.h"
-#include "storage/ProjectFile.h"
+#include "launcher/Languages.h"
 
 namespace cardwright::desktop {
 namespace {

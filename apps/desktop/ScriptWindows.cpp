@@ -2,8 +2,8 @@
 
 #include <QLoggingCategory>
 
+#include "cardwright/robot/EventService.h"
 #include "desktop/Classes.h"
-#include "robot/EventService.h"
 
 namespace cardwright::desktop {
 

@@ -2,10 +2,10 @@
 
 #include <optional>
 
-#include "cardwright/DesktopModule.h"
+#include "cardwright/robot/Workplace.h"
 #include "desktop/Session.h"
 #include "desktop/UnseenDesktop.h"
-#include "robot/Workplace.h"
+#include "launcher/DesktopModule.h"
 
 namespace cardwright::desktop {
 

@@ -1,9 +1,9 @@
 #include "desktop/Session.h"
 
-#include "automation/Errors.h"
-#include "cardwright/Languages.h"
+#include "cardwright/automation/Errors.h"
+#include "cardwright/hosting/FormScripts.h"
 #include "desktop/Classes.h"
-#include "hosting/FormScripts.h"
+#include "launcher/Languages.h"
 
 namespace cardwright::desktop {
 namespace {

@@ -2,8 +2,8 @@
 
 #include <string>
 
-#include "hosting/MessageBoxes.h"
-#include "shared/ModuleState.h"
+#include "cardwright/hosting/MessageBoxes.h"
+#include "cardwright/shared/ModuleState.h"
 
 namespace cardwright::desktop {
 

@@ -2,7 +2,7 @@
 
 #include <functional>
 
-#include "platform/DesktopOver.h"
+#include "cardwright/platform/DesktopOver.h"
 
 namespace cardwright::desktop {
 

@@ -1,4 +1,4 @@
-#include "jscript/Engine.h"
+#include "cardwright/jscript/Engine.h"
 
 extern "C" __attribute__((visibility("default"))) const cardwright::ScriptLanguage cardwrightJScriptLanguage;
 const cardwright::ScriptLanguage cardwrightJScriptLanguage = cardwright::jscript::Language();

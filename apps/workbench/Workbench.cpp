@@ -13,9 +13,9 @@
 #include <QStatusBar>
 #include <QToolBar>
 
-#include "qt/QtText.h"
-#include "qt/WidgetCore.h"
-#include "runtime/HostLists.h"
+#include "cardwright/qt/QtText.h"
+#include "cardwright/qt/WidgetCore.h"
+#include "cardwright/runtime/HostLists.h"
 #include "workbench/Preferences.h"
 #include "workbench/grid/PropertyGrid.h"
 #include "workbench/panes/ControlList.h"

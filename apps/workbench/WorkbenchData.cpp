@@ -11,12 +11,12 @@
 #include <QRegularExpression>
 #include <QScreen>
 
-#include "automation/Errors.h"
-#include "qt/KindSigns.h"
-#include "qt/QtText.h"
-#include "runtime/AttributeBinding.h"
-#include "runtime/HostLists.h"
-#include "shared/ModuleState.h"
+#include "cardwright/automation/Errors.h"
+#include "cardwright/qt/KindSigns.h"
+#include "cardwright/qt/QtText.h"
+#include "cardwright/runtime/AttributeBinding.h"
+#include "cardwright/runtime/HostLists.h"
+#include "cardwright/shared/ModuleState.h"
 #include "workbench/Recent.h"
 #include "workbench/Workbench.h"
 #include "workbench/grid/PropertyGrid.h"

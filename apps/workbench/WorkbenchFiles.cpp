@@ -8,7 +8,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 
-#include "storage/CodePage.h"
+#include "cardwright/storage/CodePage.h"
 #include "workbench/Recent.h"
 #include "workbench/Workbench.h"
 #include "workbench/grid/PropertyGrid.h"

@@ -7,9 +7,9 @@
 #include <QPushButton>
 #include <QScrollArea>
 
-#include "qt/FormDesigner.h"
-#include "qt/Library.h"
-#include "qt/QtText.h"
+#include "cardwright/qt/FormDesigner.h"
+#include "cardwright/qt/Library.h"
+#include "cardwright/qt/QtText.h"
 
 using cardwright::ControlTypeEnum;
 using cardwright::qt::FormDesigner;

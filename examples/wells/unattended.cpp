@@ -10,14 +10,14 @@
 #include <QVBoxLayout>
 #include <cstdio>
 
-#include "automation/Errors.h"
-#include "hosting/FormScripts.h"
-#include "jscript/Engine.h"
-#include "orv/EmbeddedHost.h"
-#include "qt/FormInput.h"
-#include "qt/Library.h"
-#include "qt/QtText.h"
-#include "vbscript/Engine.h"
+#include "cardwright/automation/Errors.h"
+#include "cardwright/hosting/FormScripts.h"
+#include "cardwright/jscript/Engine.h"
+#include "cardwright/orv/EmbeddedHost.h"
+#include "cardwright/qt/FormInput.h"
+#include "cardwright/qt/Library.h"
+#include "cardwright/qt/QtText.h"
+#include "cardwright/vbscript/Engine.h"
 
 using namespace cardwright;
 

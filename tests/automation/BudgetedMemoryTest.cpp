@@ -3,10 +3,10 @@
 #include <memory_resource>
 #include <vector>
 
-#include "automation/Array.h"
-#include "automation/BudgetedMemory.h"
-#include "automation/Errors.h"
-#include "automation/MemoryBudget.h"
+#include "cardwright/automation/Array.h"
+#include "cardwright/automation/BudgetedMemory.h"
+#include "cardwright/automation/Errors.h"
+#include "cardwright/automation/MemoryBudget.h"
 
 namespace cardwright {
 namespace {

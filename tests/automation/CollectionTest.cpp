@@ -1,4 +1,4 @@
-#include "automation/Collection.h"
+#include "cardwright/automation/Collection.h"
 
 #include "automation/Printing.h"
 

@@ -1,8 +1,8 @@
 #include <ctime>
 
-#include "automation/Conversions.h"
-#include "automation/DateFormat.h"
 #include "automation/Printing.h"
+#include "cardwright/automation/Conversions.h"
+#include "cardwright/automation/DateFormat.h"
 
 namespace cardwright {
 namespace {

@@ -1,4 +1,4 @@
-#include "automation/Errors.h"
+#include "cardwright/automation/Errors.h"
 
 #include <stdexcept>
 

@@ -1,4 +1,4 @@
-#include "automation/Locale.h"
+#include "cardwright/automation/Locale.h"
 
 #include <cstdlib>
 #include <thread>

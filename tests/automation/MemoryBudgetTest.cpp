@@ -1,9 +1,9 @@
-#include "automation/MemoryBudget.h"
+#include "cardwright/automation/MemoryBudget.h"
 
 #include <gtest/gtest.h>
 
-#include "automation/Errors.h"
-#include "automation/Text.h"
+#include "cardwright/automation/Errors.h"
+#include "cardwright/automation/Text.h"
 
 namespace cardwright {
 namespace {

@@ -1,9 +1,9 @@
 #include <cmath>
 #include <limits>
 
-#include "automation/Array.h"
-#include "automation/Conversions.h"
 #include "automation/Printing.h"
+#include "cardwright/automation/Array.h"
+#include "cardwright/automation/Conversions.h"
 
 namespace cardwright {
 namespace {

@@ -1,4 +1,4 @@
-#include "automation/Object.h"
+#include "cardwright/automation/Object.h"
 
 #include "automation/Printing.h"
 #include "automation/SampleObject.h"

@@ -5,10 +5,10 @@
 #include <ostream>
 #include <string>
 
-#include "automation/Conversions.h"
-#include "automation/Errors.h"
-#include "automation/Locale.h"
-#include "automation/Text.h"
+#include "cardwright/automation/Conversions.h"
+#include "cardwright/automation/Errors.h"
+#include "cardwright/automation/Locale.h"
+#include "cardwright/automation/Text.h"
 
 namespace cardwright {
 

@@ -2,8 +2,8 @@
 
 #include <map>
 
-#include "automation/Collection.h"
-#include "automation/MemberTable.h"
+#include "cardwright/automation/Collection.h"
+#include "cardwright/automation/MemberTable.h"
 
 namespace cardwright {
 

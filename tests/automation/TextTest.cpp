@@ -1,4 +1,4 @@
-#include "automation/Text.h"
+#include "cardwright/automation/Text.h"
 
 #include <algorithm>
 

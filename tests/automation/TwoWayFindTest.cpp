@@ -1,4 +1,4 @@
-#include "automation/TwoWayFind.h"
+#include "cardwright/automation/TwoWayFind.h"
 
 #include <gtest/gtest.h>
 

@@ -1,8 +1,8 @@
-#include "automation/Variant.h"
+#include "cardwright/automation/Variant.h"
 
-#include "automation/Array.h"
-#include "automation/Collection.h"
 #include "automation/Printing.h"
+#include "cardwright/automation/Array.h"
+#include "cardwright/automation/Collection.h"
 
 namespace cardwright {
 namespace {

@@ -1,5 +1,5 @@
+#include "cardwright/model/CItems.h"
 #include "designer/DesignerTest.h"
-#include "model/CItems.h"
 
 namespace cardwright {
 namespace {

@@ -1,4 +1,4 @@
-#include "designer/DesignGrid.h"
+#include "cardwright/designer/DesignGrid.h"
 
 #include "designer/DesignerTest.h"
 

@@ -7,9 +7,9 @@
 #include <memory>
 
 #include "automation/Printing.h"
+#include "cardwright/designer/FormDesigner.h"
+#include "cardwright/shared/ModuleState.h"
 #include "designer/FakeDesignSurface.h"
-#include "designer/FormDesigner.h"
-#include "shared/ModuleState.h"
 #include "storage/TempFolder.h"
 
 namespace cardwright {

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/DesignSurface.h"
+#include "cardwright/platform/DesignSurface.h"
 #include "platform/FakeWidgets.h"
 
 namespace cardwright {

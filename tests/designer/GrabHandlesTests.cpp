@@ -1,4 +1,4 @@
-#include "designer/GrabHandles.h"
+#include "cardwright/designer/GrabHandles.h"
 
 #include "designer/DesignerTest.h"
 

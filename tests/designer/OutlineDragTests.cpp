@@ -1,4 +1,4 @@
-#include "designer/OutlineDrag.h"
+#include "cardwright/designer/OutlineDrag.h"
 
 #include <gtest/gtest.h>
 

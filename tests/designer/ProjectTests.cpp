@@ -1,8 +1,8 @@
 #include <chrono>
 #include <random>
 
+#include "cardwright/shared/HostExecutor.h"
 #include "designer/DesignerTest.h"
-#include "shared/HostExecutor.h"
 
 namespace cardwright {
 namespace {

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "hosting/FormScripts.h"
-#include "jscript/Engine.h"
+#include "cardwright/hosting/FormScripts.h"
+#include "cardwright/jscript/Engine.h"
+#include "cardwright/vbscript/Engine.h"
 #include "runtime/FormTest.h"
-#include "vbscript/Engine.h"
 
 namespace cardwright {
 

@@ -2,9 +2,9 @@
 
 #include <QSettings>
 
+#include "cardwright/hosting/ClassPermissions.h"
+#include "cardwright/robot/AttendedDesktop.h"
 #include "forms/FormScriptsFixture.h"
-#include "hosting/ClassPermissions.h"
-#include "robot/AttendedDesktop.h"
 
 namespace cardwright {
 namespace {

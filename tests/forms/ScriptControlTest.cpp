@@ -1,7 +1,7 @@
 // The script control whose languages, code and objects change while its scripts run.
 
+#include "cardwright/platform/EngineControl.h"
 #include "forms/FormScriptsFixture.h"
-#include "platform/EngineControl.h"
 
 namespace cardwright {
 namespace {

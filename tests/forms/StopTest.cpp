@@ -2,8 +2,8 @@
 
 #include <QElapsedTimer>
 
+#include "cardwright/qt/TerminalBreak.h"
 #include "forms/FormScriptsFixture.h"
-#include "qt/TerminalBreak.h"
 
 namespace cardwright {
 namespace {

@@ -2,9 +2,9 @@
 
 #include <string>
 
-#include "automation/Conversions.h"
-#include "automation/Errors.h"
-#include "automation/Object.h"
+#include "cardwright/automation/Conversions.h"
+#include "cardwright/automation/Errors.h"
+#include "cardwright/automation/Object.h"
 
 namespace cardwright::testing {
 

@@ -1,8 +1,8 @@
-#include "hosting/ClassRegistry.h"
+#include "cardwright/hosting/ClassRegistry.h"
 
 #include <gtest/gtest.h>
 
-#include "automation/Collection.h"
+#include "cardwright/automation/Collection.h"
 #include "hosting/Calls.h"
 
 namespace cardwright::testing {

@@ -1,4 +1,4 @@
-#include "hosting/ErrorLine.h"
+#include "cardwright/hosting/ErrorLine.h"
 
 #include <gtest/gtest.h>
 

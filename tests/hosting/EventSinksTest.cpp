@@ -1,8 +1,8 @@
-#include "hosting/EventSinks.h"
+#include "cardwright/hosting/EventSinks.h"
 
 #include <gtest/gtest.h>
 
-#include "automation/MemberTable.h"
+#include "cardwright/automation/MemberTable.h"
 
 namespace cardwright::testing {
 namespace {

@@ -1,4 +1,4 @@
-#include "hosting/FileSystemObject.h"
+#include "cardwright/hosting/FileSystemObject.h"
 
 #include <fcntl.h>
 #include <gtest/gtest.h>
@@ -7,7 +7,7 @@
 #include <algorithm>
 #include <ctime>
 
-#include "automation/Calendar.h"
+#include "cardwright/automation/Calendar.h"
 #include "hosting/Calls.h"
 #include "hosting/TestFolder.h"
 

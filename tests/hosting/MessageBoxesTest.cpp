@@ -1,4 +1,4 @@
-#include "hosting/MessageBoxes.h"
+#include "cardwright/hosting/MessageBoxes.h"
 
 #include <gtest/gtest.h>
 

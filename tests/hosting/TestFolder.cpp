@@ -5,7 +5,7 @@
 #include <fstream>
 #include <iterator>
 
-#include "platform/Files.h"
+#include "cardwright/platform/Files.h"
 
 namespace cardwright::testing {
 

@@ -3,7 +3,7 @@
 #include <filesystem>
 #include <string>
 
-#include "automation/Text.h"
+#include "cardwright/automation/Text.h"
 
 namespace cardwright::testing {
 

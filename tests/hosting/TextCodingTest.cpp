@@ -1,4 +1,4 @@
-#include "hosting/TextCoding.h"
+#include "cardwright/hosting/TextCoding.h"
 
 #include <gtest/gtest.h>
 

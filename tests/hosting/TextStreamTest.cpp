@@ -1,9 +1,9 @@
 #include <gtest/gtest.h>
 
+#include "cardwright/hosting/FileSystemObject.h"
+#include "cardwright/storage/CodePage.h"
 #include "hosting/Calls.h"
-#include "hosting/FileSystemObject.h"
 #include "hosting/TestFolder.h"
-#include "storage/CodePage.h"
 
 namespace cardwright::testing {
 namespace {

@@ -7,12 +7,12 @@
 #include <string>
 #include <vector>
 
-#include "automation/Array.h"
-#include "automation/Collection.h"
-#include "automation/Conversions.h"
-#include "automation/Errors.h"
-#include "automation/MemberTable.h"
-#include "jscript/Engine.h"
+#include "cardwright/automation/Array.h"
+#include "cardwright/automation/Collection.h"
+#include "cardwright/automation/Conversions.h"
+#include "cardwright/automation/Errors.h"
+#include "cardwright/automation/MemberTable.h"
+#include "cardwright/jscript/Engine.h"
 
 namespace cardwright::jscript {
 

@@ -1,6 +1,6 @@
 #include "jscript/Program.h"
 
-#include "automation/Errors.h"
+#include "cardwright/automation/Errors.h"
 #include "jscript/EngineSample.h"
 
 namespace cardwright::jscript {

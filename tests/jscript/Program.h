@@ -1,6 +1,6 @@
 #pragma once
 
-#include "jscript/Engine.h"
+#include "cardwright/jscript/Engine.h"
 #include "programs/Program.h"
 
 namespace cardwright::jscript {

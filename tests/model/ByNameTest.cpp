@@ -1,6 +1,6 @@
 // Members and rows as scripts reach them: by name, in any case.
 
-#include "model/CItems.h"
+#include "cardwright/model/CItems.h"
 #include "model/Forms.h"
 #include "storage/TempFolder.h"
 

@@ -1,4 +1,4 @@
-#include "model/CColor.h"
+#include "cardwright/model/CColor.h"
 
 #include <gtest/gtest.h>
 

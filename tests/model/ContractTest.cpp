@@ -1,8 +1,8 @@
 // The contract that all control classes share.
 
+#include "cardwright/model/IControl.h"
+#include "cardwright/model/Rename.h"
 #include "model/Forms.h"
-#include "model/IControl.h"
-#include "model/Rename.h"
 
 namespace cardwright {
 namespace {

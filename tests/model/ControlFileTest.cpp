@@ -1,7 +1,7 @@
 // One control and its section of a project.
 
+#include "cardwright/model/Steps.h"
 #include "model/Forms.h"
-#include "model/Steps.h"
 #include "storage/TempFolder.h"
 
 namespace cardwright {

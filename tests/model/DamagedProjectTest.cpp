@@ -5,7 +5,7 @@
 #include <filesystem>
 #include <random>
 
-#include "model/CItems.h"
+#include "cardwright/model/CItems.h"
 #include "model/Forms.h"
 #include "model/ProjectTexts.h"
 #include "storage/TempFolder.h"

@@ -1,9 +1,9 @@
 #include "model/FakeOwners.h"
 
-#include "model/ControlClasses.h"
-#include "model/Rename.h"
-#include "model/TableControl.h"
-#include "shared/ModuleState.h"
+#include "cardwright/model/ControlClasses.h"
+#include "cardwright/model/Rename.h"
+#include "cardwright/model/TableControl.h"
+#include "cardwright/shared/ModuleState.h"
 
 namespace cardwright {
 namespace {

@@ -4,8 +4,8 @@
 #include <string>
 #include <vector>
 
-#include "automation/MemberTable.h"
-#include "model/FormOwner.h"
+#include "cardwright/automation/MemberTable.h"
+#include "cardwright/model/FormOwner.h"
 
 namespace cardwright {
 

@@ -6,12 +6,12 @@
 #include <QWidget>
 
 #include "automation/Printing.h"
-#include "model/CForm.h"
-#include "model/ControlClasses.h"
+#include "cardwright/model/CForm.h"
+#include "cardwright/model/ControlClasses.h"
+#include "cardwright/qt/QtSurface.h"
+#include "cardwright/qt/WidgetCore.h"
+#include "cardwright/shared/ModuleState.h"
 #include "model/FakeOwners.h"
-#include "qt/QtSurface.h"
-#include "qt/WidgetCore.h"
-#include "shared/ModuleState.h"
 
 namespace cardwright {
 

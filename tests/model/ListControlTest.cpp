@@ -2,8 +2,8 @@
 
 #include <QTreeWidget>
 
-#include "model/CComboBox.h"
-#include "model/CListBox.h"
+#include "cardwright/model/CComboBox.h"
+#include "cardwright/model/CListBox.h"
 #include "model/Forms.h"
 #include "shared/FakeDesktop.h"
 #include "storage/TempFolder.h"

@@ -1,9 +1,9 @@
 // A form project byte by byte: what is read, and what is written from it.
 
-#include "model/CItems.h"
+#include "cardwright/model/CItems.h"
+#include "cardwright/platform/Picture.h"
 #include "model/Forms.h"
 #include "model/ProjectTexts.h"
-#include "platform/Picture.h"
 #include "storage/TempFolder.h"
 
 namespace cardwright {

@@ -2,10 +2,10 @@
 
 #include <sys/stat.h>
 
+#include "cardwright/runtime/FormInput.h"
 #include "model/Forms.h"
 #include "model/ProjectTexts.h"
 #include "model/ScriptedHost.h"
-#include "runtime/FormInput.h"
 #include "storage/TempFolder.h"
 
 namespace cardwright {

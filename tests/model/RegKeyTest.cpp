@@ -1,4 +1,4 @@
-#include "model/RegKey.h"
+#include "cardwright/model/RegKey.h"
 
 #include <gtest/gtest.h>
 

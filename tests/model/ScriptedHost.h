@@ -4,8 +4,8 @@
 #include <map>
 #include <string>
 
-#include "shared/HostExecutor.h"
-#include "shared/ModuleState.h"
+#include "cardwright/shared/HostExecutor.h"
+#include "cardwright/shared/ModuleState.h"
 
 namespace cardwright {
 

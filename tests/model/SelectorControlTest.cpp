@@ -1,6 +1,6 @@
 // What all five selectors do alike.
 
-#include "automation/Array.h"
+#include "cardwright/automation/Array.h"
 #include "model/SelectorForms.h"
 #include "shared/FakeDesktop.h"
 

@@ -4,9 +4,9 @@
 #include <sstream>
 
 #include "automation/Printing.h"
-#include "model/CForm.h"
-#include "model/ControlClasses.h"
-#include "shared/Messages.h"
+#include "cardwright/model/CForm.h"
+#include "cardwright/model/ControlClasses.h"
+#include "cardwright/shared/Messages.h"
 
 namespace cardwright {
 namespace {

@@ -1,7 +1,7 @@
 #include <fstream>
 
 #include "TestStore.h"
-#include "automation/Errors.h"
+#include "cardwright/automation/Errors.h"
 
 namespace cardwright::orv_tests {
 

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "orv/EmbeddedHost.h"
+#include "cardwright/orv/EmbeddedHost.h"
 
 namespace cardwright::orv_tests {
 

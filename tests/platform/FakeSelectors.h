@@ -2,9 +2,9 @@
 
 #include <algorithm>
 
+#include "cardwright/platform/SelectorWidgets.h"
+#include "cardwright/platform/ValueTemplate.h"
 #include "platform/FakeWidgets.h"
-#include "platform/SelectorWidgets.h"
-#include "platform/ValueTemplate.h"
 
 namespace cardwright {
 

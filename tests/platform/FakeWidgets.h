@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "platform/Widget.h"
+#include "cardwright/platform/Widget.h"
 
 namespace cardwright {
 

@@ -1,4 +1,4 @@
-#include "platform/Files.h"
+#include "cardwright/platform/Files.h"
 
 #include <sys/stat.h>
 #include <unistd.h>

@@ -1,8 +1,8 @@
-#include "platform/Font.h"
+#include "cardwright/platform/Font.h"
 
 #include "automation/Printing.h"
-#include "platform/Picture.h"
-#include "platform/Surface.h"
+#include "cardwright/platform/Picture.h"
+#include "cardwright/platform/Surface.h"
 
 namespace cardwright {
 namespace {

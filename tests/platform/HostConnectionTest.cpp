@@ -1,4 +1,4 @@
-#include "platform/HostConnection.h"
+#include "cardwright/platform/HostConnection.h"
 
 #include "automation/Printing.h"
 

@@ -1,9 +1,9 @@
-#include "platform/ValueTemplate.h"
+#include "cardwright/platform/ValueTemplate.h"
 
 #include <gtest/gtest.h>
 
-#include "automation/Locale.h"
 #include "automation/Printing.h"
+#include "cardwright/automation/Locale.h"
 
 namespace cardwright {
 namespace {

@@ -1,4 +1,4 @@
-#include "platform/Widget.h"
+#include "cardwright/platform/Widget.h"
 
 #include "automation/Printing.h"
 #include "platform/FakeWidgets.h"

@@ -6,9 +6,9 @@
 #include <iterator>
 #include <ostream>
 
-#include "automation/Errors.h"
-#include "automation/Locale.h"
-#include "automation/MemberTable.h"
+#include "cardwright/automation/Errors.h"
+#include "cardwright/automation/Locale.h"
+#include "cardwright/automation/MemberTable.h"
 
 namespace cardwright {
 namespace {

@@ -9,7 +9,7 @@
 #include <string_view>
 #include <vector>
 
-#include "platform/ScriptEngine.h"
+#include "cardwright/platform/ScriptEngine.h"
 
 namespace cardwright {
 

@@ -6,8 +6,8 @@
 #include <QTest>
 #include <QTimer>
 
+#include "cardwright/qt/QtDesktop.h"
 #include "qt/Form.h"
-#include "qt/QtDesktop.h"
 
 namespace cardwright::qt {
 namespace {

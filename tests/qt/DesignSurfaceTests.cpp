@@ -1,4 +1,4 @@
-#include "qt/QtDesignSurface.h"
+#include "cardwright/qt/QtDesignSurface.h"
 
 #include <QDragEnterEvent>
 #include <QImage>

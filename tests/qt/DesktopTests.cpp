@@ -1,4 +1,4 @@
-#include "qt/QtDesktop.h"
+#include "cardwright/qt/QtDesktop.h"
 
 #include <QApplication>
 #include <QMessageBox>
@@ -6,7 +6,7 @@
 #include <QTemporaryDir>
 #include <QTimer>
 
-#include "platform/Files.h"
+#include "cardwright/platform/Files.h"
 #include "qt/Form.h"
 
 namespace cardwright::qt {

@@ -1,12 +1,12 @@
-#include "qt/FieldNames.h"
+#include "cardwright/qt/FieldNames.h"
 
 #include <QAccessible>
 #include <QTemporaryDir>
 #include <fstream>
 
 #include "Form.h"
-#include "qt/FormInput.h"
-#include "qt/QtText.h"
+#include "cardwright/qt/FormInput.h"
+#include "cardwright/qt/QtText.h"
 
 namespace cardwright::qt {
 namespace {

@@ -3,11 +3,11 @@
 #include <QColorDialog>
 #include <QFontDialog>
 
-#include "platform/SelectorWidgets.h"
-#include "qt/Colors.h"
+#include "cardwright/platform/SelectorWidgets.h"
+#include "cardwright/qt/Colors.h"
+#include "cardwright/qt/QtText.h"
 #include "qt/Dialogs.h"
 #include "qt/Form.h"
-#include "qt/QtText.h"
 
 namespace cardwright::qt {
 

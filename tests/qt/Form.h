@@ -10,10 +10,10 @@
 #include <string>
 #include <vector>
 
-#include "automation/Errors.h"
-#include "platform/Widget.h"
-#include "qt/QtSurface.h"
-#include "qt/WidgetCore.h"
+#include "cardwright/automation/Errors.h"
+#include "cardwright/platform/Widget.h"
+#include "cardwright/qt/QtSurface.h"
+#include "cardwright/qt/WidgetCore.h"
 
 namespace cardwright {
 

@@ -1,4 +1,4 @@
-#include "qt/FormDesigner.h"
+#include "cardwright/qt/FormDesigner.h"
 
 #include <QDialog>
 #include <QElapsedTimer>
@@ -10,9 +10,9 @@
 #include <fstream>
 
 #include "Form.h"
-#include "qt/QtDesignSurface.h"
-#include "qt/QtText.h"
-#include "shared/ModuleState.h"
+#include "cardwright/qt/QtDesignSurface.h"
+#include "cardwright/qt/QtText.h"
+#include "cardwright/shared/ModuleState.h"
 
 namespace cardwright::qt {
 namespace {

@@ -8,12 +8,12 @@
 #include <QPushButton>
 #include <map>
 
-#include "platform/HostConnection.h"
-#include "platform/SelectorWidgets.h"
+#include "cardwright/platform/HostConnection.h"
+#include "cardwright/platform/SelectorWidgets.h"
+#include "cardwright/qt/QtText.h"
+#include "cardwright/shared/ModuleState.h"
 #include "qt/Dialogs.h"
 #include "qt/Form.h"
-#include "qt/QtText.h"
-#include "shared/ModuleState.h"
 
 namespace cardwright::qt {
 

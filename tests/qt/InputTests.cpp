@@ -5,7 +5,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 
-#include "platform/Widget.h"
+#include "cardwright/platform/Widget.h"
 #include "qt/Form.h"
 
 namespace cardwright::qt {

@@ -2,7 +2,7 @@
 #include <QFontDatabase>
 #include <QLabel>
 
-#include "qt/Colors.h"
+#include "cardwright/qt/Colors.h"
 #include "qt/Form.h"
 
 namespace cardwright::qt {

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "qt/Paths.h"
+#include "cardwright/qt/Paths.h"
 
 namespace cardwright::qt {
 

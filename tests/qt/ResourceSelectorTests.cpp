@@ -9,10 +9,10 @@
 #include <QTemporaryDir>
 #include <QUrl>
 
-#include "platform/SelectorWidgets.h"
+#include "cardwright/platform/SelectorWidgets.h"
+#include "cardwright/qt/QtText.h"
 #include "qt/Dialogs.h"
 #include "qt/Form.h"
-#include "qt/QtText.h"
 
 namespace cardwright::qt {
 

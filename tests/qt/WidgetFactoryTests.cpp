@@ -1,4 +1,4 @@
-#include "platform/SelectorWidgets.h"
+#include "cardwright/platform/SelectorWidgets.h"
 #include "qt/Form.h"
 
 namespace cardwright::qt {

@@ -1,4 +1,4 @@
-#include "robot/Attendant.h"
+#include "cardwright/robot/Attendant.h"
 
 #include <gtest/gtest.h>
 
@@ -13,8 +13,8 @@
 #include <filesystem>
 #include <fstream>
 
+#include "cardwright/robot/WidgetPart.h"
 #include "robot/Recorder.h"
-#include "robot/WidgetPart.h"
 
 namespace cardwright::robot {
 namespace {

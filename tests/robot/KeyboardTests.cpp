@@ -1,8 +1,8 @@
-#include "robot/Keyboard.h"
+#include "cardwright/robot/Keyboard.h"
 
 #include <gtest/gtest.h>
 
-#include "automation/Errors.h"
+#include "cardwright/automation/Errors.h"
 #include "robot/Recorder.h"
 
 namespace cardwright::robot {

@@ -1,4 +1,4 @@
-#include "robot/Mouse.h"
+#include "cardwright/robot/Mouse.h"
 
 #include <gtest/gtest.h>
 
@@ -8,7 +8,7 @@
 #include <algorithm>
 #include <numeric>
 
-#include "automation/Errors.h"
+#include "cardwright/automation/Errors.h"
 #include "robot/Recorder.h"
 
 namespace cardwright::robot {

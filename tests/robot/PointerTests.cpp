@@ -1,4 +1,4 @@
-#include "robot/Pointer.h"
+#include "cardwright/robot/Pointer.h"
 
 #include <gtest/gtest.h>
 

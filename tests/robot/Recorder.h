@@ -7,7 +7,7 @@
 #include <functional>
 #include <string>
 
-#include "robot/EventService.h"
+#include "cardwright/robot/EventService.h"
 
 namespace cardwright::robot {
 

@@ -10,15 +10,15 @@
 #include <QTest>
 #include <QTimer>
 
-#include "automation/Locale.h"
 #include "automation/Printing.h"
-#include "qt/FormInput.h"
-#include "qt/Library.h"
-#include "qt/QtText.h"
-#include "qt/WidgetCore.h"
+#include "cardwright/automation/Locale.h"
+#include "cardwright/qt/FormInput.h"
+#include "cardwright/qt/Library.h"
+#include "cardwright/qt/QtText.h"
+#include "cardwright/qt/WidgetCore.h"
+#include "cardwright/shared/ModuleState.h"
 #include "runtime/RecordingEngine.h"
 #include "runtime/ScriptedHost.h"
-#include "shared/ModuleState.h"
 #include "storage/TempFolder.h"
 
 namespace cardwright {

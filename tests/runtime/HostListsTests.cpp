@@ -1,14 +1,14 @@
 // What a host lists for the selectors.
 
-#include "runtime/HostLists.h"
+#include "cardwright/runtime/HostLists.h"
 
 #include <gtest/gtest.h>
 
 #include <chrono>
 
 #include "automation/Printing.h"
+#include "cardwright/shared/ModuleState.h"
 #include "runtime/ScriptedHost.h"
-#include "shared/ModuleState.h"
 
 namespace cardwright {
 namespace {

@@ -5,9 +5,9 @@
 #include <string>
 #include <vector>
 
-#include "automation/Conversions.h"
-#include "automation/Errors.h"
-#include "platform/ScriptControl.h"
+#include "cardwright/automation/Conversions.h"
+#include "cardwright/automation/Errors.h"
+#include "cardwright/platform/ScriptControl.h"
 
 namespace cardwright {
 

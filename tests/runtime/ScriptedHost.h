@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
-#include "automation/Errors.h"
-#include "platform/HostConnection.h"
+#include "cardwright/automation/Errors.h"
+#include "cardwright/platform/HostConnection.h"
 
 namespace cardwright {
 

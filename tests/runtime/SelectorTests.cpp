@@ -2,7 +2,7 @@
 
 #include <chrono>
 
-#include "platform/SelectorWidgets.h"
+#include "cardwright/platform/SelectorWidgets.h"
 #include "runtime/FormTest.h"
 
 namespace cardwright {

@@ -1,8 +1,8 @@
-#include "runtime/Vellum.h"
+#include "cardwright/runtime/Vellum.h"
 
 #include <QImage>
 
-#include "qt/QtSurface.h"
+#include "cardwright/qt/QtSurface.h"
 #include "runtime/FormTest.h"
 
 namespace cardwright {

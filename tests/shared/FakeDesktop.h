@@ -3,7 +3,7 @@
 #include <map>
 #include <vector>
 
-#include "shared/ModuleState.h"
+#include "cardwright/shared/ModuleState.h"
 
 namespace cardwright {
 

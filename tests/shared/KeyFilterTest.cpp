@@ -1,4 +1,4 @@
-#include "shared/KeyFilter.h"
+#include "cardwright/shared/KeyFilter.h"
 
 #include <gtest/gtest.h>
 

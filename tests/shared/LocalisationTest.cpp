@@ -1,4 +1,4 @@
-#include "shared/Localisation.h"
+#include "cardwright/shared/Localisation.h"
 
 #include <gtest/gtest.h>
 

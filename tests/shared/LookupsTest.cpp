@@ -1,4 +1,4 @@
-#include "shared/Lookups.h"
+#include "cardwright/shared/Lookups.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "shared/Messages.h"
+#include "cardwright/shared/Messages.h"
 
 #include <gtest/gtest.h>
 

@@ -1,13 +1,13 @@
-#include "shared/ModuleState.h"
+#include "cardwright/shared/ModuleState.h"
 
 #include <gtest/gtest.h>
 
 #include <thread>
 
 #include "automation/Printing.h"
+#include "cardwright/shared/ScreenKeyboard.h"
 #include "shared/FakeDesktop.h"
 #include "shared/NamedObject.h"
-#include "shared/ScreenKeyboard.h"
 
 namespace cardwright {
 namespace {

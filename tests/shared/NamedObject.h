@@ -3,9 +3,9 @@
 #include <map>
 #include <string>
 
-#include "automation/Collection.h"
-#include "automation/Errors.h"
-#include "automation/Object.h"
+#include "cardwright/automation/Collection.h"
+#include "cardwright/automation/Errors.h"
+#include "cardwright/automation/Object.h"
 
 namespace cardwright {
 

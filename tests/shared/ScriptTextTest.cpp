@@ -1,4 +1,4 @@
-#include "shared/ScriptText.h"
+#include "cardwright/shared/ScriptText.h"
 
 #include <gtest/gtest.h>
 

@@ -1,10 +1,10 @@
-#include "storage/CIni.h"
+#include "cardwright/storage/CIni.h"
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
 #include "automation/Printing.h"
-#include "platform/Files.h"
+#include "cardwright/platform/Files.h"
 #include "storage/TempFolder.h"
 
 namespace cardwright {

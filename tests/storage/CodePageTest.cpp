@@ -1,4 +1,4 @@
-#include "storage/CodePage.h"
+#include "cardwright/storage/CodePage.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "storage/IniBatch.h"
+#include "cardwright/storage/IniBatch.h"
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
@@ -7,10 +7,10 @@
 #include <random>
 
 #include "automation/Printing.h"
-#include "platform/Files.h"
+#include "cardwright/platform/Files.h"
+#include "cardwright/storage/CIni.h"
+#include "cardwright/storage/ProjectFile.h"
 #include "platform/SyncCount.h"
-#include "storage/CIni.h"
-#include "storage/ProjectFile.h"
 #include "storage/TempFolder.h"
 
 namespace cardwright {

@@ -1,4 +1,4 @@
-#include "storage/IniFile.h"
+#include "cardwright/storage/IniFile.h"
 
 #include <gtest/gtest.h>
 

@@ -1,9 +1,9 @@
-#include "storage/IniSnapshot.h"
+#include "cardwright/storage/IniSnapshot.h"
 
 #include <gtest/gtest.h>
 
 #include "automation/Printing.h"
-#include "storage/CIni.h"
+#include "cardwright/storage/CIni.h"
 #include "storage/TempFolder.h"
 
 namespace cardwright {

@@ -1,6 +1,6 @@
 // What others do to a file is noticed at the next call, however they do it.
 
-#include "storage/IniStore.h"
+#include "cardwright/storage/IniStore.h"
 
 #include <fcntl.h>
 #include <gtest/gtest.h>
@@ -12,7 +12,7 @@
 #include <thread>
 
 #include "automation/Printing.h"
-#include "storage/CIni.h"
+#include "cardwright/storage/CIni.h"
 #include "storage/TempFolder.h"
 
 namespace cardwright {

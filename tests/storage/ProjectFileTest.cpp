@@ -1,4 +1,4 @@
-#include "storage/ProjectFile.h"
+#include "cardwright/storage/ProjectFile.h"
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
@@ -6,8 +6,8 @@
 #include <numeric>
 
 #include "automation/Printing.h"
-#include "storage/CIni.h"
-#include "storage/CodePage.h"
+#include "cardwright/storage/CIni.h"
+#include "cardwright/storage/CodePage.h"
 #include "storage/TempFolder.h"
 
 namespace cardwright {

@@ -9,7 +9,7 @@
 #include <string>
 #include <string_view>
 
-#include "automation/Text.h"
+#include "cardwright/automation/Text.h"
 
 namespace cardwright {
 

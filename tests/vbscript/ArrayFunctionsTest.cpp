@@ -1,5 +1,5 @@
-#include "automation/Array.h"
 #include "automation/Printing.h"
+#include "cardwright/automation/Array.h"
 #include "vbscript/FamilyCalls.h"
 
 namespace cardwright::vbscript {

@@ -2,10 +2,10 @@
 
 #include <algorithm>
 
-#include "automation/MemoryBudget.h"
+#include "cardwright/automation/MemoryBudget.h"
+#include "cardwright/vbscript/syntax/Parser.h"
+#include "cardwright/vbscript/syntax/Printer.h"
 #include "vbscript/Program.h"
-#include "vbscript/syntax/Parser.h"
-#include "vbscript/syntax/Printer.h"
 
 namespace cardwright::vbscript {
 namespace {

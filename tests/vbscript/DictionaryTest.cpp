@@ -1,7 +1,7 @@
-#include "vbscript/objects/Dictionary.h"
+#include "cardwright/vbscript/objects/Dictionary.h"
 
-#include "automation/Collection.h"
 #include "automation/Printing.h"
+#include "cardwright/automation/Collection.h"
 
 namespace cardwright::vbscript {
 namespace {

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
-#include "automation/Errors.h"
-#include "vbscript/Engine.h"
+#include "cardwright/automation/Errors.h"
+#include "cardwright/vbscript/Engine.h"
 
 namespace cardwright::vbscript {
 namespace {

@@ -1,7 +1,7 @@
 #include <chrono>
 #include <thread>
 
-#include "automation/MemoryBudget.h"
+#include "cardwright/automation/MemoryBudget.h"
 #include "vbscript/EngineSample.h"
 
 namespace cardwright::vbscript {

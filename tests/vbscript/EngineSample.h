@@ -7,11 +7,11 @@
 #include <string>
 #include <vector>
 
-#include "automation/Conversions.h"
-#include "automation/Errors.h"
-#include "automation/MemberTable.h"
-#include "vbscript/Engine.h"
-#include "vbscript/objects/Dictionary.h"
+#include "cardwright/automation/Conversions.h"
+#include "cardwright/automation/Errors.h"
+#include "cardwright/automation/MemberTable.h"
+#include "cardwright/vbscript/Engine.h"
+#include "cardwright/vbscript/objects/Dictionary.h"
 
 namespace cardwright::vbscript {
 

@@ -6,11 +6,11 @@
 #include <string>
 #include <vector>
 
-#include "automation/Conversions.h"
-#include "automation/Errors.h"
-#include "automation/Locale.h"
-#include "vbscript/Context.h"
-#include "vbscript/builtins/Builtin.h"
+#include "cardwright/automation/Conversions.h"
+#include "cardwright/automation/Errors.h"
+#include "cardwright/automation/Locale.h"
+#include "cardwright/vbscript/Context.h"
+#include "cardwright/vbscript/builtins/Builtin.h"
 
 namespace cardwright::vbscript {
 

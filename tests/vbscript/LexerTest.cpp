@@ -1,11 +1,11 @@
-#include "vbscript/syntax/Lexer.h"
+#include "cardwright/vbscript/syntax/Lexer.h"
 
 #include <gtest/gtest.h>
 
 #include <string>
 #include <vector>
 
-#include "automation/Text.h"
+#include "cardwright/automation/Text.h"
 
 namespace cardwright::vbscript {
 namespace {

@@ -4,9 +4,9 @@
 #include <string>
 #include <vector>
 
-#include "vbscript/Context.h"
+#include "cardwright/vbscript/Context.h"
+#include "cardwright/vbscript/builtins/Builtin.h"
 #include "vbscript/OperatorSamples.h"
-#include "vbscript/builtins/Builtin.h"
 
 namespace cardwright::vbscript {
 

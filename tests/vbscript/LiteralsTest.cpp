@@ -1,10 +1,10 @@
-#include "vbscript/syntax/Literals.h"
+#include "cardwright/vbscript/syntax/Literals.h"
 
 #include <gtest/gtest.h>
 
-#include "automation/Conversions.h"
-#include "automation/Locale.h"
-#include "vbscript/syntax/Parser.h"
+#include "cardwright/automation/Conversions.h"
+#include "cardwright/automation/Locale.h"
+#include "cardwright/vbscript/syntax/Parser.h"
 
 namespace cardwright::vbscript {
 namespace {

@@ -3,10 +3,10 @@
 #include <array>
 #include <string>
 
-#include "automation/Array.h"
-#include "automation/Object.h"
 #include "automation/Printing.h"
-#include "vbscript/operators/Operators.h"
+#include "cardwright/automation/Array.h"
+#include "cardwright/automation/Object.h"
+#include "cardwright/vbscript/operators/Operators.h"
 
 namespace cardwright::vbscript {
 

@@ -2,8 +2,8 @@
 
 #include <string>
 
-#include "vbscript/syntax/Parser.h"
-#include "vbscript/syntax/Printer.h"
+#include "cardwright/vbscript/syntax/Parser.h"
+#include "cardwright/vbscript/syntax/Printer.h"
 
 namespace cardwright::vbscript {
 namespace {

@@ -1,4 +1,4 @@
-#include "vbscript/syntax/Parser.h"
+#include "cardwright/vbscript/syntax/Parser.h"
 
 #include <gtest/gtest.h>
 

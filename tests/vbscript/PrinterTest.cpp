@@ -1,4 +1,4 @@
-#include "vbscript/syntax/Printer.h"
+#include "cardwright/vbscript/syntax/Printer.h"
 
 #include <gtest/gtest.h>
 
@@ -7,7 +7,7 @@
 #include <sstream>
 
 #include "TreeText.h"
-#include "vbscript/syntax/Parser.h"
+#include "cardwright/vbscript/syntax/Parser.h"
 
 namespace cardwright::vbscript {
 namespace {

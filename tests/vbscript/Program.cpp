@@ -1,8 +1,8 @@
 #include "vbscript/Program.h"
 
-#include "automation/Errors.h"
-#include "vbscript/objects/Dictionary.h"
-#include "vbscript/objects/RegExp.h"
+#include "cardwright/automation/Errors.h"
+#include "cardwright/vbscript/objects/Dictionary.h"
+#include "cardwright/vbscript/objects/RegExp.h"
 
 namespace cardwright::vbscript {
 namespace {

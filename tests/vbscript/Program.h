@@ -1,7 +1,7 @@
 #pragma once
 
+#include "cardwright/vbscript/Engine.h"
 #include "programs/Program.h"
-#include "vbscript/Engine.h"
 
 namespace cardwright::vbscript {
 

@@ -6,9 +6,9 @@
 #include <string>
 #include <string_view>
 
-#include "automation/Errors.h"
-#include "vbscript/objects/RegExp.h"
-#include "vbscript/objects/RegExpMatches.h"
+#include "cardwright/automation/Errors.h"
+#include "cardwright/vbscript/objects/RegExp.h"
+#include "cardwright/vbscript/objects/RegExpMatches.h"
 
 namespace cardwright::vbscript {
 

@@ -1,11 +1,11 @@
-#include "vbscript/objects/RegExp.h"
+#include "cardwright/vbscript/objects/RegExp.h"
 
 #include <chrono>
 #include <string>
 #include <string_view>
 #include <vector>
 
-#include "automation/MemoryBudget.h"
+#include "cardwright/automation/MemoryBudget.h"
 #include "vbscript/RegExpRows.h"
 
 namespace cardwright::vbscript {

@@ -1,11 +1,11 @@
-#include "vbscript/syntax/SyntaxError.h"
+#include "cardwright/vbscript/syntax/SyntaxError.h"
 
 #include <gtest/gtest.h>
 
 #include <set>
 #include <string>
 
-#include "vbscript/syntax/Parser.h"
+#include "cardwright/vbscript/syntax/Parser.h"
 
 namespace cardwright::vbscript {
 namespace {

@@ -1,5 +1,5 @@
-#include "automation/Collection.h"
 #include "automation/Printing.h"
+#include "cardwright/automation/Collection.h"
 #include "vbscript/FamilyCalls.h"
 
 namespace cardwright::vbscript {

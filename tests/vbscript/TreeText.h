@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "vbscript/syntax/SyntaxTree.h"
+#include "cardwright/vbscript/syntax/SyntaxTree.h"
 
 namespace cardwright::vbscript {
 

@@ -7,7 +7,7 @@
 #include <QInputDialog>
 #include <algorithm>
 
-#include "qt/KindSigns.h"
+#include "cardwright/qt/KindSigns.h"
 #include "workbench/WorkbenchTest.h"
 
 namespace cardwright::workbench {

@@ -1,6 +1,6 @@
 // A form drawn from nothing with the mouse, bound, saved, and filled in.
 
-#include "qt/FormInput.h"
+#include "cardwright/qt/FormInput.h"
 #include "workbench/WorkbenchTest.h"
 #include "workbench/project/Kinds.h"
 

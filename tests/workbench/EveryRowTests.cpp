@@ -3,8 +3,8 @@
 #include <QFileDialog>
 #include <QFontDialog>
 
-#include "model/CItems.h"
-#include "platform/Picture.h"
+#include "cardwright/model/CItems.h"
+#include "cardwright/platform/Picture.h"
 #include "workbench/PropertyGridTest.h"
 #include "workbench/grid/ItemsDialog.h"
 #include "workbench/project/Kinds.h"

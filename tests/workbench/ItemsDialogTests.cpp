@@ -2,7 +2,7 @@
 
 #include <QClipboard>
 
-#include "model/CItems.h"
+#include "cardwright/model/CItems.h"
 #include "workbench/PropertyGridTest.h"
 #include "workbench/grid/ItemsDialog.h"
 

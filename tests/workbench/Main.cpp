@@ -4,8 +4,8 @@
 #include <QTemporaryDir>
 #include <memory>
 
-#include "hosting/FormScripts.h"
-#include "vbscript/Engine.h"
+#include "cardwright/hosting/FormScripts.h"
+#include "cardwright/vbscript/Engine.h"
 
 namespace {
 

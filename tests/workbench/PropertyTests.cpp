@@ -3,9 +3,9 @@
 #include <QColorDialog>
 #include <QFontDialog>
 
-#include "model/CItems.h"
-#include "platform/Picture.h"
-#include "qt/QtDesignSurface.h"
+#include "cardwright/model/CItems.h"
+#include "cardwright/platform/Picture.h"
+#include "cardwright/qt/QtDesignSurface.h"
 #include "workbench/PropertyGridTest.h"
 #include "workbench/grid/ItemsDialog.h"
 #include "workbench/grid/Pictures.h"

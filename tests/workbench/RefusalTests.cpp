@@ -3,7 +3,7 @@
 #include <QFontDialog>
 #include <QStatusBar>
 
-#include "model/CItems.h"
+#include "cardwright/model/CItems.h"
 #include "workbench/PropertyGridTest.h"
 
 namespace cardwright::workbench {

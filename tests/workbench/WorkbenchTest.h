@@ -15,10 +15,10 @@
 #include <memory>
 #include <ostream>
 
+#include "cardwright/qt/QtText.h"
+#include "cardwright/qt/WidgetCore.h"
 #include "desktop/DataSource.h"
 #include "qt/Dialogs.h"
-#include "qt/QtText.h"
-#include "qt/WidgetCore.h"
 #include "workbench/Workbench.h"
 #include "workbench/grid/PropertyGrid.h"
 #include "workbench/panes/ControlList.h"

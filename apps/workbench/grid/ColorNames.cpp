@@ -8,7 +8,7 @@
 #include <QPixmap>
 #include <limits>
 
-#include "qt/Colors.h"
+#include "cardwright/qt/Colors.h"
 
 namespace cardwright::workbench {
 namespace {

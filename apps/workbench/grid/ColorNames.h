@@ -6,7 +6,7 @@
 #include <optional>
 #include <span>
 
-#include "platform/Color.h"
+#include "cardwright/platform/Color.h"
 
 namespace cardwright::workbench {
 

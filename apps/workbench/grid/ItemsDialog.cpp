@@ -12,8 +12,8 @@
 #include <QStyledItemDelegate>
 #include <QVBoxLayout>
 
-#include "qt/DialogRun.h"
-#include "qt/QtText.h"
+#include "cardwright/qt/DialogRun.h"
+#include "cardwright/qt/QtText.h"
 #include "workbench/grid/CellEditing.h"
 
 namespace cardwright::workbench {

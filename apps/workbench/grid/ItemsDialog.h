@@ -3,7 +3,7 @@
 #include <QDialog>
 #include <QTableWidget>
 
-#include "model/CItems.h"
+#include "cardwright/model/CItems.h"
 
 class QVBoxLayout;
 

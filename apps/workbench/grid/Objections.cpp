@@ -5,12 +5,12 @@
 #include <algorithm>
 #include <cmath>
 
-#include "automation/Conversions.h"
-#include "model/CItems.h"
-#include "model/FormOwner.h"
-#include "platform/Scale.h"
-#include "qt/QtText.h"
-#include "storage/CodePage.h"
+#include "cardwright/automation/Conversions.h"
+#include "cardwright/model/CItems.h"
+#include "cardwright/model/FormOwner.h"
+#include "cardwright/platform/Scale.h"
+#include "cardwright/qt/QtText.h"
+#include "cardwright/storage/CodePage.h"
 
 namespace cardwright::workbench {
 namespace {

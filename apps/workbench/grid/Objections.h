@@ -2,7 +2,7 @@
 
 #include <QString>
 
-#include "model/IControl.h"
+#include "cardwright/model/IControl.h"
 
 namespace cardwright::workbench {
 

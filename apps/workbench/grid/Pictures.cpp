@@ -4,7 +4,7 @@
 #include <QPainter>
 #include <QPalette>
 
-#include "qt/Colors.h"
+#include "cardwright/qt/Colors.h"
 
 namespace cardwright::workbench {
 namespace {

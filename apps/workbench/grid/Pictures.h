@@ -2,7 +2,7 @@
 
 #include <QImage>
 
-#include "platform/Picture.h"
+#include "cardwright/platform/Picture.h"
 
 namespace cardwright::workbench {
 

@@ -5,7 +5,7 @@
 #include <QHeaderView>
 #include <QVBoxLayout>
 
-#include "qt/QtText.h"
+#include "cardwright/qt/QtText.h"
 #include "workbench/grid/CellEditing.h"
 #include "workbench/grid/ValueDelegate.h"
 #include "workbench/project/Kinds.h"

@@ -4,9 +4,9 @@
 #include <QStyle>
 #include <algorithm>
 
-#include "automation/Conversions.h"
-#include "automation/Errors.h"
-#include "qt/QtText.h"
+#include "cardwright/automation/Conversions.h"
+#include "cardwright/automation/Errors.h"
+#include "cardwright/qt/QtText.h"
 #include "workbench/grid/Objections.h"
 #include "workbench/grid/PropertyText.h"
 

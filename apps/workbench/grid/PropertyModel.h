@@ -4,7 +4,7 @@
 #include <optional>
 #include <vector>
 
-#include "model/IControl.h"
+#include "cardwright/model/IControl.h"
 
 namespace cardwright::workbench {
 

@@ -4,10 +4,10 @@
 #include <QPixmap>
 #include <cmath>
 
-#include "automation/Conversions.h"
-#include "model/CItems.h"
-#include "platform/Picture.h"
-#include "qt/QtText.h"
+#include "cardwright/automation/Conversions.h"
+#include "cardwright/model/CItems.h"
+#include "cardwright/platform/Picture.h"
+#include "cardwright/qt/QtText.h"
 #include "workbench/grid/ColorNames.h"
 #include "workbench/grid/Pictures.h"
 

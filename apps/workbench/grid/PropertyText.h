@@ -3,7 +3,7 @@
 #include <QIcon>
 #include <QString>
 
-#include "model/IControl.h"
+#include "cardwright/model/IControl.h"
 
 namespace cardwright::workbench {
 

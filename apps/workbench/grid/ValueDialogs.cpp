@@ -3,13 +3,13 @@
 #include <QColorDialog>
 #include <QImageReader>
 
-#include "automation/Conversions.h"
-#include "model/CItems.h"
-#include "qt/Colors.h"
-#include "qt/DialogRun.h"
-#include "qt/FileChoice.h"
-#include "qt/FontChoice.h"
-#include "qt/QtText.h"
+#include "cardwright/automation/Conversions.h"
+#include "cardwright/model/CItems.h"
+#include "cardwright/qt/Colors.h"
+#include "cardwright/qt/DialogRun.h"
+#include "cardwright/qt/FileChoice.h"
+#include "cardwright/qt/FontChoice.h"
+#include "cardwright/qt/QtText.h"
 #include "workbench/grid/ItemsDialog.h"
 #include "workbench/grid/Pictures.h"
 #include "workbench/grid/ValueDelegate.h"

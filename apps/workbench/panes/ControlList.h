@@ -3,7 +3,7 @@
 #include <QSet>
 #include <QTreeWidget>
 
-#include "designer/FormDesigner.h"
+#include "cardwright/designer/FormDesigner.h"
 
 namespace cardwright::workbench {
 

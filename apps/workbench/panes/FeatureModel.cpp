@@ -5,10 +5,10 @@
 #include <numeric>
 #include <optional>
 
-#include "automation/Conversions.h"
-#include "qt/QtText.h"
-#include "runtime/HostCommands.h"
-#include "shared/ModuleState.h"
+#include "cardwright/automation/Conversions.h"
+#include "cardwright/qt/QtText.h"
+#include "cardwright/runtime/HostCommands.h"
+#include "cardwright/shared/ModuleState.h"
 
 namespace cardwright::workbench {
 namespace {

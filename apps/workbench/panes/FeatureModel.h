@@ -5,8 +5,8 @@
 #include <QStringList>
 #include <vector>
 
-#include "orv/EmbeddedHost.h"
-#include "runtime/HostLists.h"
+#include "cardwright/orv/EmbeddedHost.h"
+#include "cardwright/runtime/HostLists.h"
 
 namespace cardwright::workbench {
 

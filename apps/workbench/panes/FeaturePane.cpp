@@ -9,8 +9,8 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
-#include "qt/KindSigns.h"
-#include "qt/QtText.h"
+#include "cardwright/qt/KindSigns.h"
+#include "cardwright/qt/QtText.h"
 
 namespace cardwright::workbench {
 namespace {

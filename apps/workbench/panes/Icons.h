@@ -3,7 +3,7 @@
 #include <QFontMetrics>
 #include <QIcon>
 
-#include "model/Enums.h"
+#include "cardwright/model/Enums.h"
 
 namespace cardwright::workbench {
 

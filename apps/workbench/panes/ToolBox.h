@@ -2,7 +2,7 @@
 
 #include <QListWidget>
 
-#include "model/Enums.h"
+#include "cardwright/model/Enums.h"
 
 namespace cardwright::workbench {
 

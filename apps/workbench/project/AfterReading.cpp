@@ -2,9 +2,9 @@
 
 #include <algorithm>
 
-#include "automation/Conversions.h"
-#include "model/FormOwner.h"
-#include "storage/CIni.h"
+#include "cardwright/automation/Conversions.h"
+#include "cardwright/model/FormOwner.h"
+#include "cardwright/storage/CIni.h"
 
 namespace cardwright::workbench {
 namespace {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "designer/FormDesigner.h"
+#include "cardwright/designer/FormDesigner.h"
 
 namespace cardwright::workbench {
 

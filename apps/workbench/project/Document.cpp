@@ -4,8 +4,8 @@
 #include <QDir>
 #include <QFileInfo>
 
-#include "model/FormOwner.h"
-#include "qt/QtText.h"
+#include "cardwright/model/FormOwner.h"
+#include "cardwright/qt/QtText.h"
 #include "workbench/project/AfterReading.h"
 #include "workbench/project/Kinds.h"
 #include "workbench/project/ModuleScope.h"

@@ -5,8 +5,8 @@
 #include <QFile>
 #include <QMouseEvent>
 
-#include "model/FormOwner.h"
-#include "qt/QtText.h"
+#include "cardwright/model/FormOwner.h"
+#include "cardwright/qt/QtText.h"
 #include "workbench/project/AfterReading.h"
 #include "workbench/project/Document.h"
 #include "workbench/project/ModuleScope.h"

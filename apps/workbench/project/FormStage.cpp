@@ -4,7 +4,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 
-#include "qt/QtHostWindow.h"
+#include "cardwright/qt/QtHostWindow.h"
 
 namespace cardwright::workbench {
 namespace {

@@ -4,7 +4,7 @@
 #include <QWidget>
 #include <array>
 
-#include "qt/FormDesigner.h"
+#include "cardwright/qt/FormDesigner.h"
 
 namespace cardwright::workbench {
 

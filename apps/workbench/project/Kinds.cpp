@@ -2,7 +2,7 @@
 
 #include <QCoreApplication>
 
-#include "model/ControlClasses.h"
+#include "cardwright/model/ControlClasses.h"
 
 namespace cardwright::workbench {
 namespace {

@@ -4,7 +4,7 @@
 #include <QString>
 #include <span>
 
-#include "model/IControl.h"
+#include "cardwright/model/IControl.h"
 
 namespace cardwright::workbench {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shared/ModuleState.h"
+#include "cardwright/shared/ModuleState.h"
 #include "workbench/project/ProjectState.h"
 
 namespace cardwright::workbench {

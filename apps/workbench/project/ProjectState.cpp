@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "automation/Conversions.h"
+#include "cardwright/automation/Conversions.h"
 
 namespace cardwright::workbench {
 namespace {

@@ -3,9 +3,9 @@
 #include <QByteArray>
 #include <vector>
 
-#include "automation/Variant.h"
-#include "platform/Font.h"
-#include "platform/Scale.h"
+#include "cardwright/automation/Variant.h"
+#include "cardwright/platform/Font.h"
+#include "cardwright/platform/Scale.h"
 
 namespace cardwright::workbench {
 

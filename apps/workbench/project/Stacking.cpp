@@ -3,7 +3,7 @@
 #include <deque>
 #include <unordered_set>
 
-#include "model/Rename.h"
+#include "cardwright/model/Rename.h"
 
 namespace cardwright::workbench {
 

@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "designer/FormDesigner.h"
+#include "cardwright/designer/FormDesigner.h"
 
 namespace cardwright::workbench {
 

@@ -1,0 +1,54 @@
+#include <cstdlib>
+
+#include "cardwright/hosting/ScriptHosting.h"
+#include "launcher/CommandLine.h"
+#include "launcher/Commands.h"
+#include "launcher/DesktopModule.h"
+#include "launcher/Languages.h"
+#include "launcher/Modules.h"
+
+namespace cardwright::app {
+namespace {
+
+bool IsSet(const char* variable) {
+  const char* value = std::getenv(variable);
+  return value && *value != '\0';
+}
+
+}  // namespace
+
+int RunScriptCommand(std::span<const std::string> words) {
+  CommandLine line("script",
+                   "Runs a VBScript or JScript file. Status 1 after an error that the script did not catch, "
+                   "130 after Ctrl+C,\n"
+                   "else what WScript.Quit said, or 0.",
+                   "FILE [ARG…]",
+                   {{"check", "", "only compile the script"},
+                    {"disassemble", "", "only compile the script, in VBScript, and write its instructions"},
+                    {"trace", "", "tell each statement on standard error before it runs"},
+                    {"profile", "", "tell on standard error how long each line took"},
+                    {"display", "", "insist on a display for windows"}});
+  if (const auto status = line.Parse(words)) return *status;
+  const bool hasDisplay = IsSet("DISPLAY") || IsSet("WAYLAND_DISPLAY");
+  if (line.Has("display") && !hasDisplay) return line.Refuse("there is no display");
+
+  ScriptJob job;
+  job.file = Text::FromUtf8(line.Operands().front());
+  for (const std::string& word : line.Operands().subspan(1)) job.arguments.push_back(Text::FromUtf8(word));
+  if (line.Has("check")) job.task = ScriptJob::Task::Compile;
+  if (line.Has("disassemble")) job.task = ScriptJob::Task::Disassemble;
+  job.traces = line.Has("trace");
+  job.profiles = line.Has("profile");
+
+  ScriptSurroundings surroundings{.languages = Languages(), .classes = {}};
+  surroundings.program = Text::FromUtf8(ProgramPath());
+  surroundings.hasDisplay = hasDisplay;
+  AddLightClasses(surroundings.classes);
+  const ScriptDisplay display = line.Has("display") ? ScriptDisplay::Required : ScriptDisplay::IfThere;
+  surroundings.classes.SetLoader(u"Cardwright.", [&surroundings, display](ClassRegistry&) {
+    surroundings.desktop = LoadDesktopModule().startForScript(display, surroundings);
+  });
+  return RunScript(job, surroundings);
+}
+
+}  // namespace cardwright::app

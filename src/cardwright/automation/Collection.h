@@ -1,0 +1,58 @@
+#pragma once
+
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+#include "cardwright/automation/MemberTable.h"
+
+namespace cardwright {
+
+/// The platform's keyed collection: items in order, counted from 1, each with an optional key that is matched
+/// whatever its case; an empty key counts as none. Errors: 5 for an unknown key, 9 for a position outside,
+/// 457 for a key that exists, 13 for a key that is no text.
+class Collection final : public TableObject {
+ public:
+  Text TypeName() const override { return u"Collection"; }
+
+  std::int32_t Count() const noexcept { return static_cast<std::int32_t>(m_Entries.size()); }
+  /// By position (numeric) or by key (text).
+  const Variant& Item(const Variant& index) const;
+  /// By key; null where there is none.
+  const Variant* Find(std::u16string_view key) const noexcept;
+  void Add(const Variant& item, std::optional<Variant> key = {}, std::optional<Variant> before = {},
+           std::optional<Variant> after = {});
+  void Remove(const Variant& index);
+  void Clear();
+  /// Items may come and go during the enumeration: each one that stays is met once.
+  std::unique_ptr<Enumerator> Enumerate() override;
+
+ protected:
+  const MemberTable& Members() const override;
+
+ private:
+  class Walk;
+  struct Entry {
+    Text key;
+    Variant value;
+  };
+  struct KeyHash {
+    using is_transparent = void;
+    std::size_t operator()(std::u16string_view key) const noexcept { return HashNoCase(key); }
+  };
+  struct KeyEqual {
+    using is_transparent = void;
+    bool operator()(std::u16string_view a, std::u16string_view b) const noexcept {
+      return EqualsNoCase(a, b);
+    }
+  };
+
+  std::size_t Position(const Variant& index) const;
+  std::size_t PositionOfNew(const std::optional<Variant>& before, const std::optional<Variant>& after) const;
+
+  std::vector<std::unique_ptr<Entry>> m_Entries;
+  std::unordered_map<Text, Entry*, KeyHash, KeyEqual> m_ByKey;
+  std::vector<Walk*> m_Walks;  // enumerations under way, which follow every change
+};
+
+}  // namespace cardwright

@@ -1,0 +1,80 @@
+#pragma once
+
+#include <exception>
+#include <string>
+
+#include "cardwright/automation/Text.h"
+
+namespace cardwright {
+
+/// Numbers of the platform's run-time errors that this library raises or tells apart. StandardErrorText knows
+/// the texts of many more.
+enum class ErrorNumber : int {
+  InvalidCall = 5,
+  Overflow = 6,
+  OutOfMemory = 7,
+  SubscriptOutOfRange = 9,
+  TypeMismatch = 13,
+  CannotPerform = 17,
+  BadFileName = 52,
+  FileNotFound = 53,
+  PathNotFound = 76,
+  ObjectNotSet = 91,
+  InvalidUseOfNull = 94,
+  InvalidPropertyValue = 380,
+  ObjectRequired = 424,
+  CannotCreateObject = 429,
+  NotSupported = 438,
+  ArgumentNotOptional = 449,
+  WrongArgumentCount = 450,
+  NotACollection = 451,
+  ControlNameExists = 727,
+};
+
+/// Text that the platform gives an error of this number; "Unknown runtime error" where it has none.
+Text StandardErrorText(int number);
+
+/// A numbered run-time error: what scripts see as Err and what Attempt() catches.
+class Error : public std::exception {
+ public:
+  explicit Error(int number, Text description = {}, Text source = {});
+  explicit Error(ErrorNumber number) : Error(static_cast<int>(number)) {}
+
+  int Number() const noexcept { return m_Number; }
+  const Text& Description() const noexcept { return m_Description; }
+  const Text& Source() const noexcept { return m_Source; }
+  const char* what() const noexcept override;
+
+ private:
+  int m_Number;
+  Text m_Description;
+  Text m_Source;
+  std::string m_What;
+};
+
+[[noreturn]] void Raise(ErrorNumber number);
+[[noreturn]] void Raise(int number, Text description = {}, Text source = {});
+
+/// Runs a step whose numbered failure is swallowed on purpose, and tells whether it went through. Nothing but
+/// Error is caught: a fault of our own stays loud.
+template <class Step>
+bool Attempt(Step&& step) {
+  try {
+    step();
+    return true;
+  } catch (const Error&) {
+    return false;
+  }
+}
+
+/// The value of `step`, or `fallback` where it fails with a numbered error.
+template <class Step, class Value>
+Value AttemptOr(Value fallback, Step&& step) {
+  try {
+    return step();
+  } catch (const Error&) {
+    return fallback;
+  }
+}
+
+}  // namespace cardwright

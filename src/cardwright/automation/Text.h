@@ -1,0 +1,97 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <utility>
+
+namespace cardwright {
+
+/// Counted UTF-16 text of the automation world: any code unit may stand in it, NUL included. A copy shares
+/// the characters and costs one count; appending to a text that nobody shares is amortised constant. Belongs
+/// to one thread, like every counted thing here.
+class Text {
+ public:
+  Text() noexcept = default;
+  Text(std::u16string_view characters);
+  Text(const char16_t* characters) : Text(std::u16string_view(characters)) {}
+  Text(const std::u16string& characters) : Text(std::u16string_view(characters)) {}
+  Text(const Text& other) noexcept : m_Rep(other.m_Rep) { Retain(); }
+  Text(Text&& other) noexcept : m_Rep(std::exchange(other.m_Rep, nullptr)) {}
+  ~Text() {
+    if (m_Rep) Drop();
+  }
+  Text& operator=(Text other) noexcept {
+    std::swap(m_Rep, other.m_Rep);
+    return *this;
+  }
+
+  /// A text of `size` characters, which `fill` writes: it is called once with a pointer to them, unless there
+  /// are none. Error 7 where the size is beyond all bounds.
+  template <class Fill>
+  static Text OfSize(std::size_t size, Fill&& fill) {
+    Text text;
+    if (size != 0) std::forward<Fill>(fill)(text.Allocate(size));
+    return text;
+  }
+
+  /// From UTF-8; an invalid sequence becomes U+FFFD.
+  static Text FromUtf8(std::string_view utf8);
+  /// As UTF-8; a lone surrogate becomes U+FFFD.
+  std::string ToUtf8() const;
+
+  operator std::u16string_view() const noexcept { return View(); }
+  std::u16string_view View() const noexcept;
+  std::size_t Size() const noexcept { return View().size(); }
+  bool IsEmpty() const noexcept { return m_Rep == nullptr; }
+  char16_t operator[](std::size_t index) const noexcept { return View()[index]; }
+
+  Text& operator+=(std::u16string_view tail);
+  Text& operator+=(const char16_t* tail) { return *this += std::u16string_view(tail); }
+
+  friend Text operator+(Text head, std::u16string_view tail) { return std::move(head += tail); }
+  friend bool operator==(const Text& a, const Text& b) noexcept {
+    return a.m_Rep == b.m_Rep || a.View() == b.View();
+  }
+  friend bool operator==(const Text& a, std::u16string_view b) noexcept { return a.View() == b; }
+  friend bool operator==(const Text& a, const char16_t* b) noexcept { return a.View() == b; }
+  friend bool operator==(const Text& a, const std::u16string& b) noexcept { return a.View() == b; }
+
+ private:
+  struct Rep;
+  friend class Variant;
+
+  char16_t* Allocate(std::size_t size);
+  inline void Retain() const noexcept;
+  inline void Drop() noexcept;
+
+  Rep* m_Rep = nullptr;  // null stands for the empty text
+};
+
+/// Position of the first occurrence of `part` from `from` on, or npos. An empty part is found at once.
+std::size_t Find(std::u16string_view text, std::u16string_view part, std::size_t from = 0) noexcept;
+
+/// @name Case. One mapping for the whole library, independent of the process's locale: simple case mapping of
+/// the Latin, Greek and Cyrillic blocks; every other code unit maps to itself.
+/// @{
+char16_t ToLower(char16_t c) noexcept;
+char16_t ToUpper(char16_t c) noexcept;
+Text ToLower(std::u16string_view text);
+Text ToUpper(std::u16string_view text);
+bool EqualsNoCase(std::u16string_view a, std::u16string_view b) noexcept;
+/// Position of the first occurrence from `from` on, or npos.
+std::size_t FindNoCase(std::u16string_view text, std::u16string_view part, std::size_t from = 0) noexcept;
+/// Hash that agrees with EqualsNoCase.
+std::size_t HashNoCase(std::u16string_view text) noexcept;
+/// @}
+
+/// Blanks (U+0020) cut off both ends, as the platform's Trim does; other white space stays.
+std::u16string_view Trim(std::u16string_view text) noexcept;
+/// Every occurrence of `from` replaced by `to`; with `noCase` the search ignores case.
+Text Replace(std::u16string_view text, std::u16string_view from, std::u16string_view to, bool noCase = false);
+
+}  // namespace cardwright
+
+// The operations that must not cost a call.
+#include "cardwright/automation/TextRep.h"  // IWYU pragma: export

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <cstdint>
+
+#include "cardwright/automation/Text.h"
+
+namespace cardwright {
+
+/// The shared characters behind a Text. They follow the header in the same block of memory.
+struct Text::Rep {
+  std::uint32_t count;
+  std::size_t length;
+  std::size_t capacity;
+
+  char16_t* Characters() noexcept { return reinterpret_cast<char16_t*>(this + 1); }
+  std::u16string_view View() noexcept { return {Characters(), length}; }
+  void AddRef() noexcept { ++count; }
+  void Release() noexcept {
+    if (--count == 0) Free(this);
+  }
+
+  /// One reference, no characters yet; error 7 where the size is beyond all bounds.
+  static Rep* Allocate(std::size_t capacity);
+  static void Free(Rep* rep) noexcept;
+};
+
+inline void Text::Retain() const noexcept {
+  if (m_Rep) m_Rep->AddRef();
+}
+inline void Text::Drop() noexcept { m_Rep->Release(); }
+inline std::u16string_view Text::View() const noexcept {
+  return m_Rep ? m_Rep->View() : std::u16string_view();
+}
+
+}  // namespace cardwright

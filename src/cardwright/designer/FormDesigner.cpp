@@ -1,0 +1,232 @@
+#include "cardwright/designer/FormDesigner.h"
+
+#include "cardwright/model/ControlClasses.h"
+#include "cardwright/model/Rename.h"
+#include "cardwright/shared/ModuleState.h"
+
+namespace cardwright {
+namespace {
+
+constexpr std::u16string_view kFormName = u"Form";
+constexpr std::u16string_view kEnableKeyDelete = u"EnableKeyDelete";
+
+bool ProjectSave(FormDesigner& designer, const Text& fileName, std::optional<bool> isTemporary) {
+  return designer.ProjectSave(fileName, isTemporary.value_or(false));
+}
+
+Ref<Collection> FilterByName(FormDesigner& designer, ControlTypeEnum type) {
+  auto found = MakeRef<Collection>();
+  for (const Ref<IControl>& control : designer.FilterControls(type))
+    found->Add(Variant(Ref<Object>(control)), Variant(ToLower(control->UserName())));
+  return found;
+}
+
+using D = FormDesigner;
+constexpr Member kMembers[] = {
+    Method<&D::SetCtrl>(u"SetCtrl"),
+    Method<&D::SetGrid>(u"SetGrid"),
+    Method<&D::Cut>(u"Cut"),
+    Method<&D::Copy>(u"Copy"),
+    Method<&D::Paste>(u"Paste"),
+    Method<&D::Delete>(u"Delete"),
+    Method<&D::SetForeground>(u"SetForeground"),
+    Method<&D::SetBackground>(u"SetBackground"),
+    Method<&D::LockUnlock>(u"LockUnlock"),
+    Method<&D::SetMenuState>(u"SetMenuState"),
+    Method<&D::UserControl_Resize>(u"UserControl_Resize"),
+    Property<&D::GridStep, &D::SetGridStep>(u"GridStep"),
+    Property<&D::GridAlignment, &D::SetGridAlignment>(u"GridAlignment"),
+    Property<&D::ControlCollection>(u"Controls"),
+    Property<&D::CurrentControl>(u"CurrentControl"),
+    Property<&D::ControlTypeToAdd, &D::SetControlTypeToAdd>(u"ControlTypeToAdd"),
+    Property<&D::WindowHandle>(u"hWnd"),
+    Method<&D::ProjectRead>(u"ProjectRead"),
+    Method<&ProjectSave>(u"ProjectSave"),
+    Method<&D::GetThemeName>(u"GetThemeName"),
+    Method<&D::GetFeatureType>(u"GetFeatureType"),
+    Method<&D::SetThemeName>(u"SetThemeName"),
+    Method<&D::SetFeatureType>(u"SetFeatureType"),
+    Property<&D::EnableKeyDelete, &D::SetEnableKeyDelete>(kEnableKeyDelete),
+    Method<&D::ChangeControlName>(u"ChangeControlName"),
+    Method<&FilterByName>(u"FilterControls"),
+    Method<&D::CenterLeft>(u"CenterLeft"),
+    Method<&D::CenterTop>(u"CenterTop"),
+    Property<&D::Parent>(u"Parent"),
+};
+
+}  // namespace
+
+const MemberTable& FormDesigner::Members() const {
+  static const MemberTable table(kMembers);
+  return table;
+}
+
+// Until a host has set two default colours that differ, a new form has the system's.
+FormDesigner::FormDesigner(DesignSurface& surface) : m_Surface(&surface) {
+  ModuleState& module = Module();
+  module.formScaleMode = ScaleMode::Pixels;
+  surface.SetScale(ScaleMode::Pixels);
+  const bool hasDefaults = module.defaultBackColor != module.defaultForeColor;
+  surface.SetBackColor(hasDefaults ? module.defaultBackColor : ToOleColor(SystemColor::ButtonFace));
+  surface.SetForeColor(hasDefaults ? module.defaultForeColor : ToOleColor(SystemColor::ButtonText));
+  SetControlTypeToAdd(ControlTypeEnum::ctDefault);
+  m_Handles.emplace(surface, static_cast<HandleListener&>(*this), module.resizeHandleDims);
+}
+
+Ref<FormDesigner> FormDesigner::Create(DesignSurface& surface) {
+  Ref<FormDesigner> designer(new FormDesigner(surface));
+  auto form = MakeRef<CForm>();
+  form->SetParentForm(designer);
+  form->SetName(kFormName);
+  designer->m_Controls->Add(Variant(Ref<Object>(form)), Variant(ToLower(form->UserName())));
+  designer->AppendToZList(form);
+  designer->SetCtrl(form);
+  surface.SetListener(designer.get());
+  return designer;
+}
+
+FormDesigner::~FormDesigner() { DetachSurface(); }
+
+void FormDesigner::DetachSurface() {
+  for (const Ref<IControl>& control : ControlsOf(*m_Controls)) {
+    auto* table = dynamic_cast<TableControl*>(control.get());
+    if (!table) continue;
+    if (m_Surface && !EqualsNoCase(control->TypeName(), u"CForm"))
+      Attempt([&] { m_Surface->Remove(control->Name()); });
+    table->ForgetOwner();
+  }
+  m_Handles.reset();
+  if (m_Surface) {
+    Attempt([&] { m_Surface->SetListener(nullptr); });
+    Attempt([&] { m_Surface->SetScreenPointer(PointerShape::Default); });  // in the middle of a paste
+  }
+  m_Surface = nullptr;
+  m_Controls = MakeRef<Collection>();  // whoever holds the old one keeps its objects
+  m_ZList->Clear();
+  m_Current = nullptr;
+}
+
+DesignSurface& FormDesigner::Canvas() const {
+  if (!m_Surface) Raise(ErrorNumber::ObjectNotSet);
+  return *m_Surface;
+}
+
+GrabHandles& FormDesigner::Handles() {
+  if (!m_Handles) Raise(ErrorNumber::ObjectNotSet);
+  return *m_Handles;
+}
+
+Ref<IControl> FormDesigner::Form() const {
+  return m_Controls->Count() > 0 ? Ref<IControl>(AsControl(m_Controls->Item(Variant(1)))) : nullptr;
+}
+
+std::int32_t FormDesigner::WindowHandle() const { return m_Surface ? m_Surface->WindowHandle() : 0; }
+
+ControlTypeEnum FormDesigner::ControlTypeToAdd() const {
+  const ControlKind* kind = FindKindExactly(m_Tag);
+  return kind ? kind->type : ControlTypeEnum::ctDefault;
+}
+
+void FormDesigner::SetControlTypeToAdd(ControlTypeEnum type) {
+  if (const ControlKind* kind = FindKind(type)) m_Tag = kind->word;
+}
+
+std::vector<Ref<IControl>> FormDesigner::FilterControls(ControlTypeEnum type) const {
+  std::vector<Ref<IControl>> found;
+  const ControlClass* wanted = FindControlClass(type);
+  if (!wanted) return found;
+  for (const Ref<IControl>& control : ControlsOf(*m_Controls))
+    if (EqualsNoCase(control->TypeName(), wanted->table->className)) found.push_back(control);
+  return found;
+}
+
+void FormDesigner::ChangeControlName(Ref<Object> control, const Text& newName) {
+  const Ref<FormDesigner> keepAlive(this);
+  const Ref<Collection> controls = m_Controls;  // a handler may end the surface
+  const auto tell = [this](const Text& oldName, IControl& renamed) {
+    Variant old(oldName);
+    Variant object{Ref<Object>(&renamed)};
+    Variant args[] = {Variant::ByRef(old), Variant::ByRef(object)};
+    RaiseEvent(u"ControlNameChanged", args);
+  };
+  if (RenameControl(*controls, control, newName, tell)) AttachLinks();
+}
+
+void FormDesigner::AttachLinks() {
+  const Ref<Collection> controls = m_Controls;
+  for (const Ref<IControl>& control : ControlsOf(*controls))
+    Attempt([&] { control->AttachControls(*controls); });
+}
+
+bool FormDesigner::ProjectRead(const Text& fileName) {
+  const Ref<FormDesigner> keepAlive(this);
+  return AttemptOr(false, [&] {
+    const Ref<IControl> form = Form();
+    return form && form->Read(fileName, {});
+  });
+}
+
+bool FormDesigner::ProjectSave(const Text& fileName, bool isTemporary) {
+  const Ref<FormDesigner> keepAlive(this);
+  Module().isTemporarySave = isTemporary;
+  const bool saved = AttemptOr(false, [&] {
+    const Ref<IControl> form = Form();
+    return form && form->Save(fileName, {});
+  });
+  Module().isTemporarySave = false;
+  return saved;
+}
+
+Text FormDesigner::GetThemeName() const {
+  const Ref<IControl> form = Form();
+  return form ? ToText(form->PropertyValue(u"ThemeName")) : Text();
+}
+
+FeatureTypeEnum FormDesigner::GetFeatureType() const {
+  const Ref<IControl> form = Form();
+  return form ? static_cast<FeatureTypeEnum>(ToLong(form->PropertyValue(u"FeatureType")))
+              : FeatureTypeEnum::ftNone;
+}
+
+void FormDesigner::SetThemeName(const Text& themeName) {
+  if (const Ref<IControl> form = Form()) form->SetPropertyValue(u"ThemeName", themeName);
+}
+
+void FormDesigner::SetFeatureType(FeatureTypeEnum type) {
+  if (const Ref<IControl> form = Form())
+    form->SetPropertyValue(u"FeatureType", static_cast<std::int32_t>(type));
+}
+
+void FormDesigner::SetEnableKeyDelete(bool enable) {
+  m_EnableKeyDelete = enable;
+  if (m_Surface) m_Surface->TellPropertyChanged(kEnableKeyDelete);
+}
+
+// 1 or 0 and never a Boolean: containers have kept a number here ever since.
+void FormDesigner::ReadProperties(const PropertyBag& bag) {
+  m_EnableKeyDelete = ToBoolean(bag.ReadProperty(kEnableKeyDelete, Variant(1)));
+}
+
+void FormDesigner::WriteProperties(PropertyBag& bag) const {
+  bag.WriteProperty(kEnableKeyDelete, Variant(m_EnableKeyDelete ? 1 : 0), Variant(1));
+}
+
+void FormDesigner::RaisePropertyChanged(int propertyIndex, const Variant& value) {
+  Variant index(std::int32_t{propertyIndex});
+  Variant changed = value;
+  Variant args[] = {Variant::ByRef(index), Variant::ByRef(changed)};
+  RaiseEvent(u"PropertyChanged", args);
+}
+
+void FormDesigner::RaiseAttribsList(std::vector<Text> names) {
+  Variant list(Array::FromTexts(names));
+  Variant args[] = {Variant::ByRef(list)};
+  RaiseEvent(u"AttribsList", args);
+}
+
+void FormDesigner::RaiseNeedResize(float width, float height) {
+  Variant args[] = {Variant(width), Variant(height)};
+  RaiseEvent(u"NeedResize", args);
+}
+
+}  // namespace cardwright

@@ -1,0 +1,65 @@
+// The popup menu, over the bare surface and over a control.
+
+#include "cardwright/designer/FormDesigner.h"
+
+namespace cardwright {
+
+void FormDesigner::SetMenuState(const Text& menuName, bool state) {
+  const Ref<FormDesigner> keepAlive(this);
+  const Ref<MenuItem> item(m_Menu.FindNamed(menuName));
+  if (!item) return;
+  item->m_Enabled = state;
+  Variant args[] = {Variant(item->m_Name), Variant(state)};
+  RaiseEvent(u"MenuStateChanged", args);
+}
+
+// Without a control there is nothing to cut or to restack. The handles stay hidden until the next selection.
+void FormDesigner::OpenSurfaceMenu() {
+  const Ref<FormDesigner> keepAlive(this);
+  ShowHandles(false);
+  SetMenuState(u"mnuCopy", false);
+  SetMenuState(u"mnuCut", false);
+  m_Menu.ShowControlItems(false);
+  Attempt([&] { ShowMenu(); });
+  SetMenuState(u"mnuCopy", true);
+  SetMenuState(u"mnuCut", true);
+  m_Menu.ShowControlItems(true);
+}
+
+void FormDesigner::OpenControlMenu(IControl&) {
+  const Ref<FormDesigner> keepAlive(this);
+  if (m_Dragging) return;
+  const bool locked = m_Locked;
+  if (locked) {
+    SetMenuState(u"mnuForeground", false);
+    SetMenuState(u"mnuBackground", false);
+  }
+  Attempt([&] { ShowMenu(); });
+  if (!locked) return;
+  SetMenuState(u"mnuForeground", true);
+  SetMenuState(u"mnuBackground", true);
+}
+
+// What was chosen is done before the menu's entries are put back, as menus of the platform do it.
+void FormDesigner::ShowMenu() {
+  const std::vector<Ref<MenuItem>> items = m_Menu.Items();
+  const Text chosen = Canvas().ShowPopupMenu(items);
+  const MenuItem* item = m_Menu.Find(chosen);
+  const auto command = DesignMenu::CommandOf(chosen);
+  if (m_Surface && command && item->m_Enabled && item->m_Visible) Run(*command);
+}
+
+void FormDesigner::Run(DesignCommand command) {
+  switch (command) {
+    case DesignCommand::Cut: return Cut();
+    case DesignCommand::Copy: return Copy();
+    case DesignCommand::Paste: return Paste();
+    case DesignCommand::Delete: return Delete();
+    case DesignCommand::SetForeground: return SetForeground();
+    case DesignCommand::SetBackground: return SetBackground();
+    case DesignCommand::LockUnlock: return LockUnlock();
+    case DesignCommand::Properties: return RaiseEvent(u"PropertyMenuClick");
+  }
+}
+
+}  // namespace cardwright

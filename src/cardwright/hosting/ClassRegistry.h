@@ -1,0 +1,56 @@
+#pragma once
+
+#include <functional>
+#include <string_view>
+#include <unordered_map>
+
+#include "cardwright/automation/Object.h"
+
+namespace cardwright {
+
+/// The classes that a script can make objects of, by their programmatic identifiers, whatever the case.
+class ClassRegistry {
+ public:
+  using Maker = std::function<Ref<Object>()>;
+  /// Adds the classes of a part of the program that is loaded when it is first needed.
+  using Loader = std::function<void(ClassRegistry& classes)>;
+
+  /// A second maker of an identifier replaces the first.
+  void Add(std::u16string_view progid, Maker make);
+  /// The loader runs once, when a class is asked for whose identifier begins with `prefix` and is not known
+  /// yet. Where it fails, it runs again the next time.
+  void SetLoader(std::u16string_view prefix, Loader load);
+  /// Runs the loader if it has not run yet. Errors of the loader.
+  void Load();
+  /// Whether a class has the identifier. Errors of the loader.
+  bool Has(std::u16string_view progid) { return Find(progid) != nullptr; }
+  /// A new object. Error 429 where no class has the identifier; errors of the loader and of the class.
+  Ref<Object> Create(std::u16string_view progid);
+
+ private:
+  const Maker* Find(std::u16string_view progid);
+
+  struct Hash {
+    using is_transparent = void;
+    std::size_t operator()(std::u16string_view name) const noexcept { return HashNoCase(name); }
+  };
+  struct Equal {
+    using is_transparent = void;
+    bool operator()(std::u16string_view a, std::u16string_view b) const noexcept {
+      return EqualsNoCase(a, b);
+    }
+  };
+
+  std::unordered_map<Text, Maker, Hash, Equal> m_Makers;
+  Text m_LoaderPrefix;
+  Loader m_Load;
+};
+
+/// Adds the classes that reach nothing of the machine, which every script may use: Scripting.Dictionary and
+/// VBScript.RegExp.
+void AddHarmlessClasses(ClassRegistry& classes);
+/// Adds the classes that need no toolkit: Scripting.Dictionary, Scripting.FileSystemObject, VBScript.RegExp
+/// and Cardwright.CIni.
+void AddLightClasses(ClassRegistry& classes);
+
+}  // namespace cardwright

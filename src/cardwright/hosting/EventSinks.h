@@ -1,0 +1,38 @@
+#pragma once
+
+#include <functional>
+#include <string_view>
+#include <vector>
+
+#include "cardwright/automation/Object.h"
+
+namespace cardwright {
+
+/// The objects whose events call procedures of a script: event E of an object that was connected with a
+/// prefix calls the procedure `prefix & "E"`.
+class EventSinks {
+ public:
+  /// Calls the procedure with the event's arguments.
+  using Call = std::function<void(std::u16string_view procedure, Args args)>;
+
+  explicit EventSinks(Call call) : m_Call(std::move(call)) {}
+  ~EventSinks() { Clear(); }
+  EventSinks(const EventSinks&) = delete;
+  EventSinks& operator=(const EventSinks&) = delete;
+
+  void Connect(Object& object, std::u16string_view prefix);
+  /// Ends all connections of the object; one that has none is passed over.
+  void Disconnect(const Object& object);
+  void Clear();
+
+ private:
+  struct Sink {
+    Ref<Object> object;
+    int connection;
+  };
+
+  const Call m_Call;
+  std::vector<Sink> m_Sinks;
+};
+
+}  // namespace cardwright

@@ -1,0 +1,46 @@
+#include "cardwright/hosting/FormScriptHost.h"
+
+#include "cardwright/hosting/InterruptSignal.h"
+#include "cardwright/shared/ModuleState.h"
+
+namespace cardwright {
+namespace {
+
+constexpr int kYes = 6;
+
+}  // namespace
+
+FormScriptHost::FormScriptHost(std::shared_ptr<ClassRegistry> onLeave)
+    : m_OnLeave(std::move(onLeave)), m_Permissions(Module().programFile, Module().program) {
+  AddHarmlessClasses(m_Classes);
+}
+
+Ref<Object> FormScriptHost::CreateObject(std::u16string_view progid, std::u16string_view server) {
+  if (!server.empty()) return ScriptHost::CreateObject(progid, server);
+  const bool isOnLeave = !m_Classes.Has(progid) && m_OnLeave->Has(progid);
+  if (isOnLeave && m_Permissions.Allow(progid, m_AllowUI)) return m_OnLeave->Create(progid);
+  return m_Classes.Create(progid);
+}
+
+int FormScriptHost::ShowMessage(const Text& text, int style, const Text& title) {
+  Desktop* const desktop = Module().desktop;
+  return desktop ? desktop->ShowMessage(text, style, title) : ScriptHost::ShowMessage(text, style, title);
+}
+
+Variant FormScriptHost::AskText(const Text& prompt, const Text& title, const Text& initial, const Variant& x,
+                                const Variant& y) {
+  Desktop* const desktop = Module().desktop;
+  return desktop ? desktop->AskText(prompt, title, initial, x, y)
+                 : ScriptHost::AskText(prompt, title, initial, x, y);
+}
+
+bool FormScriptHost::WantsStop() {
+  // Of a script run that drives the form.
+  if (InterruptSignal::WasRaised()) return true;
+  Desktop* const desktop = Module().desktop;
+  if (!desktop || !desktop->BreakPressed()) return false;
+  constexpr int kStyle = BoxStyle::YesNo | BoxStyle::Question | BoxStyle::SecondIsDefault;
+  return desktop->ShowMessage(u"The script of the form is still running. Stop it?", kStyle, {}) == kYes;
+}
+
+}  // namespace cardwright

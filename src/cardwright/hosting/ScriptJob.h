@@ -1,0 +1,24 @@
+#pragma once
+
+#include <vector>
+
+#include "cardwright/automation/Text.h"
+
+namespace cardwright {
+
+/// What to do with a script file.
+struct ScriptJob {
+  enum class Task {
+    Run,
+    Compile,
+    Disassemble,  ///< writes the compiled form to standard output
+  };
+
+  Text file;                    ///< as the user named it; so it stands in messages
+  std::vector<Text> arguments;  ///< for the script
+  Task task = Task::Run;
+  bool traces = false;    ///< tells each statement before it runs
+  bool profiles = false;  ///< tells in the end how long each line took
+};
+
+}  // namespace cardwright

@@ -1,0 +1,133 @@
+#include "cardwright/jscript/spidermonkey/StatementWatch.h"
+
+#include <js/CallAndConstruct.h>
+#include <js/CallArgs.h>
+#include <js/CompilationAndEvaluation.h>
+#include <js/CompileOptions.h>
+#include <js/Debug.h>
+#include <js/GlobalObject.h>
+#include <js/RealmOptions.h>
+#include <js/SourceText.h>
+#include <js/String.h>
+#include <js/ValueArray.h>
+#include <js/Wrapper.h>
+#include <jsapi.h>
+#include <jsfriendapi.h>
+
+#include <algorithm>
+#include <string_view>
+
+#include "cardwright/automation/Errors.h"
+#include "cardwright/jscript/spidermonkey/Session.h"
+#include "cardwright/jscript/spidermonkey/Values.h"
+
+namespace cardwright::jscript {
+namespace {
+
+constexpr JSClass kGlobalClass = {
+    "debugger", JSCLASS_GLOBAL_FLAGS, &JS::DefaultGlobalClassOps, nullptr, nullptr, nullptr};
+
+constexpr char16_t kHooks[] =
+    uR"js((function (debuggee, tell) {
+  const watched = new Debugger(debuggee);
+  const nameOf = script => script.source.introductionType ? script.url + ' made' : script.url;
+  const look = frame => {
+    const offset = frame.offset, isOnward = offset >= frame.before;
+    frame.before = offset;
+    const place = frame.script.getOffsetMetadata(offset), last = frame.place;
+    if (!place.isStepStart) return;
+    // A statement may begin several times over on the way through it.
+    if (isOnward && last && last.lineNumber === place.lineNumber && last.columnNumber === place.columnNumber) return;
+    frame.place = place;
+    tell(false, nameOf(frame.script), place.lineNumber, place.columnNumber);
+  };
+  watched.onEnterFrame = frame => {
+    if (!frame.script.url || !frame.script.url.startsWith('jscript:')) return;
+    frame.onStep = function () { look(this); };
+    frame.onPop = function (completion) {
+      const caller = this.older;
+      if (completion && 'return' in completion && this.type === 'call' && caller && caller.place)
+        tell(true, nameOf(caller.script), caller.place.lineNumber, caller.place.columnNumber);
+    };
+    frame.before = 0;
+    look(frame);
+  };
+  return () => watched.removeAllDebuggees();
+}))js";
+
+bool TellWatch(JSContext* cx, unsigned count, JS::Value* vp) {
+  const JS::CallArgs args = JS::CallArgsFromVp(count, vp);
+  auto* watch = static_cast<StatementWatch*>(js::GetFunctionNativeReserved(&args.callee(), 0).toPrivate());
+  JS::RootedString source(cx, args.get(1).toString());
+  args.rval().setUndefined();
+  return watch->Tell(cx, args.get(0).toBoolean(), source, args.get(2).toInt32(), args.get(3).toInt32());
+}
+
+}  // namespace
+
+StatementWatch::StatementWatch(Session& session, ScriptObserver& observer)
+    : m_Session(session), m_Observer(observer), m_Global(session.Context()), m_Stop(session.Context()) {
+  JSContext* cx = session.Context();
+  JS::RealmOptions options;
+  options.creationOptions().setNewCompartmentAndZone();
+  m_Global = JS_NewGlobalObject(cx, &kGlobalClass, nullptr, JS::FireOnNewGlobalHook, options);
+  if (!m_Global) Raise(ErrorNumber::OutOfMemory);
+  const JSAutoRealm realm(cx, m_Global);
+  if (Start(cx)) return;
+  JS_ClearPendingException(cx);
+  Raise(ErrorNumber::OutOfMemory);
+}
+
+bool StatementWatch::Start(JSContext* cx) {
+  const std::u16string_view text = kHooks;
+  JS::CompileOptions options(cx);
+  options.setFileAndLine("hooks", 1);
+  JS::SourceText<char16_t> source;
+  JS::RootedValue hooks(cx), stop(cx);
+  JS::RootedObject debuggee(cx, m_Session.Global());
+  if (!JS::InitRealmStandardClasses(cx) || !JS_DefineDebuggerObject(cx, m_Global) ||
+      !JS_WrapObject(cx, &debuggee) ||
+      !source.init(cx, text.data(), text.size(), JS::SourceOwnership::Borrowed) ||
+      !JS::Evaluate(cx, options, source, &hooks))
+    return false;
+  JSFunction* tell = js::NewFunctionWithReserved(cx, &TellWatch, 4, 0, "tell");
+  if (!tell) return false;
+  js::SetFunctionNativeReserved(JS_GetFunctionObject(tell), 0, JS::PrivateValue(this));
+  JS::RootedValueArray<2> arguments(cx);
+  arguments[0].setObject(*debuggee);
+  arguments[1].setObject(*JS_GetFunctionObject(tell));
+  if (!JS_CallFunctionValue(cx, nullptr, hooks, arguments, &stop)) return false;
+  m_Stop = &stop.toObject();
+  return true;
+}
+
+StatementWatch::~StatementWatch() {
+  JSContext* cx = m_Session.Context();
+  const JSAutoRealm realm(cx, m_Global);
+  JS::RootedValue stop(cx, JS::ObjectValue(*m_Stop)), ignored(cx);
+  if (!JS_CallFunctionValue(cx, nullptr, stop, JS::HandleValueArray::empty(), &ignored))
+    JS_ClearPendingException(cx);
+}
+
+bool StatementWatch::Tell(JSContext* cx, bool isReturn, JS::HandleString source, int line, int column) {
+  try {
+    const std::string name = TextOf(m_Session, source).ToUtf8();
+    // Code that a script made has the name of the source that made it, and more.
+    const std::size_t end = std::min(name.find(' '), name.size());
+    const Chunk* chunk = m_Session.FindChunk(std::string_view(name).substr(0, end));
+    if (!chunk) return true;
+    const Place place = end == name.size() ? chunk->Original(line, column) : Place{};
+    if (isReturn) {
+      m_Observer.OnReturn(chunk->module, place.line, place.column);
+    } else {
+      m_Observer.OnStatement(chunk->module, place.line, place.column);
+    }
+  } catch (...) {
+    m_Session.Hold(std::current_exception());
+    JS_ClearPendingException(cx);
+    return false;
+  }
+  return !m_Session.IsStopping();
+}
+
+}  // namespace cardwright::jscript

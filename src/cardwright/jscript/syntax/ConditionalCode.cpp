@@ -1,0 +1,229 @@
+#include "cardwright/jscript/syntax/ConditionalCode.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "cardwright/automation/Conversions.h"
+#include "cardwright/jscript/syntax/Characters.h"
+#include "cardwright/jscript/syntax/ConditionalExpression.h"
+#include "cardwright/jscript/syntax/SyntaxFault.h"
+
+namespace cardwright::jscript {
+namespace {
+
+constexpr int kExpectedEnd = 1029, kExpectedEquals = 1011, kExpectedAt = 1032, kSyntaxError = 1002;
+
+std::u16string Literal(double value) {
+  if (std::isnan(value)) return u"NaN";
+  const Text digits = FormatExact(value);
+  return value < 0 ? u"(" + std::u16string(digits.View()) + u")" : std::u16string(digits.View());
+}
+
+/// One pass over the source, which blanks out as it goes.
+class Runner {
+ public:
+  explicit Runner(std::u16string_view source) : m_Source(source) { m_Result.text = source; }
+
+  ConditionalResult Run() {
+    while (m_At < m_Source.size()) Step();
+    if (!m_Ifs.empty()) throw SyntaxFault{kExpectedEnd, m_Source.size()};
+    return std::move(m_Result);
+  }
+
+ private:
+  /// An `@if` that is not closed yet.
+  struct If {
+    bool isTaken = false;   // code is kept now
+    bool wasTaken = false;  // one branch was
+    bool isInside = false;  // of a branch that is kept
+  };
+
+  bool IsKept() const noexcept { return m_Ifs.empty() || m_Ifs.back().isTaken; }
+  bool Has(std::u16string_view words) const noexcept { return m_Source.substr(m_At).starts_with(words); }
+  void Blank(std::size_t from, std::size_t to) {
+    for (std::size_t k = from; k < to; ++k)
+      if (!IsLineEnd(m_Result.text[k])) m_Result.text[k] = u' ';
+  }
+  /// Moves on over code, which stays only where it is kept.
+  void Pass(std::size_t to) {
+    to = std::min(to, m_Source.size());
+    if (!IsKept()) Blank(m_At, to);
+    m_At = to;
+  }
+  bool OpensConditionalComment() const noexcept;
+  void Step();
+  void PassText(char16_t quote);
+  void PassComment();
+  void PassPattern();
+  bool MayBePattern() const noexcept;
+  void RunStatement();
+  void RunSet();
+  void RunIf(std::size_t start);
+  void PutVariable(std::size_t start, const std::u16string& name);
+
+  double Calculate(double (ConditionalExpression::*kind)()) {
+    ConditionalExpression expression(m_Source, m_At, m_Variables);
+    const double value = (expression.*kind)();
+    m_At = expression.End();
+    return value;
+  }
+  std::u16string Name() {
+    const std::size_t start = m_At;
+    while (m_At < m_Source.size() && ContinuesName(m_Source[m_At])) ++m_At;
+    return std::u16string(m_Source.substr(start, m_At - start));
+  }
+
+  std::u16string_view m_Source;
+  std::size_t m_At = 0;
+  bool m_IsOn = false;
+  bool m_IsInLine = false;   // within a `//@` comment
+  char16_t m_Before = u';';  // the last character that is no blank
+  std::vector<If> m_Ifs;
+  ConditionalVariables m_Variables = PredefinedVariables();
+  ConditionalResult m_Result;
+};
+
+bool Runner::OpensConditionalComment() const noexcept {
+  if (!Has(u"/*@") && !Has(u"//@")) return false;
+  if (m_IsOn) return true;
+  const std::u16string_view rest = m_Source.substr(m_At + 3);
+  return rest.starts_with(u"cc_on") || rest.starts_with(u"if") || rest.starts_with(u"set");
+}
+
+void Runner::Step() {
+  const char16_t c = m_Source[m_At];
+  if (OpensConditionalComment()) {
+    m_IsInLine |= Has(u"//");
+    Blank(m_At, m_At + 2);
+    m_At += 2;
+    m_IsOn = true;
+    return;
+  }
+  if (Has(u"//") || Has(u"/*")) return PassComment();
+  if (c == u'"' || c == u'\'' || c == u'`') return PassText(c);
+  if (c == u'/' && MayBePattern()) return PassPattern();
+  if (m_IsOn && Has(u"@*/")) {
+    Blank(m_At, m_At + 3);
+    m_At += 3;
+    return;
+  }
+  if (c == u'@') return RunStatement();
+  if (IsLineEnd(c)) m_IsInLine = false;
+  if (!IsBlank(c)) m_Before = c;
+  Pass(m_At + 1);
+}
+
+void Runner::PassText(char16_t quote) {
+  std::size_t end = m_At + 1;
+  while (end < m_Source.size() && m_Source[end] != quote && (quote == u'`' || !IsLineEnd(m_Source[end])))
+    end += m_Source[end] == u'\\' ? 2 : 1;
+  m_Before = quote;
+  Pass(end + 1);
+}
+
+void Runner::PassComment() {
+  if (Has(u"//")) {
+    std::size_t end = m_At;
+    while (end < m_Source.size() && !IsLineEnd(m_Source[end])) ++end;
+    return Pass(end);
+  }
+  const std::size_t end = m_Source.find(u"*/", m_At + 2);
+  Pass(end == std::u16string_view::npos ? m_Source.size() : end + 2);
+}
+
+bool Runner::MayBePattern() const noexcept {
+  return std::u16string_view(u"(,=:[!&|?{};+-*%<>~^").find(m_Before) != std::u16string_view::npos;
+}
+
+void Runner::PassPattern() {
+  bool isInClass = false;
+  std::size_t end = m_At + 1;
+  for (; end < m_Source.size() && !IsLineEnd(m_Source[end]); ++end) {
+    const char16_t c = m_Source[end];
+    if (c == u'\\') ++end;
+    if (c == u'[') isInClass = true;
+    if (c == u']') isInClass = false;
+    if (c == u'/' && !isInClass) break;
+  }
+  m_Before = u'/';
+  Pass(end + 1);
+}
+
+void Runner::RunStatement() {
+  const std::size_t start = m_At++;
+  const std::u16string name = Name();
+  if (name.empty()) {
+    // Not ours to judge: the compiler says where it stands.
+    m_Before = u'@';
+    return;
+  }
+  if (name == u"cc_on") {
+    m_IsOn = true;
+  } else if (name == u"set") {
+    m_IsOn = true;
+    RunSet();
+  } else if (name == u"if" || name == u"elif" || name == u"else" || name == u"end") {
+    m_IsOn = true;
+    m_At = start;
+    return RunIf(start);
+  } else {
+    return PutVariable(start, name);
+  }
+  Blank(start, m_At);
+}
+
+void Runner::RunSet() {
+  const auto passBlanks = [&] {
+    while (m_At < m_Source.size() && IsBlank(m_Source[m_At]) && !IsLineEnd(m_Source[m_At])) ++m_At;
+  };
+  passBlanks();
+  if (m_At >= m_Source.size() || m_Source[m_At] != u'@') throw SyntaxFault{kExpectedAt, m_At};
+  ++m_At;
+  const std::u16string name = Name();
+  passBlanks();
+  if (m_At >= m_Source.size() || m_Source[m_At] != u'=') throw SyntaxFault{kExpectedEquals, m_At};
+  ++m_At;
+  const double value = Calculate(&ConditionalExpression::Value);
+  if (IsKept()) m_Variables[name] = value;
+}
+
+void Runner::RunIf(std::size_t start) {
+  ++m_At;
+  const std::u16string name = Name();
+  const bool isFirst = name == u"if";
+  if (!isFirst && m_Ifs.empty()) throw SyntaxFault{kSyntaxError, start};
+  const bool isKept = IsKept();
+  if (isFirst) m_Ifs.push_back({.isInside = isKept});
+  if (isFirst || name == u"elif") {
+    const double value = Calculate(&ConditionalExpression::Condition);
+    If& own = m_Ifs.back();
+    own.isTaken = own.isInside && !own.wasTaken && value != 0 && !std::isnan(value);
+    own.wasTaken |= own.isTaken;
+  } else if (name == u"else") {
+    If& own = m_Ifs.back();
+    own.isTaken = own.isInside && !own.wasTaken;
+    own.wasTaken = true;
+  } else {
+    m_Ifs.pop_back();
+  }
+  Blank(start, m_At);
+}
+
+void Runner::PutVariable(std::size_t start, const std::u16string& name) {
+  Blank(start, m_At);
+  m_Before = u'0';
+  if (!IsKept()) return;
+  const auto known = m_Variables.find(name);
+  m_Result.text[start] = u'0';
+  m_Result.values.push_back({start, 1, Literal(known == m_Variables.end() ? std::nan("") : known->second)});
+}
+
+}  // namespace
+
+ConditionalResult RunConditionalCode(std::u16string_view source) {
+  // Hardly any source has some.
+  if (source.find(u'@') == std::u16string_view::npos) return {std::u16string(source), {}};
+  return Runner(source).Run();
+}
+
+}  // namespace cardwright::jscript

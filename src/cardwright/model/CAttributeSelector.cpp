@@ -1,0 +1,105 @@
+#include "cardwright/model/CAttributeSelector.h"
+
+#include "cardwright/model/WidgetFields.h"
+
+namespace cardwright {
+namespace {
+
+/// The widget of a control of that name, where it is of the kind that a link leads to.
+template <class Kind>
+Ref<Kind> LinkedWidget(const Collection& controls, const Text& userName) {
+  const IControl* control = FindControl(controls, userName);
+  return Ref<Kind>(control ? dynamic_cast<Kind*>(control->BoundObject().get()) : nullptr);
+}
+
+}  // namespace
+
+struct CAttributeSelector::Tables {
+  using W = AttributeSelectorWidget;
+  using enum PropertyTypeEnum;
+  static constexpr std::u16string_view kTypes[] = {u"Points", u"Arcs", u"Polygons"};
+
+  static constexpr Field kText{rows::GetCaption, SelectText};
+  static constexpr Field kStoredText{StoredText, nullptr};
+  // From the grid a link is there at once, so that the author can choose from the list. In projects it is a
+  // name: the control that it leads to may come later.
+  template <auto Member>
+  static constexpr Field Link{Stored<Member>.get, [](TableControl& c, const Variant& name) {
+                                Stored<Member>.set(c, name);
+                                if (!c.Designer()) return;
+                                Attempt([&] { c.AttachControls(c.Designer()->Controls()); });
+                              }};
+  static constexpr Field kThemes = Stored<&CAttributeSelector::m_ThemeSelectorName>;
+  static constexpr Field kFeatures = Stored<&CAttributeSelector::m_FeatureSelectorName>;
+  static constexpr Field kType{
+      [](const TableControl& c) -> Variant { return FeatureTypeToText(BoundAs<W>(c).FeatureType()); },
+      [](TableControl& c, const Variant& text) {
+        BoundAs<W>(c).SetFeatureType(FeatureTypeFromText(ToText(text)));
+      }};
+  // A number in projects; the text of a type is understood there too.
+  static constexpr Field kStoredType{
+      [](const TableControl& c) -> Variant { return BoundAs<W>(c).FeatureType(); },
+      [](TableControl& c, const Variant& stored) {
+        const std::int32_t named = FeatureTypeFromText(ToText(stored));
+        BoundAs<W>(c).SetFeatureType(named < 0 ? ToLong(Variant(Val(ToText(stored)))) : named);
+      }};
+
+  static constexpr auto kRows = Rows(rows::Name, PropertyRow{u"Text", ptString, 1011, kText}, rows::BackColor,
+                                     rows::Font, rows::Left, rows::Top, rows::Width, rows::ForeColor,
+                                     PropertyRow{.name = u"ThemeSelectorName",
+                                                 .type = ptControls,
+                                                 .description = 1068,
+                                                 .field = Link<&CAttributeSelector::m_ThemeSelectorName>,
+                                                 .links = ControlTypeEnum::ctThemeSelector},
+                                     PropertyRow{u"FeatureType", ptList, 1069, kType, kTypes},
+                                     PropertyRow{.name = u"FeatureSelectorName",
+                                                 .type = ptControls,
+                                                 .description = 1073,
+                                                 .field = Link<&CAttributeSelector::m_FeatureSelectorName>,
+                                                 .links = ControlTypeEnum::ctComboBox},
+                                     rows::Attribute, rows::IsNeeded);
+  // Text is a choice: it is read last.
+  static constexpr auto kKeys =
+      Keys(keys::Key(u"Text", kStoredText), keys::BackColor, keys::Font, keys::GeometryWithoutHeight,
+           keys::ForeColor, keys::Key(u"ThemeSelectorName", kThemes), keys::Key(u"FeatureType", kStoredType),
+           keys::Key(u"FeatureSelectorName", kFeatures), keys::Attribute, keys::IsNeeded);
+  static constexpr auto kEvents = EventNames(u"OnClick");
+};
+
+constinit const ClassTable CAttributeSelector::kTable =
+    DefineClass<Tables::kRows, kNoRows, Tables::kKeys, Tables::kEvents>(
+        u"CAttributeSelector", u"CardwrightCtrl.AttributeSelector", u"attributeselector");
+
+// Without a theme selector the feature selector is left alone too: a type of features says nothing without a
+// theme. The text of the project was read before there were links, and so before there was a list.
+void CAttributeSelector::AttachControls(Collection& controls) {
+  if (m_ThemeSelectorName.IsEmpty() || !Bound()) return;
+  HandOverConnection();
+  LinkWidgets(controls);
+  ChooseWaiting();
+}
+
+void CAttributeSelector::LinkWidgets(const Collection& controls) {
+  auto& selector = BoundAs<AttributeSelectorWidget>(*this);
+  if (const auto themes = LinkedWidget<ThemeSelectorWidget>(controls, m_ThemeSelectorName)) {
+    selector.LinkThemeSelector(themes);
+    selector.RefreshAttributes();
+  }
+  if (m_FeatureSelectorName.IsEmpty()) return;
+  if (const auto types = LinkedWidget<ComboWidget>(controls, m_FeatureSelectorName)) {
+    selector.LinkFeatureSelector(types);
+    selector.RefreshAttributes();
+  }
+}
+
+void CAttributeSelector::LinkControlNameChanged(const Text& oldName, const Text& newName) {
+  for (Text* name : {&m_ThemeSelectorName, &m_FeatureSelectorName})
+    if (!name->IsEmpty() && EqualsNoCase(*name, oldName)) *name = newName;
+}
+
+void CAttributeSelector::LinkControlDelete(Collection& controls) {
+  for (Text* name : {&m_ThemeSelectorName, &m_FeatureSelectorName})
+    if (!FindControl(controls, *name)) *name = Text();
+}
+
+}  // namespace cardwright

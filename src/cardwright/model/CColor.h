@@ -1,0 +1,27 @@
+#pragma once
+
+#include "cardwright/automation/MemberTable.h"
+#include "cardwright/platform/Color.h"
+
+namespace cardwright {
+
+/// A colour number taken apart.
+class CColor final : public TableObject {
+ public:
+  Text TypeName() const override { return u"CColor"; }
+
+  /// The components as a colour number.
+  OleColor Color() const noexcept { return Rgb(m_Red, m_Green, m_Blue); }
+  /// Takes the components of a colour; of a system colour, those it has at present.
+  void SetColor(OleColor color);
+
+  std::uint8_t m_Red = 0;
+  std::uint8_t m_Green = 0;
+  std::uint8_t m_Blue = 0;
+  std::uint8_t m_Alpha = 0;  ///< kept beside the colour number, which has none
+
+ protected:
+  const MemberTable& Members() const override;
+};
+
+}  // namespace cardwright

@@ -1,0 +1,36 @@
+#include "cardwright/model/CColorSelector.h"
+
+#include "cardwright/model/WidgetFields.h"
+
+namespace cardwright {
+
+struct CColorSelector::Tables {
+  using W = ColorSelectorWidget;
+  using enum PropertyTypeEnum;
+
+  static constexpr Field kColor = WidgetColor<&W::Color, &W::SetColor>;
+  static constexpr Field kTitle = WidgetText<&W::Title, &W::SetTitle>;
+  static constexpr Field kMask = Stored<&CColorSelector::m_MaskValue>;
+  static constexpr Field kBorder = WidgetBorder<W>;
+
+  static constexpr auto kRows =
+      Rows(rows::Name, PropertyRow{u"Color", ptColor, 1061, kColor}, rows::BackColor, rows::Left, rows::Top,
+           rows::Width, rows::Height, PropertyRow{u"Title", ptString, 1058, kTitle},
+           PropertyRow{
+               .name = u"MaskValue", .type = ptString, .description = 1062, .field = kMask, .argument = 1064},
+           PropertyRow{u"Border", ptBoolean, 1066, kBorder}, rows::Attribute, rows::IsNeeded);
+  static constexpr auto kKeys =
+      Keys(keys::ColorKey(u"Color", kColor), keys::Geometry, keys::Attribute, keys::IsNeeded,
+           keys::Key(u"Border", kBorder), keys::Key(u"Title", kTitle), keys::Key(u"MaskValue", kMask));
+  static constexpr auto kEvents = EventNames(u"OnClick");
+};
+
+constinit const ClassTable CColorSelector::kTable =
+    DefineClass<Tables::kRows, kNoRows, Tables::kKeys, Tables::kEvents>(
+        u"CColorSelector", u"CardwrightCtrl.ColorSelector", u"colorselector");
+
+Text CColorSelector::Value(std::optional<Variant> params) const {
+  return BoundAs<ColorSelectorWidget>(*this).Value(TemplateOf(params, m_MaskValue));
+}
+
+}  // namespace cardwright

@@ -1,0 +1,84 @@
+#include "cardwright/model/CComboBox.h"
+
+#include "cardwright/model/ListEntries.h"
+#include "cardwright/shared/Lookups.h"
+
+namespace cardwright {
+
+struct CComboBox::Tables {
+  static constexpr Field kText{rows::GetCaption, [](TableControl& c, const Variant& text) {
+                                 As<CComboBox>(c).SelectText(ToText(text));
+                               }};
+  static constexpr Field kEditable{
+      [](const TableControl& c) -> Variant { return As<CComboBox>(c).m_Editable; },
+      [](TableControl& c, const Variant& value) { As<CComboBox>(c).SetEditable(ToText(value)); }};
+  static constexpr Field kMinusSign = Stored<&TextEntry::m_MinusSignEnabled>;
+
+  static constexpr auto kRows =
+      Rows(rows::Name, PropertyRow{u"Text", PropertyTypeEnum::ptString, 1011, kText}, rows::BackColor,
+           rows::Font, rows::Left, rows::Top, rows::Width, rows::ForeColor,
+           PropertyRow{u"Editable", PropertyTypeEnum::ptBoolean, 1070, kEditable},
+           PropertyRow{u"Items", PropertyTypeEnum::ptCollection, 1012, kItemsField<CComboBox>},
+           PropertyRow{u"MinusSignEnabled", PropertyTypeEnum::ptBoolean, 1053, kMinusSign}, rows::Attribute,
+           rows::IsNeeded);
+  // Text is a selection: it is read last, when the items are there.
+  static constexpr auto kKeys =
+      Keys(keys::Key(u"Text", ReadOnly(kText)), keys::BackColor, keys::Font, keys::GeometryWithoutHeight,
+           keys::ForeColor, keys::Key(u"Editable", kEditable), keys::Attribute, kItemsNumberKey<CComboBox>,
+           keys::IsNeeded, keys::Key(u"MinusSignEnabled", kMinusSign), kItemsKey<CComboBox>);
+  static constexpr auto kEvents = EventNames(u"OnChange", u"OnClick");
+};
+
+constinit const ClassTable CComboBox::kTable =
+    DefineClass<Tables::kRows, kNoRows, Tables::kKeys, Tables::kEvents>(u"CComboBox", u"vb.combobox",
+                                                                        u"ComboBox");
+
+ComboWidget& CComboBox::Box() const {
+  if (!Bound()) Raise(ErrorNumber::ObjectNotSet);
+  return static_cast<ComboWidget&>(*Bound());
+}
+
+Text CComboBox::Value(std::optional<Variant>) const {
+  const Ref<CItem> item = m_Items->Item(Variant(Box().ListIndex() + 1));
+  return item ? item->m_Value : Text();
+}
+
+void CComboBox::FillWidget() {
+  Box().Clear();
+  for (std::int32_t i = 1; i <= m_Items->Count(); ++i)
+    if (const Ref<CItem> item = m_Items->Item(Variant(i))) Box().AddItem(item->m_Text);
+}
+
+void CComboBox::Refresh() {
+  FillWidget();
+  Box().Refresh();
+}
+
+void CComboBox::SelectText(const Text& text) {
+  const int found = FindListItem(Box(), text, {.exact = true});
+  if (found >= 0) Box().SetListIndex(found);
+  if (Box().ListIndex() < 0 && !text.IsEmpty() && TakesTyping()) Box().SetDisplayText(text);
+}
+
+void CComboBox::SetEditable(const Text& editable) {
+  m_Editable = editable;
+  if (Bound()) Box().SetEditable(TakesTyping());
+}
+
+void CComboBox::FinishRead(const CIni& ini, const Text& sectionName) {
+  m_Items = CItems::Read(ini, sectionName);
+  FillWidget();
+  const auto stored = ini.Find(sectionName, u"Text");
+  SelectText(stored ? ToText(*stored) : Box().DisplayText());
+  if (Designer()) Box().SetLocked(true);
+}
+
+// Without the leave to type no key reaches the widget, arrow keys included: forms rely on a list that only
+// the mouse changes.
+void CComboBox::OnKeyDown(int& keyCode, int& shift) {
+  if (TakesTyping()) return;
+  keyCode = 0;
+  shift = 0;
+}
+
+}  // namespace cardwright

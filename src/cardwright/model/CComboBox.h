@@ -1,0 +1,38 @@
+#pragma once
+
+#include "cardwright/model/CItems.h"
+#include "cardwright/model/TextEntry.h"
+
+namespace cardwright {
+
+/// A drop-down list; the value of the chosen entry reaches the attribute.
+class CComboBox final : public TextEntry {
+ public:
+  static const ClassTable kTable;
+  CComboBox() : TextEntry(kTable) {}
+
+  /// Value of the selected item; "" without a selection, whatever was typed.
+  Text Value(std::optional<Variant> params = {}) const override;
+  /// Fills the widget from the items, as a grid asks for after it edited them.
+  void Refresh() override;
+
+  Ref<CItems> m_Items = MakeRef<CItems>();
+
+ protected:
+  bool Accepts(const Widget& widget) const override { return dynamic_cast<const ComboWidget*>(&widget); }
+  void FinishRead(const CIni& ini, const Text& sectionName) override;
+  bool ClickSelects() const override { return false; }
+  bool TakesTyping() const override { return FlagIsSet(m_Editable); }
+  void OnKeyDown(int& keyCode, int& shift) override;
+
+ private:
+  struct Tables;
+  ComboWidget& Box() const;
+  void FillWidget();
+  void SelectText(const Text& text);
+  void SetEditable(const Text& editable);
+
+  Text m_Editable = u"False";
+};
+
+}  // namespace cardwright

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "cardwright/model/Control.h"
+
+namespace cardwright {
+
+/// A push button; it acts only through its script procedure.
+class CCommandButton final : public Control {
+ public:
+  static const ClassTable kTable;
+  CCommandButton() : Control(kTable) {}
+
+  /// The button has no colours of its own.
+  OleColor BackColor() const override { return 0; }
+  void SetBackColor(OleColor) override {}
+  OleColor ForeColor() const override { return 0; }
+  void SetForeColor(OleColor) override {}
+  /// Always "": a button feeds no attribute.
+  Text Value(std::optional<Variant> = {}) const override { return {}; }
+
+ protected:
+  bool Accepts(const Widget& widget) const override { return widget.TypeName() == kTable.typeText; }
+};
+
+}  // namespace cardwright

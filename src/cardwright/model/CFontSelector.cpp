@@ -1,0 +1,44 @@
+#include "cardwright/model/CFontSelector.h"
+
+#include "cardwright/model/WidgetFields.h"
+
+namespace cardwright {
+
+struct CFontSelector::Tables {
+  using W = FontSelectorWidget;
+  using enum PropertyTypeEnum;
+
+  static constexpr Field kGround = WidgetColor<&W::BackColorBkg, &W::SetBackColorBkg>;
+  static constexpr Field kTitle = WidgetText<&W::Title, &W::SetTitle>;
+  static constexpr Field kMask = Stored<&CFontSelector::m_MaskValue>;
+  static constexpr Field kBorder = WidgetBorder<W>;
+  static constexpr Field kAutoSize = WidgetFlag<&W::AutoSizes, &W::SetAutoSize>;
+
+  static constexpr auto kRows =
+      Rows(rows::Name, PropertyRow{u"Font", ptFont, 1063, rows::Font.field},
+           PropertyRow{u"BackColor", ptColor, 1080, rows::BackColor.field},
+           PropertyRow{u"BackColorBkg", ptColor, 1001, kGround}, rows::Left, rows::Top, rows::Width,
+           rows::Height, rows::ForeColor, PropertyRow{u"Title", ptString, 1058, kTitle},
+           PropertyRow{
+               .name = u"MaskValue", .type = ptString, .description = 1062, .field = kMask, .argument = 1065},
+           PropertyRow{u"Border", ptBoolean, 1066, kBorder},
+           PropertyRow{u"AutoSize", ptBoolean, 1067, kAutoSize}, rows::Attribute);
+  // Answered and saved as everywhere, but grids never showed it here.
+  static constexpr auto kHidden = Rows(rows::IsNeeded);
+  static constexpr auto kKeys =
+      Keys(keys::BackColor, keys::ColorKey(u"BackColorBkg", kGround), keys::Font, keys::Geometry,
+           keys::ForeColor, keys::Attribute, keys::IsNeeded, keys::Key(u"Border", kBorder),
+           keys::Key(u"AutoSize", kAutoSize), keys::Key(u"Title", kTitle), keys::Key(u"MaskValue", kMask));
+  static constexpr auto kEvents =
+      EventNames(u"AfterButtonClick", u"BeforeButtonClick", u"OnChange", u"OnClick");
+};
+
+constinit const ClassTable CFontSelector::kTable =
+    DefineClass<Tables::kRows, Tables::kHidden, Tables::kKeys, Tables::kEvents>(
+        u"CFontSelector", u"CardwrightCtrl.FontSelector", u"fontselector");
+
+Text CFontSelector::Value(std::optional<Variant> params) const {
+  return BoundAs<FontSelectorWidget>(*this).Value(TemplateOf(params, m_MaskValue));
+}
+
+}  // namespace cardwright

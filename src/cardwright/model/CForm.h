@@ -1,0 +1,79 @@
+#pragma once
+
+#include "cardwright/model/Steps.h"
+#include "cardwright/model/TableControl.h"
+#include "cardwright/platform/Picture.h"
+#include "cardwright/storage/CIni.h"
+
+namespace cardwright {
+
+/// The root of a form and its project file: always the first object of its owner's collection. It has no
+/// widget; where a control talks to its widget, the form talks to its owner and to the owner's host window.
+class CForm final : public TableControl {
+ public:
+  static const ClassTable kTable;
+  CForm();
+
+  float Width() const override;
+  void SetWidth(float value) override;
+  float Height() const override;
+  void SetHeight(float value) override;
+  OleColor BackColor() const override;
+  void SetBackColor(OleColor color) override;
+  Ref<cardwright::Font> GetFont() const override;
+  /// Takes the value of the default member of `font` into the form's font object.
+  void SetFont(const Variant& font) override;
+  /// The designer, where the form is being designed.
+  Ref<Object> BoundObject() const override;
+
+  /// Stacking means nothing to the form itself.
+  void SetZOrder(std::int16_t) override {}
+  /// The start modes, whatever row is asked for.
+  std::vector<Text> PropertyList(const Variant& index) const override;
+
+  /// Loads a form project into the owner: the form's settings, every control, the stacking, the script and,
+  /// when filling in, the buttons. It adds to what is there. False without an owner or a file.
+  bool Read(const Text& filePath, const Text& sectionName) override;
+  /// Writes the project, replacing the file in one step. A form without controls has no file: it is deleted.
+  /// False without an owner or a folder.
+  bool Save(const Text& filePath, const Text& sectionName) override;
+
+  /// Called by a designer when its surface was resized: a grid that shows the form follows.
+  void OnDesignerResized();
+
+ private:
+  struct Tables;
+  Ref<HostWindow> Host() const;
+  /// The surface of whichever owner there is; error 91 without one.
+  Surface& Canvas() const;
+  /// All objects of the owner; error 91 without one. An owner can end while its form is read: hosts answer
+  /// events and requests as they like.
+  Collection& Elements() const;
+  Text Caption() const;
+  void SetCaption(const Text& caption);
+  float HostSize(float (HostWindow::*size)() const, float (FormOwner::*outer)() const) const;
+  void SetOuterWidth(float width);
+  void SetOuterHeight(float height);
+  void SetImage(const Variant& picture);
+  void RefreshAttributeList();
+
+  void ReadProject(const Text& filePath, const CIni& ini, Steps& step);
+  void ReadAppearance(const CIni& ini);
+  void ReadTitle(const CIni& ini);
+  void ReadTheme(const CIni& ini);
+  void ReadControl(const Text& filePath, const CIni& ini, int number);
+  void ReadStacking(const CIni& ini);
+  static void ReadScript(const Text& filePath);
+  void FinishRead();
+  void WriteProject(const Text& filePath, CIni& ini);
+  void WriteSettings(CIni& ini) const;
+  void WriteStacking(CIni& ini) const;
+
+  Text m_ThemeName;
+  std::int32_t m_FeatureType = static_cast<std::int32_t>(FeatureTypeEnum::ftNone);
+  Text m_StartMode = u"Always";
+  std::int32_t m_ShowMenu = 0;
+  Ref<Picture> m_Image;
+};
+
+}  // namespace cardwright

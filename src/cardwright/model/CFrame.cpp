@@ -1,0 +1,51 @@
+#include "cardwright/model/CFrame.h"
+
+#include "cardwright/model/CommonFields.h"
+
+namespace cardwright {
+namespace {
+
+constexpr auto kRows = Rows(rows::Name, rows::Text, rows::BackColor, rows::Font, rows::Left, rows::Top,
+                            rows::Width, rows::Height, rows::ForeColor);
+constexpr auto kKeys = Keys(keys::Text, keys::BackColor, keys::Font, keys::Geometry, keys::ForeColor);
+constexpr auto kEvents = EventNames(u"OnClick");
+
+}  // namespace
+
+constinit const ClassTable CFrame::kTable =
+    DefineClass<kRows, kNoRows, kKeys, kEvents>(u"CFrame", u"vb.frame", u"Frame");
+
+bool CFrame::IsDrawing() const {
+  return Designer() && Designer()->ControlTypeToAdd() != ControlTypeEnum::ctDefault;
+}
+
+void CFrame::OnClick() {
+  if (!Designer()) return RunScriptEvent(u"OnClick");
+  if (!m_ClickConsumed) SelectInDesigner();
+  m_ClickConsumed = false;
+}
+
+void CFrame::OnMouseDown(int button, int shift, float x, float y) {
+  if (!Designer()) return;
+  const Ref<Control> keepAlive(this);  // drawing runs its own loop, in which anything may happen
+  m_ClickConsumed = IsDrawing();
+  if (m_ClickConsumed) {
+    Designer()->SetIntoFrame(true);
+    SelectInDesigner();
+    Designer()->SurfaceMouseDown(button, shift, x, y);
+  }
+  Control::OnMouseDown(button, shift, x, y);
+}
+
+void CFrame::OnMouseMove(int button, int shift, float x, float y) {
+  Control::OnMouseMove(button, shift, x, y);
+  if (IsDrawing()) Designer()->SurfaceMouseMove(button, shift, x, y);
+}
+
+void CFrame::OnMouseUp(int button, int shift, float x, float y) {
+  if (!Designer() || (Designer()->IsIntoFrame() && Designer()->IsTracking())) return;
+  if (IsDrawing()) Designer()->SurfaceMouseUp(button, shift, x, y);
+  Designer()->SetIntoFrame(false);
+}
+
+}  // namespace cardwright

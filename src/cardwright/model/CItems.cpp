@@ -1,0 +1,81 @@
+#include "cardwright/model/CItems.h"
+
+namespace cardwright {
+namespace {
+
+constexpr Member kMembers[] = {
+    Property<&CItems::Count>(u"Count"), Property<&CItems::Item>(u"Item"), Method<&CItems::Add>(u"Add"),
+    Method<&CItems::Remove>(u"Remove"), Method<&CItems::Clear>(u"Clear"),
+};
+
+// A project may state any number of items. Up to this count missing ones are read as empty; beyond it they
+// end the list, so that a damaged number cannot fill the memory.
+constexpr int kMostMissingItems = 32767;
+
+Text ItemKey(std::u16string_view prefix, std::int32_t number) {
+  return Text(prefix) + ToText(Variant(number));
+}
+
+}  // namespace
+
+const MemberTable& CItems::Members() const {
+  static const MemberTable table(kMembers, u"Item");
+  return table;
+}
+
+Ref<CItem> CItems::Item(const Variant& index) const {
+  return AttemptOr(Ref<CItem>(), [&] {
+    Variant found = m_Items->Item(index);
+    return FromVariant<Ref<CItem>>(found);
+  });
+}
+
+bool CItems::Add(Ref<CItem> item, std::optional<Variant> before) {
+  ++m_LastKey;
+  return Attempt(
+      [&] { m_Items->Add(Variant(item), Variant(ItemKey(u"Item_", m_LastKey)), std::move(before)); });
+}
+
+bool CItems::Remove(const Variant& index) {
+  Attempt([&] { m_Items->Remove(index); });
+  return true;
+}
+
+void CItems::Clear() {
+  m_Items = MakeRef<Collection>();
+  m_LastKey = 0;
+}
+
+std::int32_t CItems::FindValue(std::u16string_view value) const {
+  for (std::int32_t position = 1; position <= Count(); ++position) {
+    const Ref<CItem> item = Item(Variant(position));
+    if (item && item->m_Value == value) return position;
+  }
+  return 0;
+}
+
+Ref<CItems> CItems::Read(const CIni& ini, const Text& section) {
+  auto items = MakeRef<CItems>();
+  const double count = Val(ToText(ini.GetValue(section, u"ItemsNumber", Variant(u"0"))));
+  for (std::int32_t i = 1; i <= count; ++i) {
+    const auto value = ini.Find(section, ItemKey(u"Value_Item_", i));
+    const auto text = ini.Find(section, ItemKey(u"Text_Item_", i));
+    if (!value && !text && i > kMostMissingItems) break;
+    auto item = MakeRef<CItem>();
+    if (value) item->m_Value = ToText(*value);
+    if (text) item->m_Text = ToText(*text);
+    items->Add(item);
+  }
+  return items;
+}
+
+void CItems::Save(CIni& ini, const Text& section) const {
+  for (std::int32_t i = 1; i <= Count(); ++i) {
+    const Ref<CItem> item = Item(Variant(i));
+    if (!item) continue;
+    ini.WriteValue(section, ItemKey(u"Value_Item_", i), item->m_Value);
+    ini.WriteValue(section, ItemKey(u"Text_Item_", i), item->m_Text);
+  }
+}
+
+}  // namespace cardwright

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "cardwright/automation/Collection.h"
+#include "cardwright/model/CItem.h"
+#include "cardwright/storage/CIni.h"
+
+namespace cardwright {
+
+/// Entries of a list control, reached by 1-based position or by key. Keys are "Item_" and a number that only
+/// grows between calls of Clear.
+class CItems final : public TableObject {
+ public:
+  Text TypeName() const override { return u"CItems"; }
+
+  std::int32_t Count() const noexcept { return m_Items->Count(); }
+  /// Nothing where there is no such item.
+  Ref<CItem> Item(const Variant& index) const;
+  /// False where the place named by `before` does not exist.
+  bool Add(Ref<CItem> item, std::optional<Variant> before = {});
+  /// True in any case, as scripts were always told.
+  bool Remove(const Variant& index);
+  void Clear();
+  std::unique_ptr<Enumerator> Enumerate() override { return m_Items->Enumerate(); }
+
+  /// Position from 1 of the first item with exactly this value; 0 for none.
+  std::int32_t FindValue(std::u16string_view value) const;
+
+  /// Reads `ItemsNumber` and the items of a section of a form project.
+  static Ref<CItems> Read(const CIni& ini, const Text& section);
+  /// Writes the items, without their number.
+  void Save(CIni& ini, const Text& section) const;
+
+ protected:
+  const MemberTable& Members() const override;
+
+ private:
+  Ref<Collection> m_Items = MakeRef<Collection>();
+  std::int32_t m_LastKey = 0;
+};
+
+}  // namespace cardwright

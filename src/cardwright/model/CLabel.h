@@ -1,0 +1,17 @@
+#pragma once
+
+#include "cardwright/model/Control.h"
+
+namespace cardwright {
+
+/// A caption on the form.
+class CLabel final : public Control {
+ public:
+  static const ClassTable kTable;
+  CLabel() : Control(kTable) {}
+
+ protected:
+  bool Accepts(const Widget& widget) const override { return widget.TypeName() == kTable.typeText; }
+};
+
+}  // namespace cardwright

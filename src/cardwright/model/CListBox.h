@@ -1,0 +1,42 @@
+#pragma once
+
+#include "cardwright/model/CItems.h"
+#include "cardwright/model/Control.h"
+
+namespace cardwright {
+
+/// A list of one column, with check boxes where several entries may be marked; the value of the selected
+/// entry reaches the attribute. On the design surface it shows its name instead of its items.
+class CListBox final : public Control {
+ public:
+  static const ClassTable kTable;
+  CListBox() : Control(kTable) {}
+
+  void SetName(const Text& name) override;
+  /// Value of the selected entry's item; "" without one.
+  Text Value(std::optional<Variant> params = {}) const override;
+  /// Fills the widget from the items, as a grid asks for after it edited them.
+  void Refresh() override;
+
+  Ref<CItems> m_Items = MakeRef<CItems>();
+
+ protected:
+  bool Accepts(const Widget& widget) const override { return dynamic_cast<const ListViewWidget*>(&widget); }
+  void FinishRead(const CIni& ini, const Text& sectionName) override;
+  bool ClickSelects() const override { return false; }
+  void OnItemCheck(int index) override;
+
+ private:
+  struct Tables;
+  ListViewWidget& View() const;
+  Ref<CItem> CurrentItem() const;
+  void FillWidget();
+  void ShowName();
+  void SelectStoredText();
+  void SetMultiSelect(const Variant& value);
+  void FitColumn();
+
+  Text m_Text;
+};
+
+}  // namespace cardwright

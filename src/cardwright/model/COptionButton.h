@@ -1,0 +1,25 @@
+#pragma once
+
+#include "cardwright/model/StateControl.h"
+
+namespace cardwright {
+
+/// One of several buttons that exclude each other; the selected one's fixed text reaches the attribute.
+class COptionButton final : public StateControl {
+ public:
+  static const ClassTable kTable;
+  COptionButton() : StateControl(kTable) {}
+
+  /// The button's text while it is selected, else "".
+  Text Value(std::optional<Variant> params = {}) const override;
+
+ protected:
+  bool Accepts(const Widget& widget) const override;
+
+ private:
+  struct Tables;
+
+  Text m_Value;
+};
+
+}  // namespace cardwright

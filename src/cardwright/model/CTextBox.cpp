@@ -1,0 +1,41 @@
+#include "cardwright/model/CTextBox.h"
+
+#include "cardwright/model/CommonFields.h"
+
+namespace cardwright {
+
+struct CTextBox::Tables {
+  static constexpr std::u16string_view kInputTypes[] = {u"Text", u"Float", u"Integer"};
+
+  static constexpr auto kRows = Rows(
+      rows::Name, rows::Text, rows::BackColor, rows::Font, rows::Left, rows::Top, rows::Width, rows::Height,
+      rows::ForeColor,
+      PropertyRow{u"InputType", PropertyTypeEnum::ptList, 1074, Stored<&CTextBox::m_InputType>, kInputTypes},
+      PropertyRow{u"MinusSignEnabled", PropertyTypeEnum::ptBoolean, 1053,
+                  Stored<&TextEntry::m_MinusSignEnabled>},
+      rows::Attribute, rows::IsNeeded);
+  static constexpr auto kKeys =
+      Keys(keys::Text, keys::BackColor, keys::Font, keys::Geometry, keys::ForeColor, keys::Attribute,
+           keys::IsNeeded, keys::Key(u"MinusSignEnabled", Stored<&TextEntry::m_MinusSignEnabled>),
+           keys::Key(u"InputType", Stored<&CTextBox::m_InputType>));
+  static constexpr auto kEvents = EventNames(u"OnChange", u"OnClick");
+};
+
+constinit const ClassTable CTextBox::kTable =
+    DefineClass<Tables::kRows, kNoRows, Tables::kKeys, Tables::kEvents>(u"CTextBox", u"vb.textbox",
+                                                                        u"TextBox");
+
+bool CTextBox::Accepts(const Widget& widget) const { return EqualsNoCase(widget.TypeName(), u"TextBox"); }
+
+void CTextBox::ChooseInputMode() {
+  if (Val(Bound()->Tag()) != 0) return;
+  if (EqualsNoCase(m_InputType, u"integer")) Bound()->SetTag(u"1");
+  if (EqualsNoCase(m_InputType, u"float")) Bound()->SetTag(u"2");
+}
+
+// On the design surface the box shows its text and takes none.
+void CTextBox::FinishRead(const CIni&, const Text&) {
+  if (Designer()) static_cast<TextWidget*>(Bound())->SetLocked(true);
+}
+
+}  // namespace cardwright

@@ -1,0 +1,28 @@
+#include "cardwright/model/CTextBoxMultiline.h"
+
+#include "cardwright/model/CommonFields.h"
+
+namespace cardwright {
+
+struct CTextBoxMultiline::Tables {
+  // MinusSignEnabled stands third here, unlike in the one-line box: grids show the rows in this order.
+  static constexpr auto kRows = Rows(rows::Name, rows::Text,
+                                     PropertyRow{u"MinusSignEnabled", PropertyTypeEnum::ptBoolean, 1053,
+                                                 Stored<&TextEntry::m_MinusSignEnabled>},
+                                     rows::BackColor, rows::Font, rows::Left, rows::Top, rows::Width,
+                                     rows::Height, rows::ForeColor, rows::Attribute, rows::IsNeeded);
+  static constexpr auto kKeys =
+      Keys(keys::Text, keys::BackColor, keys::Font, keys::Geometry, keys::ForeColor, keys::Attribute,
+           keys::IsNeeded, keys::Key(u"MinusSignEnabled", Stored<&TextEntry::m_MinusSignEnabled>));
+  static constexpr auto kEvents = EventNames(u"OnChange", u"OnClick");
+};
+
+constinit const ClassTable CTextBoxMultiline::kTable =
+    DefineClass<Tables::kRows, kNoRows, Tables::kKeys, Tables::kEvents>(
+        u"CTextBoxMultiline", u"CardwrightCtrl.MultilineTextBox", u"textboxmultiline");
+
+bool CTextBoxMultiline::Accepts(const Widget& widget) const {
+  return EqualsNoCase(widget.TypeName(), u"MultilineTextBox");
+}
+
+}  // namespace cardwright

@@ -1,0 +1,35 @@
+#include "cardwright/model/CThemeSelector.h"
+
+#include "cardwright/model/WidgetFields.h"
+
+namespace cardwright {
+
+struct CThemeSelector::Tables {
+  using W = ThemeSelectorWidget;
+  using enum PropertyTypeEnum;
+
+  static constexpr Field kText{rows::GetCaption, SelectText};
+  static constexpr Field kStoredText{StoredText, nullptr};
+  static constexpr Field kCreate = WidgetText<&W::CreateThemeText, &W::SetCreateThemeText>;
+
+  static constexpr auto kRows =
+      Rows(rows::Name, PropertyRow{u"Text", ptString, 1011, kText}, rows::BackColor, rows::Font, rows::Left,
+           rows::Top, rows::Width, rows::ForeColor, rows::Attribute, rows::IsNeeded,
+           PropertyRow{u"CreateThemeText", ptString, 1079, kCreate});
+  // Text is a choice: it is read last, when the list is there.
+  static constexpr auto kKeys =
+      Keys(keys::Key(u"Text", kStoredText), keys::BackColor, keys::Font, keys::GeometryWithoutHeight,
+           keys::ForeColor, keys::Key(u"CreateThemeText", kCreate), keys::Attribute, keys::IsNeeded);
+  static constexpr auto kEvents = EventNames(u"OnClick");
+};
+
+constinit const ClassTable CThemeSelector::kTable =
+    DefineClass<Tables::kRows, kNoRows, Tables::kKeys, Tables::kEvents>(
+        u"CThemeSelector", u"CardwrightCtrl.ThemeSelector", u"themeselector");
+
+void CThemeSelector::FillList() {
+  HandOverConnection();
+  BoundAs<ThemeSelectorWidget>(*this).RefreshThemes();
+}
+
+}  // namespace cardwright

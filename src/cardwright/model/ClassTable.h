@@ -1,0 +1,156 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <span>
+#include <string_view>
+
+#include "cardwright/automation/Variant.h"
+#include "cardwright/model/Enums.h"
+
+namespace cardwright {
+
+class TableControl;
+
+/// How a value of a control is got and set. A null `set` ignores the value.
+struct Field {
+  Variant (*get)(const TableControl& control) = nullptr;
+  void (*set)(TableControl& control, const Variant& value) = nullptr;
+};
+
+/// One row of a class's property table.
+struct PropertyRow {
+  std::u16string_view name;
+  PropertyTypeEnum type = PropertyTypeEnum::ptNone;
+  int description = 0;  ///< number of the message that helps the author
+  Field field;
+  std::span<const std::u16string_view> choices = {};  ///< of a ptList row
+  int filter = 0;                                     ///< number of the message with the dialog filter
+  int argument = 0;  ///< number of the message that stands in the description as its argument
+  ControlTypeEnum links = ControlTypeEnum::ctDefault;  ///< of a ptControls row: the kind of control it names
+};
+
+/// Form in which a value stands in a form project.
+enum class KeyForm {
+  Text,    ///< the string itself
+  Number,  ///< `Str` form; read by `Val`, so that a non-number is 0
+  Color,   ///< signed 32-bit number; a text that is none leaves the value
+  Font,    ///< the six keys of a font, flags as 0 and 1
+  Items,   ///< the count and the two keys of each item
+};
+
+/// One entry of a class's section in a form project, in writing order.
+struct FileKey {
+  std::u16string_view name;  ///< for Font and Items the first key of the group
+  KeyForm form = KeyForm::Text;
+  Field field;                         ///< a null `set`: read by the class itself at the end
+  const char16_t* fallback = nullptr;  ///< for a missing key; the current value where null
+};
+
+/// Everything that one control class is, as the reference page of the class tells it.
+struct ClassTable {
+  std::u16string_view className;         ///< "CLabel"
+  std::u16string_view widgetIdentifier;  ///< what the owner passes to its widget factory
+  std::u16string_view typeText;          ///< `Type` as written to a project
+  std::span<const PropertyRow> rows;     ///< in grid order
+  std::span<const PropertyRow> hidden;   ///< answered, but shown in no grid
+  std::span<const FileKey> keys;         ///< between `UserName` and `Container`, in writing order
+  std::span<const std::u16string_view> events;
+  std::span<const std::u16string_view> rowNames;  ///< of `rows`
+  std::u16string_view hiddenNames;                ///< of `hidden`, separated by ";"
+};
+
+namespace detail {
+
+constexpr bool SameName(std::u16string_view a, std::u16string_view b) {
+  if (a.size() != b.size()) return false;
+  for (std::size_t i = 0; i < a.size(); ++i)
+    if ((a[i] | 0x20) != (b[i] | 0x20)) return false;
+  return true;
+}
+
+constexpr std::u16string_view NameOf(std::u16string_view event) { return event; }
+template <class Entry>
+constexpr std::u16string_view NameOf(const Entry& entry) {
+  return entry.name;
+}
+
+template <class List>
+consteval void RequireUnique(const List& list) {
+  for (std::size_t i = 0; i < list.size(); ++i)
+    for (std::size_t j = 0; j < i; ++j)
+      if (SameName(NameOf(list[i]), NameOf(list[j]))) throw "a table has an entry twice";
+}
+
+template <const auto& Rows>
+inline constexpr auto kNames = [] {
+  std::array<std::u16string_view, Rows.size()> names;
+  for (std::size_t i = 0; i < names.size(); ++i) names[i] = Rows[i].name;
+  return names;
+}();
+
+template <const auto& Rows>
+inline constexpr auto kJoinedNames = [] {
+  constexpr std::size_t length = [] {
+    std::size_t sum = Rows.size();
+    for (const PropertyRow& row : Rows) sum += row.name.size();
+    return sum;
+  }();
+  std::array<char16_t, length> joined{};
+  std::size_t at = 0;
+  for (const PropertyRow& row : Rows) {
+    if (at > 0) joined[at++] = u';';
+    for (char16_t c : row.name) joined[at++] = c;
+  }
+  return joined;
+}();
+
+}  // namespace detail
+
+/// @name Lists of a class table: `constexpr auto kRows = Rows(...)`.
+/// @{
+template <class... Entries>
+constexpr auto Rows(Entries... entries) {
+  return std::array<PropertyRow, sizeof...(entries)>{entries...};
+}
+template <class... Entries>
+constexpr auto EventNames(Entries... entries) {
+  return std::array<std::u16string_view, sizeof...(entries)>{entries...};
+}
+/// Takes groups of keys, in writing order.
+template <std::size_t... Sizes>
+constexpr auto Keys(std::array<FileKey, Sizes>... groups) {
+  std::array<FileKey, (Sizes + ...)> keys;
+  std::size_t at = 0;
+  auto append = [&](const auto& group) {
+    for (const FileKey& key : group) keys[at++] = key;
+  };
+  (append(groups), ...);
+  return keys;
+}
+using KeyGroup = std::array<FileKey, 1>;
+/// @}
+
+/// Puts the lists of a class together; a row, key or event that stands twice does not compile.
+template <const auto& Rows, const auto& Hidden, const auto& Keys, const auto& Events>
+consteval ClassTable DefineClass(std::u16string_view className, std::u16string_view widgetIdentifier,
+                                 std::u16string_view typeText) {
+  detail::RequireUnique(Rows);
+  detail::RequireUnique(Keys);
+  detail::RequireUnique(Events);
+  for (const PropertyRow& hidden : Hidden)
+    for (const PropertyRow& row : Rows)
+      if (detail::SameName(hidden.name, row.name)) throw "a hidden row stands in the grid as well";
+  constexpr const auto& joined = detail::kJoinedNames<Hidden>;
+  return {.className = className,
+          .widgetIdentifier = widgetIdentifier,
+          .typeText = typeText,
+          .rows = Rows,
+          .hidden = Hidden,
+          .keys = Keys,
+          .events = Events,
+          .rowNames = detail::kNames<Rows>,
+          .hiddenNames = {joined.data(), joined.empty() ? 0 : joined.size() - 1}};
+}
+
+}  // namespace cardwright

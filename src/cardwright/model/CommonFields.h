@@ -1,0 +1,121 @@
+#pragma once
+
+#include <type_traits>
+
+#include "cardwright/model/Control.h"
+
+namespace cardwright {
+
+namespace detail {
+template <class M>
+struct FieldOwner;
+template <class C, class T>
+struct FieldOwner<T C::*> {
+  using Type = C;
+};
+}  // namespace detail
+
+/// The object as the class that a table's functions belong to.
+template <class C>
+C& As(TableControl& control) noexcept {
+  return static_cast<C&>(control);
+}
+template <class C>
+const C& As(const TableControl& control) noexcept {
+  return static_cast<const C&>(control);
+}
+
+/// A text that is stored as it is handed in.
+template <auto Member>
+inline constexpr Field Stored{
+    [](const TableControl& control) -> Variant {
+      return As<typename detail::FieldOwner<decltype(Member)>::Type>(control).*Member;
+    },
+    [](TableControl& control, const Variant& value) {
+      As<typename detail::FieldOwner<decltype(Member)>::Type>(control).*Member = ToText(value);
+    }};
+
+/// The same value without its setter: read from a project by the class itself, or written there only.
+constexpr Field ReadOnly(Field field) { return {field.get, nullptr}; }
+
+/// @name Rows that every class shares, in the wording and order in which classes place them.
+/// @{
+namespace rows {
+
+Variant GetUserName(const TableControl& control);
+void Rename(TableControl& control, const Variant& name);
+Variant GetCaption(const TableControl& control);
+void SetCaption(TableControl& control, const Variant& text);
+Variant GetBackColor(const TableControl& control);
+void SetBackColor(TableControl& control, const Variant& color);
+Variant GetForeColor(const TableControl& control);
+void SetForeColor(TableControl& control, const Variant& color);
+Variant GetFont(const TableControl& control);
+void SetFont(TableControl& control, const Variant& font);
+Variant GetLeft(const TableControl& control);
+void MoveLeft(TableControl& control, const Variant& value);
+Variant GetTop(const TableControl& control);
+void MoveTop(TableControl& control, const Variant& value);
+Variant GetWidth(const TableControl& control);
+void MoveWidth(TableControl& control, const Variant& value);
+Variant GetHeight(const TableControl& control);
+void MoveHeight(TableControl& control, const Variant& value);
+
+using enum PropertyTypeEnum;
+inline constexpr PropertyRow Name{u"Name", ptName, 1060, {GetUserName, Rename}};
+inline constexpr PropertyRow Text{u"Text", ptString, 1000, {GetCaption, SetCaption}};
+inline constexpr PropertyRow BackColor{u"BackColor", ptColor, 1001, {GetBackColor, SetBackColor}};
+inline constexpr PropertyRow Font{u"Font", ptFont, 1002, {GetFont, SetFont}};
+inline constexpr PropertyRow Left{u"Left", ptInteger, 1013, {GetLeft, MoveLeft}};
+inline constexpr PropertyRow Top{u"Top", ptInteger, 1014, {GetTop, MoveTop}};
+inline constexpr PropertyRow Width{u"Width", ptInteger, 1005, {GetWidth, MoveWidth}};
+inline constexpr PropertyRow Height{u"Height", ptInteger, 1006, {GetHeight, MoveHeight}};
+inline constexpr PropertyRow ForeColor{u"ForeColor", ptColor, 1007, {GetForeColor, SetForeColor}};
+inline constexpr PropertyRow Attribute{u"Attribute", ptAttribute, 1008, Stored<&Control::m_Attribute>};
+inline constexpr PropertyRow IsNeeded{u"IsNeeded", ptBoolean, 1009, Stored<&Control::m_IsNeeded>};
+
+}  // namespace rows
+/// @}
+
+/// @name Keys that every class shares. Reading goes straight to the widget, without the grid's side effects.
+/// @{
+namespace keys {
+
+void PutCaption(TableControl& control, const Variant& text);
+void PutLeft(TableControl& control, const Variant& value);
+void PutTop(TableControl& control, const Variant& value);
+void PutWidth(TableControl& control, const Variant& value);
+void PutHeight(TableControl& control, const Variant& value);
+void PutForeColor(TableControl& control, const Variant& color);
+
+inline constexpr KeyGroup Text{{{u"Text", KeyForm::Text, {rows::GetCaption, PutCaption}}}};
+inline constexpr KeyGroup BackColor{{{u"BackColor", KeyForm::Color, rows::BackColor.field}}};
+inline constexpr KeyGroup Font{{{u"FontName", KeyForm::Font, {}}}};
+inline constexpr FileKey kLeft{u"Left", KeyForm::Number, {rows::GetLeft, PutLeft}};
+inline constexpr FileKey kTop{u"Top", KeyForm::Number, {rows::GetTop, PutTop}};
+inline constexpr FileKey kWidth{u"Width", KeyForm::Number, {rows::GetWidth, PutWidth}};
+inline constexpr FileKey kHeight{u"Height", KeyForm::Number, {rows::GetHeight, PutHeight}};
+inline constexpr std::array<FileKey, 4> Geometry{kLeft, kTop, kWidth, kHeight};
+/// Of classes whose height follows the font.
+inline constexpr std::array<FileKey, 3> GeometryWithoutHeight{kLeft, kTop, kWidth};
+inline constexpr KeyGroup ForeColor{{{u"ForeColor", KeyForm::Color, {rows::GetForeColor, PutForeColor}}}};
+inline constexpr KeyGroup Attribute{{{u"Attribute", KeyForm::Text, Stored<&Control::m_Attribute>}}};
+inline constexpr KeyGroup IsNeeded{{{u"IsNeeded", KeyForm::Text, Stored<&Control::m_IsNeeded>}}};
+
+/// A key of the class's own.
+constexpr KeyGroup Key(std::u16string_view name, Field field, const char16_t* fallback = nullptr) {
+  return {{{name, KeyForm::Text, field, fallback}}};
+}
+
+/// The same of a colour.
+constexpr KeyGroup ColorKey(std::u16string_view name, Field field) {
+  return {{{name, KeyForm::Color, field}}};
+}
+
+}  // namespace keys
+/// @}
+
+/// A class without hidden rows.
+inline constexpr std::array<PropertyRow, 0> kNoRows{};
+
+}  // namespace cardwright

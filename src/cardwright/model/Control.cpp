@@ -1,0 +1,158 @@
+#include "cardwright/model/Control.h"
+
+#include "cardwright/model/FileKeys.h"
+#include "cardwright/model/Steps.h"
+#include "cardwright/platform/Files.h"
+#include "cardwright/shared/ModuleState.h"
+#include "cardwright/shared/ScriptText.h"
+
+namespace cardwright {
+namespace {
+
+Text ContainerName(const Widget& widget) {
+  const Ref<Widget> container = widget.Container();
+  return container ? container->Name() : Text();
+}
+
+}  // namespace
+
+Control::~Control() {
+  if (m_Obj) m_Obj->SetListener(nullptr);
+}
+
+Text Control::Name() const { return m_Obj ? m_Obj->Name() : m_UserName; }
+
+// The accessors are the designer's own moves and so tell the host's grid; the table's rows are the grid's and
+// tell the designer instead.
+void Control::SetLeft(float value) {
+  if (!m_Obj) return;
+  m_Obj->SetLeft(value);
+  RaisePropertyChanged(u"Left", value);
+}
+
+void Control::SetTop(float value) {
+  if (!m_Obj) return;
+  m_Obj->SetTop(value);
+  RaisePropertyChanged(u"Top", value);
+}
+
+void Control::SetWidth(float value) {
+  if (!m_Obj) return;
+  m_Obj->SetWidth(value);
+  RaisePropertyChanged(u"Width", value);
+}
+
+void Control::SetHeight(float value) {
+  if (!m_Obj) return;
+  m_Obj->SetHeight(value);
+  RaisePropertyChanged(u"Height", value);
+}
+
+// BackColor stays silent where ForeColor speaks: hosts' grids rely on hearing of one and not of the other.
+void Control::SetBackColor(OleColor color) {
+  if (m_Obj) m_Obj->SetBackColor(color);
+}
+
+void Control::SetForeColor(OleColor color) {
+  if (!m_Obj) return;
+  m_Obj->SetForeColor(color);
+  RaisePropertyChanged(u"ForeColor", color);
+}
+
+Ref<cardwright::Font> Control::GetFont() const { return m_Obj ? m_Obj->GetFont() : nullptr; }
+
+void Control::SetFont(const Variant& font) {
+  Variant held = font;
+  if (m_Obj) m_Obj->SetFont(FromVariant<Ref<cardwright::Font>>(held));
+}
+
+void Control::BindObject(Ref<Object> object) {
+  auto* widget = dynamic_cast<Widget*>(object.get());
+  if (object && (!widget || !Accepts(*widget))) Raise(ErrorNumber::TypeMismatch);
+  if (m_Obj) m_Obj->SetListener(nullptr);
+  m_Obj = Ref<Widget>(widget);
+  if (m_Obj) m_Obj->SetListener(this);
+}
+
+bool Control::Read(const Text& filePath, const Text& sectionName) {
+  if (!m_Obj || !FileExists(filePath)) return false;
+  CIni ini;
+  ini.SetFileName(filePath);
+  Steps step;
+  for (const FileKey& key : Table().keys) step([&] { ReadKey(*this, key, ini, sectionName); });
+  step([&] {
+    auto stored = ini.Find(sectionName, u"UserName");
+    m_UserName = stored ? ToText(*stored) : m_Obj->Name();
+  });
+  step([&] { m_Obj->SetVisible(true); });
+  step([&] { FinishRead(ini, sectionName); });
+  return step.Result();
+}
+
+bool Control::Save(const Text& filePath, const Text& sectionName) {
+  if (!Designer() || !m_Obj || !FileExists(filePath)) return false;
+  // What was in a frame inside a deleted frame stays among the controls; without its widget there is nothing
+  // to save.
+  Text name;
+  if (!Attempt([&] { name = m_Obj->Name(); })) return false;
+  CIni ini;
+  ini.SetFileName(filePath);
+  Steps step;
+  step([&] { ini.WriteValue(sectionName, u"Type", Table().typeText); });
+  step([&] { ini.WriteValue(sectionName, u"Name", name); });
+  step([&] { ini.WriteValue(sectionName, u"UserName", m_UserName); });
+  for (const FileKey& key : Table().keys) step([&] { WriteKey(*this, key, ini, sectionName); });
+  step([&] {
+    ini.WriteValue(sectionName, u"Container", AttemptOr(Text(), [&] { return ContainerName(*m_Obj); }));
+  });
+  return step.Result();
+}
+
+void Control::Refresh() {
+  if (m_Obj) m_Obj->Refresh();
+}
+
+void Control::OnClick() {
+  if (!Designer()) return RunScriptEvent(u"OnClick");
+  if (ClickSelects() && !Module().designDragging) SelectInDesigner();
+}
+
+void Control::OnGotFocus() {
+  if (!Module().designDragging) SelectInDesigner();
+}
+
+void Control::OnMouseDown(int button, int shift, float, float) {
+  if (!Designer() || button != MouseButton::Right || shift != 0) return;
+  const Ref<Control> keepAlive(this);  // the menu can delete the very control that it is opened for
+  SelectInDesigner();
+  OpenDesignerMenu();
+}
+
+void Control::OnMouseMove(int, int, float, float) {
+  if (Designer()) Designer()->ShowArrowPointer();
+}
+
+void Control::RunScriptEvent(std::u16string_view event) {
+  if (!Input() || !Input()->CanRunScripts()) return;
+  const Ref<Control> keepAlive(this);  // a script may remove the very control that it answers for
+  Input()->RunEvent(BuildEventName(m_UserName, event));
+}
+
+void Control::SelectInDesigner() {
+  if (Designer()) Designer()->SetCtrl(Ref<IControl>(this));
+}
+
+// A widget with a menu of its own is switched off meanwhile.
+void Control::OpenDesignerMenu() {
+  if (!HasOwnMenu()) return Designer()->OpenControlMenu(*this);
+  const Ref<Widget> widget = m_Obj;
+  Attempt([&] { widget->SetEnabled(false); });
+  Attempt([&] { Designer()->OpenControlMenu(*this); });
+  Attempt([&] { widget->SetEnabled(true); });
+}
+
+bool FlagIsSet(const Text& flag) noexcept {
+  return AttemptOr(false, [&] { return ToBoolean(Variant(flag)); });
+}
+
+}  // namespace cardwright

@@ -1,0 +1,81 @@
+#pragma once
+
+#include "cardwright/model/TableControl.h"
+#include "cardwright/platform/WidgetListener.h"
+#include "cardwright/storage/CIni.h"
+
+namespace cardwright {
+
+/// A form element that wraps exactly one widget: the pattern of all control classes. A class adds its table
+/// and overrides only what is special to it.
+class Control : public TableControl, protected WidgetListener {
+ public:
+  Text Name() const override;
+
+  float Left() const override { return Bound() ? Bound()->Left() : 0; }
+  void SetLeft(float value) override;
+  float Top() const override { return Bound() ? Bound()->Top() : 0; }
+  void SetTop(float value) override;
+  float Width() const override { return Bound() ? Bound()->Width() : 0; }
+  void SetWidth(float value) override;
+  float Height() const override { return Bound() ? Bound()->Height() : 0; }
+  void SetHeight(float value) override;
+
+  OleColor BackColor() const override { return Bound() ? Bound()->BackColor() : 0; }
+  void SetBackColor(OleColor color) override;
+  OleColor ForeColor() const override { return Bound() ? Bound()->ForeColor() : 0; }
+  void SetForeColor(OleColor color) override;
+  Ref<cardwright::Font> GetFont() const override;
+  void SetFont(const Variant& font) override;
+
+  Ref<Object> BoundObject() const override { return m_Obj; }
+  void BindObject(Ref<Object> object) override;
+
+  bool Read(const Text& filePath, const Text& sectionName) override;
+  bool Save(const Text& filePath, const Text& sectionName) override;
+  void Refresh() override;
+  /// What the row `Attribute` holds; a class without that row never has one.
+  Text AttributeName() const override { return m_Attribute; }
+
+  /// The bound widget, or null.
+  Widget* Bound() const noexcept { return m_Obj.get(); }
+
+  /// @name Fields that several classes keep, as texts just as grid or file handed them in.
+  /// @{
+  Text m_Attribute;
+  Text m_IsNeeded = u"False";
+  /// @}
+
+ protected:
+  explicit Control(const ClassTable& table) : TableControl(table) {}
+  ~Control() override;
+
+  /// True where the class can work with this widget; any other is not bound.
+  virtual bool Accepts(const Widget& widget) const = 0;
+  /// The class's last step of reading, when the keys of the table and the user name are read and the widget
+  /// shows.
+  virtual void FinishRead(const CIni& /*ini*/, const Text& /*sectionName*/) {}
+  /// Whether a click on the widget selects it on the design surface.
+  virtual bool ClickSelects() const { return true; }
+
+  void OnClick() override;
+  void OnGotFocus() override;
+  void OnMouseDown(int button, int shift, float x, float y) override;
+  void OnMouseMove(int button, int shift, float x, float y) override;
+
+  /// Runs the procedure UserName_event where a form is being filled in and may run scripts.
+  void RunScriptEvent(std::u16string_view event);
+  /// Makes this the designer's current control.
+  void SelectInDesigner();
+  virtual void OpenDesignerMenu();
+  /// Whether the widget has a menu of its own, which must not open beside the designer's.
+  virtual bool HasOwnMenu() const { return false; }
+
+ private:
+  Ref<Widget> m_Obj;
+};
+
+/// Boolean of a flag that is kept as text; a text that is none counts as false.
+bool FlagIsSet(const Text& flag) noexcept;
+
+}  // namespace cardwright

@@ -1,0 +1,108 @@
+#pragma once
+
+#include <span>
+#include <vector>
+
+#include "cardwright/automation/Collection.h"
+#include "cardwright/model/IControl.h"
+#include "cardwright/platform/Surface.h"
+
+namespace cardwright {
+
+class FormOwner;
+
+/// Where the elements of a form find their owner, for as long as there is one: a script may hold an element
+/// beyond the form's end.
+struct OwnerLink final : RefCounted {
+  explicit OwnerLink(FormOwner* at) : owner(at) {}
+  FormOwner* owner;  ///< null once the owner is gone
+};
+
+/// What a form element calls back in the visual control that holds it: the side that designer and run time
+/// share.
+class FormOwner {
+ public:
+  FormOwner(const FormOwner&) = delete;
+  FormOwner& operator=(const FormOwner&) = delete;
+
+  Ref<OwnerLink> Link() const noexcept { return m_Link; }
+  /// All objects of the form, the CForm first, keyed by lower-case user name.
+  virtual Collection& Controls() = 0;
+  /// Null once the visual control is gone while a script still holds its objects.
+  virtual Surface* GetSurface() = 0;
+  /// Renames with the check that no other control has the name.
+  virtual void ChangeControlName(Ref<Object> control, const Text& newName) = 0;
+  /// Outer size in the form's scale: the control's own size plus the frame of its top-level window.
+  virtual float OuterWidth() const = 0;
+  virtual float OuterHeight() const = 0;
+  virtual void SetOuterSize(float width, float height) = 0;
+
+ protected:
+  FormOwner() : m_Link(MakeRef<OwnerLink>(this)) {}
+  ~FormOwner() { m_Link->owner = nullptr; }
+
+ private:
+  Ref<OwnerLink> m_Link;
+};
+
+/// The form being filled in, as its elements see it.
+class InputOwner : public FormOwner {
+ public:
+  virtual bool CanRunScripts() const = 0;
+  /// Runs a script event procedure; false where the script refused.
+  virtual bool RunEvent(const Text& procedure) = 0;
+  virtual Text Caption() const = 0;
+  /// Stores the form's title and tells the host of it.
+  virtual void SetCaption(const Text& caption) = 0;
+  /// Places the fixed buttons and asks the host for room, once a project has been read.
+  virtual void LayOut() = 0;
+
+ protected:
+  ~InputOwner() = default;
+};
+
+/// The design surface, as its elements see it.
+class DesignerOwner : public FormOwner {
+ public:
+  virtual void SetCtrl(Ref<IControl> control) = 0;
+  virtual Ref<IControl> CurrentControl() const = 0;
+  virtual ControlTypeEnum ControlTypeToAdd() const = 0;
+  virtual std::vector<Ref<IControl>> FilterControls(ControlTypeEnum type) const = 0;
+  virtual void ShowArrowPointer() = 0;
+  /// Shows the grab handles around the current control where it stands now, or hides them.
+  virtual void ShowHandles(bool show) = 0;
+  /// The popup menu of a control, with its items as the lock allows.
+  virtual void OpenControlMenu(IControl& control) = 0;
+
+  /// @name A frame hands on what happens on it while a control is being drawn inside.
+  /// @{
+  virtual void SurfaceMouseDown(int button, int shift, float x, float y) = 0;
+  virtual void SurfaceMouseMove(int button, int shift, float x, float y) = 0;
+  virtual void SurfaceMouseUp(int button, int shift, float x, float y) = 0;
+  /// @}
+  virtual bool IsTracking() const = 0;
+  virtual void SetTracking(bool tracking) = 0;
+  virtual bool IsIntoFrame() const = 0;
+  virtual void SetIntoFrame(bool intoFrame) = 0;
+
+  /// Gives the surface the form's scale and paints the grid in it.
+  virtual void ApplyScaleAndGrid() = 0;
+  /// Paints the grid anew in the step that holds.
+  virtual void RepaintGrid() = 0;
+
+  /// Objects in stacking order; a restacked control moves to the end.
+  virtual std::vector<Ref<IControl>> ZList() const = 0;
+  virtual void ResetZList() = 0;
+  virtual void AppendToZList(Ref<IControl> control) = 0;
+
+  virtual void RaisePropertyChanged(int propertyIndex, const Variant& value) = 0;
+  virtual void RaiseRefreshPropertyList() = 0;
+  virtual void RaiseAttribsList(std::vector<Text> names) = 0;
+  /// Both sizes in twips.
+  virtual void RaiseNeedResize(float width, float height) = 0;
+
+ protected:
+  ~DesignerOwner() = default;
+};
+
+}  // namespace cardwright

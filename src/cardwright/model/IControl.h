@@ -1,0 +1,108 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <vector>
+
+#include "cardwright/automation/Collection.h"
+#include "cardwright/automation/MemberTable.h"
+#include "cardwright/model/Enums.h"
+#include "cardwright/platform/Color.h"
+#include "cardwright/platform/Font.h"
+
+namespace cardwright {
+
+/// The one contract through which designer, run time, property grids and scripts see every element of a form.
+/// The class itself carries no behaviour: each member is empty and answers nothing.
+class IControl : public TableObject {
+ public:
+  /// The bound widget's own name, or the user name where there is none.
+  virtual Text Name() const { return {}; }
+  /// Stores the user name; the widget's own name never changes.
+  virtual void SetName(const Text& /*name*/) {}
+  /// Name that the form's author gave; in lower case it is the key of the control in its form.
+  virtual Text UserName() const { return {}; }
+
+  /// @name Geometry in the form's scale unit. Setting tells the designer's host through PropertyChanged.
+  /// @{
+  virtual float Left() const { return 0; }
+  virtual void SetLeft(float /*value*/) {}
+  virtual float Top() const { return 0; }
+  virtual void SetTop(float /*value*/) {}
+  virtual float Width() const { return 0; }
+  virtual void SetWidth(float /*value*/) {}
+  virtual float Height() const { return 0; }
+  virtual void SetHeight(float /*value*/) {}
+  /// @}
+
+  virtual OleColor BackColor() const { return 0; }
+  virtual void SetBackColor(OleColor /*color*/) {}
+  virtual OleColor ForeColor() const { return 0; }
+  virtual void SetForeColor(OleColor /*color*/) {}
+  /// The font object itself, shared and not copied.
+  virtual Ref<cardwright::Font> GetFont() const { return {}; }
+  virtual void SetFont(const Variant& /*font*/) {}
+
+  /// The bound widget.
+  virtual Ref<Object> BoundObject() const { return {}; }
+  virtual void BindObject(Ref<Object> /*object*/) {}
+  /// The owner: a FormDesigner or a FormInput; an object of any other type is ignored.
+  virtual Ref<Object> ParentForm() const { return {}; }
+  virtual void SetParentForm(Ref<Object> /*form*/) {}
+
+  /// @name Property table. An index is a row's number from 0 or a name in any case. Error 9 for a number
+  /// outside.
+  /// @{
+  virtual std::uint8_t PropertyCount() const { return 0; }
+  virtual Text PropertyName(const Variant& /*index*/) const { return {}; }
+  virtual PropertyTypeEnum PropertyType(const Variant& /*index*/) const { return PropertyTypeEnum::ptNone; }
+  virtual Text PropertyDescription(const Variant& /*index*/) const { return {}; }
+  /// Hidden rows included; Empty for an unknown index.
+  virtual Variant PropertyValue(const Variant& /*index*/) const { return {}; }
+  /// Does nothing for an unknown index.
+  virtual void SetPropertyValue(const Variant& /*index*/, const Variant& /*value*/) {}
+  /// Choices of a ptList or ptControls row.
+  virtual std::vector<Text> PropertyList(const Variant& /*index*/) const { return {}; }
+  /// Dialog filter of a ptFileName or ptImage row.
+  virtual Text FilenameFilter(const Variant& /*index*/) const { return {}; }
+  /// @}
+
+  /// Loads from a section of a form project, key by key; a missing key leaves what is there.
+  virtual bool Read(const Text& /*filePath*/, const Text& /*sectionName*/) { return false; }
+  /// Writes to a section of a form project; false outside the designer.
+  virtual bool Save(const Text& /*filePath*/, const Text& /*sectionName*/) { return false; }
+
+  /// A stored number only; the owner restacks the widget.
+  virtual std::int16_t ZOrder() const { return 0; }
+  virtual void SetZOrder(std::int16_t /*position*/) {}
+  virtual void Delete() {}
+
+  /// Text that goes into the feature attribute. `params` may hold an array whose first element is a template.
+  virtual Text Value(std::optional<Variant> /*params*/ = {}) const { return {}; }
+  virtual Text DisplayText() const { return {}; }
+  virtual Text AttributeName() const { return {}; }
+
+  /// @name Links to other controls, by name.
+  /// @{
+  virtual void AttachControls(Collection& /*controls*/) {}
+  virtual void LinkControlNameChanged(const Text& /*oldName*/, const Text& /*newName*/) {}
+  virtual void LinkControlDelete(Collection& /*controls*/) {}
+  /// @}
+
+  /// Script events that the class offers.
+  virtual std::vector<Text> Events() const { return {}; }
+  virtual void Refresh() {}
+
+ protected:
+  const MemberTable& Members() const override;
+};
+
+/// The control in a collection's item; null where it holds something else.
+IControl* AsControl(const Variant& item) noexcept;
+/// The controls of a collection in order, as they stand now: a script that adds or removes some while they
+/// are walked does no harm.
+std::vector<Ref<IControl>> ControlsOf(const Collection& controls);
+/// The control of that name, whatever its case, or null.
+IControl* FindControl(const Collection& controls, std::u16string_view userName) noexcept;
+
+}  // namespace cardwright

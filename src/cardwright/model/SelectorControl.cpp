@@ -1,0 +1,26 @@
+#include "cardwright/model/SelectorControl.h"
+
+#include "cardwright/automation/Array.h"
+
+namespace cardwright {
+
+void SelectorControl::FinishRead(const CIni&, const Text&) {
+  if (Designer()) static_cast<SelectorWidget*>(Bound())->SetLocked(true);
+}
+
+void SelectorControl::TellHeight() {
+  if (!Designer() || !Bound()) return;
+  RaisePropertyChanged(u"Height", Variant(Bound()->Height()));
+  if (Designer()) Designer()->ShowHandles(true);
+}
+
+// Scripts may also hand in the template itself, not in an array.
+Text TemplateOf(const std::optional<Variant>& params, const Text& own) {
+  if (!params) return own;
+  const Variant& given = params->Deref();
+  if (!given.IsArray()) return ToText(given);
+  const auto values = given.ArrayPtr()->Values();
+  return values.empty() ? own : ToText(values.front());
+}
+
+}  // namespace cardwright

@@ -1,0 +1,69 @@
+#pragma once
+
+#include <span>
+#include <string_view>
+#include <vector>
+
+#include "cardwright/automation/Object.h"
+
+namespace cardwright {
+
+/// The error that a script engine met last; number 0 where it met none.
+struct ScriptError {
+  int number = 0;
+  Text description;
+  int line = 0;    ///< from 1
+  int column = 0;  ///< from 0
+  Text source;     ///< "Microsoft VBScript runtime error", or what the script gave
+  bool isSyntax = false;
+  bool isInterruption = false;  ///< the script was stopped: by Interrupt, its host's wish or a time-out
+};
+
+/// A procedure that a script defined.
+struct ScriptProcedure {
+  Text name;
+  int argumentCount = 0;
+  bool returnsValue = false;
+};
+
+/// A named module of a script engine with code of its own over the shared global one.
+class ScriptModule : public RefCounted {
+ public:
+  virtual Text Name() const = 0;
+  virtual void AddCode(std::u16string_view code) = 0;
+  /// Calls a procedure of the module. Error 5 where there is none.
+  virtual Variant Run(std::u16string_view procedure, Args args = {}) = 0;
+  /// In the order of their definition.
+  virtual std::vector<ScriptProcedure> Procedures() const = 0;
+};
+
+/// The script engine that a form drives. Failures are numbered errors; those inside a script stand in
+/// LastError too. Calls nest: what a script calls may call the control again, and may reset it; the code that
+/// runs then ends in the engine that it began in.
+class ScriptControl : public RefCounted {
+ public:
+  virtual Text Language() const = 0;
+  /// Selects the engine, whatever the case of the name; a new value replaces the old one and drops all code
+  /// and objects. Error 5 for a language that there is no engine of.
+  virtual void SetLanguage(std::u16string_view language) = 0;
+  /// Window that owns the engine's dialogs; error 380 for a handle that is neither a window nor a connection.
+  virtual void SetSiteWindow(std::int32_t handle) = 0;
+  /// Drops all code and objects, and the error.
+  virtual void Reset() = 0;
+  /// Milliseconds; -1 for no limit.
+  virtual void SetTimeout(std::int32_t milliseconds) = 0;
+  virtual void SetAllowUI(bool allowed) = 0;
+  /// Adds an object under a name, its members global where asked for.
+  virtual void AddObject(std::u16string_view name, Ref<Object> object, bool addMembers) = 0;
+  /// Compiles into the global module and runs what stands outside procedures.
+  virtual void AddCode(std::u16string_view code) = 0;
+  virtual Ref<ScriptModule> AddModule(std::u16string_view name) = 0;
+  /// The global module, whose name is "Global", and those added, in the order of their addition.
+  virtual std::vector<Ref<ScriptModule>> Modules() const = 0;
+  virtual Variant Run(std::u16string_view procedure, Args args = {}) = 0;
+  virtual ScriptError LastError() const = 0;
+  /// Stops what runs at its next step.
+  virtual void Interrupt() noexcept = 0;
+};
+
+}  // namespace cardwright

@@ -1,0 +1,92 @@
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <string_view>
+#include <vector>
+
+#include "cardwright/automation/Object.h"
+#include "cardwright/platform/ScriptControl.h"
+
+namespace cardwright {
+
+/// What a script engine asks of the program that embeds it. The defaults allow nothing.
+class ScriptHost {
+ public:
+  virtual ~ScriptHost() = default;
+
+  /// Object of a programmatic identifier. Error 429 where the class is not known or not allowed.
+  virtual Ref<Object> CreateObject(std::u16string_view progid, std::u16string_view server);
+  /// Object of a path, or a running object of a class. Error 432 or 429 where there is none or it is not
+  /// allowed.
+  virtual Ref<Object> GetObject(std::u16string_view path, std::u16string_view progid);
+  /// A message box; the answer is the button's number: 1 OK, 2 Cancel, 3 Abort, 4 Retry, 5 Ignore, 6 Yes, 7
+  /// No.
+  virtual int ShowMessage(const Text& text, int style, const Text& title);
+  /// A box to type a text into; Empty where it was cancelled. Positions are in twips, or Missing.
+  virtual Variant AskText(const Text& prompt, const Text& title, const Text& initial, const Variant& x,
+                          const Variant& y);
+  /// Error 481 where there is no picture, 70 where reading is not allowed.
+  virtual Ref<Object> LoadPicture(std::u16string_view path);
+  /// Title of boxes that name none.
+  virtual Text BoxTitle() const;
+  /// Whether what the host does for scripts may ask a person anything. Until it is told, it may.
+  virtual void SetAllowUI(bool allowed);
+  /// Whether the running script is to stop. Engines ask on the script's thread while a call from outside
+  /// takes long, some times a second and between two steps of the script, so the answer may take its time and
+  /// may run scripts.
+  virtual bool WantsStop();
+};
+
+/// Told of each statement before it runs, for tracing and profiling. In code that a script made itself lines
+/// and columns are 0.
+class ScriptObserver {
+ public:
+  virtual ~ScriptObserver() = default;
+  virtual void OnStatement(std::u16string_view module, int line, int column) = 0;
+  /// A procedure is about to return to the statement that called it, which goes on.
+  virtual void OnReturn(std::u16string_view module, int line, int column);
+};
+
+/// One instance of a script language: code in modules, objects given by the program, procedures called by
+/// name. Belongs to the thread that made it, but for Interrupt. Failures are numbered errors; those inside a
+/// script stand in LastError too. Calls may nest: what a script calls may call the engine again.
+class ScriptEngine {
+ public:
+  virtual ~ScriptEngine() = default;
+
+  /// Adds an object under a name. With `addMembers` its members are names of their own, found after the
+  /// script's. Error 5 for no object, or a name that is taken.
+  virtual void AddObject(std::u16string_view name, Ref<Object> object, bool addMembers) = 0;
+  /// Adds a named module: code of its own that also sees the global module's, the empty name's. Error 5 where
+  /// the name is taken, whatever its case.
+  virtual void AddModule(std::u16string_view name) = 0;
+  /// Compiles code into a module and runs what stands outside procedures.
+  virtual void AddCode(std::u16string_view module, std::u16string_view code) = 0;
+  /// Calls a procedure of the module. Error 5 where there is none.
+  virtual Variant Run(std::u16string_view module, std::u16string_view procedure, Args args) = 0;
+  virtual Variant Evaluate(std::u16string_view module, std::u16string_view expression) = 0;
+  /// The procedures of a module in the order of their definition.
+  virtual std::vector<ScriptProcedure> Procedures(std::u16string_view module) const = 0;
+
+  /// A value as the language turns it into text. May run code of the script where the value is an object of
+  /// it; fails where the language has no text for the value.
+  virtual Text TextOf(const Variant& value) = 0;
+
+  /// The error that the latest call met; number 0 where it met none.
+  virtual ScriptError LastError() const = 0;
+  virtual void ClearError() = 0;
+
+  /// Milliseconds that an outermost call may take; -1 for no limit.
+  virtual void SetTimeout(std::int32_t milliseconds) = 0;
+  virtual void SetAllowUI(bool allowed) = 0;
+  virtual void SetObserver(ScriptObserver* observer) = 0;
+  /// Ends the objects that the scripts left, as the engine does at its own end; what they do then may still
+  /// call the program. Names are empty afterwards.
+  virtual void Close() = 0;
+  /// Stops the running script at its next step, or within some milliseconds; from any thread and from a
+  /// handler of a signal. Nothing in the script can catch it.
+  virtual void Interrupt() noexcept = 0;
+};
+
+}  // namespace cardwright

@@ -1,0 +1,70 @@
+#pragma once
+
+#include "cardwright/automation/Object.h"
+#include "cardwright/platform/Color.h"
+#include "cardwright/platform/Font.h"
+#include "cardwright/platform/Scale.h"
+#include "cardwright/platform/Widget.h"
+
+namespace cardwright {
+
+/// The window in which a host has placed a visual control. Any operation may fail with a numbered error.
+class HostWindow : public TableObject {
+ public:
+  virtual Text Caption() const = 0;
+  virtual void SetCaption(const Text& caption) = 0;
+  /// Outer size in twips, frame included.
+  virtual float Width() const = 0;
+  virtual void SetWidth(float twips) = 0;
+  virtual float Height() const = 0;
+  virtual void SetHeight(float twips) = 0;
+  virtual bool IsVisible() const = 0;
+  virtual void SetVisible(bool visible) = 0;
+  virtual void Close() = 0;
+
+  Text TypeName() const override { return u"Form"; }
+
+ protected:
+  const MemberTable& Members() const override;
+};
+
+/// Pixels that the frame of the top-level window adds to its client area.
+struct FrameSize {
+  float width = 0;
+  float height = 0;
+
+  friend bool operator==(const FrameSize&, const FrameSize&) = default;
+};
+
+/// What a visual control (the form being filled in, the design surface) asks of the toolkit around it.
+class Surface {
+ public:
+  virtual ~Surface() = default;
+
+  /// Creates a hidden widget by its programmatic identifier, whatever the case. Errors: 727 where the name
+  /// exists, 429 for an unknown identifier.
+  virtual Ref<Widget> Add(std::u16string_view identifier, std::u16string_view name, Widget* container) = 0;
+  virtual void Remove(std::u16string_view name) = 0;
+  /// Null where no widget has that name.
+  virtual Ref<Widget> Find(std::u16string_view name) const = 0;
+
+  /// A change converts the geometry of the widgets that are there.
+  virtual ScaleMode Scale() const = 0;
+  virtual void SetScale(ScaleMode mode) = 0;
+  virtual OleColor BackColor() const = 0;
+  virtual void SetBackColor(OleColor color) = 0;
+  virtual Ref<Font> GetFont() const = 0;
+  /// Size of the control, in its scale.
+  virtual float Width() const = 0;
+  virtual float Height() const = 0;
+  virtual void Resize(float width, float height) = 0;
+
+  /// The host's window, or null while the control stands in none.
+  virtual Ref<HostWindow> Host() const = 0;
+  virtual FrameSize HostFrame() const = 0;
+  /// True where the host's top-level window has a raised and a sunken edge beside its frame.
+  virtual bool HostHasEdges() const = 0;
+  virtual std::int32_t WindowHandle() const = 0;
+};
+
+}  // namespace cardwright

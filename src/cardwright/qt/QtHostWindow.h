@@ -1,0 +1,46 @@
+#pragma once
+
+#include <QPointer>
+#include <QWidget>
+
+#include "cardwright/platform/Surface.h"
+
+namespace cardwright::qt {
+
+/// No window is made larger, whatever a form project asks for: the toolkit holds a picture of each, which at
+/// this size takes 256 MB.
+inline constexpr int kLargestWindow = 8192;
+
+/// Pixels between a top-level window's outer and inner size; 0 until the window system has framed it.
+FrameSize FrameOf(const QWidget& window);
+
+/// Dynamic property of a widget inside a window that stands for a window of its own around visual controls:
+/// its title is theirs and it has no frame, as the page of a program in which forms are drawn.
+inline constexpr const char* kStandsForWindow = "cardwrightStandsForWindow";
+/// The widget that is the host's window of what stands on `canvas`; `canvas` itself where it is a window.
+QWidget& WindowAround(const QWidget& canvas);
+
+/// A window around visual controls. Error 91 once it is gone.
+class QtHostWindow final : public HostWindow {
+ public:
+  explicit QtHostWindow(QWidget& window) : m_Window(&window) {}
+
+  Text Caption() const override;
+  void SetCaption(const Text& caption) override;
+  float Width() const override;
+  void SetWidth(float twips) override;
+  float Height() const override;
+  void SetHeight(float twips) override;
+  bool IsVisible() const override;
+  void SetVisible(bool visible) override;
+  void Close() override;
+
+  QWidget* Native() const noexcept { return m_Window; }
+
+ private:
+  QWidget& Window() const;
+
+  QPointer<QWidget> m_Window;
+};
+
+}  // namespace cardwright::qt

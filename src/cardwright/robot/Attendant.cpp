@@ -1,0 +1,185 @@
+#include "cardwright/robot/Attendant.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QColorDialog>
+#include <QFileDialog>
+#include <QFontDialog>
+#include <QInputDialog>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMessageBox>
+#include <QPointer>
+#include <QPushButton>
+#include <QTimer>
+
+#include "cardwright/qt/Colors.h"
+#include "cardwright/qt/QtText.h"
+#include "cardwright/robot/Keyboard.h"
+#include "cardwright/robot/WidgetPart.h"
+
+namespace cardwright::robot {
+namespace {
+
+QMessageBox::StandardButton ButtonNumbered(int number) {
+  constexpr QMessageBox::StandardButton kButtons[] = {
+      QMessageBox::NoButton, QMessageBox::Ok,     QMessageBox::Cancel, QMessageBox::Abort,
+      QMessageBox::Retry,    QMessageBox::Ignore, QMessageBox::Yes,    QMessageBox::No};
+  return number > 0 && number < static_cast<int>(std::size(kButtons)) ? kButtons[number]
+                                                                      : QMessageBox::NoButton;
+}
+
+constexpr int kCancel = 2;
+
+/// Without the shortcut that stands behind it.
+QString CaptionOf(const QAction& item) { return item.text().section(u'\t', 0, 0); }
+
+Text ItemText(const QAction& item) {
+  if (item.isSeparator()) return u"-";
+  const Text text = qt::FromQString(item.objectName() + u'=' + CaptionOf(item));
+  return item.isEnabled() ? text : u"!" + text;
+}
+
+Text ItemsText(const QMenu& menu) {
+  Text items;
+  for (const QAction* item : menu.actions()) {
+    if (!item->isVisible()) continue;
+    if (!items.IsEmpty()) items += u";";
+    items += ItemText(*item);
+  }
+  return items;
+}
+
+/// An item without a name, as those of the toolkit's own menus, goes by its caption. Null where a person
+/// could not choose it.
+QAction* ItemNamed(const QMenu& menu, std::u16string_view name) {
+  for (QAction* item : menu.actions()) {
+    const QString known = item->objectName().isEmpty() ? CaptionOf(*item).remove(u'&') : item->objectName();
+    const bool isMeant = !name.empty() && EqualsNoCase(qt::ViewOf(known), name);
+    if (isMeant && item->isVisible() && item->isEnabled()) return item;
+  }
+  return nullptr;
+}
+
+/// Several files are their folder and their names with a NUL between, as the form has them; they are typed as
+/// a person would, each in quotes.
+void PutPaths(QFileDialog& dialog, const QString& path) {
+  QStringList parts = path.split(QChar::Null);
+  auto* const line = dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+  if (parts.size() < 3 || !line) return dialog.selectFile(parts.join(u'/'));
+  dialog.setDirectory(parts.takeFirst());
+  line->setText(u'"' + parts.join(QStringLiteral("\" \"")) + u'"');
+}
+
+}  // namespace
+
+Attendant::Attendant(Mouse& mouse) : m_Mouse(mouse) {
+  // The desktop's own dialogs are no widgets that could be answered.
+  QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+  qApp->installEventFilter(this);
+}
+
+bool Attendant::eventFilter(QObject* target, QEvent* event) {
+  if (event->type() == QEvent::Show && target->isWidgetType()) OnShown(static_cast<QWidget&>(*target));
+  if (event->type() == QEvent::WindowTitleChange && target->objectName() == u"frmTooltip")
+    m_LastTooltip = qt::FromQString(static_cast<QWidget&>(*target).windowTitle());
+  return false;
+}
+
+void Attendant::OnShown(QWidget& widget) {
+  if (auto* box = qobject_cast<QMessageBox*>(&widget)) return Meet(*box, &Attendant::AnswerBox);
+  if (auto* input = qobject_cast<QInputDialog*>(&widget)) return Meet(*input, &Attendant::AnswerInput);
+  if (auto* file = qobject_cast<QFileDialog*>(&widget)) return Meet(*file, &Attendant::AnswerFile);
+  if (auto* color = qobject_cast<QColorDialog*>(&widget)) return Meet(*color, &Attendant::AnswerColor);
+  if (auto* font = qobject_cast<QFontDialog*>(&widget)) return Meet(*font, &Attendant::AnswerFont);
+  if (auto* dialog = qobject_cast<QDialog*>(&widget); dialog && dialog->isModal())
+    return Meet(*dialog, &Attendant::AnswerDialog);
+  if (auto* menu = qobject_cast<QMenu*>(&widget)) Meet(*menu, &Attendant::AnswerMenu);
+}
+
+template <class Shown>
+void Attendant::Meet(Shown& shown, void (Attendant::*answer)(Shown&)) {
+  QTimer::singleShot(0, this, [this, answer, met = QPointer<Shown>(&shown)] {
+    m_Mouse.Finish();
+    if (met && met->isVisible()) (this->*answer)(*met);
+  });
+}
+
+void Attendant::AnswerBox(QMessageBox& box) {
+  QAbstractButton* wanted = nullptr;
+  if (const auto number = TakeNext(m_Answers.boxes)) wanted = box.button(ButtonNumbered(*number));
+  if (!wanted) wanted = box.defaultButton();
+  if (!wanted) return box.reject();
+  m_Mouse.Click(*wanted, wanted->rect().center());
+}
+
+void Attendant::AnswerInput(QInputDialog& dialog) {
+  PressKey(dialog, ParseStroke(TakeNext(m_Answers.boxes) == kCancel ? u"Esc" : u"Enter"));
+}
+
+void Attendant::AnswerFile(QFileDialog& dialog) {
+  const Text path = TakeNext(m_Answers.files).value_or(Text());
+  if (path.IsEmpty()) return dialog.reject();
+  PutPaths(dialog, qt::ToQString(path));
+  const QPointer<QFileDialog> open = &dialog;
+  PressKey(dialog, ParseStroke(u"Enter"));
+  // A file that is not there, or that is not to be written over: the dialog has said so and is open still.
+  if (open && open->isVisible()) open->reject();
+}
+
+void Attendant::AnswerColor(QColorDialog& dialog) {
+  const int color = TakeNext(m_Answers.colors).value_or(-1);
+  if (color == -1) return dialog.reject();
+  dialog.setCurrentColor(qt::ToQColor(color, QApplication::palette()));
+  dialog.accept();
+}
+
+void Attendant::AnswerFont(QFontDialog& dialog) {
+  const FontAnswer font = TakeNext(m_Answers.fonts).value_or(FontAnswer());
+  if (font.name.IsEmpty()) return dialog.reject();
+  QFont chosen = dialog.currentFont();
+  chosen.setFamily(qt::ToQString(font.name));
+  chosen.setPointSizeF(font.size);
+  dialog.setCurrentFont(chosen);
+  dialog.accept();
+}
+
+void Attendant::SetProcedure(const Text& dialog, Ref<Object> procedure) {
+  std::erase_if(m_Procedures, [&](const auto& known) { return EqualsNoCase(known.first, dialog); });
+  if (procedure) m_Procedures.emplace_back(dialog, std::move(procedure));
+}
+
+Ref<Object> Attendant::ProcedureFor(std::u16string_view dialog) const {
+  for (const auto& [name, procedure] : m_Procedures)
+    if (EqualsNoCase(name, dialog)) return procedure;
+  return nullptr;
+}
+
+void Attendant::RaiseFailure() {
+  if (const auto failure = std::exchange(m_Failure, std::nullopt)) throw Error(*failure);
+}
+
+void Attendant::AnswerDialog(QDialog& dialog) {
+  const QPointer<QDialog> open = &dialog;
+  const QString name = dialog.objectName();
+  if (const Ref<Object> procedure = ProcedureFor(qt::ViewOf(name))) CallProcedure(*procedure, dialog);
+  if (open && open->isVisible()) open->reject();
+}
+
+void Attendant::CallProcedure(Object& procedure, QDialog& dialog) {
+  Variant argument(Ref<Object>(MakeRef<WidgetPart>(dialog)));
+  try {
+    procedure.Invoke(procedure.DefaultMember(), CallKind::Method, Args(&argument, 1));
+  } catch (const Error& error) {
+    if (!m_Failure) m_Failure = error;
+  }
+}
+
+void Attendant::AnswerMenu(QMenu& menu) {
+  m_LastMenu = ItemsText(menu);
+  QAction* const item = ItemNamed(menu, TakeNext(m_Answers.menus).value_or(Text()));
+  if (!item) return PressKey(menu, ParseStroke(u"Esc"));
+  m_Mouse.Click(menu, menu.actionGeometry(item).center());
+}
+
+}  // namespace cardwright::robot

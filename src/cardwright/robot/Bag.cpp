@@ -1,0 +1,52 @@
+#include "cardwright/robot/Bag.h"
+
+#include "cardwright/automation/Errors.h"
+#include "cardwright/platform/PropertyBag.h"
+#include "cardwright/qt/FormDesigner.h"
+#include "cardwright/qt/FormInput.h"
+
+namespace cardwright::robot {
+namespace {
+
+constexpr std::u16string_view kSetAttributesEnabled = u"SetAttributesEnabled";
+
+/// A container's bag that leaves nothing out, so that a script sees all of it.
+class DictionaryBag final : public PropertyBag {
+ public:
+  explicit DictionaryBag(vbscript::Dictionary& values) : m_Values(values) {}
+
+  Variant ReadProperty(std::u16string_view name, const Variant& fallback) const override {
+    const Variant key(name);
+    return m_Values.Exists(key) ? m_Values.Item(key) : fallback;
+  }
+  void WriteProperty(std::u16string_view name, const Variant& value, const Variant&) override {
+    m_Values.LetItem(Variant(name), value);
+  }
+
+ private:
+  vbscript::Dictionary& m_Values;
+};
+
+}  // namespace
+
+Ref<vbscript::Dictionary> WriteBag(qt::VisualControl& control) {
+  auto values = MakeRef<vbscript::Dictionary>();
+  DictionaryBag bag(*values);
+  if (const auto* designer = qobject_cast<qt::FormDesigner*>(&control)) {
+    designer->Object()->WriteProperties(bag);
+  } else if (const auto* form = qobject_cast<qt::FormInput*>(&control)) {
+    bag.WriteProperty(kSetAttributesEnabled, form->SetAttributesEnabled(), true);
+  }
+  return values;
+}
+
+void ReadBag(qt::VisualControl& control, vbscript::Dictionary& values) {
+  const DictionaryBag bag(values);
+  if (const auto* designer = qobject_cast<qt::FormDesigner*>(&control)) {
+    designer->Object()->ReadProperties(bag);
+  } else if (auto* form = qobject_cast<qt::FormInput*>(&control)) {
+    form->SetSetAttributesEnabled(ToBoolean(bag.ReadProperty(kSetAttributesEnabled, true)));
+  }
+}
+
+}  // namespace cardwright::robot

@@ -1,0 +1,46 @@
+#include "cardwright/robot/Targets.h"
+
+#include "cardwright/automation/Errors.h"
+#include "cardwright/automation/Object.h"
+#include "cardwright/model/FormOwner.h"
+#include "cardwright/model/IControl.h"
+#include "cardwright/qt/QtDesignSurface.h"
+#include "cardwright/qt/QtSurface.h"
+#include "cardwright/qt/WidgetCore.h"
+#include "cardwright/robot/WidgetPart.h"
+
+namespace cardwright::robot {
+namespace {
+
+QWidget& Alive(QWidget* widget) {
+  if (!widget) Raise(ErrorNumber::ObjectNotSet);
+  return *widget;
+}
+
+QWidget& CanvasOf(FormOwner& form) {
+  Surface* const surface = form.GetSurface();
+  if (const auto* designed = dynamic_cast<qt::QtDesignSurface*>(surface)) return Alive(designed->Native());
+  const auto* const filled = dynamic_cast<qt::QtSurface*>(surface);
+  return Alive(filled ? filled->Native() : nullptr);
+}
+
+/// What stands on the screen for it: its widget, or for the form as a whole the visual control.
+Ref<Object> ShownAs(const IControl& control) {
+  const Ref<Object> widget = control.BoundObject();
+  return widget ? widget : control.ParentForm();
+}
+
+}  // namespace
+
+QWidget& WidgetOf(const Variant& value) {
+  Ref<Object> object(&RequireObject(value));
+  if (const auto* control = dynamic_cast<const IControl*>(object.get())) object = ShownAs(*control);
+  if (!object) Raise(ErrorNumber::ObjectNotSet);
+  if (auto* form = dynamic_cast<FormOwner*>(object.get())) return CanvasOf(*form);
+  if (auto* part = dynamic_cast<WidgetPart*>(object.get())) return Alive(part->Native());
+  auto* core = dynamic_cast<qt::WidgetCore*>(object.get());
+  if (!core) Raise(ErrorNumber::TypeMismatch);
+  return Alive(core->Native());
+}
+
+}  // namespace cardwright::robot

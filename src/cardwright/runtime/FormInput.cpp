@@ -1,0 +1,212 @@
+#include "cardwright/runtime/FormInput.h"
+
+#include "cardwright/model/Rename.h"
+#include "cardwright/runtime/AttributeBinding.h"
+#include "cardwright/runtime/ControlValues.h"
+#include "cardwright/runtime/RedrawPause.h"
+#include "cardwright/runtime/ScriptRun.h"
+#include "cardwright/shared/HostExecutor.h"
+#include "cardwright/shared/Messages.h"
+#include "cardwright/shared/ModuleState.h"
+#include "cardwright/shared/ScriptText.h"
+
+namespace cardwright {
+namespace {
+
+constexpr std::u16string_view kFormName = u"Form";
+
+bool ProjectSave(FormInput& form, const Text& fileName, std::optional<bool> isTemporary) {
+  return form.ProjectSave(fileName, isTemporary.value_or(false));
+}
+
+constexpr Member kMembers[] = {
+    Property<&FormInput::ControlCollection>(u"Controls"),
+    Property<&FormInput::DebugMode, &FormInput::SetDebugMode>(u"DebugMode"),
+    Property<&FormInput::NewFeature, &FormInput::SetNewFeature>(u"NewFeature"),
+    Property<&FormInput::FeatureID, &FormInput::SetFeatureID>(u"FeatureID"),
+    Method<&FormInput::ProjectRead>(u"ProjectRead"),
+    Method<&ProjectSave>(u"ProjectSave"),
+    Property<&FormInput::SetAttributesEnabled, &FormInput::SetSetAttributesEnabled>(u"SetAttributesEnabled"),
+    Method<&FormInput::ChangeControlName>(u"ChangeControlName"),
+    Method<&FormInput::GetThemeName>(u"GetThemeName"),
+    Method<&FormInput::GetFeatureType>(u"GetFeatureType"),
+    Method<&FormInput::GetFeatureTypeString>(u"GetFeatureTypeString"),
+    Property<&FormInput::WindowHandle>(u"hWnd"),
+    Property<&FormInput::Parent>(u"Parent"),
+};
+
+}  // namespace
+
+const MemberTable& FormInput::Members() const {
+  static const MemberTable table(kMembers);
+  return table;
+}
+
+FormInput::FormInput(Surface& surface) : m_Surface(&surface) {
+  Module().formScaleMode = ScaleMode::Pixels;
+  surface.SetScale(ScaleMode::Pixels);
+  m_OkButton.emplace(surface, u"cmdOK", 1051, [this] { Ok(); });
+  m_CancelButton.emplace(surface, u"cmdCancel", 1052, [this] { Cancel(); });
+}
+
+Ref<FormInput> FormInput::Create(Surface& surface) {
+  Ref<FormInput> input(new FormInput(surface));
+  auto form = MakeRef<CForm>();
+  form->SetParentForm(input);
+  form->SetName(kFormName);
+  input->m_Controls->Add(Variant(Ref<Object>(form)), Variant(ToLower(form->UserName())));
+  return input;
+}
+
+FormInput::~FormInput() { DetachSurface(); }
+
+void FormInput::DetachSurface() {
+  for (const Ref<IControl>& control : ControlsOf(*m_Controls)) {
+    auto* table = dynamic_cast<TableControl*>(control.get());
+    if (!table) continue;
+    if (m_Surface && !EqualsNoCase(control->TypeName(), u"CForm"))
+      Attempt([&] { m_Surface->Remove(control->Name()); });
+    table->ForgetOwner();
+  }
+  m_OkButton.reset();
+  m_CancelButton.reset();
+  m_Surface = nullptr;
+}
+
+Ref<IControl> FormInput::Form() const {
+  return m_Controls->Count() > 0 ? Ref<IControl>(AsControl(m_Controls->Item(Variant(1)))) : nullptr;
+}
+
+void FormInput::SetFeatureID(const Text& id) {
+  const Ref<FormInput> keepAlive(this);  // a script may close the window when a value changes
+  m_FeatureID = id;
+  if (CanRunScripts()) LoadAttributes(*this);
+}
+
+bool FormInput::ProjectRead(const Text& fileName) {
+  const Ref<FormInput> keepAlive(this);
+  const Ref<IControl> form = Form();
+  m_ProjectFile = fileName;
+  if (!form || !form->Read(fileName, {})) return false;
+  if (!CanRunScripts()) return true;
+  if (m_DebugMode) LoadAttributes(*this);
+  RunScript(*this, Module().scriptContent, Module().scriptLanguage, m_DebugMode);
+  RunFormEvent(u"Initialize");
+  return true;
+}
+
+bool FormInput::ProjectSave(const Text& fileName, bool isTemporary) {
+  Module().isTemporarySave = isTemporary;
+  const bool saved = AttemptOr(false, [&] {
+    const Ref<IControl> form = Form();
+    return form && form->Save(fileName, {});
+  });
+  Module().isTemporarySave = false;
+  return saved;
+}
+
+void FormInput::ChangeControlName(Ref<Object> control, const Text& newName) {
+  const Ref<FormInput> keepAlive(this);
+  RenameControl(*m_Controls, control, newName, [this](const Text& oldName, IControl& renamed) {
+    Variant args[] = {Variant(oldName), Variant(Ref<Object>(&renamed))};
+    RaiseEvent(u"ControlNameChanged", args);
+  });
+}
+
+Text FormInput::GetThemeName() const {
+  const Ref<IControl> form = Form();
+  return form ? ToText(form->PropertyValue(u"ThemeName")) : Text();
+}
+
+FeatureTypeEnum FormInput::GetFeatureType() const {
+  const Ref<IControl> form = Form();
+  return form ? static_cast<FeatureTypeEnum>(ToLong(form->PropertyValue(u"FeatureType")))
+              : FeatureTypeEnum::ftNone;
+}
+
+std::int32_t FormInput::WindowHandle() const { return m_Surface ? m_Surface->WindowHandle() : 0; }
+
+bool FormInput::CanRunScripts() const { return !m_DebugMode || Module().debugOutput; }
+
+bool FormInput::RunEvent(const Text& procedure) { return cardwright::RunEvent(procedure); }
+
+bool FormInput::RunFormEvent(std::u16string_view event) { return RunEvent(BuildEventName(kFormName, event)); }
+
+void FormInput::SetCaption(const Text& caption) {
+  m_Caption = caption;
+  Variant text(caption);
+  Variant args[] = {Variant::ByRef(text)};
+  RaiseEvent(u"SetParentCaption", args);
+}
+
+Ref<IControl> FormInput::FirstMissing() const {
+  Text value;  // kept from control to control: one of a kind that has no value of its own takes its
+               // predecessor's
+  for (const Ref<IControl>& control : ControlsOf(*m_Controls)) {
+    const bool needed =
+        AttemptOr(false, [&] { return ToText(control->PropertyValue(u"IsNeeded")) == u"True"; });
+    if (!needed) continue;
+    if (auto* bound = dynamic_cast<Control*>(control.get()))
+      Attempt([&] { TakeRequiredValue(*bound, value); });
+    if (value.IsEmpty()) return control;
+  }
+  return nullptr;
+}
+
+void FormInput::ReportMissing(IControl& control) {
+  const Text attribute = control.AttributeName();
+  const Text message = attribute.IsEmpty() ? GetMessage(102, {Variant(control.Name())})
+                                           : GetMessage(101, {Variant(attribute)});
+  if (Module().desktop) Module().desktop->ShowMessage(message, BoxStyle::Exclamation, GetMessage(100));
+  if (auto* widget = dynamic_cast<Widget*>(control.BoundObject().get())) Attempt([&] { widget->SetFocus(); });
+}
+
+namespace {
+
+// Set for a scope.
+class Running {
+ public:
+  explicit Running(bool& flag) noexcept : m_Flag(flag) { m_Flag = true; }
+  ~Running() { m_Flag = false; }
+  Running(const Running&) = delete;
+  Running& operator=(const Running&) = delete;
+
+ private:
+  bool& m_Flag;
+};
+
+}  // namespace
+
+// A script that presses the button in an event of the same button would do so for ever: the inner press is
+// passed over.
+bool FormInput::RunOk() {
+  if (m_RunsOk) return false;
+  const Running running(m_RunsOk);
+  const RedrawPause pause(AttributesWritable(), RedrawPause::End::Redraw);
+  if (!RunFormEvent(u"BeforeOkClick")) return false;
+  if (m_SetAttributesEnabled) WriteAttributes(*this);
+  if (AttributesWritable()) SharedHost().ORVExecute(commands::SelectNone(PlaceOf(*this)));
+  return RunFormEvent(u"AfterOkClick");
+}
+
+bool FormInput::RunCancel() {
+  if (!CanRunScripts()) return true;
+  if (m_RunsCancel) return false;
+  const Running running(m_RunsCancel);
+  const RedrawPause pause(AttributesWritable(), RedrawPause::End::Redraw);
+  return RunFormEvent(u"BeforeCancelClick");
+}
+
+void FormInput::Ok() {
+  const Ref<FormInput> keepAlive(this);  // a host may close the window in any of the events below
+  if (!CanRunScripts()) return RaiseEvent(u"OkClick");
+  if (const Ref<IControl> missing = FirstMissing()) return ReportMissing(*missing);
+  if (RunOk()) RaiseEvent(u"OkClick");
+}
+
+void FormInput::Cancel() {
+  const Ref<FormInput> keepAlive(this);
+  if (RunCancel()) RaiseEvent(u"CancelClick");
+}
+
+}  // namespace cardwright

@@ -1,0 +1,110 @@
+#pragma once
+
+#include "cardwright/model/CForm.h"
+#include "cardwright/model/FormOwner.h"
+#include "cardwright/runtime/AttributeList.h"
+#include "cardwright/runtime/FormButton.h"
+
+namespace cardwright {
+
+/// The form as an end user fills it in for one feature: it owns the form's objects and the fixed buttons OK
+/// and Cancel, and the order in which scripts, required-field checks and attribute writes happen.
+///
+/// Events: NeedResize(Width, Height), OkClick, CancelClick, SetParentCaption(Caption),
+/// ControlNameChanged(OldName, Obj). A host sets up a form with ProjectRead, then NewFeature, then FeatureID,
+/// and closes its window on OkClick or CancelClick.
+class FormInput final : public TableObject, public InputOwner {
+ public:
+  /// Works on a surface that outlives it or whose owner calls DetachSurface before it ends.
+  static Ref<FormInput> Create(Surface& surface);
+
+  Text TypeName() const override { return u"FormInput"; }
+
+  /// All objects of the form, the CForm first.
+  Collection& Controls() override { return *m_Controls; }
+  Ref<Collection> ControlCollection() const { return m_Controls; }
+  bool DebugMode() const noexcept { return m_DebugMode; }
+  void SetDebugMode(bool debug) noexcept { m_DebugMode = debug; }
+  /// The form describes a feature that is not stored yet: its attributes are not loaded.
+  bool NewFeature() const noexcept { return m_NewFeature; }
+  void SetNewFeature(bool isNew) noexcept { m_NewFeature = isNew; }
+  /// The host's unique identifier of the feature. Setting it loads the attributes into the controls.
+  Text FeatureID() const { return m_FeatureID; }
+  void SetFeatureID(const Text& id);
+  /// Reads a form project, starts its script and runs "Initialize"; false where it could not be read.
+  bool ProjectRead(const Text& fileName);
+  /// Path of the project read last, or being read.
+  const Text& ProjectFile() const noexcept { return m_ProjectFile; }
+  /// Saves the form's own settings and script. Beware: run-time controls write nothing, so on an existing
+  /// project their sections are gone afterwards while their count stays. Hosts know and keep to reading.
+  bool ProjectSave(const Text& fileName, bool isTemporary = false);
+  /// Whether OK writes attributes.
+  bool SetAttributesEnabled() const noexcept { return m_SetAttributesEnabled; }
+  void SetSetAttributesEnabled(bool enabled) noexcept { m_SetAttributesEnabled = enabled; }
+  void ChangeControlName(Ref<Object> control, const Text& newName) override;
+  Text GetThemeName() const;
+  FeatureTypeEnum GetFeatureType() const;
+  Text GetFeatureTypeString() const { return FeatureTypeText(GetFeatureType()); }
+  std::int32_t WindowHandle() const;
+  /// The host's window, as every container gives it to its controls under this name; null where there is
+  /// none.
+  Ref<HostWindow> Parent() const { return m_Surface ? m_Surface->Host() : nullptr; }
+
+  /// False only in a debugging run without an output object.
+  bool CanRunScripts() const override;
+  bool AttributesWritable() const noexcept { return m_SetAttributesEnabled && !m_DebugMode; }
+
+  /// What a click on the buttons does.
+  void Ok();
+  void Cancel();
+  /// Tells the host to close the window without checks, scripts or writing.
+  void CloseWithoutChecks() { RaiseEvent(u"CancelClick"); }
+  /// Places the buttons in the bottom right corner while the container is being designed.
+  void PlaceButtonsForDesign();
+  /// The surface ends: the form's objects stay for whoever holds them, without widgets.
+  void DetachSurface();
+
+  /// The attributes of the form's theme, as the host last had them.
+  AttributeList& Attributes() noexcept { return m_Attributes; }
+
+  Surface* GetSurface() override { return m_Surface; }
+  float OuterWidth() const override;
+  float OuterHeight() const override;
+  void SetOuterSize(float width, float height) override;
+  bool RunEvent(const Text& procedure) override;
+  Text Caption() const override { return m_Caption; }
+  void SetCaption(const Text& caption) override;
+  void LayOut() override;
+
+ protected:
+  explicit FormInput(Surface& surface);
+  ~FormInput() override;
+  const MemberTable& Members() const override;
+
+ private:
+  /// First required control without a value, or null.
+  Ref<IControl> FirstMissing() const;
+  void ReportMissing(IControl& control);
+  bool RunFormEvent(std::u16string_view event);
+  /// The part of OK and Cancel during which the host does not redraw: its scripts and what it writes. False
+  /// where a script refused.
+  bool RunOk();
+  bool RunCancel();
+  Ref<IControl> Form() const;
+
+  Surface* m_Surface;
+  Ref<Collection> m_Controls = MakeRef<Collection>();
+  bool m_DebugMode = false;
+  bool m_NewFeature = false;
+  Text m_ProjectFile;
+  Text m_FeatureID;
+  Text m_Caption;
+  AttributeList m_Attributes;
+  bool m_SetAttributesEnabled = true;
+  bool m_RunsOk = false;
+  bool m_RunsCancel = false;
+  std::optional<FormButton> m_OkButton;  // none once the surface has ended
+  std::optional<FormButton> m_CancelButton;
+};
+
+}  // namespace cardwright

@@ -1,0 +1,24 @@
+#include "cardwright/runtime/ScriptDebugger.h"
+
+namespace cardwright {
+namespace {
+
+constexpr Member kMembers[] = {
+    Method<&ScriptDebugger::Show>(u"Show"),
+    Method<&ScriptDebugger::WriteOut>(u"WriteOut"),
+};
+
+}  // namespace
+
+const MemberTable& ScriptDebugger::Members() const {
+  static const MemberTable table(kMembers);
+  return table;
+}
+
+void ScriptDebugger::Show(const Variant& value) { WriteOut(Variant(ToText(value) + u"\r\n")); }
+
+void ScriptDebugger::WriteOut(const Variant& value) {
+  if (m_Output) LetProperty(*m_Output, u"SelText", Variant(ToText(value)));
+}
+
+}  // namespace cardwright

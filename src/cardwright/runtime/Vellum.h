@@ -1,0 +1,56 @@
+#pragma once
+
+#include "cardwright/automation/MemberTable.h"
+#include "cardwright/platform/Color.h"
+#include "cardwright/platform/Picture.h"
+#include "cardwright/platform/Scale.h"
+
+namespace cardwright {
+
+/// The application object through which a host ties the library to itself: the connection handle, where
+/// settings are kept, defaults of appearance, and queries on form project files. All instances of a thread
+/// share one state; the first to come makes it, and the last to go ends the script engine.
+class Vellum final : public TableObject {
+ public:
+  Vellum();
+
+  Text TypeName() const override { return u"Vellum"; }
+
+  /// Handle of the host's connection; 0 for none.
+  std::int32_t TarvoHandle() const;
+  void SetTarvoHandle(std::int32_t handle);
+  /// Takes the host's editor object, asks it for its connection handle ("HWND_CONTROL") and uses that.
+  /// Nothing takes the object away and keeps the handle. Errors of the editor reach the caller.
+  void AttachOVeditor(Ref<Object> editor);
+  /// Path of a file beside the project; "" where a check was asked for and fails.
+  Text GetOrvPath(const Text& projectPath, const Text& fileName, std::optional<bool> checkParentFolder = {},
+                  std::optional<bool> checkFile = {}) const;
+
+  /// The script without its language line. Setting takes the first line as the language.
+  Text ScriptContent() const;
+  void SetScriptContent(const Text& content);
+
+  Ref<Picture> GetFormImage(const Text& fileName) const;
+  bool GetShowMenu(const Text& fileName) const;
+  void SetShowMenu(const Text& fileName, bool value);
+
+  /// The system's colours until a host has set two colours that differ.
+  OleColor DefaultBackColor() const;
+  void SetDefaultBackColor(OleColor color);
+  OleColor DefaultForeColor() const;
+  void SetDefaultForeColor(OleColor color);
+
+  /// Room that the row of buttons takes, in the form's scale.
+  float ButtonsOffsetY() const;
+  float ButtonsOffsetX() const;
+
+  /// Draws a picture box as a grab handle; error 13 for any other object.
+  void ResizeHandleEnabled(Ref<Object> handle, bool enabled);
+  bool ResizeHandleIsEnabled(Ref<Object> handle) const;
+
+ protected:
+  ~Vellum() override;
+  const MemberTable& Members() const override;
+};
+
+}  // namespace cardwright

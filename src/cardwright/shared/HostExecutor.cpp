@@ -1,0 +1,43 @@
+#include "cardwright/shared/HostExecutor.h"
+
+#include "cardwright/shared/ModuleState.h"
+
+namespace cardwright {
+namespace {
+
+constexpr Member kMembers[] = {
+    Property<&HostExecutor::Handle, &HostExecutor::SetHandle>(u"TarvoHandle"),
+    Method<&HostExecutor::ORVExecute>(u"ORVExecute"),
+    Method<&HostExecutor::ORVRequest>(u"ORVRequest"),
+    Property<&HostExecutor::Mode, &HostExecutor::SetMode>(u"ORVMode"),
+    Property<nullptr, nullptr, &HostExecutor::SetDebugOutput>(u"ORVDebugOutput"),
+    Property<&HostExecutor::Editor, nullptr, &HostExecutor::SetEditor>(u"ORVEditor"),
+};
+
+}  // namespace
+
+Text HostExecutor::ORVExecute(const Text& command) {
+  if (m_Mode == ExecutorMode::Debug) {
+    WriteDebugLine(command);
+    return {};
+  }
+  const Ref<HostConnection> connection = Module().connections.Find(m_Handle);
+  return connection ? connection->Execute(command) : Text();
+}
+
+Text HostExecutor::ORVRequest(const Text& command) {
+  if (m_Mode == ExecutorMode::Debug) WriteDebugLine(command);
+  const Ref<HostConnection> connection = Module().connections.Find(m_Handle);
+  return connection ? connection->Request(command) : Text();
+}
+
+void HostExecutor::WriteDebugLine(std::u16string_view command) {
+  if (m_DebugOutput) LetProperty(*m_DebugOutput, u"SelText", Text(command) + u"\r\n");
+}
+
+const MemberTable& HostExecutor::Members() const {
+  static const MemberTable table(kMembers);
+  return table;
+}
+
+}  // namespace cardwright

@@ -1,0 +1,52 @@
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <string_view>
+#include <utility>
+
+#include "cardwright/automation/Object.h"
+#include "cardwright/platform/SelectorWidgets.h"
+#include "cardwright/platform/Surface.h"
+#include "cardwright/platform/Widget.h"
+
+namespace cardwright {
+
+/// @name Rows of a property table by number or by name, whatever its case. `hidden` holds names that the
+/// table does not show, separated by ";"; they count on behind the table. Neither fails.
+/// @{
+
+/// Number of the row, -1 where there is none. A numeric `index` comes back unchecked, as 16-bit integer.
+std::int16_t PropertyIndexOf(std::span<const std::u16string_view> names, const Variant& index,
+                             std::u16string_view hidden = {});
+/// Name of the row in lower case, "" where there is none.
+Text PropertyNameOf(std::span<const std::u16string_view> names, const Variant& index,
+                    std::u16string_view hidden = {});
+/// @}
+
+/// How FindListItem compares.
+struct ListSearch {
+  bool matchCase = false;
+  bool byItemData = false;  ///< compare the number kept with each row, "" counting as 0
+  bool exact = false;       ///< else the rows that begin with the text count too
+  int notFound = -1;
+};
+
+/// @name First row of a list that the text names, counted from 0, or `search.notFound`. Neither fails.
+/// @{
+int FindListItem(const ComboWidget& list, std::u16string_view text, const ListSearch& search);
+int FindListItem(const HostListWidget& list, std::u16string_view text, const ListSearch& search);
+/// For any widget that has `ListCount`, `List` and `ItemData`.
+int FindListItem(Object& list, std::u16string_view text, const ListSearch& search);
+/// @}
+
+/// The widget of that name, or null. Does not fail.
+Ref<Widget> ControlByName(const Surface& surface, std::u16string_view name);
+
+/// Swaps the two where the first is the lesser, so that it is the greater.
+template <class T>
+void OrderPair(T& a, T& b) {
+  if (a < b) std::swap(a, b);
+}
+
+}  // namespace cardwright

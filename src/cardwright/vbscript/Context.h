@@ -1,0 +1,43 @@
+#pragma once
+
+#include <array>
+#include <chrono>
+#include <cstdint>
+
+#include "cardwright/automation/Locale.h"
+#include "cardwright/automation/Text.h"
+#include "cardwright/platform/ScriptEngine.h"
+
+namespace cardwright::vbscript {
+
+/// What the functions of the library share within one engine.
+class Context {
+ public:
+  explicit Context(ScriptHost& host) : m_Host(host) {}
+
+  ScriptHost& Host() noexcept { return m_Host; }
+
+  /// A text of one character. Those of the first 256 code units are made once and shared.
+  Text Character(char16_t unit);
+
+  /// State of Rnd and Randomize: 24 bits.
+  std::uint32_t randomSeed = 0x50000;
+  /// The locale that SetLocale chose for this engine.
+  const Locale* locale = &Locale::Current();
+  /// Whether MsgBox and InputBox may show anything.
+  bool allowUI = true;
+  /// Longest text that a script may make, in UTF-16 units; beyond it is error 14.
+  std::size_t maxTextUnits = std::size_t{1} << 28;
+
+  /// Error 14 where a text of that many units would be too long.
+  void CheckTextSize(std::size_t units) const;
+  /// To be called about work on that many units or elements. The machine looks at the clock every some
+  /// thousand jumps, which is too late where each of them does work like this.
+  static void NoteWork(std::size_t units) noexcept;
+
+ private:
+  ScriptHost& m_Host;
+  std::array<Text, 256> m_Characters;
+};
+
+}  // namespace cardwright::vbscript

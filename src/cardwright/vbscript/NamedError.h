@@ -1,0 +1,19 @@
+#pragma once
+
+#include <utility>
+
+#include "cardwright/automation/Errors.h"
+
+namespace cardwright::vbscript {
+
+/// An error about a name: `Err.Description` has the bare text, the report to the host the name too.
+class NamedError : public Error {
+ public:
+  NamedError(int number, Text name) : Error(number), m_Name(std::move(name)) {}
+  const Text& Name() const noexcept { return m_Name; }
+
+ private:
+  Text m_Name;
+};
+
+}  // namespace cardwright::vbscript

@@ -1,0 +1,51 @@
+#pragma once
+
+#include <memory>
+#include <unordered_map>
+#include <vector>
+
+#include "cardwright/vbscript/code/Symbol.h"
+#include "cardwright/vbscript/objects/MemoryShare.h"
+
+namespace cardwright::vbscript {
+
+/// The names that the code of one module has defined outside procedures.
+class Module {
+ public:
+  Module(Text name, Module* global) : m_Name(std::move(name)), m_Global(global) {}
+
+  const Text& Name() const noexcept { return m_Name; }
+  /// The module whose names this one sees too; null for the global one.
+  Module* Global() const noexcept { return m_Global; }
+
+  Symbol& Add(NameId name);
+  Symbol* Find(NameId name) const noexcept;
+  /// What the name stands for in this module or the global one; null for nothing.
+  Symbol* FindBound(NameId name) const noexcept;
+
+  /// Room for the variables of code outside procedures; it stays as long as the module.
+  Variant* AddVariables(std::size_t count);
+
+  void Define(NameId name, Ref<const Procedure> procedure);
+  void DefineClass(NameId name, Ref<ClassInfo> cls);
+  /// In order of definition; a name defined again keeps its place.
+  const std::vector<NameId>& Procedures() const noexcept { return m_Procedures; }
+  /// Drops every value, so that objects are released while the engine still works.
+  void Clear();
+
+ private:
+  Text m_Name;
+  Module* m_Global;
+  MemoryShare m_Memory;
+  std::unordered_map<NameId, std::unique_ptr<Symbol>> m_Symbols;
+  struct Variables {
+    std::unique_ptr<Variant[]> values;
+    std::size_t count;
+  };
+  std::vector<Variables> m_Variables;
+  std::vector<NameId> m_Procedures;
+  // Replaced ones too: code remembers what it found in a class by the class's address.
+  std::vector<Ref<ClassInfo>> m_Classes;
+};
+
+}  // namespace cardwright::vbscript

@@ -1,0 +1,202 @@
+#include "cardwright/vbscript/builtins/Builtin.h"
+#include "cardwright/vbscript/machine/Elements.h"
+#include "cardwright/vbscript/machine/FunctionReference.h"
+#include "cardwright/vbscript/machine/Machine.h"
+#include "cardwright/vbscript/machine/SlowPaths.h"
+#include "cardwright/vbscript/objects/RegExp.h"
+
+namespace cardwright::vbscript {
+
+namespace {
+
+void Clear(Variant* arguments, std::size_t count) noexcept {
+  for (std::size_t k = 0; k < count; ++k) arguments[k].Reset();
+}
+
+// What every call ends with that ran no script: the arguments are spent, the result is where it is wanted.
+void Finish(Variant* arguments, std::size_t count, Variant* result, Variant outcome) {
+  Clear(arguments, count);
+  if (result) *result = std::move(outcome);
+}
+
+int Number(ErrorNumber number) { return static_cast<int>(number); }
+
+}  // namespace
+
+bool Machine::CallSymbol(SymbolUse& use, Variant* arguments, std::size_t count, std::uint16_t flags) {
+  if (use.epoch != m_Epoch) Resolve(use);
+  Variant* const result = (flags & kDropResult) ? nullptr : arguments;
+  const Symbol* symbol = use.symbol;
+  if (!symbol) {
+    if (use.local == kNoRegister)
+      RaiseAbout(use.isStrict ? 500 : Number(ErrorNumber::TypeMismatch), use.name);
+    return CallValue(Current().registers[use.local].Deref(), arguments, count, result,
+                     names.Spelling(use.name));
+  }
+  switch (symbol->kind) {
+    case SymbolKind::Procedure:
+      PushFrame(*symbol->procedure, nullptr, {arguments, count}, result);
+      return true;
+    case SymbolKind::Builtin: CallBuiltin(*symbol->builtin, arguments, count, result); return false;
+    case SymbolKind::HostMember: {
+      const Ref<Object> object(&RequireObject(symbol->value));
+      Finish(arguments, count, result,
+             InvokeHost(*object, symbol->member, CallKind::MethodOrGet, {arguments, count}));
+      return false;
+    }
+    case SymbolKind::Variable:
+      return CallValue(*symbol->variable, arguments, count, result, names.Spelling(use.name));
+    case SymbolKind::HostObject:
+      return CallValue(symbol->value, arguments, count, result, names.Spelling(use.name));
+    default: RaiseAbout(Number(ErrorNumber::TypeMismatch), use.name);
+  }
+}
+
+void Machine::CallBuiltin(const Builtin& builtin, Variant* arguments, std::size_t count, Variant* result) {
+  if (count < builtin.minArguments || (count > builtin.maxArguments && builtin.maxArguments != kAnyCount))
+    throw NamedError(Number(ErrorNumber::WrongArgumentCount), builtin.name);
+  StopIfAsked();
+  for (std::size_t k = 0; k < count; ++k) {
+    Variant& argument = arguments[k];
+    if (argument.IsByRef()) {
+      Variant value = static_cast<const Variant&>(argument).Deref();
+      argument = std::move(value);
+    }
+    if (argument.IsString()) {
+      NoteWork(argument.StringView().size());
+    } else if (argument.IsArray()) {
+      NoteWork(argument.ArrayPtr()->Values().size());
+    }
+  }
+  try {
+    Finish(arguments, count, result, builtin.call(*this, {arguments, count}));
+  } catch (const Error& error) {
+    // The report names the function, but for an error that has more to say.
+    if (typeid(error) != typeid(Error) || !error.Source().IsEmpty() ||
+        error.Description() != StandardErrorText(error.Number()))
+      throw;
+    throw NamedError(error.Number(), builtin.name);
+  }
+}
+
+// A stop may have ended a Class_Terminate, which lets nothing out; then it ends the code that let go of the
+// object here, before that reaches the outside again. Library functions can do that, too.
+Variant Machine::InvokeHost(Object& object, MemberId member, CallKind kind, Args args) {
+  StopIfAsked();
+  Variant outcome = object.Invoke(member, kind, args);
+  StopIfAsked();
+  return outcome;
+}
+
+const ClassMember& Machine::FindMember(MemberUse& use, const Instance& object) const {
+  if (use.cls != &object.Class()) {
+    use.member = object.Class().Find(use.name);
+    use.cls = use.member ? &object.Class() : nullptr;
+    use.field = use.member && use.member->fieldIsPublic ? use.member->field : -1;
+  }
+  if (!use.member) RaiseAbout(Number(ErrorNumber::NotSupported), use.name);
+  return *use.member;
+}
+
+MemberId Machine::FindMember(MemberUse& use, const Object& object) const {
+  const void* const shape = object.Shape();
+  if (shape && shape == use.shape) return use.id;
+  const MemberId id = object.FindMember(names.Spelling(use.name).View());
+  if (id == kNoMember) RaiseAbout(Number(ErrorNumber::NotSupported), use.name);
+  use.shape = shape;
+  use.id = id;
+  return id;
+}
+
+bool Machine::CallMember(RegisterView view, Instruction i, MemberUse& use) {
+  Variant& place = view.R[i.b];
+  const bool spend = view.IsTemporary(i.b);
+  Variant* const arguments = view.R + i.a;
+  Variant* const result = (i.c & kDropResult) ? nullptr : spend ? &place : arguments;
+  const Variant& held = static_cast<const Variant&>(place).Deref();
+  if (!held.IsObject()) RaiseAbout(Number(ErrorNumber::ObjectRequired), use.object);
+  if (!held.ObjectPtr()) RaiseAbout(Number(ErrorNumber::ObjectNotSet), use.object);
+  if (Instance* instance = Instance::From(held.ObjectPtr(), *m_Link)) {
+    const Ref<Instance> object(instance);
+    if (spend) place.Reset();
+    return CallInstance(use, *instance, arguments, i.n, result);
+  }
+  const Ref<Object> object(held.ObjectPtr());
+  const MemberId member = FindMember(use, *object);
+  Variant outcome = InvokeHost(*object, member, CallKind::MethodOrGet, {arguments, i.n});
+  if (spend) place.Reset();
+  Finish(arguments, i.n, result, std::move(outcome));
+  return false;
+}
+
+bool Machine::CallInstance(MemberUse& use, Instance& object, Variant* arguments, std::size_t count,
+                           Variant* result) {
+  const ClassMember& member = FindMember(use, object);
+  const bool isInside = Current().me == &object;
+  const ClassProcedure& procedure = member.method.code ? member.method : member.get;
+  if (procedure.code && (procedure.isPublic || isInside)) {
+    PushFrame(*procedure.code, &object, {arguments, count}, result);
+    return true;
+  }
+  if (member.field < 0 || !(member.fieldIsPublic || isInside))
+    RaiseAbout(Number(ErrorNumber::NotSupported), use.name);
+  const Variant& field = object.Field(static_cast<std::size_t>(member.field));
+  if (count) return CallValue(field, arguments, count, result, names.Spelling(use.name));
+  if (result) *result = field;
+  return false;
+}
+
+bool Machine::CallRegister(RegisterView view, Instruction i, const Procedure& procedure) {
+  const Variant callee = static_cast<const Variant&>(view.R[i.b]).Deref();
+  const bool spend = view.IsTemporary(i.b);
+  Variant* const arguments = view.R + i.a;
+  Variant* const result = (i.c & kDropResult) ? nullptr : spend ? &view.R[i.b] : arguments;
+  view.Spend(i.b);
+  return CallValue(callee, arguments, i.n, result, LocalName(procedure, i.b));
+}
+
+bool Machine::CallValue(const Variant& callee, Variant* arguments, std::size_t count, Variant* result,
+                        const Text& name) {
+  if (callee.IsArray()) {
+    const Ref<Array> array(callee.ArrayPtr());
+    if (count == 0) throw NamedError(Number(ErrorNumber::SubscriptOutOfRange), name);
+    Finish(arguments, count, result, ElementAt(*array, {arguments, count}));
+    return false;
+  }
+  if (!callee.IsObject()) throw NamedError(Number(ErrorNumber::TypeMismatch), name);
+  if (!callee.ObjectPtr()) throw NamedError(Number(ErrorNumber::ObjectNotSet), name);
+  const Ref<Object> object(callee.ObjectPtr());
+  if (const auto* function = dynamic_cast<const FunctionReference*>(object.get())) {
+    if (function->Machine() == this) {
+      PushFrame(function->Procedure(), nullptr, {arguments, count}, result);
+      return true;
+    }
+  } else if (Instance* instance = Instance::From(object.get(), *m_Link)) {
+    if (instance->DefaultMember() == kNoMember) throw NamedError(Number(ErrorNumber::NotSupported), name);
+    MemberUse use;
+    use.name = instance->Class().members[static_cast<std::size_t>(instance->DefaultMember())].name;
+    return CallInstance(use, *instance, arguments, count, result);
+  }
+  const MemberId member = object->DefaultMember();
+  if (member == kNoMember) throw NamedError(Number(ErrorNumber::NotSupported), name);
+  Finish(arguments, count, result, InvokeHost(*object, member, CallKind::MethodOrGet, {arguments, count}));
+  return false;
+}
+
+bool Machine::NewObject(SymbolUse& use, Variant& target) {
+  if (use.epoch != m_Epoch) Resolve(use);
+  // The one class that the language brings along; a script's own of that name comes first.
+  if (!use.symbol && EqualsNoCase(names.Spelling(use.name).View(), u"RegExp")) {
+    target = MakeRef<RegExp>(maxTextUnits);
+    return false;
+  }
+  if (!use.symbol || use.symbol->kind != SymbolKind::Class) RaiseAbout(506, use.name);
+  const Ref<ClassInfo> cls = use.symbol->cls;
+  const Ref<Instance> instance = MakeInstance(*cls);
+  target = instance;
+  if (!cls->initialize) return false;
+  PushFrame(*cls->initialize, instance.get(), {}, nullptr);
+  return true;
+}
+
+}  // namespace cardwright::vbscript

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "cardwright/automation/Object.h"
+#include "cardwright/vbscript/code/Procedure.h"
+#include "cardwright/vbscript/machine/RegisterView.h"
+
+/// Arrays: making, indexing, changing their bounds.
+namespace cardwright::vbscript {
+
+Variant NewArray(const ArrayShape& shape);
+/// R[a], a reference, gets an array with the bounds in the n registers from b on. Errors: 10 for an array of
+/// fixed size or one that is being enumerated, 9 for bounds that cannot be, 7 for too many elements.
+void ReDimArray(RegisterView view, Instruction i, bool preserve);
+/// A fixed array gets Empty elements, a dynamic one loses them. Error 13 for no array, 10 for one being
+/// enumerated.
+void EraseArray(Variant& holder);
+
+/// The element of a GetSymbolElement and its like; null where it takes the long way.
+inline Variant* FindElement(Array& array, RegisterView view, Instruction i) noexcept {
+  const auto isWhole = [](const Variant& v) {
+    return v.Type() == VarType::Long || v.Type() == VarType::Integer;
+  };
+  const Variant& first = view.C(i);
+  if (!isWhole(first)) return nullptr;
+  if (!(i.n & kTwoIndices)) return array.Find(first.Long());
+  const Variant& second = view.B(i);
+  return isWhole(second) ? array.Find(first.Long(), second.Long()) : nullptr;
+}
+
+/// The element at these indices, each converted to a whole number; error 9 where there is none.
+const Variant& ElementAt(const Array& array, Args indices);
+/// Likewise of an array that a variable holds; error 13 where it holds none.
+Variant ElementOf(const Variant& holder, Args indices);
+/// Its position in Values() of the array that a variable holds or refers to when the indices are numbers;
+/// error 13 where it holds none by then.
+std::size_t ElementPosition(const Variant& holder, Args indices);
+/// `place(indices…) = value`, the value last: of the array that the place is or refers to, or by the default
+/// member of an object. Error 13 about `name` for anything else.
+void PutElement(Variant& place, Args arguments, bool isSet, const Text& name);
+
+}  // namespace cardwright::vbscript

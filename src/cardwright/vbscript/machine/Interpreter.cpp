@@ -1,0 +1,586 @@
+#include <cmath>
+
+#include "cardwright/vbscript/machine/Elements.h"
+#include "cardwright/vbscript/machine/Enumeration.h"
+#include "cardwright/vbscript/machine/Loops.h"
+#include "cardwright/vbscript/machine/Machine.h"
+#include "cardwright/vbscript/machine/SlowPaths.h"
+#include "cardwright/vbscript/operators/Operators.h"
+
+// The addresses of labels are what makes the loop quick; every compiler that the library builds with has
+// them.
+#pragma GCC diagnostic ignored "-Wpedantic"
+
+namespace cardwright::vbscript {
+
+namespace {
+
+// Jumps back between two looks at the clock.
+constexpr int kTicks = 2048;
+
+bool IsWhole(const Variant& value) noexcept {
+  return value.Type() == VarType::Long || value.Type() == VarType::Integer;
+}
+
+// The narrowest of the two types that holds the result of two whole operands.
+VarType WholeType(const Variant& x, const Variant& y, std::int32_t result) noexcept {
+  const int wider = static_cast<int>(x.Type()) | static_cast<int>(y.Type());
+  return static_cast<VarType>(wider | (result != static_cast<std::int16_t>(result)));
+}
+static_assert((static_cast<int>(VarType::Integer) | 1) == static_cast<int>(VarType::Long));
+
+bool AreDoubles(const Variant& x, const Variant& y) noexcept {
+  return x.Type() == VarType::Double && y.Type() == VarType::Double;
+}
+bool IsReal(const Variant& value) noexcept { return value.Type() == VarType::Double || IsWhole(value); }
+double Real(const Variant& value) noexcept {
+  return value.Type() == VarType::Double ? value.Double() : value.Long();
+}
+
+// An object has a default value to be asked for, which may change the array that an element is to be assigned
+// in.
+bool IsPlain(const Variant& value) noexcept { return !value.Deref().IsObject(); }
+
+}  // namespace
+
+// NOLINTBEGIN(readability-function-size): one label an operation, each a few lines; see Opcodes.h for what they do.
+void Machine::Run() {
+  static const void* const kLabels[] = {
+#define X(name, operands, effect) &&L_##name,
+      CARDWRIGHT_VBSCRIPT_OPCODES(X)
+#undef X
+  };
+
+  const std::size_t entry = m_Depth;
+  const Instruction* pc = nullptr;
+  const Procedure* procedure = nullptr;
+  Variant* R = nullptr;
+  const Variant* K = nullptr;
+  std::uint32_t firstTemporary = 0;
+  int ticks = kTicks;
+  Instruction i{};
+
+#define NEXT goto* kLabels[static_cast<std::size_t>(pc++->op)]
+// Each operation reads its own word. One that lived from jump to jump would take the registers that the
+// machine needs for more.
+#define OPERATION(name) L_##name : i = pc[-1];
+#define RELOAD()                                \
+  do {                                          \
+    const Frame& frame = Current();             \
+    procedure = frame.procedure;                \
+    pc = frame.pc;                              \
+    R = frame.registers;                        \
+    K = procedure->constants.data();            \
+    firstTemporary = procedure->firstTemporary; \
+  } while (false)
+// A call leaves a frame to go on in, or has its result in place already. Each procedure is a place to stop
+// at: calls without any loop may go on for ever too.
+#define AFTER_CALL(pushed) \
+  do {                     \
+    if (pushed) {          \
+      RELOAD();            \
+      TICK();              \
+    }                      \
+    NEXT;                  \
+  } while (false)
+#define VIEW \
+  RegisterView { R, K, firstTemporary }
+#define OPERAND_B ((i.n & kConstantB) ? K[i.b] : R[i.b])
+#define OPERAND_C ((i.n & kConstantC) ? K[i.c] : R[i.c])
+#define TICK()                                                                   \
+  do {                                                                           \
+    if (--ticks < 0 || m_Order.load(std::memory_order_relaxed) != Order::GoOn) { \
+      ticks = kTicks;                                                            \
+      LookAround();                                                              \
+    }                                                                            \
+  } while (false)
+// No object with a destructor may be alive at a NEXT: the jump would leave it behind.
+#define ARITHMETIC(name, builtin, sign, slowly)                                     \
+  OPERATION(name) {                                                                 \
+    const Variant& x = OPERAND_B;                                                   \
+    const Variant& y = OPERAND_C;                                                   \
+    if (Variant::AreWhole(x, y)) {                                                  \
+      std::int32_t whole;                                                           \
+      if (!builtin(x.Long(), y.Long(), &whole)) {                                   \
+        R[i.a].PutWhole(whole, WholeType(x, y, whole));                             \
+        NEXT;                                                                       \
+      }                                                                             \
+      R[i.a].Put(static_cast<double>(x.Long()) sign static_cast<double>(y.Long())); \
+      NEXT;                                                                         \
+    }                                                                               \
+    if (AreDoubles(x, y) || (IsReal(x) && IsReal(y))) {                             \
+      const double real = Real(x) sign Real(y);                                     \
+      if (std::isfinite(real)) {                                                    \
+        R[i.a].Put(real);                                                           \
+        NEXT;                                                                       \
+      }                                                                             \
+    }                                                                               \
+    slowly;                                                                         \
+    NEXT;                                                                           \
+  }
+#define WHOLE_DIVISION(name, sign)                       \
+  OPERATION(name) {                                      \
+    const Variant& x = OPERAND_B;                        \
+    const Variant& y = OPERAND_C;                        \
+    if (Variant::AreWhole(x, y) && y.Long() > 0) {       \
+      const std::int32_t whole = x.Long() sign y.Long(); \
+      R[i.a].PutWhole(whole, WholeType(x, y, whole));    \
+      NEXT;                                              \
+    }                                                    \
+    ApplyBinary(VIEW, i, name);                          \
+    NEXT;                                                \
+  }
+#define COMPARE_JUMP(name, whenTrue, sign)                                                                  \
+  OPERATION(name) {                                                                                         \
+    const Variant& x = OPERAND_B;                                                                           \
+    const Variant& y = OPERAND_C;                                                                           \
+    bool holds;                                                                                             \
+    if (Variant::AreWhole(x, y)) {                                                                          \
+      holds = x.Long() sign y.Long();                                                                       \
+    } else if (IsReal(x) && IsReal(y)) {                                                                    \
+      holds = Real(x) sign Real(y);                                                                         \
+    } else {                                                                                                \
+      const Ordering order = CompareOperands(VIEW, i);                                                      \
+      holds = order != Ordering::Unknown && static_cast<int>(order) sign static_cast<int>(Ordering::Equal); \
+    }                                                                                                       \
+    pc += holds == (whenTrue) ? pc->Offset() + 1 : 1;                                                       \
+    NEXT;                                                                                                   \
+  }
+
+  for (;;) {
+    Pending pending;
+    try {
+      RELOAD();
+      NEXT;
+
+      OPERATION(LoadConst)
+      R[i.a] = K[i.Wide()];
+      NEXT;
+      OPERATION(Copy)
+      CopyValue(R[i.a], R[i.b]);
+      NEXT;
+      OPERATION(Take)
+      R[i.a] = std::move(R[i.b]);
+      NEXT;
+      OPERATION(LoadMe)
+      R[i.a] = Ref<Instance>(Current().me);
+      NEXT;
+      OPERATION(LoadSymbol) {
+        SymbolUse& use = procedure->symbols[i.Wide()];
+        if (use.epoch == m_Epoch && use.variable) {
+          R[i.a] = *use.variable;
+          NEXT;
+        }
+        if (use.epoch == m_Epoch && use.IsLocal()) {
+          CopyValue(R[i.a], R[use.local]);
+          NEXT;
+        }
+        Current().pc = pc;
+        AFTER_CALL(LoadSymbol(use, R[i.a]));
+      }
+      OPERATION(LoadField)
+      R[i.a] = Current().me->Field(i.Wide());
+      NEXT;
+      OPERATION(Clear)
+      for (int k = 0; k < i.n; ++k) R[i.a + k].Reset();
+      NEXT;
+
+      OPERATION(Let)
+      AssignPlain(R[i.a], R[i.b], i.b >= firstTemporary);
+      NEXT;
+      OPERATION(LetThrough)
+      AssignPlainThrough(R[i.a], R[i.b], i.b >= firstTemporary);
+      NEXT;
+      OPERATION(Set)
+      AssignObject(R[i.a], R[i.b], i.b >= firstTemporary);
+      NEXT;
+      OPERATION(SetThrough)
+      AssignObject(R[i.a].Deref(), R[i.b], i.b >= firstTemporary);
+      NEXT;
+      OPERATION(LetSymbol) {
+        SymbolUse& use = procedure->symbols[i.Wide()];
+        if (use.epoch == m_Epoch && use.variable) {
+          AssignPlain(*use.variable, R[i.a], i.a >= firstTemporary);
+        } else if (use.epoch == m_Epoch && use.IsLocal()) {
+          AssignPlain(R[use.local].Deref(), R[i.a], i.a >= firstTemporary);
+        } else {
+          AssignSymbol(use, R[i.a], false, i.a >= firstTemporary);
+        }
+        NEXT;
+      }
+      OPERATION(SetSymbol)
+      AssignSymbol(procedure->symbols[i.Wide()], R[i.a], true, i.a >= firstTemporary);
+      NEXT;
+      OPERATION(LetField)
+      AssignPlain(Current().me->Field(i.Wide()), R[i.a], i.a >= firstTemporary);
+      NEXT;
+      OPERATION(SetField)
+      AssignObject(Current().me->Field(i.Wide()), R[i.a], i.a >= firstTemporary);
+      NEXT;
+      OPERATION(AppendSymbol)
+      AppendToSymbol(VIEW, i, procedure->symbols[i.Wide()]);
+      NEXT;
+      OPERATION(AppendField)
+      AppendText(*this, Current().me->Field(i.Wide()), VIEW, i.a);
+      NEXT;
+      OPERATION(AppendThrough)
+      AppendText(*this, R[i.a], VIEW, i.b);
+      NEXT;
+
+      OPERATION(RefRegister)
+      R[i.a] = Variant::ByRef(R[i.b]);
+      NEXT;
+      OPERATION(RefSymbol) {
+        SymbolUse& use = procedure->symbols[i.Wide()];
+        if (use.epoch == m_Epoch && use.variable) {
+          R[i.a] = Variant::ByRef(*use.variable);
+          NEXT;
+        }
+        Current().pc = pc;
+        AFTER_CALL(ReferToSymbol(use, R[i.a]));
+      }
+      OPERATION(RefField)
+      R[i.a] = Variant::ByRef(Current().me->Field(i.Wide()));
+      NEXT;
+      OPERATION(RefElement)
+      Current().pc = pc;
+      AFTER_CALL(ReferToElement(VIEW, i));
+      OPERATION(RefSymbolElement) {
+        SymbolUse& use = procedure->symbols[pc->Wide()];
+        ++pc;
+        Current().pc = pc;
+        AFTER_CALL(ReferToSymbolElement(VIEW, i, use));
+      }
+
+      ARITHMETIC(Add, __builtin_add_overflow, +, ApplyAdd(*this, VIEW, i))
+      ARITHMETIC(Subtract, __builtin_sub_overflow, -, ApplyBinary(VIEW, i, Subtract))
+      ARITHMETIC(Multiply, __builtin_mul_overflow, *, ApplyBinary(VIEW, i, Multiply))
+      OPERATION(Divide) {
+        const Variant& x = OPERAND_B;
+        const Variant& y = OPERAND_C;
+        if (IsReal(x) && IsReal(y) && Real(y) != 0) {
+          const double real = Real(x) / Real(y);
+          if (std::isfinite(real)) {
+            R[i.a].Put(real);
+            NEXT;
+          }
+        }
+        ApplyBinary(VIEW, i, Divide);
+        NEXT;
+      }
+      WHOLE_DIVISION(IntegerDivide, /)
+      WHOLE_DIVISION(Modulo, %)
+      OPERATION(Concatenate)
+      if (i.a == i.b && !(i.n & kConstantB) && R[i.a].IsString()) {
+        if (i.n & kConstantC) {
+          AppendText(*this, R[i.a], K[i.c]);
+        } else {
+          AppendText(*this, R[i.a], VIEW, i.c);
+        }
+      } else {
+        ConcatenateOperands(*this, VIEW, i);
+      }
+      NEXT;
+      OPERATION(And) {
+        const Variant& x = OPERAND_B;
+        const Variant& y = OPERAND_C;
+        if (x.Type() == VarType::Boolean && y.Type() == VarType::Boolean) {
+          R[i.a].Put(x.Boolean() && y.Boolean());
+          NEXT;
+        }
+        ApplyBinary(VIEW, i, And);
+        NEXT;
+      }
+      OPERATION(Or) {
+        const Variant& x = OPERAND_B;
+        const Variant& y = OPERAND_C;
+        if (x.Type() == VarType::Boolean && y.Type() == VarType::Boolean) {
+          R[i.a].Put(x.Boolean() || y.Boolean());
+          NEXT;
+        }
+        ApplyBinary(VIEW, i, Or);
+        NEXT;
+      }
+      OPERATION(Binary)
+      ApplyBinary(VIEW, i, static_cast<BinaryOperator>(pc->Wide()));
+      ++pc;
+      NEXT;
+      OPERATION(Not)
+      if (R[i.b].Type() == VarType::Boolean) {
+        R[i.a].Put(!R[i.b].Boolean());
+      } else {
+        ApplyUnary(VIEW, i, Not);
+      }
+      NEXT;
+      OPERATION(Negate)
+      ApplyUnary(VIEW, i, Negate);
+      NEXT;
+      OPERATION(Plus)
+      ApplyUnary(VIEW, i, UnaryPlus);
+      NEXT;
+
+      OPERATION(Jump)
+      pc += i.Offset();
+      NEXT;
+      OPERATION(JumpBack)
+      TICK();
+      pc += i.Offset();
+      NEXT;
+      OPERATION(JumpIfTrue)
+      if (R[i.a].Type() == VarType::Boolean ? R[i.a].Boolean() : IsTrueOperand(VIEW, i.a)) pc += i.Offset();
+      NEXT;
+      OPERATION(JumpIfFalse)
+      if (!(R[i.a].Type() == VarType::Boolean ? R[i.a].Boolean() : IsTrueOperand(VIEW, i.a)))
+        pc += i.Offset();
+      NEXT;
+      COMPARE_JUMP(JumpIfEqual, true, ==)
+      COMPARE_JUMP(JumpIfNotEqual, true, !=)
+      COMPARE_JUMP(JumpIfLess, true, <)
+      COMPARE_JUMP(JumpIfLessOrEqual, true, <=)
+      COMPARE_JUMP(JumpIfGreater, true, >)
+      COMPARE_JUMP(JumpIfGreaterOrEqual, true, >=)
+      COMPARE_JUMP(JumpUnlessEqual, false, ==)
+      COMPARE_JUMP(JumpUnlessNotEqual, false, !=)
+      COMPARE_JUMP(JumpUnlessLess, false, <)
+      COMPARE_JUMP(JumpUnlessLessOrEqual, false, <=)
+      COMPARE_JUMP(JumpUnlessGreater, false, >)
+      COMPARE_JUMP(JumpUnlessGreaterOrEqual, false, >=)
+
+      OPERATION(ForPrepare)
+      pc += PrepareFor(R[i.a], R + i.b) ? 1 : pc->Offset() + 1;
+      NEXT;
+      OPERATION(ForNext) {
+        TICK();
+        Variant& variable = R[i.a].Deref();
+        const Variant& limit = R[i.b + 1];
+        const Variant& step = R[i.b + 2];
+        if (IsWhole(variable) && IsWhole(step) && IsWhole(limit)) {
+          const std::int64_t next = std::int64_t{variable.Long()} + step.Long();
+          const auto whole = static_cast<std::int32_t>(next);
+          if (whole == next) {
+            variable.PutWhole(whole, WholeType(variable, step, whole));
+            pc += (step.Long() >= 0 ? whole <= limit.Long() : whole >= limit.Long()) ? pc->Offset() + 1 : 1;
+            NEXT;
+          }
+        }
+        pc += AdvanceFor(variable, limit, step) ? pc->Offset() + 1 : 1;
+        NEXT;
+      }
+      OPERATION(EachPrepare)
+      PrepareEach(VIEW, i);
+      NEXT;
+      OPERATION(EachNext)
+      TICK();
+      pc += Enumeration::Next(R[i.b], R[i.a].Deref()) ? 1 : pc->Offset() + 1;
+      NEXT;
+
+      OPERATION(GetElement) {
+        const Variant& holder = static_cast<const Variant&>(R[i.b]).Deref();
+        const Variant& index = OPERAND_C;
+        if (holder.IsArray() && IsWhole(index)) {
+          if (const Variant* element = holder.ArrayPtr()->Find(index.Long())) {
+            R[i.a] = *element;
+            NEXT;
+          }
+        }
+        Current().pc = pc;
+        AFTER_CALL(GetElementSlowly(VIEW, i, {}, *procedure));
+      }
+      OPERATION(GetElement2) {
+        const Instruction word = *pc++;
+        const Variant& holder = static_cast<const Variant&>(R[i.b]).Deref();
+        const Variant& first = OPERAND_C;
+        const Variant& second = (i.n & kConstantSecond) ? K[word.a] : R[word.a];
+        if (holder.IsArray() && IsWhole(first) && IsWhole(second)) {
+          if (const Variant* element = holder.ArrayPtr()->Find(first.Long(), second.Long())) {
+            R[i.a] = *element;
+            NEXT;
+          }
+        }
+        Current().pc = pc;
+        AFTER_CALL(GetElementSlowly(VIEW, i, word, *procedure));
+      }
+      OPERATION(SetElement) {
+        Variant& holder = R[i.b].Deref();
+        const Variant& index = OPERAND_C;
+        if (holder.IsArray() && IsWhole(index) && holder.ArrayPtr()->IsUnshared() && IsPlain(R[i.a])) {
+          if (Variant* element = holder.ArrayPtr()->Find(index.Long())) {
+            AssignPlain(*element, R[i.a], i.a >= firstTemporary);
+            NEXT;
+          }
+        }
+        SetElementSlowly(VIEW, i, {}, *procedure);
+        NEXT;
+      }
+      OPERATION(SetElement2) {
+        const Instruction word = *pc++;
+        Variant& holder = R[i.b].Deref();
+        const Variant& first = OPERAND_C;
+        const Variant& second = (i.n & kConstantSecond) ? K[word.a] : R[word.a];
+        if (holder.IsArray() && IsWhole(first) && IsWhole(second) && holder.ArrayPtr()->IsUnshared() &&
+            IsPlain(R[i.a])) {
+          if (Variant* element = holder.ArrayPtr()->Find(first.Long(), second.Long())) {
+            AssignPlain(*element, R[i.a], i.a >= firstTemporary);
+            NEXT;
+          }
+        }
+        SetElementSlowly(VIEW, i, word, *procedure);
+        NEXT;
+      }
+      OPERATION(GetSymbolElement) {
+        SymbolUse& use = procedure->symbols[pc->Wide()];
+        ++pc;
+        if (use.epoch == m_Epoch && use.variable && use.variable->IsArray()) {
+          if (const Variant* element = FindElement(*use.variable->ArrayPtr(), VIEW, i)) {
+            R[i.a] = *element;
+            NEXT;
+          }
+        }
+        Current().pc = pc;
+        AFTER_CALL(GetSymbolElementSlowly(VIEW, i, use));
+      }
+      OPERATION(SetSymbolElement) {
+        SymbolUse& use = procedure->symbols[pc->Wide()];
+        ++pc;
+        if (use.epoch == m_Epoch && use.variable && use.variable->IsArray() &&
+            use.variable->ArrayPtr()->IsUnshared() && IsPlain(R[i.a])) {
+          if (Variant* element = FindElement(*use.variable->ArrayPtr(), VIEW, i)) {
+            AssignPlain(*element, R[i.a], i.a >= firstTemporary);
+            NEXT;
+          }
+        }
+        SetSymbolElementSlowly(VIEW, i, use);
+        NEXT;
+      }
+      OPERATION(GetFieldElement) {
+        const Variant& holder = Current().me->Field(pc->Wide());
+        ++pc;
+        if (holder.IsArray()) {
+          if (const Variant* element = FindElement(*holder.ArrayPtr(), VIEW, i)) {
+            R[i.a] = *element;
+            NEXT;
+          }
+        }
+        Current().pc = pc;
+        AFTER_CALL(GetFieldElementSlowly(VIEW, i, holder));
+      }
+      OPERATION(SetFieldElement) {
+        Variant& holder = Current().me->Field(pc->Wide());
+        ++pc;
+        if (holder.IsArray() && holder.ArrayPtr()->IsUnshared() && IsPlain(R[i.a])) {
+          if (Variant* element = FindElement(*holder.ArrayPtr(), VIEW, i)) {
+            AssignPlain(*element, R[i.a], i.a >= firstTemporary);
+            NEXT;
+          }
+        }
+        SetFieldElementSlowly(VIEW, i, holder);
+        NEXT;
+      }
+      OPERATION(DimArray)
+      R[i.a] = NewArray(procedure->shapes[i.Wide()]);
+      NEXT;
+      OPERATION(ReDim)
+      ReDimArray(VIEW, i, pc->Wide() != 0);
+      ++pc;
+      NEXT;
+      OPERATION(Erase)
+      EraseArray(R[i.a].Deref());
+      R[i.a].Reset();
+      NEXT;
+
+      OPERATION(Call) {
+        SymbolUse& use = procedure->symbols[pc->Wide()];
+        ++pc;
+        Current().pc = pc;
+        if (use.epoch == m_Epoch && use.symbol && use.symbol->kind == SymbolKind::Procedure) {
+          Variant* const result = (i.b & kDropResult) ? nullptr : R + i.a;
+          PushFrame(*use.symbol->procedure, nullptr, {R + i.a, i.c}, result);
+          AFTER_CALL(true);
+        }
+        AFTER_CALL(CallSymbol(use, R + i.a, i.c, i.b));
+      }
+      OPERATION(CallMember) {
+        MemberUse& use = procedure->members[pc->Wide()];
+        ++pc;
+        Current().pc = pc;
+        if (i.n == 0 && !(i.c & kDropResult)) {
+          if (const Variant* field = OpenField(use, R[i.b])) {
+            R[i.b >= firstTemporary ? i.b : i.a] = *field;
+            NEXT;
+          }
+        }
+        AFTER_CALL(CallMember(VIEW, i, use));
+      }
+      OPERATION(CallValue)
+      Current().pc = pc;
+      AFTER_CALL(CallRegister(VIEW, i, *procedure));
+      OPERATION(PutSymbol) {
+        SymbolUse& use = procedure->symbols[pc->Wide()];
+        ++pc;
+        PutSymbol(use, Args(R + i.a, i.n), i.b);
+        VIEW.Clear(i.a, i.n);
+        NEXT;
+      }
+      OPERATION(PutMember) {
+        MemberUse& use = procedure->members[pc->Wide()];
+        ++pc;
+        Current().pc = pc;
+        if (i.n == 1 && i.c == 0 && R[i.a].IsInPlace()) {
+          if (Variant* field = OpenField(use, R[i.b])) {
+            *field = R[i.a];
+            VIEW.Spend(i.b);
+            NEXT;
+          }
+        }
+        AFTER_CALL(PutMember(VIEW, i, use));
+      }
+      OPERATION(PutValue)
+      PutElement(R[i.b], Args(R + i.a, i.n), (i.c & kAsSet) != 0, LocalName(*procedure, i.b));
+      VIEW.Clear(i.a, i.n);
+      VIEW.Spend(i.b);
+      NEXT;
+      OPERATION(New)
+      Current().pc = pc;
+      AFTER_CALL(NewObject(procedure->symbols[i.Wide()], R[i.a]));
+      OPERATION(Return)
+      PopFrame(Ending::ByReturn);
+      if (m_Depth < entry) return;
+      RELOAD();
+      NEXT;
+
+      OPERATION(OnErrorResumeNext)
+      Current().resumeNext = true;
+      m_Err->Clear();
+      NEXT;
+      OPERATION(OnErrorGoTo0)
+      Current().resumeNext = false;
+      m_Err->Clear();
+      NEXT;
+      OPERATION(RaiseError)
+      RaiseAbout(i.a, procedure->symbols[i.Wide()].name);
+      OPERATION(RequireObject)
+      TakeObject(VIEW, i);
+      NEXT;
+      OPERATION(Observe)
+      Observe(*procedure, static_cast<std::size_t>(pc - procedure->code.data() - 1));
+      NEXT;
+      OPERATION(ObserveReturn)
+      ObserveReturn();
+      NEXT;
+    } catch (const Error& error) {
+      const MemoryBudget::Exemption exemption;
+      pending = Describe(error);
+    } catch (const std::bad_alloc&) {
+      const MemoryBudget::Exemption exemption;
+      pending = Describe(Error(ErrorNumber::OutOfMemory));
+    } catch (const Interrupted&) {
+      Unwind(entry - 1);
+      throw;
+    }
+    Current().pc = pc;
+    Handle(std::move(pending), entry);
+  }
+}
+// NOLINTEND(readability-function-size)
+
+}  // namespace cardwright::vbscript

@@ -1,0 +1,57 @@
+#include "cardwright/vbscript/machine/Loops.h"
+
+#include "cardwright/automation/Conversions.h"
+#include "cardwright/automation/Errors.h"
+#include "cardwright/automation/Object.h"
+#include "cardwright/vbscript/operators/Operators.h"
+
+namespace cardwright::vbscript {
+
+namespace {
+
+constexpr int kLoopNotPrepared = 92;
+
+Variant Number(const Variant& value) {
+  const Variant& held = value.Deref();
+  switch (held.Type()) {
+    case VarType::Object: return Number(DefaultValue(held));
+    case VarType::String: return Variant(ToDouble(held));
+    case VarType::Empty: return Variant(std::int16_t{0});
+    case VarType::Boolean: return Variant(ToInteger(held));
+    case VarType::Null: Raise(ErrorNumber::InvalidUseOfNull);
+    case VarType::Array:
+    case VarType::Error: Raise(ErrorNumber::TypeMismatch);
+    default: return held;
+  }
+}
+
+bool IsDone(const Variant& variable, const Variant& limit, const Variant& step) {
+  const bool goesDown = Compare(step, Variant(std::int16_t{0})) == Ordering::Less;
+  return Compare(variable, limit) == (goesDown ? Ordering::Less : Ordering::Greater);
+}
+
+}  // namespace
+
+bool PrepareFor(Variant& variable, Variant* bounds) {
+  // Whichever of the three fails, no limit stays behind: that is how Next knows a loop that was not prepared.
+  const Variant given = std::move(bounds[1]);
+  Variant first = Number(bounds[0]);
+  Variant limit = Number(given);
+  Variant step = Number(bounds[2]);
+  const bool runs = !IsDone(first, limit, step);
+  bounds[0].Reset();
+  bounds[1] = std::move(limit);
+  bounds[2] = std::move(step);
+  variable.Deref() = std::move(first);
+  return runs;
+}
+
+bool AdvanceFor(Variant& variable, const Variant& limit, const Variant& step) {
+  if (limit.IsEmpty()) Raise(kLoopNotPrepared);
+  Variant next = Add(Number(variable), step);
+  const bool runs = !IsDone(next, limit, step);
+  variable.Deref() = std::move(next);
+  return runs;
+}
+
+}  // namespace cardwright::vbscript

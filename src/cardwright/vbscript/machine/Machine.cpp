@@ -1,0 +1,211 @@
+#include "cardwright/vbscript/machine/Machine.h"
+
+#include "cardwright/vbscript/compile/Compiler.h"
+#include "cardwright/vbscript/machine/FunctionReference.h"
+#include "cardwright/vbscript/syntax/Parser.h"
+
+namespace cardwright::vbscript {
+
+namespace {
+
+constexpr std::u16string_view kErrName = u"Err";
+
+// The names that a compiled text defines become the module's.
+void Define(const CompiledBlock& block, Machine& machine, Module& module, Variant* variables) {
+  for (const auto& [name, defined] : block.names) {
+    Symbol& symbol = module.Add(name);
+    if (defined.kind == SymbolKind::Variable) {
+      symbol.kind = SymbolKind::Variable;
+      symbol.variable = variables + defined.variable;
+    } else if (defined.kind == SymbolKind::Constant) {
+      symbol.kind = SymbolKind::Constant;
+      symbol.value = *defined.constant;
+    }
+  }
+  for (const Ref<Procedure>& procedure : block.procedures) module.Define(procedure->name, procedure);
+  for (const Ref<ClassInfo>& cls : block.classes) module.DefineClass(cls->name, cls);
+  machine.NamesChanged();
+}
+
+}  // namespace
+
+Machine::Machine(ScriptHost& host, const Limits& limits)
+    : Context(host),
+      m_Limits(limits),
+      m_Objects({}, nullptr),
+      m_Library({}, nullptr),
+      m_Err(MakeRef<ErrObject>()),
+      m_Registers(limits.registerBlock) {
+  maxTextUnits = limits.textUnits;
+  m_Link = MakeRef<MachineLink>();
+  m_Link->machine = this;
+  m_Modules.push_back(std::make_unique<Module>(Text(), nullptr));
+  Symbol& err = m_Objects.Add(names.Add(kErrName));
+  err.kind = SymbolKind::HostObject;
+  err.value = m_Err;
+}
+
+Machine::~Machine() {
+  Close();
+  m_Link->machine = nullptr;
+}
+
+// Objects that hold each other are still there when all names are cleared; they end here too.
+void Machine::Close() {
+  const Entry entry(*this);
+  m_IsClosing = true;
+  for (const auto& module : m_Modules) module->Clear();
+  while (m_Instances) {
+    const Ref<Instance> instance(m_Instances);
+    instance->Terminate();
+    instance->ClearFields();
+    // One that something outside holds stays, without its machine.
+    if (m_Instances == instance.get()) Forget(*instance);
+  }
+  m_IsClosing = false;
+}
+
+Module* Machine::FindModule(std::u16string_view name) const noexcept {
+  for (const auto& module : m_Modules)
+    if (EqualsNoCase(module->Name(), name)) return module.get();
+  return nullptr;
+}
+
+Module& Machine::AddModule(std::u16string_view name) {
+  if (FindModule(name)) Raise(ErrorNumber::InvalidCall);
+  return *m_Modules.emplace_back(std::make_unique<Module>(Text(name), &Global()));
+}
+
+void Machine::AddObject(std::u16string_view name, Ref<Object> object, bool addMembers) {
+  if (!object || name.empty()) Raise(ErrorNumber::InvalidCall);
+  const NameId id = names.Add(name);
+  if (m_Objects.Find(id)) Raise(ErrorNumber::InvalidCall);
+  Symbol& symbol = m_Objects.Add(id);
+  symbol.kind = SymbolKind::HostObject;
+  symbol.value = object;
+  if (addMembers) {
+    m_MemberObjects.push_back(std::move(object));
+    m_Library = Module({}, nullptr);
+  }
+  NamesChanged();
+}
+
+void Machine::AddCode(Module& module, std::u16string_view source, bool isExplicit) {
+  CheckRoomForSource();
+  const auto tree = Parse(Text(source));
+  tree->optionExplicit |= isExplicit;
+  const CompiledBlock block = CompileBlock(*tree, *this, module);
+  // The registers stay where names refer to them: a script may execute a text without any for ever.
+  std::unique_ptr<Variant[]> passing;
+  if (!block.hasVariables) passing = std::make_unique<Variant[]>(block.code->registers);
+  Variant* const variables = passing ? passing.get() : module.AddVariables(block.code->registers);
+  Define(block, *this, module, variables);
+  RunOutermost(*block.code, variables);
+}
+
+Variant Machine::Evaluate(Module& module, std::u16string_view expression) {
+  CheckRoomForSource();
+  const auto tree = ParseExpression(Text(expression));
+  CompiledBlock block;
+  const auto outer = MakeRef<Procedure>();
+  outer->module = &module;
+  return Enter(*CompileInScope(*tree, *this, *outer, nullptr, block).code, nullptr, {});
+}
+
+Variant Machine::Call(const Procedure& procedure, Instance* me, Args args) {
+  const Entry entry(*this);
+  return Enter(procedure, me, args);
+}
+
+// Executed code has no variables of its own, so what it executes works on those of the same procedure.
+std::size_t Machine::ScopeDepth() const noexcept {
+  std::size_t depth = m_Depth - 1;
+  while (m_Frames[depth].procedure->isExecuted) --depth;
+  return depth;
+}
+
+Variant Machine::RunInScope(SyntaxTree& tree) {
+  const std::size_t depth = ScopeDepth();
+  const Procedure& outer = *m_Frames[depth].procedure;
+  tree.optionExplicit |= outer.isExplicit;
+  CompiledBlock block;
+  const CompiledInScope compiled = CompileInScope(tree, *this, outer, m_Frames[depth].scope, block);
+  compiled.code->isExecuted = true;
+  Define(block, *this, *outer.module, nullptr);
+  std::vector<Variant> variables;
+  for (const NameId name : compiled.variables) variables.push_back(ReferenceInScope(m_Frames[depth], name));
+  return Enter(*compiled.code, m_Frames[depth].me, variables);
+}
+
+Variant Machine::ReferenceInScope(Frame& frame, NameId name) {
+  for (const auto& [local, r] : frame.procedure->locals)
+    if (local == name) return Variant::ByRef(frame.registers[r]);
+  if (!frame.scope) frame.scope = new ScopeVariables;
+  return Variant::ByRef((*frame.scope)[name]);
+}
+
+void Machine::ExecuteInScope(const Text& source) {
+  const Procedure& outer = *m_Frames[ScopeDepth()].procedure;
+  if (outer.isOutermost) {
+    AddCode(*outer.module, source, outer.isExplicit);
+  } else {
+    CheckRoomForSource();
+    RunInScope(*Parse(source));
+  }
+}
+
+void Machine::ExecuteInModule(const Text& source) {
+  AddCode(*Current().procedure->module, source, Current().procedure->isExplicit);
+}
+
+Variant Machine::EvaluateInScope(const Text& expression) {
+  CheckRoomForSource();
+  return RunInScope(*ParseExpression(expression));
+}
+
+Variant Machine::GetReference(const Text& procedure) {
+  const Symbol* symbol = Current().procedure->module->FindBound(names.Add(procedure));
+  if (!symbol || symbol->kind != SymbolKind::Procedure) Raise(ErrorNumber::InvalidCall);
+  return Variant(MakeRef<FunctionReference>(symbol->procedure, m_Link));
+}
+
+Ref<Instance> Machine::MakeInstance(ClassInfo& cls) {
+  auto instance = MakeRef<Instance>(Ref<ClassInfo>(&cls), m_Link);
+  // One that is made while all end has no end of its own, or there could always be another.
+  instance->m_Terminated = m_IsClosing;
+  instance->m_Next = m_Instances;
+  if (m_Instances) m_Instances->m_Previous = instance.get();
+  m_Instances = instance.get();
+  return instance;
+}
+
+void Machine::Forget(Instance& instance) noexcept {
+  if (instance.m_Previous) instance.m_Previous->m_Next = instance.m_Next;
+  if (instance.m_Next) instance.m_Next->m_Previous = instance.m_Previous;
+  if (m_Instances == &instance) m_Instances = instance.m_Next;
+  instance.m_Previous = instance.m_Next = nullptr;
+}
+
+Machine::Entry::Entry(Machine& machine)
+    : m_Machine(machine),
+      m_Outer(Locale::Current()),
+      m_OuterErr(machine.m_Err->Exchange({})),
+      m_Memory(machine.m_Limits.memoryBytes),
+      m_StopScope(machine) {
+  Locale::SetCurrent(*machine.locale);
+  if (machine.m_Entries++ != 0) return;
+  // The order to stop is for what was running; what begins now is another call.
+  machine.m_Order.store(Order::GoOn, std::memory_order_relaxed);
+  machine.m_StopQuestion.Begin();
+  machine.m_Deadline = machine.m_Timeout < 0
+                           ? kNoDeadline
+                           : std::chrono::steady_clock::now() + std::chrono::milliseconds(machine.m_Timeout);
+}
+
+Machine::Entry::~Entry() {
+  Locale::SetCurrent(m_Outer);
+  m_Machine.m_Err->Exchange(std::move(m_OuterErr));
+  --m_Machine.m_Entries;
+}
+
+}  // namespace cardwright::vbscript

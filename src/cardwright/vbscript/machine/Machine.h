@@ -1,0 +1,217 @@
+#pragma once
+
+#include <atomic>
+#include <chrono>
+#include <memory>
+#include <span>
+#include <vector>
+
+#include "cardwright/automation/MemoryBudget.h"
+#include "cardwright/platform/ScriptEngine.h"
+#include "cardwright/platform/StopQuestion.h"
+#include "cardwright/vbscript/Context.h"
+#include "cardwright/vbscript/Engine.h"
+#include "cardwright/vbscript/StopSignal.h"
+#include "cardwright/vbscript/code/Linkage.h"
+#include "cardwright/vbscript/machine/ErrObject.h"
+#include "cardwright/vbscript/machine/Instance.h"
+#include "cardwright/vbscript/machine/RegisterStack.h"
+#include "cardwright/vbscript/machine/RegisterView.h"
+#include "cardwright/vbscript/machine/ScriptFault.h"
+
+namespace cardwright::vbscript {
+
+class SyntaxTree;
+
+/// A procedure that runs.
+struct Frame {
+  const Procedure* procedure = nullptr;
+  const Instruction* pc = nullptr;  ///< where it goes on when the call that it made returns
+  Variant* registers = nullptr;
+  Variant* top = nullptr;     ///< end of what is in use of the register stack
+  Variant* result = nullptr;  ///< where the caller wants the result; null for nowhere
+  Instance* me = nullptr;
+  ScopeVariables* scope = nullptr;
+  std::uint32_t block = 0;  ///< of the register stack
+  bool resumeNext = false;
+};
+
+/// The virtual machine of one engine: its modules, its objects, its running code.
+class Machine final : public Context, public Linkage, private StopSignal {
+ public:
+  Machine(ScriptHost& host, const Limits& limits);
+  ~Machine();
+  Machine(const Machine&) = delete;
+  Machine& operator=(const Machine&) = delete;
+
+  /// @name Names and modules
+  /// @{
+  Module& Global() noexcept { return *m_Modules.front(); }
+  Module* FindModule(std::u16string_view name) const noexcept;
+  /// Error 5 for a name that is taken.
+  Module& AddModule(std::u16string_view name);
+  /// Error 5 for no object, or a name that is taken.
+  void AddObject(std::u16string_view name, Ref<Object> object, bool addMembers);
+  Symbol* Lookup(Module& module, NameId name) override;
+  /// To be called when any name has changed its meaning.
+  void NamesChanged() noexcept { ++m_Epoch; }
+  /// @}
+
+  /// @name Running code. Errors come as ScriptFault; an interruption as Interrupted.
+  /// @{
+  /// With `isExplicit` names have to be declared even where the source does not say so.
+  void AddCode(Module& module, std::u16string_view source, bool isExplicit = false);
+  Variant Evaluate(Module& module, std::u16string_view expression);
+  Variant Call(const Procedure& procedure, Instance* me, Args args);
+  /// @}
+
+  /// @name Library functions that need the machine. They work in the scope of the procedure that runs.
+  /// @{
+  void ExecuteInScope(const Text& source);
+  void ExecuteInModule(const Text& source);
+  Variant EvaluateInScope(const Text& expression);
+  Variant GetReference(const Text& procedure);
+  /// @}
+
+  Ref<Instance> MakeInstance(ClassInfo& cls);
+  void Forget(Instance& instance) noexcept;
+
+  /// Clears all names and ends the instances of the script's classes, whose Class_Terminate may still call
+  /// the host.
+  void Close();
+  void Interrupt() noexcept { m_Order.store(Order::Stop, std::memory_order_relaxed); }
+  void SetTimeout(std::int32_t milliseconds) noexcept { m_Timeout = milliseconds; }
+  void SetObserver(ScriptObserver* observer) noexcept { m_Observer = observer; }
+  bool IsObserved() const noexcept override { return m_Observer != nullptr; }
+  bool IsRunning() const noexcept override { return m_Depth > 0; }
+  ErrObject& Err() noexcept { return *m_Err; }
+
+  /// Around every call from outside: locale, limits and the clock of the outermost one.
+  class Entry {
+   public:
+    explicit Entry(Machine& machine);
+    ~Entry();
+    Entry(const Entry&) = delete;
+    Entry& operator=(const Entry&) = delete;
+
+   private:
+    Machine& m_Machine;
+    const Locale& m_Outer;
+    ErrObject::State m_OuterErr;
+    MemoryBudget::Limit m_Memory;
+    StopSignal::Scope m_StopScope;
+  };
+
+ private:
+  friend class Instance;
+  /// An error on its way to a procedure that handles it.
+  struct Pending {
+    int number = 0;
+    Text description, source, report;
+    Position position;
+    bool isPlaced = false;
+  };
+
+  // Interpreter.cpp
+  void Run();
+
+  // Frames.cpp
+  Variant Enter(const Procedure& procedure, Instance* me, Args args);
+  void RunOutermost(const Procedure& code, Variant* variables);
+  enum class ArgumentPlace { InRegisters, Elsewhere };
+  Frame& AddFrame(const Procedure& procedure, Instance* me, Variant* result);
+  void PushFrame(const Procedure& procedure, Instance* me, Args arguments, Variant* result,
+                 ArgumentPlace where = ArgumentPlace::InRegisters);
+  void AddFrames();
+  void NoteCurrent() noexcept;
+  RegisterStack::Place EndOfRegisters();
+  enum class Ending { ByReturn, ByError };
+  void PopFrame(Ending ending) noexcept;
+  void CheckNesting(std::size_t stack = 0) const;
+  void CheckRoomForSource() const;
+  std::size_t ScopeDepth() const noexcept;
+  Variant RunInScope(SyntaxTree& tree);
+  static Variant ReferenceInScope(Frame& frame, NameId name);
+
+  // Calls.cpp; those that answer a bool tell whether they left a frame to go on in
+  bool CallSymbol(SymbolUse& use, Variant* arguments, std::size_t count, std::uint16_t flags);
+  bool CallMember(RegisterView view, Instruction i, MemberUse& use);
+  bool CallInstance(MemberUse& use, Instance& object, Variant* arguments, std::size_t count, Variant* result);
+  bool CallRegister(RegisterView view, Instruction i, const Procedure& procedure);
+  bool CallValue(const Variant& callee, Variant* arguments, std::size_t count, Variant* result,
+                 const Text& name);
+  void CallBuiltin(const Builtin& builtin, Variant* arguments, std::size_t count, Variant* result);
+  Variant InvokeHost(Object& object, MemberId member, CallKind kind, Args args);
+  bool NewObject(SymbolUse& use, Variant& target);
+  MemberId FindMember(MemberUse& use, const Object& object) const;
+  const ClassMember& FindMember(MemberUse& use, const Instance& object) const;
+
+  // Assignments.cpp
+  void PutSymbol(SymbolUse& use, Args arguments, std::uint16_t flags);
+  bool PutMember(RegisterView view, Instruction i, MemberUse& use);
+  bool PutInstance(MemberUse& use, Instance& object, Args arguments, bool isSet);
+
+  // ElementPaths.cpp
+  bool GetElementSlowly(RegisterView view, Instruction i, Instruction word, const Procedure& procedure);
+  void SetElementSlowly(RegisterView view, Instruction i, Instruction word, const Procedure& procedure);
+  bool GetSymbolElementSlowly(RegisterView view, Instruction i, SymbolUse& use);
+  void SetSymbolElementSlowly(RegisterView view, Instruction i, SymbolUse& use);
+  bool GetFieldElementSlowly(RegisterView view, Instruction i, const Variant& holder);
+  void SetFieldElementSlowly(RegisterView view, Instruction i, Variant& holder);
+  bool ReferToElement(RegisterView view, Instruction i);
+  bool ReferToSymbolElement(RegisterView view, Instruction i, SymbolUse& use);
+
+  // Variables.cpp
+  void Resolve(SymbolUse& use);
+  Variant& VariableToWrite(SymbolUse& use);
+  bool LoadSymbol(SymbolUse& use, Variant& target);
+  bool ReferToSymbol(SymbolUse& use, Variant& target);
+  void AssignSymbol(SymbolUse& use, Variant& value, bool isSet, bool spend);
+  void AppendToSymbol(RegisterView view, Instruction i, SymbolUse& use);
+  [[noreturn]] void RaiseAbout(int number, NameId name) const;
+  Text LocalName(const Procedure& procedure, std::uint16_t r) const;
+
+  // Faults.cpp
+  Pending Describe(const Error& error) const;
+  void Handle(Pending pending, std::size_t entry);
+  void Unwind(std::size_t depth) noexcept;
+  void NoteTime() noexcept;
+  bool LookForStop() noexcept override;
+  bool IsStopping() const noexcept { return m_Order.load(std::memory_order_relaxed) == Order::Stop; }
+  void CheckStop();
+  void LookAround();
+  void StopIfAsked() {
+    if (IsStopping()) CheckStop();
+  }
+  void Observe(const Procedure& procedure, std::size_t instruction);
+  void ObserveReturn();
+
+  Frame& Current() noexcept { return *m_Current; }
+
+  Limits m_Limits;
+  std::vector<std::unique_ptr<Module>> m_Modules;
+  Module m_Objects;  // of the host, and Err
+  Module m_Library;  // members of such objects and the library, as far as a script asked for them
+  std::vector<Ref<Object>> m_MemberObjects;  // in order of their addition
+  Ref<ErrObject> m_Err;
+  Ref<MachineLink> m_Link;
+
+  RegisterStack m_Registers;
+  std::vector<Frame> m_Frames;
+  std::size_t m_Depth = 0;
+  Frame* m_Current = nullptr;  // the last of those in use
+  std::uint32_t m_Epoch = 1;
+  int m_Entries = 0;
+  enum class Order : std::uint8_t { GoOn, LookAround, Stop };
+  std::atomic<Order> m_Order = Order::GoOn;
+  StopQuestion m_StopQuestion;
+  std::uint32_t m_CallsSinceLook = 0;
+  std::int32_t m_Timeout = -1;
+  static constexpr auto kNoDeadline = std::chrono::steady_clock::time_point::max();
+  std::chrono::steady_clock::time_point m_Deadline = kNoDeadline;
+  ScriptObserver* m_Observer = nullptr;
+  Instance* m_Instances = nullptr;
+  bool m_IsClosing = false;
+};
+
+}  // namespace cardwright::vbscript

@@ -1,0 +1,11 @@
+#pragma once
+
+#include "cardwright/vbscript/builtins/Builtin.h"
+
+namespace cardwright::vbscript {
+
+/// The library functions that work on running code: Eval, Execute, ExecuteGlobal, GetRef. Null for any other
+/// name.
+const Builtin* FindMachineFunction(std::u16string_view name) noexcept;
+
+}  // namespace cardwright::vbscript

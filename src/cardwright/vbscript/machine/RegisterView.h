@@ -1,0 +1,32 @@
+#pragma once
+
+#include "cardwright/automation/Variant.h"
+#include "cardwright/vbscript/code/Instruction.h"
+
+namespace cardwright::vbscript {
+
+/// The registers and constants that one instruction works on.
+struct RegisterView {
+  Variant* R;
+  const Variant* K;
+  std::uint32_t firstTemporary;
+
+  const Variant& B(Instruction i) const noexcept { return (i.n & kConstantB) ? K[i.b] : R[i.b]; }
+  const Variant& C(Instruction i) const noexcept { return (i.n & kConstantC) ? K[i.c] : R[i.c]; }
+  bool IsTemporary(std::uint32_t r) const noexcept { return r >= firstTemporary; }
+  /// A value on the way is used up when it has been used.
+  void Spend(std::uint32_t r) const noexcept {
+    if (IsTemporary(r)) R[r].Reset();
+  }
+  void Clear(std::uint32_t first, std::uint32_t count) const noexcept {
+    for (std::uint32_t k = 0; k < count; ++k) R[first + k].Reset();
+  }
+  void SpendB(Instruction i) const noexcept {
+    if (!(i.n & kConstantB)) Spend(i.b);
+  }
+  void SpendC(Instruction i) const noexcept {
+    if (!(i.n & kConstantC)) Spend(i.c);
+  }
+};
+
+}  // namespace cardwright::vbscript

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <string>
+
+#include "cardwright/vbscript/syntax/SyntaxTree.h"
+
+namespace cardwright::vbscript {
+
+/// An operator as programs write it.
+std::u16string_view SpellingOf(BinaryOperator op);
+
+/// Writes expressions as their author wrote them, but with blanks of its own.
+class ExpressionPrinter {
+ public:
+  explicit ExpressionPrinter(std::u16string_view source) : m_Source(source) {}
+
+  ExpressionPrinter& operator<<(std::u16string_view text) {
+    m_Text += text;
+    return *this;
+  }
+  ExpressionPrinter& operator<<(const Expr& expression) {
+    Write(expression);
+    return *this;
+  }
+
+ protected:
+  /// A name of the tree, in brackets where the source has it so.
+  void WriteName(std::u16string_view name);
+  void WriteList(std::span<Expr* const> expressions);
+
+  std::u16string m_Text;
+
+ private:
+  void Write(const Expr& expression);
+  void WriteBinary(const BinaryExpr& binary);
+  void WriteUnary(const UnaryExpr& unary);
+  void WriteMember(const MemberExpr& member);
+
+  std::u16string_view m_Source;
+};
+
+}  // namespace cardwright::vbscript

@@ -1,0 +1,12 @@
+#pragma once
+
+#include <string_view>
+
+#include "cardwright/vbscript/syntax/Token.h"
+
+namespace cardwright::vbscript {
+
+/// The keyword that a word spells in any case; Identifier where it is none.
+TokenKind KeywordOf(std::u16string_view word) noexcept;
+
+}  // namespace cardwright::vbscript

@@ -1,0 +1,87 @@
+#include <algorithm>
+
+#include "cardwright/vbscript/syntax/StatementParser.h"
+
+namespace cardwright::vbscript {
+
+Stmt* StatementParser::ParseFor() {
+  const Position start = Take().position;
+  if (Accept(TokenKind::Each)) return ParseForEach(start);
+  Expr* variable = ParseForVariable();
+  Expect(TokenKind::Equal, SyntaxErrorNumber::ExpectedEquals);
+  Expr* from = ParseExpression();
+  Expect(TokenKind::To, SyntaxErrorNumber::ExpectedTo);
+  Expr* to = ParseExpression();
+  Expr* step = Accept(TokenKind::Step) ? ParseExpression() : nullptr;
+  ExpectEndOfStatement();
+  const Block body = ParseForBody(*variable);
+  const Position next = Take().position;
+  return Make<ForStmt>(Stmt{StmtKind::For, start}, variable, from, to, step, body, next);
+}
+
+Stmt* StatementParser::ParseForEach(Position start) {
+  Expr* variable = ParseForVariable();
+  Expect(TokenKind::In, SyntaxErrorNumber::ExpectedIn);
+  Expr* collection = ParseExpression();
+  ExpectEndOfStatement();
+  const Block body = ParseForBody(*variable);
+  const Position next = Take().position;
+  return Make<ForEachStmt>(Stmt{StmtKind::ForEach, start}, variable, collection, body, next);
+}
+
+/// A plain variable that no loop around it counts with.
+Expr* StatementParser::ParseForVariable() {
+  if (At(TokenKind::Dot) || At(TokenKind::Me)) Fail(SyntaxErrorNumber::InvalidForVariable);
+  const Token name = TakeName();
+  const bool isPlain = !At(TokenKind::Dot) && !At(TokenKind::LeftParen);
+  const bool isTaken = std::ranges::any_of(
+      m_Around.forVariables, [&](std::u16string_view outer) { return EqualsNoCase(outer, name.text); });
+  if (!isPlain || isTaken) Fail(SyntaxErrorNumber::InvalidForVariable, name.position);
+  return Make<NameExpr>(Expr{ExprKind::Name, name.position}, name.text);
+}
+
+/// The statements up to Next, which is at hand then.
+Block StatementParser::ParseForBody(const Expr& variable) {
+  m_Around.forVariables.push_back(static_cast<const NameExpr&>(variable).name);
+  const Block body = ParseBlock(TokenKind::EndOfSource);
+  m_Around.forVariables.pop_back();
+  if (!At(TokenKind::Next)) FailUnclosed(SyntaxErrorNumber::ExpectedNext);
+  return body;
+}
+
+Stmt* StatementParser::ParseDo() {
+  const Position start = Take().position;
+  LoopKind loop = LoopKind::Endless;
+  Expr* condition = ParseDoCondition(loop, LoopKind::DoWhile, LoopKind::DoUntil);
+  ++m_Around.doLoops;
+  const Block body = ParseBlock(TokenKind::EndOfSource);
+  --m_Around.doLoops;
+  if (!At(TokenKind::Loop)) FailUnclosed(SyntaxErrorNumber::ExpectedLoop);
+  const Position end = Take().position;
+  if (condition == nullptr) condition = ParseDoCondition(loop, LoopKind::LoopWhile, LoopKind::LoopUntil);
+  return Make<LoopStmt>(Stmt{StmtKind::Loop, start}, loop, condition, body, end);
+}
+
+/// What may stand behind Do and Loop; null where nothing does.
+Expr* StatementParser::ParseDoCondition(LoopKind& loop, LoopKind whileKind, LoopKind untilKind) {
+  if (AtEndOfStatement()) return nullptr;
+  if (!At(TokenKind::While) && !At(TokenKind::Until)) Fail(SyntaxErrorNumber::ExpectedWhileUntilOrEnd);
+  loop = At(TokenKind::While) ? whileKind : untilKind;
+  Advance();
+  Expr* condition = ParseExpression();
+  ExpectEndOfStatement();
+  return condition;
+}
+
+Stmt* StatementParser::ParseWhile() {
+  const Position start = Take().position;
+  Expr* condition = ParseExpression();
+  ++m_Around.whileLoops;
+  const Block body = ParseBlockBehindHead(TokenKind::EndOfSource);
+  --m_Around.whileLoops;
+  if (!At(TokenKind::Wend)) FailUnclosed(SyntaxErrorNumber::ExpectedWend);
+  const Position end = Take().position;
+  return Make<LoopStmt>(Stmt{StmtKind::Loop, start}, LoopKind::WhileWend, condition, body, end);
+}
+
+}  // namespace cardwright::vbscript

@@ -1,0 +1,112 @@
+#pragma once
+
+#include <tuple>
+#include <vector>
+
+#include "cardwright/vbscript/syntax/Lexer.h"
+#include "cardwright/vbscript/syntax/SyntaxTree.h"
+
+namespace cardwright::vbscript {
+
+/// What all parts of the parser stand on: the token at hand, the tree that grows, the limit of nesting.
+class ParserCore {
+ public:
+  explicit ParserCore(SyntaxTree& tree);
+
+  /// Place of the token at hand.
+  Position Where() const { return m_Token.position; }
+
+ protected:
+  /// How deep parentheses, signs, calls and blocks go into each other. A level costs each who walks the tree
+  /// a dozen stack frames where operators of all ranks stand in it: half a megabyte, and two where addresses
+  /// are checked.
+  static constexpr int kMaxNesting = 250;
+
+  /// One level of nesting as long as it lives; error 1001 beyond the limit.
+  class Nesting {
+   public:
+    explicit Nesting(ParserCore& parser) : m_Parser(parser) {
+      if (++m_Parser.m_Nesting > kMaxNesting) m_Parser.FailNested();
+    }
+    ~Nesting() { --m_Parser.m_Nesting; }
+    Nesting(const Nesting&) = delete;
+    Nesting& operator=(const Nesting&) = delete;
+
+   private:
+    ParserCore& m_Parser;
+  };
+
+  /// A list of unknown length on its way into the tree. The lists of one type share a stack, so only the list
+  /// opened last may grow; it leaves the stack with its end.
+  template <class T>
+  class List {
+   public:
+    explicit List(ParserCore& parser)
+        : m_Tree(parser.m_Tree),
+          m_Stack(std::get<std::vector<T>>(parser.m_Stacks)),
+          m_Start(m_Stack.size()) {}
+    ~List() { m_Stack.resize(m_Start); }
+    List(const List&) = delete;
+    List& operator=(const List&) = delete;
+
+    void Add(const T& item) { m_Stack.push_back(item); }
+    std::size_t Size() const { return m_Stack.size() - m_Start; }
+    std::span<T> Keep() { return m_Tree.Keep(std::span<const T>(m_Stack).subspan(m_Start)); }
+
+   private:
+    SyntaxTree& m_Tree;
+    std::vector<T>& m_Stack;
+    std::size_t m_Start;
+  };
+
+  const Token& Current() const { return m_Token; }
+  bool At(TokenKind kind) const { return m_Token.kind == kind; }
+  /// The token behind the one at hand.
+  Token PeekNext() const { return Lexer(m_Lexer).Next(); }
+  /// A reader of the tokens behind the one at hand.
+  Lexer LookAhead() const { return m_Lexer; }
+  void Advance() { m_Token = m_Lexer.Next(); }
+  Token Take() {
+    const Token taken = m_Token;
+    Advance();
+    return taken;
+  }
+  bool Accept(TokenKind kind) {
+    if (!At(kind)) return false;
+    Advance();
+    return true;
+  }
+  void Expect(TokenKind kind, SyntaxErrorNumber error) {
+    if (!Accept(kind)) Fail(error);
+  }
+  Token TakeName() {
+    if (!IsName(m_Token.kind)) Fail(SyntaxErrorNumber::ExpectedIdentifier);
+    return Take();
+  }
+  [[noreturn]] void Fail(SyntaxErrorNumber error) const { Fail(error, Where()); }
+  [[noreturn]] static void Fail(SyntaxErrorNumber error, Position where) { throw SyntaxError(error, where); }
+
+  /// `&17` at hand becomes the operator `&`, as it reads behind an operand.
+  void SplitAmpersand();
+
+  template <class T, class... A>
+  T* Make(A&&... fields) {
+    return m_Tree.Make<T>(std::forward<A>(fields)...);
+  }
+  SyntaxTree& Tree() { return m_Tree; }
+
+ private:
+  [[noreturn]] void FailNested();
+
+  SyntaxTree& m_Tree;
+  Lexer m_Lexer;
+  Token m_Token;
+  int m_Nesting = 0;
+  std::tuple<std::vector<Expr*>, std::vector<Stmt*>, std::vector<IfBranch>, std::vector<SelectCase>,
+             std::vector<VariableDecl>, std::vector<ConstDecl>, std::vector<ReDimTarget>,
+             std::vector<Parameter>, std::vector<std::int32_t>, std::vector<const DimStmt*>,
+             std::vector<const ProcedureDecl*>>
+      m_Stacks;
+};
+
+}  // namespace cardwright::vbscript
