@@ -51,10 +51,10 @@ TEST(FindProcedure, GivesThePositionOfTheHeader) {
   }
 }
 
-const Text kNames[] = {u"Form", u"txtDepth"};
+const Text kUserNames[] = {u"Form", u"txtDepth"};
 
 TEST(ComposeScript, DeclaresAndBindsTheControlsInVBScript) {
-  const ComposedScript composed = ComposeScript(u"x = 1\r\n", u"VBSCRIPT", kNames);
+  const ComposedScript composed = ComposeScript(u"x = 1\r\n", u"VBSCRIPT", kUserNames);
   EXPECT_EQ(composed.code, u"Dim Form\r\nDim txtDepth\r\nx = 1\r\n");
   EXPECT_EQ(composed.mainCode,
             u"\r\nSub Main()\r\n    \r\n    Set Form = Controls(\"Form\")\r\n"
@@ -63,7 +63,7 @@ TEST(ComposeScript, DeclaresAndBindsTheControlsInVBScript) {
 }
 
 TEST(ComposeScript, DeclaresAndBindsTheControlsInJScript) {
-  const ComposedScript composed = ComposeScript(u"x = 1;", u"JScript", kNames);
+  const ComposedScript composed = ComposeScript(u"x = 1;", u"JScript", kUserNames);
   EXPECT_EQ(composed.code, u"var Form;\r\nvar txtDepth;\r\nx = 1;");
   EXPECT_EQ(composed.mainCode,
             u"\r\nfunction Main(){\r\n    Form = Controls(\"Form\");\r\n    txtDepth = "
@@ -72,17 +72,17 @@ TEST(ComposeScript, DeclaresAndBindsTheControlsInJScript) {
 }
 
 TEST(ComposeScript, KeepsOptionExplicitFirst) {
-  EXPECT_EQ(ComposeScript(u"OPTION Explicit\r\nx = 1", u"VBScript", kNames).code,
+  EXPECT_EQ(ComposeScript(u"OPTION Explicit\r\nx = 1", u"VBScript", kUserNames).code,
             u"OPTION Explicit\r\nDim Form\r\nDim txtDepth\r\nx = 1");
   EXPECT_EQ(ComposeScript(u"option explicit", u"VBScript", {}).code, u"option explicit");
-  EXPECT_EQ(ComposeScript(u"option explicit\nx", u"VBScript", kNames).code,
+  EXPECT_EQ(ComposeScript(u"option explicit\nx", u"VBScript", kUserNames).code,
             u"Dim Form\r\nDim txtDepth\r\noption explicit\nx");
-  EXPECT_EQ(ComposeScript(u"x\r\noption explicit\r\n", u"VBScript", kNames).code,
+  EXPECT_EQ(ComposeScript(u"x\r\noption explicit\r\n", u"VBScript", kUserNames).code,
             u"Dim Form\r\nDim txtDepth\r\nx\r\noption explicit\r\n");
 }
 
 TEST(ComposeScript, AddsNothingInAnotherLanguage) {
-  const ComposedScript composed = ComposeScript(u"option explicit\r\nx", u"Other", kNames);
+  const ComposedScript composed = ComposeScript(u"option explicit\r\nx", u"Other", kUserNames);
   EXPECT_EQ(composed.code, u"option explicit\r\nx");
   EXPECT_EQ(composed.mainCode, u"");
   EXPECT_EQ(composed.lineOffset, 0);

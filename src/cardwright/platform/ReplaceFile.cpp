@@ -12,7 +12,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr mode_t kAnyWrite = S_IWUSR | S_IWGRP | S_IWOTH;
+constexpr mode_t kWriteBits = S_IWUSR | S_IWGRP | S_IWOTH;
 constexpr mode_t kPermissions = 07777;
 constexpr mode_t kPrivate = S_IRUSR | S_IWUSR;
 constexpr mode_t kNewFile = 0666;  // less what the process masks out
@@ -99,7 +99,7 @@ bool ReplaceFile(const fs::path& path, std::string_view bytes, Durability durabi
   const bool exists = ::stat(target.c_str(), &old) == 0;
   if (exists) {
     // A folder that may be written to would let us replace a file that may not.
-    const bool writable = (old.st_mode & kAnyWrite) != 0 && ::access(target.c_str(), W_OK) == 0;
+    const bool writable = (old.st_mode & kWriteBits) != 0 && ::access(target.c_str(), W_OK) == 0;
     if (!S_ISREG(old.st_mode) || !writable) return false;
   }
   Sibling sibling(target, exists ? kPrivate : kNewFile);

@@ -40,7 +40,7 @@ constexpr Member kConstants[] = {
     Property<&Constant<InputTypeEnum::itFloat>>(u"itFloat"),
 };
 
-constexpr auto kMembers = [] {
+constexpr auto kFormControlsMembers = [] {
   std::array<Member, std::size(kOperations) + std::size(kConstants)> all;
   std::ranges::copy(kConstants, std::ranges::copy(kOperations, all.begin()).out);
   return all;
@@ -51,7 +51,7 @@ std::uint8_t ColorPart(std::int32_t part) { return static_cast<std::uint8_t>(std
 }  // namespace
 
 const MemberTable& FormControls::Members() const {
-  static const MemberTable table(kMembers);
+  static const MemberTable table(kFormControlsMembers);
   return table;
 }
 

@@ -19,7 +19,7 @@ bool ProjectSave(FormInput& form, const Text& fileName, std::optional<bool> isTe
   return form.ProjectSave(fileName, isTemporary.value_or(false));
 }
 
-constexpr Member kMembers[] = {
+constexpr Member kFormInputMembers[] = {
     Property<&FormInput::ControlCollection>(u"Controls"),
     Property<&FormInput::DebugMode, &FormInput::SetDebugMode>(u"DebugMode"),
     Property<&FormInput::NewFeature, &FormInput::SetNewFeature>(u"NewFeature"),
@@ -38,7 +38,7 @@ constexpr Member kMembers[] = {
 }  // namespace
 
 const MemberTable& FormInput::Members() const {
-  static const MemberTable table(kMembers);
+  static const MemberTable table(kFormInputMembers);
   return table;
 }
 

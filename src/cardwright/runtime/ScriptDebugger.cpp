@@ -3,7 +3,7 @@
 namespace cardwright {
 namespace {
 
-constexpr Member kMembers[] = {
+constexpr Member kScriptDebuggerMembers[] = {
     Method<&ScriptDebugger::Show>(u"Show"),
     Method<&ScriptDebugger::WriteOut>(u"WriteOut"),
 };
@@ -11,7 +11,7 @@ constexpr Member kMembers[] = {
 }  // namespace
 
 const MemberTable& ScriptDebugger::Members() const {
-  static const MemberTable table(kMembers);
+  static const MemberTable table(kScriptDebuggerMembers);
   return table;
 }
 

@@ -32,7 +32,7 @@ constexpr cardwright::Member SharedObject(std::u16string_view name) {
   return Property<&Get<Member, Ref<Object>>, &Let<Member, Ref<Object>>, &Let<Member, Ref<Object>>>(name);
 }
 
-constexpr cardwright::Member kMembers[] = {
+constexpr cardwright::Member kVellumMembers[] = {
     Property<&Vellum::TarvoHandle, &Vellum::SetTarvoHandle>(u"TarvoHandle"),
     Method<&Vellum::AttachOVeditor>(u"AttachOVeditor"),
     Method<&Vellum::GetOrvPath>(u"GetOrvPath"),
@@ -63,7 +63,7 @@ bool HasDefaultColors() { return Module().defaultBackColor != Module().defaultFo
 }  // namespace
 
 const MemberTable& Vellum::Members() const {
-  static const MemberTable table(kMembers);
+  static const MemberTable table(kVellumMembers);
   return table;
 }
 

@@ -5,7 +5,7 @@
 namespace cardwright {
 namespace {
 
-constexpr Member kMembers[] = {
+constexpr Member kHostExecutorMembers[] = {
     Property<&HostExecutor::Handle, &HostExecutor::SetHandle>(u"TarvoHandle"),
     Method<&HostExecutor::ORVExecute>(u"ORVExecute"),
     Method<&HostExecutor::ORVRequest>(u"ORVRequest"),
@@ -36,7 +36,7 @@ void HostExecutor::WriteDebugLine(std::u16string_view command) {
 }
 
 const MemberTable& HostExecutor::Members() const {
-  static const MemberTable table(kMembers);
+  static const MemberTable table(kHostExecutorMembers);
   return table;
 }
 

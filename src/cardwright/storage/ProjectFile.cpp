@@ -15,7 +15,7 @@ namespace cardwright {
 namespace {
 
 constexpr std::string_view kScriptMarker = "[SCRIPT]\r\n";
-constexpr std::u16string_view kLineEnd = u"\r\n";
+constexpr std::string_view kTailLineEnd = "\r\n";
 constexpr std::u16string_view kForm = u"FORM";
 constexpr std::u16string_view kFormImage = u"FORM_IMAGE";
 constexpr std::u16string_view kShowMenu = u"ShowMenu";
@@ -64,9 +64,9 @@ void WriteScriptSection(std::u16string_view fileName, std::u16string_view langua
   const CodePage& page = CodePage::Current();
   std::string tail(kScriptMarker);
   tail += page.Encode(language);
-  tail += page.Encode(kLineEnd);
+  tail += kTailLineEnd;
   tail += page.Encode(content);
-  tail += page.Encode(kLineEnd);
+  tail += kTailLineEnd;
   store->Change([&](IniFile& file) { return file.Append(tail); });
   batch.Commit();
 }
