@@ -27,7 +27,7 @@
 namespace cardwright::workbench {
 namespace {
 
-const Recent kRecent(QStringLiteral("RecentData"));
+const Recent kRecentSources(QStringLiteral("RecentData"));
 
 /// A file or folder with its whole path; a connection text as it is.
 QString Complete(const QString& source) {
@@ -51,14 +51,14 @@ bool Workbench::OpenData(const QString& source) {
     };
     m_Features->Open(source);
   } catch (const Error& error) {
-    if (QFileInfo(source).isAbsolute() && !QFileInfo::exists(source)) kRecent.Remove(source);
+    if (QFileInfo(source).isAbsolute() && !QFileInfo::exists(source)) kRecentSources.Remove(source);
     QMessageBox::warning(this, tr("Open a data source"), Shown(qt::ToQString(error.Description())));
     return false;
   }
   m_Features->ShowTheme(qt::ToQString(m_Document->Designer().GetThemeName()));
   m_Panes[QStringLiteral("paneData")]->show();
   m_Panes[QStringLiteral("paneData")]->raise();
-  if (Shown(source) == source) kRecent.Add(Complete(source));
+  if (Shown(source) == source) kRecentSources.Add(Complete(source));
   Tell(tr("Opened %1").arg(Shown(source)));
   return true;
 }
@@ -89,7 +89,7 @@ void Workbench::ConnectData() {
 }
 
 void Workbench::FillRecentDataMenu(QMenu& menu) {
-  kRecent.Fill(menu, [this](const QString& source) { OpenData(source); });
+  kRecentSources.Fill(menu, [this](const QString& source) { OpenData(source); });
 }
 
 void Workbench::FillThemeMenu(QMenu& menu) {

@@ -16,7 +16,7 @@
 namespace cardwright::workbench {
 namespace {
 
-const Recent kRecent(QStringLiteral("Recent"));
+const Recent kRecentProjects(QStringLiteral("Recent"));
 const QString kSuffix = QStringLiteral(".cwf");
 
 QString ProjectFilter() { return Workbench::tr("Form projects (*.cwf);;All files (*)"); }
@@ -28,7 +28,7 @@ bool Workbench::OpenProject(const QString& path) {
     if (Offer(work)) return true;
   QString failure = m_Document->Open(path);
   if (!failure.isEmpty()) {
-    if (!QFileInfo::exists(path) && kRecent.Remove(QFileInfo(path).absoluteFilePath()))
+    if (!QFileInfo::exists(path) && kRecentProjects.Remove(QFileInfo(path).absoluteFilePath()))
       failure += QLatin1Char('\n') + tr("It is no longer among the recent ones.");
     QMessageBox::warning(this, tr("Open"), failure);
     return false;
@@ -38,7 +38,7 @@ bool Workbench::OpenProject(const QString& path) {
 }
 
 void Workbench::TellOpened() {
-  if (QFileInfo::exists(m_Document->Path())) kRecent.Add(m_Document->Path());
+  if (QFileInfo::exists(m_Document->Path())) kRecentProjects.Add(m_Document->Path());
   if (!m_Document->Remark().isEmpty()) QMessageBox::information(this, tr("Open"), m_Document->Remark());
 }
 
@@ -76,7 +76,7 @@ bool Workbench::SaveTo(const QString& path) {
     QMessageBox::warning(this, tr("Save"), failure);
     return false;
   }
-  kRecent.Add(m_Document->Path());
+  kRecentProjects.Add(m_Document->Path());
   const Text& script = m_Document->GetScript().content;
   const auto lost = CodePage::Current().FirstLost(script);
   if (lost) {
@@ -107,7 +107,7 @@ bool Workbench::MayLeave() {
 }
 
 void Workbench::FillRecentMenu(QMenu& menu) {
-  kRecent.Fill(menu, [this](const QString& path) {
+  kRecentProjects.Fill(menu, [this](const QString& path) {
     if (MayLeave()) OpenProject(path);
   });
 }

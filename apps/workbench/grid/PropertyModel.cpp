@@ -7,8 +7,8 @@
 #include "cardwright/automation/Conversions.h"
 #include "cardwright/automation/Errors.h"
 #include "cardwright/qt/QtText.h"
-#include "workbench/grid/Objections.h"
 #include "workbench/grid/PropertyText.h"
+#include "workbench/grid/Validation.h"
 
 namespace cardwright::workbench {
 namespace {
@@ -64,7 +64,7 @@ bool PropertyModel::Assign(int row, const Variant& value) {
 bool PropertyModel::Enter(int row, const QString& text) {
   const Ref<IControl> control = m_Control;
   const TypedValue typed = ValueOfText(TypeOf(row), text);
-  const QString reason = typed.objection.isEmpty() ? Try(row, typed.value) : typed.objection;
+  const QString reason = typed.fault.isEmpty() ? Try(row, typed.value) : typed.fault;
   if (reason.isEmpty()) return true;
   if (m_Control == control) {
     m_Rows[static_cast<std::size_t>(row)].refusal = Refusal{text, reason};
@@ -86,8 +86,8 @@ QString PropertyModel::Try(int row, const Variant& value) {
   const Ref<IControl> control = m_Control;
   const PropertyTypeEnum type = TypeOf(row);
   try {
-    const QString objection = ObjectionTo(*control, NameOf(row), type, value);
-    if (!objection.isEmpty()) return objection;
+    const QString fault = CheckValue(*control, NameOf(row), type, value);
+    if (!fault.isEmpty()) return fault;
     control->SetPropertyValue(IndexOf(row), value);
   } catch (const Error& error) {
     return tr("%1 was not changed: %2").arg(NameOf(row), qt::ToQString(error.Description()));
@@ -100,7 +100,7 @@ QString PropertyModel::Try(int row, const Variant& value) {
     Changed(row);
   }
   Q_EMIT Assigned();
-  const QString warning = dropped.isEmpty() ? WarningOf(type, value) : QString();
+  const QString warning = dropped.isEmpty() ? WarningAbout(type, value) : QString();
   if (!warning.isEmpty()) Q_EMIT Refused(warning);
   return dropped;
 }

@@ -14,7 +14,9 @@
 namespace cardwright::workbench {
 namespace {
 
-QString Tr(const char* text) { return QCoreApplication::translate("PropertyText", text); }
+struct Wording {
+  Q_DECLARE_TR_FUNCTIONS(PropertyText)
+};
 
 template <class T>
 const T* As(const Variant& value) {
@@ -23,10 +25,10 @@ const T* As(const Variant& value) {
 
 QString FontText(const FontValues& font) {
   QString text = QStringLiteral("%1, %2 pt").arg(qt::ToQString(font.name)).arg(font.size);
-  if (font.bold) text += Tr(", bold");
-  if (font.italic) text += Tr(", italic");
-  if (font.underline) text += Tr(", underlined");
-  if (font.strikethrough) text += Tr(", struck out");
+  if (font.bold) text += Wording::tr(", bold");
+  if (font.italic) text += Wording::tr(", italic");
+  if (font.underline) text += Wording::tr(", underlined");
+  if (font.strikethrough) text += Wording::tr(", struck out");
   return text;
 }
 
@@ -40,30 +42,30 @@ TypedValue NumberOf(const QString& text) {
   bool isNumber = false;
   const double number = QString(text).replace(u',', u'.').toDouble(&isNumber);
   if (isNumber && std::isfinite(number)) return {Variant(number), {}};
-  return {{}, Tr("“%1” is no number.").arg(text)};
+  return {{}, Wording::tr("“%1” is no number.").arg(text)};
 }
 
 TypedValue ColorValueOf(const QString& text) {
   if (const auto color = ColorOf(text)) return {Variant(*color), {}};
-  return {{}, Tr("“%1” is no colour. Write a name from the list, #RRGGBB, or a number.").arg(text)};
+  return {{}, Wording::tr("“%1” is no colour. Write a name from the list, #RRGGBB, or a number.").arg(text)};
 }
 
 TypedValue FeatureTypeOf(const QString& text) {
   for (const FeatureTypeEnum type : kFeatureTypes)
     if (text == FeatureTypeName(type)) return {Variant(static_cast<std::int32_t>(type)), {}};
-  return {{}, Tr("“%1” is no type of features.").arg(text)};
+  return {{}, Wording::tr("“%1” is no type of features.").arg(text)};
 }
 
 }  // namespace
 
 QString FeatureTypeName(FeatureTypeEnum type) {
   switch (type) {
-    case FeatureTypeEnum::ftPoint: return Tr("Points");
-    case FeatureTypeEnum::ftArc: return Tr("Lines");
-    case FeatureTypeEnum::ftPolygon: return Tr("Areas");
+    case FeatureTypeEnum::ftPoint: return Wording::tr("Points");
+    case FeatureTypeEnum::ftArc: return Wording::tr("Lines");
+    case FeatureTypeEnum::ftPolygon: return Wording::tr("Areas");
     case FeatureTypeEnum::ftNone: break;
   }
-  return Tr("(none)");
+  return Wording::tr("(none)");
 }
 
 QString TextOf(PropertyTypeEnum type, const Variant& value) {
@@ -77,14 +79,15 @@ QString TextOf(PropertyTypeEnum type, const Variant& value) {
     case ptCollection: {
       const auto* items = As<CItems>(value);
       const int count = items ? items->Count() : 0;
-      return count == 1 ? Tr("1 item") : Tr("%1 items").arg(count);
+      return count == 1 ? Wording::tr("1 item") : Wording::tr("%1 items").arg(count);
     }
     case ptFeatureType:
       return AttemptOr(QString(),
                        [&] { return FeatureTypeName(static_cast<FeatureTypeEnum>(ToLong(value))); });
     case ptImage: {
       const auto* picture = As<Picture>(value);
-      return picture ? Tr("%1 × %2 pixels").arg(picture->Width()).arg(picture->Height()) : Tr("(none)");
+      return picture ? Wording::tr("%1 × %2 pixels").arg(picture->Width()).arg(picture->Height())
+                     : Wording::tr("(none)");
     }
     case ptBoolean:
       return AttemptOr(false, [&] { return ToBoolean(value); }) ? QStringLiteral("True")

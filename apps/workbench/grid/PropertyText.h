@@ -12,7 +12,7 @@ QString TextOf(PropertyTypeEnum type, const Variant& value);
 /// What a typed text stands for, or why it stands for nothing.
 struct TypedValue {
   Variant value;
-  QString objection;  ///< "" where there is a value
+  QString fault;  ///< "" where there is a value
 };
 /// The value of a text that a person has typed or chosen for a row of that type, which is what TextOf shows
 /// or what means the same.

@@ -191,7 +191,7 @@ struct KindDrawing {
   IconEngine::Draw draw;
 };
 
-constexpr KindDrawing kKinds[] = {
+constexpr KindDrawing kKindDrawings[] = {
     {ControlTypeEnum::ctCheckBox,
      [](const IconInk& ink) {
        Field(ink, 2.5, 2.5, 11, 11);
@@ -310,7 +310,7 @@ QIcon IconOf(Sign sign) {
 
 QIcon IconOf(ControlTypeEnum kind) {
   if (kind == ControlTypeEnum::ctDefault) return IconOf(Sign::Pointer);
-  for (const KindDrawing& known : kKinds)
+  for (const KindDrawing& known : kKindDrawings)
     if (known.kind == kind) return QIcon(new IconEngine(known.draw));
   return {};
 }

@@ -1,4 +1,4 @@
-#include "workbench/grid/Objections.h"
+#include "workbench/grid/Validation.h"
 
 #include <QCoreApplication>
 #include <QWidget>
@@ -15,7 +15,9 @@
 namespace cardwright::workbench {
 namespace {
 
-QString Tr(const char* text) { return QCoreApplication::translate("Objections", text); }
+struct Messages {
+  Q_DECLARE_TR_FUNCTIONS(Validation)
+};
 
 FormOwner* OwnerOf(const IControl& control) { return dynamic_cast<FormOwner*>(control.ParentForm().get()); }
 
@@ -23,43 +25,44 @@ bool HasLineBreak(const QString& text) { return text.contains(u'\n') || text.con
 
 /// The text as it comes back from a form project, which trims it and has question marks for what its page
 /// lacks.
-Text AsInTheFile(std::u16string_view text) {
+Text AsSaved(std::u16string_view text) {
   const CodePage& page = CodePage::Current();
   return Text(Trim(page.Decode(page.Encode(text)).View()));
 }
 
-QString ObjectionToName(const IControl& control, const QString& name) {
-  if (Trim(qt::ViewOf(name)).empty()) return Tr("A control needs a name.");
-  if (HasLineBreak(name)) return Tr("A name cannot hold a line break.");
+QString CheckName(const IControl& control, const QString& name) {
+  if (Trim(qt::ViewOf(name)).empty()) return Messages::tr("A control needs a name.");
+  if (HasLineBreak(name)) return Messages::tr("A name cannot hold a line break.");
   FormOwner* owner = OwnerOf(control);
   if (!owner) return {};
-  const Text wanted = AsInTheFile(qt::ViewOf(name));
+  const Text wanted = AsSaved(qt::ViewOf(name));
   for (const Ref<IControl>& other : ControlsOf(owner->Controls())) {
     const Text taken = other->UserName();
-    if (other.get() == &control || !EqualsNoCase(AsInTheFile(taken), wanted)) continue;
+    if (other.get() == &control || !EqualsNoCase(AsSaved(taken), wanted)) continue;
     const QString reason =
         EqualsNoCase(taken, qt::ViewOf(name))
-            ? Tr("Another control is called “%1” already; capital and small letters count as the same.")
-            : Tr("In the file this name could not be told from “%1”, the name of another control.");
+            ? Messages::tr(
+                  "Another control is called “%1” already; capital and small letters count as the same.")
+            : Messages::tr("In the file this name could not be told from “%1”, the name of another control.");
     return reason.arg(qt::ToQString(taken));
   }
   return {};
 }
 
 // The contract's four members of geometry are rows, too; no other number is held to what a window can be.
-QString ObjectionToGeometry(const IControl& control, const QString& row, double value) {
+QString CheckGeometry(const IControl& control, const QString& row, double value) {
   const bool isSize = row == u"Width" || row == u"Height";
   if (!isSize && row != u"Left" && row != u"Top") return {};
-  if (isSize && value < 0) return Tr("%1 cannot be negative.").arg(row);
+  if (isSize && value < 0) return Messages::tr("%1 cannot be negative.").arg(row);
   FormOwner* owner = OwnerOf(control);
   const Surface* surface = owner ? owner->GetSurface() : nullptr;
   const bool countsTwips = surface && surface->Scale() == ScaleMode::Twips;
   const double limit = countsTwips ? QWIDGETSIZE_MAX * double{kTwipsPerPixel} : QWIDGETSIZE_MAX;
   if (std::abs(value) <= limit) return {};
-  QString most = Tr("%L1 pixels").arg(QWIDGETSIZE_MAX);
-  if (countsTwips) most = Tr("%L1 twips (%2)").arg(limit, 0, 'f', 0).arg(most);
-  return isSize ? Tr("%1 can be %2 at most: no form is larger.").arg(row, most)
-                : Tr("%1 can be %2 at most, to either side: no form is larger.").arg(row, most);
+  QString most = Messages::tr("%L1 pixels").arg(QWIDGETSIZE_MAX);
+  if (countsTwips) most = Messages::tr("%L1 twips (%2)").arg(limit, 0, 'f', 0).arg(most);
+  return isSize ? Messages::tr("%1 can be %2 at most: no form is larger.").arg(row, most)
+                : Messages::tr("%1 can be %2 at most, to either side: no form is larger.").arg(row, most);
 }
 
 std::vector<Text> TextsOf(const Variant& value) {
@@ -80,28 +83,27 @@ bool IsIdentifier(const QString& name) {
 
 }  // namespace
 
-QString ObjectionTo(const IControl& control, const QString& row, PropertyTypeEnum type,
-                    const Variant& value) {
+QString CheckValue(const IControl& control, const QString& row, PropertyTypeEnum type, const Variant& value) {
   switch (type) {
-    case PropertyTypeEnum::ptName: return ObjectionToName(control, qt::ToQString(ToText(value)));
+    case PropertyTypeEnum::ptName: return CheckName(control, qt::ToQString(ToText(value)));
     case PropertyTypeEnum::ptInteger:
-    case PropertyTypeEnum::ptFloat: return ObjectionToGeometry(control, row, ToDouble(value));
+    case PropertyTypeEnum::ptFloat: return CheckGeometry(control, row, ToDouble(value));
     default: return {};
   }
 }
 
-QString WarningOf(PropertyTypeEnum type, const Variant& value) {
+QString WarningAbout(PropertyTypeEnum type, const Variant& value) {
   for (const Text& each : TextsOf(value)) {
     const QString text = qt::ToQString(each);
     if (const auto lost = CodePage::Current().FirstLost(each)) {
       const auto at = static_cast<qsizetype>(*lost);
-      return Tr("The code page of form projects has no “%1”: the file will hold “?” in its place.")
+      return Messages::tr("The code page of form projects has no “%1”: the file will hold “?” in its place.")
           .arg(text.mid(at, text[at].isHighSurrogate() ? 2 : 1));
     }
-    if (HasLineBreak(text)) return Tr("The file will hold the first line only.");
+    if (HasLineBreak(text)) return Messages::tr("The file will hold the first line only.");
   }
   if (type == PropertyTypeEnum::ptName && !IsIdentifier(qt::ToQString(ToText(value))))
-    return Tr(
+    return Messages::tr(
         "Scripts cannot use this name: it should begin with a letter and hold letters, "
         "digits and “_” only.");
   return {};
