@@ -13,7 +13,7 @@
 #include "cardwright/qt/FormDesigner.h"
 #include "cardwright/qt/FormInput.h"
 #include "cardwright/qt/Library.h"
-#include "cardwright/qt/QtDesignSurface.h"
+#include "cardwright/qt/surface/QtDesignSurface.h"
 #include "cardwright/robot/PlatformInput.h"
 
 namespace {

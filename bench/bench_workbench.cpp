@@ -6,7 +6,7 @@
 
 #include "FormFiles.h"
 #include "Measure.h"
-#include "cardwright/qt/QtText.h"
+#include "cardwright/qt/values/QtText.h"
 #include "workbench/Workbench.h"
 #include "workbench/grid/PropertyGrid.h"
 #include "workbench/panes/ControlList.h"

@@ -27,8 +27,8 @@
 #include "Offscreen.h"
 #include "cardwright/platform/Files.h"
 #include "cardwright/qt/FormDesigner.h"
-#include "cardwright/qt/QtText.h"
-#include "cardwright/qt/WidgetCore.h"
+#include "cardwright/qt/values/QtText.h"
+#include "cardwright/qt/widgets/WidgetCore.h"
 
 namespace {
 

@@ -8,7 +8,7 @@
 #include "Offscreen.h"
 #include "cardwright/platform/Files.h"
 #include "cardwright/qt/FormInput.h"
-#include "cardwright/qt/QtText.h"
+#include "cardwright/qt/values/QtText.h"
 
 namespace {
 

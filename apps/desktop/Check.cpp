@@ -1,6 +1,6 @@
 #include <QFileInfo>
 
-#include "cardwright/qt/QtText.h"
+#include "cardwright/qt/values/QtText.h"
 #include "desktop/Commands.h"
 #include "desktop/Console.h"
 #include "desktop/Options.h"

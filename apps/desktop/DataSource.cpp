@@ -1,7 +1,7 @@
 #include "desktop/DataSource.h"
 
 #include "cardwright/automation/Conversions.h"
-#include "cardwright/qt/QtText.h"
+#include "cardwright/qt/values/QtText.h"
 #include "cardwright/shared/ModuleState.h"
 
 namespace cardwright::desktop {

@@ -2,7 +2,7 @@
 
 #include <QScrollBar>
 
-#include "cardwright/qt/QtText.h"
+#include "cardwright/qt/values/QtText.h"
 
 namespace cardwright::desktop {
 namespace {

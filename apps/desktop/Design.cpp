@@ -1,4 +1,4 @@
-#include "cardwright/qt/TerminalBreak.h"
+#include "cardwright/qt/desktop/TerminalBreak.h"
 #include "desktop/Commands.h"
 #include "desktop/Console.h"
 #include "desktop/Options.h"

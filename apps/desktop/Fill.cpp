@@ -1,8 +1,8 @@
 #include <QFileInfo>
 
 #include "cardwright/automation/Errors.h"
-#include "cardwright/qt/QtText.h"
-#include "cardwright/qt/TerminalBreak.h"
+#include "cardwright/qt/desktop/TerminalBreak.h"
+#include "cardwright/qt/values/QtText.h"
 #include "cardwright/runtime/AttributeBinding.h"
 #include "desktop/Commands.h"
 #include "desktop/Console.h"

@@ -6,7 +6,7 @@
 #include <QStyle>
 #include <QVBoxLayout>
 
-#include "cardwright/qt/QtText.h"
+#include "cardwright/qt/values/QtText.h"
 #include "cardwright/runtime/AttributeBinding.h"
 #include "cardwright/shared/ModuleState.h"
 

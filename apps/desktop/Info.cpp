@@ -8,7 +8,7 @@
 #include "cardwright/model/CItems.h"
 #include "cardwright/model/Control.h"
 #include "cardwright/qt/FormDesigner.h"
-#include "cardwright/qt/QtText.h"
+#include "cardwright/qt/values/QtText.h"
 #include "cardwright/shared/ModuleState.h"
 #include "desktop/Commands.h"
 #include "desktop/Console.h"

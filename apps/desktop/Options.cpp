@@ -1,7 +1,7 @@
 #include "desktop/Options.h"
 
 #include "cardwright/automation/Locale.h"
-#include "cardwright/qt/QtText.h"
+#include "cardwright/qt/values/QtText.h"
 #include "cardwright/storage/CodePage.h"
 #include "desktop/Console.h"
 

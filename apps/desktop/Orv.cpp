@@ -5,7 +5,7 @@
 
 #include "cardwright/automation/Errors.h"
 #include "cardwright/orv/EmbeddedHost.h"
-#include "cardwright/qt/QtText.h"
+#include "cardwright/qt/values/QtText.h"
 #include "desktop/Commands.h"
 #include "desktop/Console.h"
 #include "desktop/Options.h"

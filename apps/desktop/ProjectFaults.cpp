@@ -12,7 +12,7 @@
 #include "cardwright/model/Enums.h"
 #include "cardwright/model/RegKey.h"
 #include "cardwright/platform/Files.h"
-#include "cardwright/qt/QtText.h"
+#include "cardwright/qt/values/QtText.h"
 #include "cardwright/storage/CIni.h"
 #include "cardwright/storage/CodePage.h"
 #include "desktop/ScriptFaults.h"

@@ -4,7 +4,7 @@
 
 #include "cardwright/qt/FormDesigner.h"
 #include "cardwright/qt/FormInput.h"
-#include "cardwright/qt/QtHostWindow.h"
+#include "cardwright/qt/surface/QtHostWindow.h"
 #include "desktop/Commands.h"
 #include "desktop/Console.h"
 #include "desktop/Options.h"

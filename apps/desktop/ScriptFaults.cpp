@@ -3,7 +3,7 @@
 #include <QRegularExpression>
 
 #include "cardwright/model/ControlClasses.h"
-#include "cardwright/qt/QtText.h"
+#include "cardwright/qt/values/QtText.h"
 #include "cardwright/shared/ScriptText.h"
 #include "cardwright/storage/ProjectFile.h"
 #include "desktop/ScriptProcedures.h"

@@ -13,8 +13,8 @@
 #include <QStatusBar>
 #include <QToolBar>
 
-#include "cardwright/qt/QtText.h"
-#include "cardwright/qt/WidgetCore.h"
+#include "cardwright/qt/values/QtText.h"
+#include "cardwright/qt/widgets/WidgetCore.h"
 #include "cardwright/runtime/HostLists.h"
 #include "workbench/Preferences.h"
 #include "workbench/grid/PropertyGrid.h"

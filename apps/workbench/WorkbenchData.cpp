@@ -12,8 +12,8 @@
 #include <QScreen>
 
 #include "cardwright/automation/Errors.h"
-#include "cardwright/qt/KindSigns.h"
-#include "cardwright/qt/QtText.h"
+#include "cardwright/qt/values/FeatureTypeIcon.h"
+#include "cardwright/qt/values/QtText.h"
 #include "cardwright/runtime/AttributeBinding.h"
 #include "cardwright/runtime/HostLists.h"
 #include "cardwright/shared/ModuleState.h"
@@ -98,8 +98,8 @@ void Workbench::FillThemeMenu(QMenu& menu) {
   auto* group = new QActionGroup(&menu);
   for (const ListedTheme& theme : ListThemes(m_Data.Handle())) {
     const QString name = qt::ToQString(theme.name);
-    const QIcon sign = qt::KindSign(static_cast<int>(theme.featureType),
-                                    palette().color(QPalette::WindowText), devicePixelRatioF());
+    const QIcon sign = qt::FeatureTypeIcon(static_cast<int>(theme.featureType),
+                                           palette().color(QPalette::WindowText), devicePixelRatioF());
     QAction* action = menu.addAction(sign, QString(name).replace(u'&', QLatin1String("&&")));
     action->setCheckable(true);
     action->setChecked(name == present);

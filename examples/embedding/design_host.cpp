@@ -9,7 +9,7 @@
 
 #include "cardwright/qt/FormDesigner.h"
 #include "cardwright/qt/Library.h"
-#include "cardwright/qt/QtText.h"
+#include "cardwright/qt/values/QtText.h"
 
 using cardwright::ControlTypeEnum;
 using cardwright::qt::FormDesigner;

@@ -16,7 +16,7 @@
 #include "cardwright/orv/EmbeddedHost.h"
 #include "cardwright/qt/FormInput.h"
 #include "cardwright/qt/Library.h"
-#include "cardwright/qt/QtText.h"
+#include "cardwright/qt/values/QtText.h"
 #include "cardwright/vbscript/Engine.h"
 
 using namespace cardwright;

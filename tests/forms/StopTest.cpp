@@ -2,7 +2,7 @@
 
 #include <QElapsedTimer>
 
-#include "cardwright/qt/TerminalBreak.h"
+#include "cardwright/qt/desktop/TerminalBreak.h"
 #include "forms/FormScriptsFixture.h"
 
 namespace cardwright {

@@ -8,8 +8,8 @@
 #include "automation/Printing.h"
 #include "cardwright/model/CForm.h"
 #include "cardwright/model/ControlClasses.h"
-#include "cardwright/qt/QtSurface.h"
-#include "cardwright/qt/WidgetCore.h"
+#include "cardwright/qt/surface/QtSurface.h"
+#include "cardwright/qt/widgets/WidgetCore.h"
 #include "cardwright/shared/ModuleState.h"
 #include "model/FakeOwners.h"
 

@@ -6,7 +6,7 @@
 #include <QTest>
 #include <QTimer>
 
-#include "cardwright/qt/QtDesktop.h"
+#include "cardwright/qt/desktop/QtDesktop.h"
 #include "qt/Form.h"
 
 namespace cardwright::qt {

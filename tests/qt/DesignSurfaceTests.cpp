@@ -1,4 +1,4 @@
-#include "cardwright/qt/QtDesignSurface.h"
+#include "cardwright/qt/surface/QtDesignSurface.h"
 
 #include <QDragEnterEvent>
 #include <QImage>

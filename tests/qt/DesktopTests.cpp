@@ -1,4 +1,4 @@
-#include "cardwright/qt/QtDesktop.h"
+#include "cardwright/qt/desktop/QtDesktop.h"
 
 #include <QApplication>
 #include <QMessageBox>

@@ -4,8 +4,8 @@
 #include <QFontDialog>
 
 #include "cardwright/platform/SelectorWidgets.h"
-#include "cardwright/qt/Colors.h"
-#include "cardwright/qt/QtText.h"
+#include "cardwright/qt/values/Colors.h"
+#include "cardwright/qt/values/QtText.h"
 #include "qt/Dialogs.h"
 #include "qt/Form.h"
 

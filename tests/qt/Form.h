@@ -12,8 +12,8 @@
 
 #include "cardwright/automation/Errors.h"
 #include "cardwright/platform/Widget.h"
-#include "cardwright/qt/QtSurface.h"
-#include "cardwright/qt/WidgetCore.h"
+#include "cardwright/qt/surface/QtSurface.h"
+#include "cardwright/qt/widgets/WidgetCore.h"
 
 namespace cardwright {
 

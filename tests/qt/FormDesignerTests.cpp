@@ -10,8 +10,8 @@
 #include <fstream>
 
 #include "Form.h"
-#include "cardwright/qt/QtDesignSurface.h"
-#include "cardwright/qt/QtText.h"
+#include "cardwright/qt/surface/QtDesignSurface.h"
+#include "cardwright/qt/values/QtText.h"
 #include "cardwright/shared/ModuleState.h"
 
 namespace cardwright::qt {

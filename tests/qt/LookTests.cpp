@@ -2,7 +2,7 @@
 #include <QFontDatabase>
 #include <QLabel>
 
-#include "cardwright/qt/Colors.h"
+#include "cardwright/qt/values/Colors.h"
 #include "qt/Form.h"
 
 namespace cardwright::qt {

@@ -10,7 +10,7 @@
 #include <QUrl>
 
 #include "cardwright/platform/SelectorWidgets.h"
-#include "cardwright/qt/QtText.h"
+#include "cardwright/qt/values/QtText.h"
 #include "qt/Dialogs.h"
 #include "qt/Form.h"
 

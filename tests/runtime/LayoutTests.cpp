@@ -1,6 +1,6 @@
 // Size of the form, place of its fixed buttons and what the host is asked for.
 
-#include "cardwright/qt/QtSurface.h"
+#include "cardwright/qt/surface/QtSurface.h"
 #include "runtime/FormTest.h"
 
 namespace cardwright {

@@ -1,6 +1,6 @@
 // The order in which OK and Cancel run scripts, write attributes and tell the host.
 
-#include "cardwright/qt/QtSurface.h"
+#include "cardwright/qt/surface/QtSurface.h"
 #include "runtime/FormTest.h"
 
 namespace cardwright {

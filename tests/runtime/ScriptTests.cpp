@@ -1,6 +1,6 @@
 // How a form's program is composed and started, how event procedures are found, and what the user is told.
 
-#include "cardwright/qt/QtSurface.h"
+#include "cardwright/qt/surface/QtSurface.h"
 #include "runtime/FormTest.h"
 
 namespace cardwright {

@@ -2,7 +2,7 @@
 
 #include <QImage>
 
-#include "cardwright/qt/QtSurface.h"
+#include "cardwright/qt/surface/QtSurface.h"
 #include "runtime/FormTest.h"
 
 namespace cardwright {

@@ -7,7 +7,7 @@
 #include <QInputDialog>
 #include <algorithm>
 
-#include "cardwright/qt/KindSigns.h"
+#include "cardwright/qt/values/FeatureTypeIcon.h"
 #include "workbench/WorkbenchTest.h"
 
 namespace cardwright::workbench {
@@ -217,7 +217,7 @@ TEST_F(DataTest, PaintsTheSignsOfThemesInTheColourOfTheText) {
   const QColor ink(0x10, 0x90, 0x20);
   const auto hasInk = [&] {
     const auto* themes = bench->Features().findChild<QComboBox*>();
-    const QImage sign = themes->itemIcon(0).pixmap(qt::kSignSize).toImage();
+    const QImage sign = themes->itemIcon(0).pixmap(qt::kFeatureTypeIconSize).toImage();
     for (int at = 0; at < sign.width(); ++at)
       if (sign.pixelColor(at, sign.height() / 2) == ink) return true;
     return false;

@@ -5,7 +5,7 @@
 
 #include "cardwright/model/CItems.h"
 #include "cardwright/platform/Picture.h"
-#include "cardwright/qt/QtDesignSurface.h"
+#include "cardwright/qt/surface/QtDesignSurface.h"
 #include "workbench/PropertyGridTest.h"
 #include "workbench/grid/ItemsDialog.h"
 #include "workbench/grid/Pictures.h"

@@ -15,8 +15,8 @@
 #include <memory>
 #include <ostream>
 
-#include "cardwright/qt/QtText.h"
-#include "cardwright/qt/WidgetCore.h"
+#include "cardwright/qt/values/QtText.h"
+#include "cardwright/qt/widgets/WidgetCore.h"
 #include "desktop/DataSource.h"
 #include "qt/Dialogs.h"
 #include "workbench/Workbench.h"

@@ -8,7 +8,7 @@
 #include <QPixmap>
 #include <limits>
 
-#include "cardwright/qt/Colors.h"
+#include "cardwright/qt/values/Colors.h"
 
 namespace cardwright::workbench {
 namespace {

@@ -12,8 +12,8 @@
 #include <QStyledItemDelegate>
 #include <QVBoxLayout>
 
-#include "cardwright/qt/DialogRun.h"
-#include "cardwright/qt/QtText.h"
+#include "cardwright/qt/dialogs/RunDialog.h"
+#include "cardwright/qt/values/QtText.h"
 #include "workbench/grid/CellEditing.h"
 
 namespace cardwright::workbench {

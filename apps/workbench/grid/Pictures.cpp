@@ -4,7 +4,7 @@
 #include <QPainter>
 #include <QPalette>
 
-#include "cardwright/qt/Colors.h"
+#include "cardwright/qt/values/Colors.h"
 
 namespace cardwright::workbench {
 namespace {

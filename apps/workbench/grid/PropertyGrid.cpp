@@ -5,7 +5,7 @@
 #include <QHeaderView>
 #include <QVBoxLayout>
 
-#include "cardwright/qt/QtText.h"
+#include "cardwright/qt/values/QtText.h"
 #include "workbench/grid/CellEditing.h"
 #include "workbench/grid/ValueDelegate.h"
 #include "workbench/project/Kinds.h"

@@ -6,7 +6,7 @@
 
 #include "cardwright/automation/Conversions.h"
 #include "cardwright/automation/Errors.h"
-#include "cardwright/qt/QtText.h"
+#include "cardwright/qt/values/QtText.h"
 #include "workbench/grid/PropertyText.h"
 #include "workbench/grid/Validation.h"
 

@@ -7,7 +7,7 @@
 #include "cardwright/automation/Conversions.h"
 #include "cardwright/model/CItems.h"
 #include "cardwright/platform/Picture.h"
-#include "cardwright/qt/QtText.h"
+#include "cardwright/qt/values/QtText.h"
 #include "workbench/grid/ColorNames.h"
 #include "workbench/grid/Pictures.h"
 

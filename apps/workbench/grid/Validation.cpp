@@ -9,7 +9,7 @@
 #include "cardwright/model/CItems.h"
 #include "cardwright/model/FormOwner.h"
 #include "cardwright/platform/Scale.h"
-#include "cardwright/qt/QtText.h"
+#include "cardwright/qt/values/QtText.h"
 #include "cardwright/storage/CodePage.h"
 
 namespace cardwright::workbench {

@@ -6,7 +6,7 @@
 #include <QScopedValueRollback>
 #include <algorithm>
 
-#include "cardwright/qt/QtText.h"
+#include "cardwright/qt/values/QtText.h"
 #include "workbench/grid/ColorNames.h"
 #include "workbench/grid/DialogCell.h"
 #include "workbench/grid/GridView.h"

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <unordered_map>
 
-#include "cardwright/qt/QtText.h"
+#include "cardwright/qt/values/QtText.h"
 #include "workbench/panes/Icons.h"
 #include "workbench/project/Kinds.h"
 #include "workbench/project/Stacking.h"

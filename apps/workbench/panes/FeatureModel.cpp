@@ -6,7 +6,7 @@
 #include <optional>
 
 #include "cardwright/automation/Conversions.h"
-#include "cardwright/qt/QtText.h"
+#include "cardwright/qt/values/QtText.h"
 #include "cardwright/runtime/HostCommands.h"
 #include "cardwright/shared/ModuleState.h"
 

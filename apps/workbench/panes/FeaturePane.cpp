@@ -9,8 +9,8 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
-#include "cardwright/qt/KindSigns.h"
-#include "cardwright/qt/QtText.h"
+#include "cardwright/qt/values/FeatureTypeIcon.h"
+#include "cardwright/qt/values/QtText.h"
 
 namespace cardwright::workbench {
 namespace {
@@ -246,7 +246,7 @@ void FeaturePane::Copy() {
 void FeaturePane::ShowSigns() {
   const QColor ink = palette().color(QPalette::Active, QPalette::WindowText);
   for (int at = 0; at < m_Themes->count(); ++at)
-    m_Themes->setItemIcon(at, qt::KindSign(m_Themes->itemData(at).toInt(), ink, devicePixelRatioF()));
+    m_Themes->setItemIcon(at, qt::FeatureTypeIcon(m_Themes->itemData(at).toInt(), ink, devicePixelRatioF()));
 }
 
 void FeaturePane::ShowChoice() {

@@ -7,7 +7,7 @@
 #include <QTextBlock>
 #include <QVBoxLayout>
 
-#include "cardwright/qt/QtText.h"
+#include "cardwright/qt/values/QtText.h"
 #include "workbench/project/TextChange.h"
 
 namespace cardwright::workbench {

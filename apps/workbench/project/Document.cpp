@@ -5,7 +5,7 @@
 #include <QFileInfo>
 
 #include "cardwright/model/FormOwner.h"
-#include "cardwright/qt/QtText.h"
+#include "cardwright/qt/values/QtText.h"
 #include "workbench/project/AfterReading.h"
 #include "workbench/project/Kinds.h"
 #include "workbench/project/ModuleScope.h"

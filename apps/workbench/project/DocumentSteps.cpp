@@ -6,7 +6,7 @@
 #include <QMouseEvent>
 
 #include "cardwright/model/FormOwner.h"
-#include "cardwright/qt/QtText.h"
+#include "cardwright/qt/values/QtText.h"
 #include "workbench/project/AfterReading.h"
 #include "workbench/project/Document.h"
 #include "workbench/project/ModuleScope.h"

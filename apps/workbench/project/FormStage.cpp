@@ -4,7 +4,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 
-#include "cardwright/qt/QtHostWindow.h"
+#include "cardwright/qt/surface/QtHostWindow.h"
 
 namespace cardwright::workbench {
 namespace {

@@ -6,7 +6,7 @@ namespace {
 
 Text GetName(const MenuItem& item) { return item.m_Name; }
 
-constexpr Member kMembers[] = {
+constexpr Member kMenuItemMembers[] = {
     Property<&GetName>(u"Name"),
     PlainField<&MenuItem::m_Caption>(u"Caption"),
     PlainField<&MenuItem::m_Enabled>(u"Enabled"),
@@ -17,7 +17,7 @@ constexpr Member kMembers[] = {
 }  // namespace
 
 const MemberTable& MenuItem::Members() const {
-  static const MemberTable table(kMembers, u"Caption");
+  static const MemberTable table(kMenuItemMembers, u"Caption");
   return table;
 }
 

@@ -29,7 +29,7 @@ void ZOrder(Widget& widget, std::optional<std::int32_t> position) {
   widget.SetZOrder(static_cast<StackPosition>(wanted));
 }
 
-constexpr Member kMembers[] = {
+constexpr Member kCommonMembers[] = {
     Property<&Widget::Name>(u"Name"),
     Property<&Widget::Left, &Widget::SetLeft>(u"Left"),
     Property<&Widget::Top, &Widget::SetTop>(u"Top"),
@@ -52,7 +52,7 @@ constexpr Member kMembers[] = {
 }  // namespace
 
 std::vector<Member> WithWidgetMembers(std::initializer_list<std::span<const Member>> lists) {
-  std::vector<Member> members(std::begin(kMembers), std::end(kMembers));
+  std::vector<Member> members(std::begin(kCommonMembers), std::end(kCommonMembers));
   for (const auto& list : lists) members.insert(members.end(), list.begin(), list.end());
   return members;
 }

@@ -5,9 +5,9 @@
 #include <QPointer>
 
 #include "cardwright/automation/Array.h"
-#include "cardwright/qt/QtDesignSurface.h"
-#include "cardwright/qt/QtText.h"
-#include "cardwright/qt/WidgetCore.h"
+#include "cardwright/qt/surface/QtDesignSurface.h"
+#include "cardwright/qt/values/QtText.h"
+#include "cardwright/qt/widgets/WidgetCore.h"
 
 namespace cardwright::qt {
 

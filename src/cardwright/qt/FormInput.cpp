@@ -3,10 +3,10 @@
 #include <QApplication>
 #include <QKeyEvent>
 
-#include "cardwright/qt/FieldNames.h"
-#include "cardwright/qt/QtSurface.h"
-#include "cardwright/qt/QtText.h"
-#include "cardwright/qt/WidgetCore.h"
+#include "cardwright/qt/AccessibleNames.h"
+#include "cardwright/qt/surface/QtSurface.h"
+#include "cardwright/qt/values/QtText.h"
+#include "cardwright/qt/widgets/WidgetCore.h"
 
 namespace cardwright::qt {
 
@@ -70,7 +70,7 @@ void FormInput::accessibilityActiveChanged(bool active) {
 }
 
 void FormInput::NameControls(const QWidget* only) {
-  if (m_HasReader) NameFields(ControlsOf(m_Input->Controls()), only);
+  if (m_HasReader) SetAccessibleNames(ControlsOf(m_Input->Controls()), only);
 }
 
 QPushButton* FormInput::FixedButton(std::u16string_view name) const {

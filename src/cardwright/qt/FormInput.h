@@ -15,7 +15,7 @@ class QtSurface;
 /// SetAttributesEnabled; all others live in the form project. Only in design mode do its buttons follow a
 /// resize: a form that is filled in keeps the layout of its project.
 ///
-/// While a screen reader runs, every control has a name for it (see NameFields).
+/// While a screen reader runs, every control has a name for it (see SetAccessibleNames).
 class FormInput final : public VisualControl, private QAccessible::ActivationObserver {
   Q_OBJECT
   Q_PROPERTY(bool SetAttributesEnabled READ SetAttributesEnabled WRITE SetSetAttributesEnabled NOTIFY

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "cardwright/platform/HostConnection.h"
-#include "cardwright/qt/QtDesktop.h"
+#include "cardwright/qt/desktop/QtDesktop.h"
 #include "cardwright/runtime/Vellum.h"
 
 namespace cardwright::qt {

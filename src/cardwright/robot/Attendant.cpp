@@ -13,8 +13,8 @@
 #include <QPushButton>
 #include <QTimer>
 
-#include "cardwright/qt/Colors.h"
-#include "cardwright/qt/QtText.h"
+#include "cardwright/qt/values/Colors.h"
+#include "cardwright/qt/values/QtText.h"
 #include "cardwright/robot/Keyboard.h"
 #include "cardwright/robot/WidgetPart.h"
 

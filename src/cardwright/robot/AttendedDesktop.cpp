@@ -5,7 +5,7 @@
 #include <QWidget>
 
 #include "cardwright/automation/Errors.h"
-#include "cardwright/qt/QtText.h"
+#include "cardwright/qt/values/QtText.h"
 #include "cardwright/robot/ShownMessage.h"
 #include "cardwright/shared/ModuleState.h"
 

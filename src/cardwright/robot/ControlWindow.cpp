@@ -1,6 +1,6 @@
 #include "cardwright/robot/ControlWindow.h"
 
-#include "cardwright/qt/QtHostWindow.h"
+#include "cardwright/qt/surface/QtHostWindow.h"
 
 namespace cardwright::robot {
 

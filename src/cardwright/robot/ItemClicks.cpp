@@ -8,7 +8,7 @@
 #include <chrono>
 
 #include "cardwright/automation/Errors.h"
-#include "cardwright/qt/QtText.h"
+#include "cardwright/qt/values/QtText.h"
 #include "cardwright/robot/EventService.h"
 
 namespace cardwright::robot {

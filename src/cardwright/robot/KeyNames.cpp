@@ -1,7 +1,7 @@
 #include <array>
 
 #include "cardwright/automation/Errors.h"
-#include "cardwright/qt/QtText.h"
+#include "cardwright/qt/values/QtText.h"
 #include "cardwright/robot/Keyboard.h"
 
 namespace cardwright::robot {

@@ -5,8 +5,8 @@
 #include <QWindow>
 
 #include "cardwright/automation/Errors.h"
-#include "cardwright/qt/Keys.h"
-#include "cardwright/qt/QtText.h"
+#include "cardwright/qt/values/Keys.h"
+#include "cardwright/qt/values/QtText.h"
 #include "cardwright/robot/EventService.h"
 #include "cardwright/robot/PlatformInput.h"
 

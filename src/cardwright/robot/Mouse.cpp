@@ -7,7 +7,7 @@
 #include <utility>
 
 #include "cardwright/automation/Errors.h"
-#include "cardwright/qt/QtText.h"
+#include "cardwright/qt/values/QtText.h"
 #include "cardwright/robot/EventService.h"
 #include "cardwright/robot/PlatformInput.h"
 

@@ -6,10 +6,10 @@
 #include <chrono>
 
 #include "cardwright/model/FormOwner.h"
-#include "cardwright/qt/QtDesignSurface.h"
-#include "cardwright/qt/QtText.h"
 #include "cardwright/qt/VisualControl.h"
-#include "cardwright/qt/WidgetCore.h"
+#include "cardwright/qt/surface/QtDesignSurface.h"
+#include "cardwright/qt/values/QtText.h"
+#include "cardwright/qt/widgets/WidgetCore.h"
 #include "cardwright/robot/Bag.h"
 #include "cardwright/robot/EventService.h"
 #include "cardwright/robot/ItemClicks.h"

@@ -5,8 +5,8 @@
 
 #include "cardwright/automation/Errors.h"
 #include "cardwright/platform/Files.h"
-#include "cardwright/qt/Colors.h"
-#include "cardwright/qt/QtText.h"
+#include "cardwright/qt/values/Colors.h"
+#include "cardwright/qt/values/QtText.h"
 
 namespace cardwright::robot {
 namespace {

@@ -4,9 +4,9 @@
 #include "cardwright/automation/Object.h"
 #include "cardwright/model/FormOwner.h"
 #include "cardwright/model/IControl.h"
-#include "cardwright/qt/QtDesignSurface.h"
-#include "cardwright/qt/QtSurface.h"
-#include "cardwright/qt/WidgetCore.h"
+#include "cardwright/qt/surface/QtDesignSurface.h"
+#include "cardwright/qt/surface/QtSurface.h"
+#include "cardwright/qt/widgets/WidgetCore.h"
 #include "cardwright/robot/WidgetPart.h"
 
 namespace cardwright::robot {

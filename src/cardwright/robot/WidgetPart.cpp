@@ -6,7 +6,7 @@
 #include <QLineEdit>
 
 #include "cardwright/automation/Errors.h"
-#include "cardwright/qt/QtText.h"
+#include "cardwright/qt/values/QtText.h"
 
 namespace cardwright::robot {
 

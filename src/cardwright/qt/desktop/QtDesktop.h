@@ -1,0 +1,34 @@
+#pragma once
+
+#include "cardwright/platform/Desktop.h"
+#include "cardwright/qt/desktop/QtSettings.h"
+
+namespace cardwright::qt {
+
+/// The user's desktop by way of the toolkit; needs a QApplication.
+class QtDesktop : public Desktop {
+ public:
+  /// Knows the platform's other button sets too: Abort 3, Retry 4, Ignore 5. A box that is closed is answered
+  /// with Cancel or, where it has none, No or its only button.
+  int ShowMessage(const Text& text, int style, const Text& title) override;
+  Variant AskText(const Text& prompt, const Text& title, const Text& initial, const Variant& x,
+                  const Variant& y) override;
+  /// False without a display.
+  bool IsAttended() const override;
+  /// Where nobody sits at the display either.
+  void LeaveUnattended() noexcept { m_IsLeft = true; }
+  bool BreakPressed() override;
+  void Beep() override;
+  Ref<Widget> ActiveControl() const override;
+  OleColor ResolveColor(OleColor color) const override;
+  bool IsWindow(std::int32_t handle) const override;
+  void Start(const Text& commandLine) override;
+  Text Digest(const Text& text) const override;
+  SettingsStore& Settings() override { return m_Settings; }
+
+ private:
+  bool m_IsLeft = false;
+  QtSettings m_Settings;
+};
+
+}  // namespace cardwright::qt

@@ -1,0 +1,75 @@
+#include "cardwright/qt/selectors/QtThemeSelector.h"
+
+#include "cardwright/qt/dialogs/NewThemeDialog.h"
+#include "cardwright/qt/values/QtText.h"
+#include "cardwright/runtime/HostLists.h"
+
+namespace cardwright::qt {
+
+namespace {
+
+constexpr WidgetKind kThemeSelector =
+    MakeFieldKind(u"ThemeSelector", MouseUse::LeftButton, ClickSource::Widget);
+
+}  // namespace
+
+QtThemeSelector::QtThemeSelector(WidgetPlace place) : QtHostList(kThemeSelector, place) {
+  List().showsSigns = true;
+  List().describe = [](const ListEntry& entry) { return ToQString(FeatureTypeToText(entry.data)); };
+}
+
+void QtThemeSelector::SetConnectionHandle(std::int32_t handle) {
+  QtHostList::SetConnectionHandle(handle);
+  OfferNewTheme();
+}
+
+Text QtThemeSelector::CreateThemeText() const {
+  RequireAlive();
+  return m_CreateThemeText;
+}
+
+void QtThemeSelector::SetCreateThemeText(const Text& text) {
+  RequireAlive();
+  m_CreateThemeText = text;
+  ChangeList([&] { List().SetAction(ToQString(text)); });
+  Show(ListIndex());
+  OfferNewTheme();
+}
+
+/// Without a connection there is nobody to create a theme.
+void QtThemeSelector::OfferNewTheme() { Combo().offersAction = ConnectionHandle() != 0; }
+
+void QtThemeSelector::RefreshThemes() {
+  RequireAlive();
+  const Ref<Widget> keepAlive(&Self());
+  const SurfaceState::Handling handling(*m_Place.state);
+  std::vector<ListEntry> entries;
+  for (const ListedTheme& theme : ListThemes(ConnectionHandle()))
+    entries.push_back({theme.name, static_cast<std::int32_t>(theme.featureType)});
+  if (Native()) SetEntries(std::move(entries));
+}
+
+void QtThemeSelector::OnActivated(int row) {
+  if (row < ListCount()) return QtHostList::OnActivated(row);
+  Show(ListIndex());
+  CreateNewTheme();
+}
+
+/// A theme that the host refuses, which tells the person why itself, changes nothing here.
+void QtThemeSelector::CreateNewTheme() {
+  const auto plan = AskForNewTheme(Combo(), ToQString(m_CreateThemeText), [this](std::u16string_view name) {
+    return Native() && List().Find(name) >= 0;
+  });
+  if (!plan || !Native()) return;
+  bool isCreated = false;
+  Attempt([&] { isCreated = CreateTheme(ConnectionHandle(), plan->name, plan->featureType); });
+  if (!isCreated || !Native()) return;
+  Attempt([&] { RefreshThemes(); });
+  if (!Native()) return;
+  const int index = List().Find(plan->name);
+  if (index < 0) return;
+  Show(index);
+  QtHostList::OnActivated(index);
+}
+
+}  // namespace cardwright::qt

@@ -1,0 +1,67 @@
+#pragma once
+
+#include "cardwright/qt/widgets/ChoiceNotice.h"
+#include "cardwright/qt/widgets/QtWidget.h"
+
+class QComboBox;
+class QLineEdit;
+
+namespace cardwright::qt {
+
+/// A drop-down list. Its height follows the font, whatever is asked for. A text that is typed is no
+/// selection, even where it equals an entry. While the list is not editable its text can only be set to an
+/// entry's (error 383 otherwise) and has no caret (error 5).
+class QtComboBox final : public QtWidget<ComboWidget> {
+ public:
+  explicit QtComboBox(WidgetPlace place);
+  Text DisplayText() const override;
+  void SetDisplayText(const Text& text) override;
+  bool IsLocked() const override;
+  /// While it is locked, mouse and keys do nothing but give it the focus.
+  void SetLocked(bool locked) override;
+  int MaxLength() const override;
+  void SetMaxLength(int length) override;
+  int SelStart() const override;
+  void SetSelStart(int start) override;
+  int SelLength() const override;
+  void SetSelLength(int length) override;
+  Text SelText() const override;
+  void SetSelText(const Text& text) override;
+
+  bool IsEditable() const override;
+  void SetEditable(bool editable) override;
+  int ListCount() const override;
+  Text ListText(int index) const override;
+  std::int32_t ItemData(int index) const override;
+  int ListIndex() const override;
+  void SetListIndex(int index) override;
+  void AddItem(const Text& text, std::optional<int> index = {}) override;
+  void RemoveItem(int index) override;
+  void Clear() override;
+
+  /// Tells of another ListIndex.
+  const ChoiceNotice& Choice() const noexcept { return m_Choice; }
+
+ private:
+  float HeightFor(float height) const override;
+  void OnFontApplied() override;
+  bool IsBlocked() const override { return m_IsLocked; }
+  bool TakesWheel() const override;
+
+  QLineEdit& Editor() const;
+  void SetUpEditor();
+  void OnActivated(int index);
+  void SetChosen(int index);
+  void Select(int index);
+  void RequireIndex(int index) const;
+  template <class Change>
+  void ChangeList(Change&& change, int indexAfter);
+
+  QComboBox* m_Combo;
+  ChoiceNotice m_Choice;
+  int m_ListIndex = -1;  // the toolkit's own index stays at the last entry while another text is typed
+  int m_MaxLength = 0;
+  bool m_IsLocked = false;
+};
+
+}  // namespace cardwright::qt

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "cardwright/qt/widgets/QtWidget.h"
+
+namespace cardwright::qt {
+
+/// The companion library's text box of several lines. To its users a line ends with CR LF, which counts as
+/// two characters; LF and CR alone are accepted too. Tab leaves the box, Enter starts a line.
+class QtMultilineTextBox final : public QtWidget<TextWidget> {
+ public:
+  explicit QtMultilineTextBox(WidgetPlace place);
+  Text DisplayText() const override;
+  void SetDisplayText(const Text& text) override;
+  bool IsLocked() const override;
+  void SetLocked(bool locked) override;
+  int MaxLength() const override;
+  void SetMaxLength(int length) override;
+  int SelStart() const override;
+  void SetSelStart(int start) override;
+  int SelLength() const override;
+  void SetSelLength(int length) override;
+  Text SelText() const override;
+  void SetSelText(const Text& text) override;
+
+ private:
+  class Edit;
+  bool TakesEnter() const override { return true; }
+  void OnTextChanged();
+
+  Edit* m_Edit;
+  Text m_LastText;  // as the listener knows it
+};
+
+}  // namespace cardwright::qt

@@ -1,0 +1,55 @@
+#include "cardwright/qt/widgets/SurfaceState.h"
+
+#include <QCoreApplication>
+#include <QMetaObject>
+#include <QMouseEvent>
+#include <utility>
+
+#include "cardwright/qt/widgets/WidgetCore.h"
+
+namespace cardwright::qt {
+
+SurfaceState::Handling::~Handling() {
+  if (--m_State->m_Depth > 0) return;
+  // The toolkit may still be on its way out of the event: leave the rest to the event loop.
+  for (const QPointer<QWidget>& widget : std::exchange(m_State->m_Removed, {})) {
+    if (widget) widget->deleteLater();
+  }
+}
+
+// Not where it goes afterwards: what a stroke has led to is looked at when it may be over.
+void SurfaceState::NoteCursor(const QMouseEvent& event) {
+  if (event.type() == QEvent::MouseMove && event.buttons() == Qt::NoButton) return;
+  cursor = event.globalPosition().toPoint();
+}
+
+QButtonGroup& SurfaceState::OptionsIn(QWidget& container) {
+  QPointer<QButtonGroup>& group = m_Options[&container];
+  if (!group) group = new QButtonGroup(&container);
+  return *group;
+}
+
+void SurfaceState::Delete(QWidget* widget) {
+  if (m_Depth == 0) {
+    delete widget;
+    return;
+  }
+  widget->hide();
+  widget->setParent(nullptr);  // or it would go with its parent, when the handler closes the whole window
+  m_Removed.emplace_back(widget);
+}
+
+void SurfaceState::SettleSoon(Ref<Widget> widget) {
+  if (m_Unsettled.empty())
+    QMetaObject::invokeMethod(
+        QCoreApplication::instance(), [self = Ref<SurfaceState>(this)] { self->SettleAll(); },
+        Qt::QueuedConnection);
+  m_Unsettled.push_back(std::move(widget));
+}
+
+void SurfaceState::SettleAll() {
+  for (const Ref<Widget>& widget : std::exchange(m_Unsettled, {}))
+    dynamic_cast<WidgetCore&>(*widget).Settle();
+}
+
+}  // namespace cardwright::qt

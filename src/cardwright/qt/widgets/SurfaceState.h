@@ -1,0 +1,71 @@
+#pragma once
+
+#include <QButtonGroup>
+#include <QPoint>
+#include <QPointer>
+#include <QWidget>
+#include <unordered_map>
+#include <vector>
+
+#include "cardwright/automation/Ref.h"
+#include "cardwright/platform/Surface.h"
+#include "cardwright/qt/values/FontCache.h"
+
+class QMouseEvent;
+
+namespace cardwright::qt {
+
+class WidgetCore;
+
+/// What the widgets of one surface share. It lives as long as the last of them, while the surface and its
+/// toolkit widgets may be gone long before.
+class SurfaceState final : public RefCounted {
+ public:
+  explicit SurfaceState(const Surface& owner) : surface(&owner) {}
+
+  const Surface* surface;  ///< null once the surface is gone
+  Object* control =
+      nullptr;  ///< the widgets' parent, as scripts know it; null or alive as long as the surface
+  FontCache fonts;
+  WidgetCore* focused = nullptr;  ///< the widget whose listener was told of the focus last
+  /// The widgets are drawn and not used: they take the focus and tell of the mouse, but act on nothing, and
+  /// show the pointer of what they stand on.
+  bool isDesigned = false;
+  QPoint cursor;  ///< on the screen, where a button was pressed, or the mouse went with it or let it go
+  void NoteCursor(const QMouseEvent& event);
+
+  /// Marks that a listener runs. A widget that it removes may be the one whose event is being handled, so the
+  /// toolkit's widget stays, hidden, until the outermost listener has returned.
+  class Handling {
+   public:
+    explicit Handling(SurfaceState& state) : m_State(&state) { ++state.m_Depth; }
+    ~Handling();
+    Handling(const Handling&) = delete;
+    Handling& operator=(const Handling&) = delete;
+
+   private:
+    Ref<SurfaceState> m_State;
+  };
+
+  /// The group of the option buttons that stand directly in `container`. The toolkit's own grouping would
+  /// reach into the frames inside it.
+  QButtonGroup& OptionsIn(QWidget& container);
+
+  /// Deletes now or when the handlers are through.
+  void Delete(QWidget* widget);
+
+  /// Has the widget settle with the next turn of the event loop.
+  void SettleSoon(Ref<Widget> widget);
+  /// Forgets who waits; for a surface that ends.
+  void SettleNone() { m_Unsettled.clear(); }
+
+ private:
+  void SettleAll();
+
+  int m_Depth = 0;
+  std::vector<QPointer<QWidget>> m_Removed;
+  std::unordered_map<QWidget*, QPointer<QButtonGroup>> m_Options;
+  std::vector<Ref<Widget>> m_Unsettled;
+};
+
+}  // namespace cardwright::qt
