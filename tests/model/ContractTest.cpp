@@ -7,8 +7,6 @@
 namespace cardwright {
 namespace {
 
-constexpr std::u16string_view kBoxClass = u"CTextBox";
-
 /// An object of a type that is no owner of forms.
 class Stranger final : public TableObject {
  public:
@@ -56,7 +54,7 @@ TEST(IControl, IsEmptyInAllMembers) {
 
 TEST(PropertyName, ComesBackAsTheTableSpellsItByNumberOrByName) {
   DesignForm on;
-  const auto box = on.Add(kBoxClass);
+  const auto box = on.Add(u"CTextBox");
   EXPECT_EQ(box->PropertyName(u"Left"), u"Left");
   EXPECT_EQ(box->PropertyName(4), u"Left");
   EXPECT_EQ(box->PropertyName(u"left"), u"Left");
@@ -81,7 +79,7 @@ TEST(PropertyName, IsEmptyForAnUnknownNameAndABoundsErrorForANumberOutside) {
 
 TEST(PropertyType, AndDescriptionAreThoseOfTheRow) {
   DesignForm on;
-  const auto box = on.Add(kBoxClass);
+  const auto box = on.Add(u"CTextBox");
   EXPECT_EQ(box->PropertyType(u"INPUTTYPE"), PropertyTypeEnum::ptList);
   EXPECT_EQ(box->PropertyType(0), PropertyTypeEnum::ptName);
   EXPECT_EQ(box->PropertyDescription(9), u"Set the input type for this control.");
@@ -100,7 +98,7 @@ TEST(PropertyValue, ReachesHiddenRowsByNameAndBehindTheTable) {
 
 TEST(PropertyValue, IsEmptyForAnUnknownIndexAndLetDoesNothing) {
   DesignForm on;
-  const auto box = on.Add(kBoxClass);
+  const auto box = on.Add(u"CTextBox");
   for (const Variant& index : {Variant(99), Variant(-1), Variant(70000), Variant(u"Depth"), Variant(u"")}) {
     EXPECT_TRUE(box->PropertyValue(index).IsEmpty());
     EXPECT_EQ(ErrorOf([&] { box->SetPropertyValue(index, u"x"); }), 0);
@@ -110,7 +108,7 @@ TEST(PropertyValue, IsEmptyForAnUnknownIndexAndLetDoesNothing) {
 
 TEST(PropertyValue, HasTheTypeOfItsRow) {
   DesignForm on;
-  const auto box = on.Add(kBoxClass);
+  const auto box = on.Add(u"CTextBox");
   EXPECT_EQ(box->PropertyValue(u"Name").Type(), VarType::String);
   EXPECT_EQ(box->PropertyValue(u"Text").Type(), VarType::String);
   EXPECT_EQ(box->PropertyValue(u"BackColor").Type(), VarType::Long);
@@ -123,7 +121,7 @@ TEST(PropertyValue, HasTheTypeOfItsRow) {
 
 TEST(PropertyValue, KeepsFlagsAsTheTextsThatWereHandedIn) {
   DesignForm on;
-  const auto box = on.Add(kBoxClass);
+  const auto box = on.Add(u"CTextBox");
   box->SetPropertyValue(u"IsNeeded", u"perhaps");
   EXPECT_EQ(TextOf(*box, u"isneeded"), u"perhaps");
   box->SetPropertyValue(u"IsNeeded", true);
@@ -143,7 +141,7 @@ TEST(FlagIsSet, CountsATextThatIsNoBooleanAsFalse) {
 
 TEST(Control, HasTheWidgetsNameToReadAndTheUserNameToWrite) {
   DesignForm on;
-  const auto box = on.Add(kBoxClass, u"txtDepth", u"object_7");
+  const auto box = on.Add(u"CTextBox", u"txtDepth", u"object_7");
   EXPECT_EQ(box->Name(), u"object_7");
   EXPECT_EQ(box->UserName(), u"txtDepth");
   box->SetName(u"txtOther");
@@ -155,7 +153,7 @@ TEST(Control, HasTheWidgetsNameToReadAndTheUserNameToWrite) {
 
 TEST(Control, TellsTheGridOfMovesByTheAccessorsOnly) {
   DesignForm on;
-  const auto box = on.Add(kBoxClass);
+  const auto box = on.Add(u"CTextBox");
   box->SetLeft(24);
   box->SetTop(16);
   box->SetWidth(200);
@@ -169,7 +167,7 @@ TEST(Control, TellsTheGridOfMovesByTheAccessorsOnly) {
 
 TEST(Control, TellsTheDesignerOfMovesByTheGridOnlyWhereTheyMove) {
   DesignForm on;
-  const auto box = on.Add(kBoxClass);
+  const auto box = on.Add(u"CTextBox");
   box->SetPropertyValue(u"Left", 24);
   EXPECT_EQ(on.owner->Take(), "SetCtrl a");
   box->SetPropertyValue(u"left", u"24");
@@ -184,7 +182,7 @@ TEST(Control, TellsTheDesignerOfMovesByTheGridOnlyWhereTheyMove) {
 
 TEST(Control, TellsNobodyOfMovesWhileAFormIsFilledIn) {
   InputForm on;
-  const auto box = on.Add(kBoxClass);
+  const auto box = on.Add(u"CTextBox");
   box->SetLeft(24);
   box->SetPropertyValue(u"Top", 8);
   box->SetForeColor(255);
@@ -283,8 +281,8 @@ TEST(ParentForm, TakesTheTwoKindsOfOwnerAndIgnoresAnyOther) {
 
 TEST(NameRow, RenamesOnlyThroughTheOwner) {
   DesignForm on;
-  const auto a = on.Add(kBoxClass, u"a", u"object_1");
-  const auto b = on.Add(kBoxClass, u"b", u"object_2");
+  const auto a = on.Add(u"CTextBox", u"a", u"object_1");
+  const auto b = on.Add(u"CTextBox", u"b", u"object_2");
   a->SetPropertyValue(u"Name", u"B");
   EXPECT_EQ(a->UserName(), u"a");
   a->SetPropertyValue(u"Name", u"Depth");
@@ -293,7 +291,7 @@ TEST(NameRow, RenamesOnlyThroughTheOwner) {
   EXPECT_EQ(on.Names(), "Form, b, Depth");
 
   InputForm input;
-  const auto c = input.Add(kBoxClass, u"c", u"object_1");
+  const auto c = input.Add(u"CTextBox", u"c", u"object_1");
   c->SetPropertyValue(u"Name", u"d");
   EXPECT_EQ(c->UserName(), u"d");
   c->ForgetOwner();
@@ -303,8 +301,8 @@ TEST(NameRow, RenamesOnlyThroughTheOwner) {
 
 TEST(RenameInCollection, ChangesTheCaseAloneThroughAKeyAside) {
   DesignForm on;
-  const auto a = on.Add(kBoxClass, u"Label1", u"object_1");
-  on.Add(kBoxClass, u"b", u"object_2");
+  const auto a = on.Add(u"CTextBox", u"Label1", u"object_1");
+  on.Add(u"CTextBox", u"b", u"object_2");
   a->SetPropertyValue(u"Name", u"LABEL1");
   EXPECT_EQ(a->UserName(), u"LABEL1");
   EXPECT_EQ(on.Names(), "Form, b, LABEL1");
@@ -313,7 +311,7 @@ TEST(RenameInCollection, ChangesTheCaseAloneThroughAKeyAside) {
 
 TEST(RenameInCollection, LeavesACollectionAloneThatDoesNotHoldTheControl) {
   DesignForm on;
-  on.Add(kBoxClass, u"a", u"object_1");
+  on.Add(u"CTextBox", u"a", u"object_1");
   const Ref<Control> pasted = ControlClasses().front().create();
   pasted->SetName(u"A");
   RenameInCollection(on.owner->Controls(), *pasted, u"free");
@@ -323,7 +321,7 @@ TEST(RenameInCollection, LeavesACollectionAloneThatDoesNotHoldTheControl) {
 
 TEST(EveryControl, HasNoEffectInDelete) {
   DesignForm on;
-  const auto box = on.Add(kBoxClass);
+  const auto box = on.Add(u"CTextBox");
   box->Delete();
   EXPECT_TRUE(on.surface.Find(u"object_1"));
   EXPECT_EQ(on.Names(), "Form, a");
@@ -331,8 +329,8 @@ TEST(EveryControl, HasNoEffectInDelete) {
 
 TEST(EveryControl, StoresItsZOrderWithoutMovingTheWidget) {
   DesignForm on;
-  const auto a = on.Add(kBoxClass, u"a", u"object_1");
-  const auto b = on.Add(kBoxClass, u"b", u"object_2");
+  const auto a = on.Add(u"CTextBox", u"a", u"object_1");
+  const auto b = on.Add(u"CTextBox", u"b", u"object_2");
   a->SetZOrder(0);
   b->SetZOrder(1);
   const QObjectList& children = on.canvas->children();

@@ -5,12 +5,6 @@
 #include "storage/TempFolder.h"
 
 namespace cardwright {
-namespace {
-
-constexpr std::u16string_view kBoxClass = u"CTextBox";
-
-}  // namespace
-
 TEST(Read, LeavesEverythingAsCreatedWhereTheSectionIsEmpty) {
   const TempFolder folder;
   const Text file = folder.Put("a.frm", "[CONTROLS_1]\r\n");
@@ -37,7 +31,7 @@ TEST(Read, LeavesEverythingAsCreatedWhereTheSectionIsEmpty) {
 TEST(Read, IsFalseWithoutAFileAndChangesNothing) {
   const TempFolder folder;
   DesignForm on;
-  const auto box = on.Add(kBoxClass);
+  const auto box = on.Add(u"CTextBox");
   WidgetOf(*box).SetVisible(false);
   EXPECT_FALSE(box->Read(folder.Name("none.frm"), u"CONTROLS_1"));
   EXPECT_FALSE(WidgetOf(*box).IsVisible());
@@ -80,7 +74,7 @@ TEST(Read, TakesAnEmptyValueForNothingAndNotForAMissingKey) {
                                "[CONTROLS_1]\r\nText=\r\nBackColor=\r\nLeft=\r\nFontBold=\r\nUserName=\r\n"
                                "IsNeeded=\r\n");
   DesignForm on;
-  const auto box = on.Add(kBoxClass);
+  const auto box = on.Add(u"CTextBox");
   WidgetOf(*box).Move(10, 20, 130, 40);
   WidgetOf(*box).SetDisplayText(u"old");
   LetProperty(*box->GetFont(), u"Bold", true);
@@ -98,7 +92,7 @@ TEST(Read, TakesKeysInAnyOrderAndCase) {
   const Text file = folder.Put(
       "a.frm", "[controls_1]\r\ninputtype=Float\r\nHEIGHT=50\r\nusername=txt\r\nTOP= 7\r\nleft=1,5\r\n");
   DesignForm on;
-  const auto box = on.Add(kBoxClass);
+  const auto box = on.Add(u"CTextBox");
   EXPECT_TRUE(box->Read(file, u"CONTROLS_1"));
   EXPECT_EQ(box->UserName(), u"txt");
   EXPECT_EQ(TextOf(*box, u"InputType"), u"Float");

@@ -6,10 +6,10 @@
 namespace cardwright {
 namespace {
 
-constexpr std::u16string_view kBoth[] = {u"CCheckBox", u"COptionButton"};
+constexpr std::u16string_view kStateControls[] = {u"CCheckBox", u"COptionButton"};
 
 StateWidget& BoxOf(IControl& control) { return WidgetOf<StateWidget>(control); }
-void Click(IControl& control) {
+void ClickState(IControl& control) {
   QWidget& native = NativeOf(control);
   QTest::mouseClick(&native, Qt::LeftButton, {}, QPoint(8, native.height() / 2));
 }
@@ -17,7 +17,7 @@ void Click(IControl& control) {
 }  // namespace
 
 TEST(Selected, IsStoredAsATextAndSetsTheWidget) {
-  for (const auto className : kBoth) {
+  for (const auto className : kStateControls) {
     InputForm on;
     const auto box = on.Add(className);
     for (const Variant& set :
@@ -34,7 +34,7 @@ TEST(Selected, IsStoredAsATextAndSetsTheWidget) {
 }
 
 TEST(Selected, BecomesFalseWhereTheTextIsBlank) {
-  for (const auto className : kBoth) {
+  for (const auto className : kStateControls) {
     InputForm on;
     const auto box = on.Add(className);
     for (const auto blank : {u"", u"   "}) {
@@ -48,7 +48,7 @@ TEST(Selected, BecomesFalseWhereTheTextIsBlank) {
 
 TEST(Selected, IsStoredAndLeavesTheWidgetWhereItIsNoBoolean) {
   const TempFolder folder;
-  for (const auto className : kBoth) {
+  for (const auto className : kStateControls) {
     DesignForm on;
     const auto box = on.Add(className);
     BoxOf(*box).SetState(1);
@@ -72,7 +72,7 @@ TEST(Selected, IsSavedAsLastSetOrReadWhateverWasClickedSince) {
   EXPECT_TRUE(box->Save(file, u"S"));
   EXPECT_NE(folder.Get("a.frm").find("Selected=\r\n"), std::string::npos);  // never set
   box->SetPropertyValue(u"Selected", u"False");
-  Click(*box);
+  ClickState(*box);
   EXPECT_EQ(BoxOf(*box).State(), 1);
   EXPECT_TRUE(box->Save(file, u"S"));
   EXPECT_NE(folder.Get("a.frm").find("Selected=False\r\n"), std::string::npos);
@@ -81,7 +81,7 @@ TEST(Selected, IsSavedAsLastSetOrReadWhateverWasClickedSince) {
 TEST(Selected, IsFalseInAProjectThatDoesNotTell) {
   const TempFolder folder;
   const Text file = folder.Put("a.frm", "[S]\r\nText=x\r\n[T]\r\nSelected=\r\n[U]\r\nSelected=True\r\n");
-  for (const auto className : kBoth) {
+  for (const auto className : kStateControls) {
     for (const auto section : {u"S", u"T"}) {
       InputForm on;
       const auto box = on.Add(className);
@@ -137,7 +137,7 @@ TEST(COptionButton, IsLockedOutOfTheOthersOnlyInItsOwnContainer) {
 }
 
 TEST(StateControls, AreSelectedInTheDesignerByFocusAndNotByAClick) {
-  for (const auto className : kBoth) {
+  for (const auto className : kStateControls) {
     DesignForm on;
     const auto box = on.Add(className);
     const auto other = on.Add(u"CTextBox", u"other", u"object_2");
@@ -146,13 +146,13 @@ TEST(StateControls, AreSelectedInTheDesignerByFocusAndNotByAClick) {
     on.owner->Take();
     NativeOf(*box).setFocus();
     EXPECT_EQ(on.owner->Take(), "SetCtrl a");
-    Click(*box);
+    ClickState(*box);
     EXPECT_EQ(on.owner->Take(), "");
   }
 }
 
 TEST(StateControls, RunTheirProcedureWhereCodeChangesTheStateToo) {
-  for (const auto className : kBoth) {
+  for (const auto className : kStateControls) {
     InputForm on;
     const auto box = on.Add(className);
     box->SetPropertyValue(u"Selected", true);

@@ -9,7 +9,7 @@
 namespace cardwright {
 namespace {
 
-constexpr std::u16string_view kBoth[] = {u"CTextBox", u"CTextBoxMultiline"};
+constexpr std::u16string_view kTextBoxes[] = {u"CTextBox", u"CTextBoxMultiline"};
 
 /// What stands in the widget after the text was typed into it, character by character.
 Text Typed(IControl& control, std::string_view text) {
@@ -33,7 +33,7 @@ class TextEntry : public testing::Test {
 }  // namespace
 
 TEST_F(TextEntry, TakesAnyTextByDefault) {
-  for (const auto className : kBoth) {
+  for (const auto className : kTextBoxes) {
     const auto box = on.Add(className, className, className);
     EXPECT_EQ(Typed(*box, "a-1.5"), u"a-1.5");
     EXPECT_EQ(WidgetOf(*box).Tag(), u"");
@@ -106,7 +106,7 @@ TEST_F(TextEntry, FiltersNothingOnADesignSurface) {
 }
 
 TEST_F(TextEntry, RunsItsProcedureOnEachChange) {
-  for (const auto className : kBoth) {
+  for (const auto className : kTextBoxes) {
     const auto box = on.Add(className, className, className);
     const std::string name = Text(className).ToUtf8();
     QTest::keyClick(&NativeOf(*box), 'a');
@@ -124,7 +124,7 @@ TEST_F(TextEntry, RunsItsProcedureOnEachChange) {
 }
 
 TEST_F(TextEntry, GivesItsTextAsValue) {
-  for (const auto className : kBoth) {
+  for (const auto className : kTextBoxes) {
     const auto box = on.Add(className, className, className);
     EXPECT_EQ(box->Value(), u"");
     box->SetPropertyValue(u"Text", u"12 m");

@@ -18,7 +18,7 @@ constexpr Member ByteField(std::u16string_view name) {
   return Property<&Get<Component>, &Let<Component>>(name);
 }
 
-constexpr Member kMembers[] = {
+constexpr Member kColorMembers[] = {
     ByteField<&CColor::m_Red>(u"Red"),
     ByteField<&CColor::m_Green>(u"Green"),
     ByteField<&CColor::m_Blue>(u"Blue"),
@@ -46,7 +46,7 @@ void CColor::SetColor(OleColor color) {
 }
 
 const MemberTable& CColor::Members() const {
-  static const MemberTable table(kMembers);
+  static const MemberTable table(kColorMembers);
   return table;
 }
 

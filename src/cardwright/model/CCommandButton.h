@@ -20,6 +20,9 @@ class CCommandButton final : public Control {
 
  protected:
   bool Accepts(const Widget& widget) const override { return widget.TypeName() == kTable.typeText; }
+
+ private:
+  struct Tables;
 };
 
 }  // namespace cardwright

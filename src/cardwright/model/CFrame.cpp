@@ -3,17 +3,17 @@
 #include "cardwright/model/CommonFields.h"
 
 namespace cardwright {
-namespace {
 
-constexpr auto kRows = Rows(rows::Name, rows::Text, rows::BackColor, rows::Font, rows::Left, rows::Top,
-                            rows::Width, rows::Height, rows::ForeColor);
-constexpr auto kKeys = Keys(keys::Text, keys::BackColor, keys::Font, keys::Geometry, keys::ForeColor);
-constexpr auto kEvents = EventNames(u"OnClick");
-
-}  // namespace
+struct CFrame::Tables {
+  static constexpr auto kRows = Rows(rows::Name, rows::Text, rows::BackColor, rows::Font, rows::Left,
+                                     rows::Top, rows::Width, rows::Height, rows::ForeColor);
+  static constexpr auto kKeys =
+      Keys(keys::Text, keys::BackColor, keys::Font, keys::Geometry, keys::ForeColor);
+  static constexpr auto kEvents = EventNames(u"OnClick");
+};
 
 constinit const ClassTable CFrame::kTable =
-    DefineClass<kRows, kNoRows, kKeys, kEvents>(u"CFrame", u"vb.frame", u"Frame");
+    DefineClass<Tables::kRows, kNoRows, Tables::kKeys, Tables::kEvents>(u"CFrame", u"vb.frame", u"Frame");
 
 bool CFrame::IsDrawing() const {
   return Designer() && Designer()->ControlTypeToAdd() != ControlTypeEnum::ctDefault;

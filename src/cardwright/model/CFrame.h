@@ -18,6 +18,7 @@ class CFrame final : public Control {
   void OnMouseUp(int button, int shift, float x, float y) override;
 
  private:
+  struct Tables;
   bool IsDrawing() const;
 
   /// The press that began a drawing ends in a click, which must not select the frame.

@@ -3,7 +3,7 @@
 namespace cardwright {
 namespace {
 
-constexpr Member kMembers[] = {
+constexpr Member kItemMembers[] = {
     PlainField<&CItem::m_Value>(u"Value"),
     PlainField<&CItem::m_Text>(u"Text"),
     PlainField<&CItem::m_Checked>(u"Checked"),
@@ -12,7 +12,7 @@ constexpr Member kMembers[] = {
 }  // namespace
 
 const MemberTable& CItem::Members() const {
-  static const MemberTable table(kMembers);
+  static const MemberTable table(kItemMembers);
   return table;
 }
 

@@ -3,7 +3,7 @@
 namespace cardwright {
 namespace {
 
-constexpr Member kMembers[] = {
+constexpr Member kItemsMembers[] = {
     Property<&CItems::Count>(u"Count"), Property<&CItems::Item>(u"Item"), Method<&CItems::Add>(u"Add"),
     Method<&CItems::Remove>(u"Remove"), Method<&CItems::Clear>(u"Clear"),
 };
@@ -19,7 +19,7 @@ Text ItemKey(std::u16string_view prefix, std::int32_t number) {
 }  // namespace
 
 const MemberTable& CItems::Members() const {
-  static const MemberTable table(kMembers, u"Item");
+  static const MemberTable table(kItemsMembers, u"Item");
   return table;
 }
 

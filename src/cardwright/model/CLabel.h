@@ -12,6 +12,9 @@ class CLabel final : public Control {
 
  protected:
   bool Accepts(const Widget& widget) const override { return widget.TypeName() == kTable.typeText; }
+
+ private:
+  struct Tables;
 };
 
 }  // namespace cardwright

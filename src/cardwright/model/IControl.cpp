@@ -16,7 +16,7 @@ bool Save(IControl& self, const Text& filePath, std::optional<Text> sectionName)
   return self.Save(filePath, sectionName.value_or(Text()));
 }
 
-constexpr Member kMembers[] = {
+constexpr Member kControlMembers[] = {
     Property<&IControl::Name, &IControl::SetName>(u"Name"),
     Property<&IControl::UserName>(u"UserName"),
     Property<&IControl::Left, &IControl::SetLeft>(u"Left"),
@@ -53,7 +53,7 @@ constexpr Member kMembers[] = {
 }  // namespace
 
 const MemberTable& IControl::Members() const {
-  static const MemberTable table(kMembers);
+  static const MemberTable table(kControlMembers);
   return table;
 }
 
