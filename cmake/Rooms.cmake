@@ -36,3 +36,7 @@ set(CARDWRIGHT_OPTIONS_jscript $<$<CXX_COMPILER_ID:GNU>:-Wno-dangling-pointer>)
 
 # Sources that derive from classes of a library built without type information, and must do without too.
 set(CARDWRIGHT_NO_RTTI_jscript spidermonkey/ProxyTraps.cpp)
+
+# Sources that are never compiled in a batch with others. The interpreter's loop is as quick as the compiler's choice of
+# registers for it, which must not depend on what else is in the batch.
+set(CARDWRIGHT_ALONE_vbscript machine/Interpreter.cpp)

@@ -7,13 +7,13 @@
 namespace cardwright::vbscript {
 namespace {
 
-struct Row {
+struct TreeRow {
   const char16_t* source;
   const char* tree;
 };
 
-void ExpectTrees(std::span<const Row> rows) {
-  for (const Row& row : rows) {
+void ExpectTrees(std::span<const TreeRow> rows) {
+  for (const TreeRow& row : rows) {
     try {
       EXPECT_EQ(TreeText(*Parse(row.source)), row.tree) << Text(row.source).ToUtf8();
     } catch (const SyntaxError& error) {
@@ -24,7 +24,7 @@ void ExpectTrees(std::span<const Row> rows) {
 }
 
 TEST(ParseExpression, GroupsByPrecedence) {
-  const Row rows[] = {
+  const TreeRow rows[] = {
       {u"1 + 2 * 3", "{1 + {2 * 3}}"},
       {u"1 * 2 + 3", "{{1 * 2} + 3}"},
       {u"1 - 2 - 3", "{{1 - 2} - 3}"},
@@ -92,13 +92,13 @@ TEST(ParseExpression, GroupsByPrecedence) {
       {u"1 + 2\n\n", "{1 + 2}"},
       {u"#1/2/2003# + 1", "{#1/2/2003# + 1}"},
   };
-  for (const Row& row : rows) {
+  for (const TreeRow& row : rows) {
     EXPECT_EQ(TreeText(*ParseExpression(row.source)), row.tree) << Text(row.source).ToUtf8();
   }
 }
 
 TEST(Parse, TellsAssignmentsFromCalls) {
-  const Row rows[] = {
+  const TreeRow rows[] = {
       {u"x = 1", "x := 1"},
       {u"x = y = z", "x := {y = z}"},
       {u"x.y = 1", "x.y := 1"},
@@ -184,7 +184,7 @@ TEST(Parse, TellsAssignmentsFromCalls) {
 }
 
 TEST(Parse, ReadsDeclarationsOfVariables) {
-  const Row rows[] = {
+  const TreeRow rows[] = {
       {u"Dim a", "Dim a"},
       {u"Dim a, b(), c(3), d(4, 5)", "Dim a b() c(3,) d(4,5,)"},
       {u"Dim a(&hF), b(&17&)", "Dim a(15,) b(15,)"},
@@ -216,7 +216,7 @@ TEST(Parse, ReadsDeclarationsOfVariables) {
 }
 
 TEST(Parse, ReadsIfs) {
-  const Row rows[] = {
+  const TreeRow rows[] = {
       {u"If a Then\nEnd If", "If a {  }"},
       {u"If a Then\nx\nEnd If", "If a { x![] }"},
       {u"If a Then ' comment\nx\nEnd If", "If a { x![] }"},
@@ -257,7 +257,7 @@ TEST(Parse, ReadsIfs) {
 }
 
 TEST(Parse, ReadsLoops) {
-  const Row rows[] = {
+  const TreeRow rows[] = {
       {u"For i = 1 To 2\nx\nNext", "For i 1 To 2 { x![] }"},
       {u"For i = a To b + 1 Step -c\nNext", "For i a To {b + 1} Step {neg c} {  }"},
       {u"For i = 1 To 2 : x : Next : y", "For i 1 To 2 { x![] }; y![]"},
@@ -284,7 +284,7 @@ TEST(Parse, ReadsLoops) {
 }
 
 TEST(Parse, ReadsSelectWithAndTheRest) {
-  const Row rows[] = {
+  const TreeRow rows[] = {
       {u"Select Case a\nEnd Select", "Select a"},
       {u"Select Case a\n\nCase 1\nx\nCase 2, b + 1\ny\nCase Else\nz\nEnd Select",
        "Select a Case 1 { x![] } Case 2, {b + 1} { y![] } Else { z![] }"},
@@ -303,7 +303,7 @@ TEST(Parse, ReadsSelectWithAndTheRest) {
 }
 
 TEST(Parse, ReadsProcedures) {
-  const Row rows[] = {
+  const TreeRow rows[] = {
       {u"Sub s\nEnd Sub", " Sub s() {  }\n"},
       {u"Sub s()\nx\nEnd Sub", " Sub s() { x![] }\n"},
       {u"Sub s(a, ByVal b, ByRef c, d())\nEnd Sub", " Sub s(a,ByVal b,c,d(),) {  }\n"},
@@ -331,7 +331,7 @@ TEST(Parse, ReadsProcedures) {
 }
 
 TEST(Parse, ReadsClasses) {
-  const Row rows[] = {
+  const TreeRow rows[] = {
       {u"Class C\nEnd Class", "Class C\n"},
       {u"Class C : End Class", "Class C\n"},
       {u"Class C\nPublic x End Class", "Class C\nPublic x\n"},

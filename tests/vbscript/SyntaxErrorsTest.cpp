@@ -10,13 +10,13 @@
 namespace cardwright::vbscript {
 namespace {
 
-struct Row {
+struct ErrorRow {
   std::u16string source;
   int number;
   Position where;
 };
 
-void ExpectError(const Row& row) {
+void ExpectError(const ErrorRow& row) {
   const std::string shown = Text(row.source.substr(0, 200)).ToUtf8();
   try {
     Parse(row.source);
@@ -32,7 +32,7 @@ void ExpectError(const Row& row) {
 
 // The programs of compile-errors/ have one row for each kind of error; these are its further forms.
 TEST(SyntaxError, NamesTheFaultAndItsPlace) {
-  const Row rows[] = {
+  const ErrorRow rows[] = {
       {u"x = ", 1002, {1, 4}},
       {u"x = )", 1002, {1, 4}},
       {u"x = 1 And", 1002, {1, 9}},
@@ -275,7 +275,7 @@ TEST(SyntaxError, NamesTheFaultAndItsPlace) {
       {u"Class C\nDefault Property Get x\nEnd Property\nEnd Class", 1057, {2, 0}},
       {u"Class C\nPublic Default Property Set x(a)\nEnd Property\nEnd Class", 1058, {2, 24}},
   };
-  for (const Row& row : rows) ExpectError(row);
+  for (const ErrorRow& row : rows) ExpectError(row);
 }
 
 TEST(SyntaxError, HasATextForEachNumber) {
@@ -292,12 +292,12 @@ TEST(SyntaxError, HasATextForEachNumber) {
 }
 
 TEST(ParseExpression, RefusesWhatIsNoLoneExpression) {
-  const Row rows[] = {
+  const ErrorRow rows[] = {
       {u"", 1002, {1, 0}},          {u"1 2", 1025, {1, 2}},  {u"1 : 2", 1025, {1, 2}},
       {u"x = 1 : y", 1025, {1, 6}}, {u"1\n2", 1025, {2, 0}}, {u"Dim x", 1002, {1, 0}},
       {u"f 1", 1025, {1, 2}},       {u"(1", 1006, {1, 2}},   {u"1 + \n 2", 1002, {1, 4}},
   };
-  for (const Row& row : rows) {
+  for (const ErrorRow& row : rows) {
     try {
       ParseExpression(row.source);
       ADD_FAILURE() << Text(row.source).ToUtf8();

@@ -4,7 +4,7 @@ namespace cardwright::vbscript {
 
 namespace {
 
-std::string Utf8(std::u16string_view text) { return Text(text).ToUtf8(); }
+std::string SourceText(std::u16string_view text) { return Text(text).ToUtf8(); }
 
 constexpr const char* kBinary[] = {"^", "*",  "/", "\\", "Mod", "+",   "-",  "&",   "=",   "<>",
                                    "<", "<=", ">", ">=", "Is",  "And", "Or", "Xor", "Eqv", "Imp"};
@@ -42,7 +42,7 @@ std::string Braced(Block block) { return "{ " + TreeText(block) + " }"; }
 std::string DimText(const DimStmt& dim) {
   std::string text = Word(kVisibility, dim.visibility);
   for (const VariableDecl& variable : dim.variables) {
-    text += " " + Utf8(variable.name);
+    text += " " + SourceText(variable.name);
     if (!variable.isArray) continue;
     text += "(";
     for (const std::int32_t bound : variable.bounds) text += std::to_string(bound) + ",";
@@ -78,9 +78,10 @@ std::string ProcedureText(const ProcedureDecl& procedure) {
   std::string text =
       procedure.visibility == Visibility::Unsaid ? "" : Word(kVisibility, procedure.visibility);
   text += std::string(procedure.isDefault ? " Default " : " ") + Word(kProcedures, procedure.kind) + " " +
-          Utf8(procedure.name) + "(";
+          SourceText(procedure.name) + "(";
   for (const Parameter& parameter : procedure.parameters) {
-    text += (parameter.byValue ? "ByVal " : "") + Utf8(parameter.name) + (parameter.isArray ? "()," : ",");
+    text +=
+        (parameter.byValue ? "ByVal " : "") + SourceText(parameter.name) + (parameter.isArray ? "()," : ",");
   }
   return text + ") " + Braced(procedure.body) + "\n";
 }
@@ -89,11 +90,11 @@ std::string ProcedureText(const ProcedureDecl& procedure) {
 
 std::string TreeText(const Expr& expression) {
   switch (expression.kind) {
-    case ExprKind::Literal: return Utf8(static_cast<const LiteralExpr&>(expression).spelling);
-    case ExprKind::Name: return Utf8(static_cast<const NameExpr&>(expression).name);
+    case ExprKind::Literal: return SourceText(static_cast<const LiteralExpr&>(expression).spelling);
+    case ExprKind::Name: return SourceText(static_cast<const NameExpr&>(expression).name);
     case ExprKind::Member: {
       const auto& member = static_cast<const MemberExpr&>(expression);
-      return (member.object != nullptr ? TreeText(*member.object) : "") + "." + Utf8(member.name);
+      return (member.object != nullptr ? TreeText(*member.object) : "") + "." + SourceText(member.name);
     }
     case ExprKind::Call: {
       const auto& call = static_cast<const CallExpr&>(expression);
@@ -105,7 +106,7 @@ std::string TreeText(const Expr& expression) {
       return "{" + (Word(kUnary, unary.op) + TreeText(*unary.operand)) + "}";
     }
     case ExprKind::Binary: return Chain(static_cast<const BinaryExpr&>(expression));
-    case ExprKind::New: return "New " + Utf8(static_cast<const NewExpr&>(expression).className);
+    case ExprKind::New: return "New " + SourceText(static_cast<const NewExpr&>(expression).className);
     case ExprKind::Me: return "Me";
     case ExprKind::Missing: return "_";
   }
@@ -129,7 +130,7 @@ std::string TreeText(const Stmt& statement) {
       std::string text =
           constants.visibility == Visibility::Unsaid ? "Const" : Word(kVisibility, constants.visibility);
       for (const ConstDecl& constant : constants.constants) {
-        text += " " + Utf8(constant.name) + " = " + TreeText(*constant.expression);
+        text += " " + SourceText(constant.name) + " = " + TreeText(*constant.expression);
       }
       return text;
     }
@@ -177,7 +178,7 @@ std::string TreeText(Block block) {
 std::string TreeText(const SyntaxTree& tree) {
   std::string text = tree.optionExplicit ? "Explicit\n" : "";
   for (const ClassDecl* declared : tree.classes) {
-    text += "Class " + Utf8(declared->name) + "\n";
+    text += "Class " + SourceText(declared->name) + "\n";
     for (const DimStmt* field : declared->fields) text += DimText(*field) + "\n";
     for (const ProcedureDecl* procedure : declared->procedures) text += ProcedureText(*procedure);
   }

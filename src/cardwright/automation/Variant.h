@@ -166,7 +166,9 @@ class Variant {
   bool IsByRef() const noexcept { return (m_Header & kReference) != 0; }
   /// True for a value that is all here: neither counted nor a reference.
   bool IsInPlace() const noexcept { return (m_Header & (kCounted | kReference)) == 0; }
-  /// Whether both are Integer or Long.
+  /// Integer or Long.
+  bool IsWhole() const noexcept { return (m_Header ^ 2) <= 1; }
+  /// Whether both are.
   static bool AreWhole(const Variant& x, const Variant& y) noexcept {
     static_assert(static_cast<int>(VarType::Integer) == 2 && static_cast<int>(VarType::Long) == 3);
     return ((x.m_Header ^ 2) | (y.m_Header ^ 2)) <= 1;

@@ -34,7 +34,7 @@ Variant FormScriptHost::AskText(const Text& prompt, const Text& title, const Tex
                  : ScriptHost::AskText(prompt, title, initial, x, y);
 }
 
-bool FormScriptHost::WantsStop() {
+bool FormScriptHost::ShouldStop() {
   // Of a script run that drives the form.
   if (InterruptSignal::WasRaised()) return true;
   Desktop* const desktop = Module().desktop;

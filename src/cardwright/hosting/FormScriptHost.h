@@ -24,7 +24,7 @@ class FormScriptHost final : public ScriptHost {
                   const Variant& y) override;
   void SetAllowUI(bool allowed) override { m_AllowUI = allowed; }
   /// Asks the user, where they have pressed Break.
-  bool WantsStop() override;
+  bool ShouldStop() override;
 
  private:
   const std::shared_ptr<ClassRegistry> m_OnLeave;

@@ -44,7 +44,7 @@ class ScriptRun final : public ScriptHost {
   Variant AskText(const Text& prompt, const Text& title, const Text& initial, const Variant& x,
                   const Variant& y) override;
   /// After Ctrl+C, which may have come between two calls of the engine.
-  bool WantsStop() override { return InterruptSignal::WasRaised(); }
+  bool ShouldStop() override { return InterruptSignal::WasRaised(); }
 
  private:
   bool IsStopping() const noexcept;

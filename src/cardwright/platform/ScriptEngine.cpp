@@ -24,7 +24,7 @@ Text ScriptHost::BoxTitle() const { return u"VBScript"; }
 
 void ScriptHost::SetAllowUI(bool) {}
 
-bool ScriptHost::WantsStop() { return false; }
+bool ScriptHost::ShouldStop() { return false; }
 
 void ScriptObserver::OnReturn(std::u16string_view, int, int) {}
 

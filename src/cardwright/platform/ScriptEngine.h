@@ -32,10 +32,10 @@ class ScriptHost {
   virtual Text BoxTitle() const;
   /// Whether what the host does for scripts may ask a person anything. Until it is told, it may.
   virtual void SetAllowUI(bool allowed);
-  /// Whether the running script is to stop. Engines ask on the script's thread while a call from outside
-  /// takes long, some times a second and between two steps of the script, so the answer may take its time and
-  /// may run scripts.
-  virtual bool WantsStop();
+  /// Whether the running script should stop. Engines poll it during a long call from outside, a few times a
+  /// second, on the script's thread and between two steps of the script: the host may take its time to answer
+  /// and may run scripts meanwhile.
+  virtual bool ShouldStop();
 };
 
 /// Told of each statement before it runs, for tracing and profiling. In code that a script made itself lines

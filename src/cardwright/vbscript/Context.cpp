@@ -7,7 +7,6 @@ namespace cardwright::vbscript {
 
 namespace {
 
-constexpr int kOutOfStringSpace = 14;
 // Some dozens of microseconds.
 constexpr std::size_t kLongWork = std::size_t{1} << 16;
 
@@ -22,11 +21,11 @@ Text Context::Character(char16_t unit) {
 }
 
 void Context::CheckTextSize(std::size_t units) const {
-  if (units > maxTextUnits) Raise(kOutOfStringSpace);
-  NoteWork(units);
+  if (units > maxTextUnits) Raise(ErrorNumber::OutOfStringSpace);
+  ChargeWork(units);
 }
 
-void Context::NoteWork(std::size_t units) noexcept {
+void Context::ChargeWork(std::size_t units) noexcept {
   if (units >= kLongWork) StopSignal::IsRaised();
 }
 

@@ -31,9 +31,10 @@ class Context {
 
   /// Error 14 where a text of that many units would be too long.
   void CheckTextSize(std::size_t units) const;
-  /// To be called about work on that many units or elements. The machine looks at the clock every some
-  /// thousand jumps, which is too late where each of them does work like this.
-  static void NoteWork(std::size_t units) noexcept;
+  /// Charges work on that many code units or array elements. The machine checks the clock only every few
+  /// thousand jumps, which is too seldom where each of them does much work: after a large charge the clock is
+  /// checked at once.
+  static void ChargeWork(std::size_t units) noexcept;
 
  private:
   ScriptHost& m_Host;

@@ -10,6 +10,7 @@ namespace cardwright::vbscript {
 class NamedError : public Error {
  public:
   NamedError(int number, Text name) : Error(number), m_Name(std::move(name)) {}
+  NamedError(ErrorNumber number, Text name) : Error(number), m_Name(std::move(name)) {}
   const Text& Name() const noexcept { return m_Name; }
 
  private:

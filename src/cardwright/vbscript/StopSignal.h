@@ -2,12 +2,12 @@
 
 namespace cardwright::vbscript {
 
-/// What long work of the library asks now and then: whether the script that it works for is to stop. It may
-/// then give up with any error, as nothing in the script gets to see it.
+/// Polled by long work of the library: whether the script that it works for should stop. The work may then
+/// give up with any error, as the script never gets to see it.
 class StopSignal {
  public:
-  /// Looks at the clock too. False where no script runs on this thread.
-  static bool IsRaised() noexcept { return t_Current && t_Current->LookForStop(); }
+  /// Checks the script's deadline too. False where no script runs on this thread.
+  static bool IsRaised() noexcept { return t_Current && t_Current->ShouldStop(); }
 
   /// Makes a signal the thread's as long as it lives.
   class Scope {
@@ -23,7 +23,7 @@ class StopSignal {
 
  protected:
   ~StopSignal() = default;
-  virtual bool LookForStop() noexcept = 0;
+  virtual bool ShouldStop() noexcept = 0;
 
  private:
   static constinit thread_local StopSignal* t_Current;

@@ -130,7 +130,7 @@ void Runtime::Nudge(void* context) noexcept { JS_RequestInterruptCallback(static
 
 bool Runtime::OnInterrupt(JSContext* cx) {
   Runtime& runtime = Of(cx);
-  if (!runtime.m_Running.empty()) runtime.m_Running.back()->AskHost();
+  if (!runtime.m_Running.empty()) runtime.m_Running.back()->PollHost();
   if (runtime.LooksGood()) return true;
   if (runtime.m_IsDraining) js::StopDrainingJobQueue(cx);
   return false;

@@ -131,10 +131,10 @@ Place Chunk::Original(int line, int column) const noexcept {
   return places.Original({line, static_cast<int>(SpotOf(text, line, column).unit)});
 }
 
-void Session::AskHost() {
-  if (!m_StopQuestion.IsDue()) return;
+void Session::PollHost() {
+  if (!m_HostPoll.IsDue()) return;
   CallHost(*this, [this] {
-    if (m_StopQuestion.Ask(m_Host)) Stop();
+    if (m_HostPoll.Poll(m_Host)) Stop();
     return true;
   });
 }
@@ -151,7 +151,7 @@ Session::Entry::Entry(Session& session)
     // The order to stop is for what was running; what begins now is another call.
     session.m_Stop.store(false, std::memory_order_relaxed);
     session.m_StopOrder->store(false, std::memory_order_relaxed);
-    session.m_StopQuestion.Begin();
+    session.m_HostPoll.Restart();
     session.m_IsOutOfMemory = false;
     session.m_MemoryAtStart.reset();
     const auto deadline = session.m_Timeout < 0 ? Clock::time_point::max()

@@ -22,7 +22,7 @@
 #include "cardwright/jscript/spidermonkey/Runtime.h"
 #include "cardwright/jscript/spidermonkey/Watchdog.h"
 #include "cardwright/jscript/syntax/Rewriter.h"
-#include "cardwright/platform/StopQuestion.h"
+#include "cardwright/platform/HostPoll.h"
 
 namespace cardwright::jscript {
 
@@ -94,9 +94,9 @@ class Session : public std::enable_shared_from_this<Session> {
   bool IsStopping() const noexcept {
     return m_Stop.load(std::memory_order_relaxed) || m_StopOrder->load(std::memory_order_relaxed);
   }
-  /// Asks the host from time to time whether the running script is to stop; what it does meanwhile may run
-  /// scripts. Called at the library's interrupts.
-  void AskHost();
+  /// Polls the host from time to time whether the running script should stop; the host may run scripts
+  /// meanwhile. Called at the library's interrupts.
+  void PollHost();
   void StopForMemory() noexcept { m_IsOutOfMemory = true; }
   /// The process's memory at the first look at it during a call.
   std::size_t MemoryAtStart(std::size_t now) noexcept {
@@ -172,7 +172,7 @@ class Session : public std::enable_shared_from_this<Session> {
   bool m_IsOutOfMemory = false;
   std::optional<std::size_t> m_MemoryAtStart;
   std::int32_t m_Timeout = -1;
-  StopQuestion m_StopQuestion;
+  HostPoll m_HostPoll;
   int m_Depth = 0;
 };
 

@@ -1,13 +1,12 @@
+#include "cardwright/automation/Errors.h"
 #include "cardwright/vbscript/compile/BodyCompiler.h"
 
 namespace cardwright::vbscript {
 
 namespace {
 
-constexpr int kIllegalAssignment = 501;
-
 // An operator never answers an object or an array, so its result may go straight into a variable.
-bool IsPlain(const Expr& value) {
+bool NeverGivesObject(const Expr& value) {
   return value.kind == ExprKind::Binary || value.kind == ExprKind::Unary ||
          (value.kind == ExprKind::Literal && !static_cast<const LiteralExpr&>(value).value->IsObject());
 }
@@ -72,7 +71,7 @@ bool BodyCompiler::CompileAppend(const Place& place, const AssignStmt& statement
 void BodyCompiler::AssignName(const Place& place, const AssignStmt& statement) {
   if (CompileAppend(place, statement)) return;
   if (place.kind == PlaceKind::Register && !place.isReference && !statement.isSet &&
-      IsPlain(*statement.value)) {
+      NeverGivesObject(*statement.value)) {
     EvaluateInto(*statement.value, place.r);
     return;
   }
@@ -105,7 +104,8 @@ void BodyCompiler::Store(const Place& place, std::uint16_t value, bool isSet) {
 }
 
 void BodyCompiler::EmitIllegalAssignment(const Place& place) {
-  m_Code.EmitWide(Op::RaiseError, kIllegalAssignment, SymbolIndex(place.name));
+  m_Code.EmitWide(Op::RaiseError, static_cast<std::uint16_t>(ErrorNumber::IllegalAssignment),
+                  SymbolIndex(place.name));
 }
 
 void BodyCompiler::AssignElement(const CallExpr& target, const AssignStmt& statement) {

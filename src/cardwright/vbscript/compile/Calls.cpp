@@ -1,3 +1,4 @@
+#include "cardwright/automation/Errors.h"
 #include "cardwright/vbscript/compile/BodyCompiler.h"
 
 namespace cardwright::vbscript {
@@ -176,7 +177,8 @@ std::uint16_t BodyCompiler::ObjectOf(const MemberExpr& member) {
   if (member.object) return EvaluateToRegister(*member.object);
   if (!m_Withs.empty()) return m_Withs.back();
   const std::uint16_t none = m_Code.Temporary();
-  m_Code.EmitWide(Op::RaiseError, 505, SymbolIndex(m_Context.linkage.names.Add(u"")));
+  m_Code.EmitWide(Op::RaiseError, static_cast<std::uint16_t>(ErrorNumber::InvalidReference),
+                  SymbolIndex(m_Context.linkage.names.Add(u"")));
   return none;
 }
 

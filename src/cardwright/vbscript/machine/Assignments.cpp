@@ -6,8 +6,6 @@ namespace cardwright::vbscript {
 
 namespace {
 
-int Number(ErrorNumber number) { return static_cast<int>(number); }
-
 // Without Set an object is assigned by its default value.
 void MakePlain(Variant& value, bool isSet) {
   const Variant& held = static_cast<const Variant&>(value).Deref();
@@ -42,8 +40,8 @@ bool Machine::PutMember(RegisterView view, Instruction i, MemberUse& use) {
   const Args arguments(view.R + i.a, i.n);
   const bool isSet = (i.c & kAsSet) != 0;
   const Variant& held = static_cast<const Variant&>(place).Deref();
-  if (!held.IsObject()) RaiseAbout(Number(ErrorNumber::ObjectRequired), use.object);
-  if (!held.ObjectPtr()) RaiseAbout(Number(ErrorNumber::ObjectNotSet), use.object);
+  if (!held.IsObject()) RaiseAbout(ErrorNumber::ObjectRequired, use.object);
+  if (!held.ObjectPtr()) RaiseAbout(ErrorNumber::ObjectNotSet, use.object);
   const Ref<Object> object(held.ObjectPtr());
   view.Spend(i.b);
   MakePlain(arguments.back(), isSet);
@@ -64,7 +62,7 @@ bool Machine::PutInstance(MemberUse& use, Instance& object, Args arguments, bool
     return true;
   }
   if (member.field < 0 || !(member.fieldIsPublic || isInside))
-    RaiseAbout(Number(ErrorNumber::NotSupported), use.name);
+    RaiseAbout(ErrorNumber::NotSupported, use.name);
   Variant& field = object.Field(static_cast<std::size_t>(member.field));
   if (arguments.size() > 1) {
     PutElement(field, arguments, isSet, names.Spelling(use.name));

@@ -9,18 +9,15 @@ namespace cardwright::vbscript {
 
 namespace {
 
-void Clear(Variant* arguments, std::size_t count) noexcept {
+void ClearArguments(Variant* arguments, std::size_t count) noexcept {
   for (std::size_t k = 0; k < count; ++k) arguments[k].Reset();
 }
 
 // What every call ends with that ran no script: the arguments are spent, the result is where it is wanted.
-void Finish(Variant* arguments, std::size_t count, Variant* result, Variant outcome) {
-  Clear(arguments, count);
+void FinishCall(Variant* arguments, std::size_t count, Variant* result, Variant outcome) {
+  ClearArguments(arguments, count);
   if (result) *result = std::move(outcome);
 }
-
-int Number(ErrorNumber number) { return static_cast<int>(number); }
-
 }  // namespace
 
 bool Machine::CallSymbol(SymbolUse& use, Variant* arguments, std::size_t count, std::uint16_t flags) {
@@ -29,7 +26,7 @@ bool Machine::CallSymbol(SymbolUse& use, Variant* arguments, std::size_t count, 
   const Symbol* symbol = use.symbol;
   if (!symbol) {
     if (use.local == kNoRegister)
-      RaiseAbout(use.isStrict ? 500 : Number(ErrorNumber::TypeMismatch), use.name);
+      RaiseAbout(use.isStrict ? ErrorNumber::UndefinedVariable : ErrorNumber::TypeMismatch, use.name);
     return CallValue(Current().registers[use.local].Deref(), arguments, count, result,
                      names.Spelling(use.name));
   }
@@ -40,21 +37,21 @@ bool Machine::CallSymbol(SymbolUse& use, Variant* arguments, std::size_t count, 
     case SymbolKind::Builtin: CallBuiltin(*symbol->builtin, arguments, count, result); return false;
     case SymbolKind::HostMember: {
       const Ref<Object> object(&RequireObject(symbol->value));
-      Finish(arguments, count, result,
-             InvokeHost(*object, symbol->member, CallKind::MethodOrGet, {arguments, count}));
+      FinishCall(arguments, count, result,
+                 InvokeHost(*object, symbol->member, CallKind::MethodOrGet, {arguments, count}));
       return false;
     }
     case SymbolKind::Variable:
       return CallValue(*symbol->variable, arguments, count, result, names.Spelling(use.name));
     case SymbolKind::HostObject:
       return CallValue(symbol->value, arguments, count, result, names.Spelling(use.name));
-    default: RaiseAbout(Number(ErrorNumber::TypeMismatch), use.name);
+    default: RaiseAbout(ErrorNumber::TypeMismatch, use.name);
   }
 }
 
 void Machine::CallBuiltin(const Builtin& builtin, Variant* arguments, std::size_t count, Variant* result) {
   if (count < builtin.minArguments || (count > builtin.maxArguments && builtin.maxArguments != kAnyCount))
-    throw NamedError(Number(ErrorNumber::WrongArgumentCount), builtin.name);
+    throw NamedError(ErrorNumber::WrongArgumentCount, builtin.name);
   StopIfAsked();
   for (std::size_t k = 0; k < count; ++k) {
     Variant& argument = arguments[k];
@@ -63,13 +60,13 @@ void Machine::CallBuiltin(const Builtin& builtin, Variant* arguments, std::size_
       argument = std::move(value);
     }
     if (argument.IsString()) {
-      NoteWork(argument.StringView().size());
+      ChargeWork(argument.StringView().size());
     } else if (argument.IsArray()) {
-      NoteWork(argument.ArrayPtr()->Values().size());
+      ChargeWork(argument.ArrayPtr()->Values().size());
     }
   }
   try {
-    Finish(arguments, count, result, builtin.call(*this, {arguments, count}));
+    FinishCall(arguments, count, result, builtin.call(*this, {arguments, count}));
   } catch (const Error& error) {
     // The report names the function, but for an error that has more to say.
     if (typeid(error) != typeid(Error) || !error.Source().IsEmpty() ||
@@ -94,7 +91,7 @@ const ClassMember& Machine::FindMember(MemberUse& use, const Instance& object) c
     use.cls = use.member ? &object.Class() : nullptr;
     use.field = use.member && use.member->fieldIsPublic ? use.member->field : -1;
   }
-  if (!use.member) RaiseAbout(Number(ErrorNumber::NotSupported), use.name);
+  if (!use.member) RaiseAbout(ErrorNumber::NotSupported, use.name);
   return *use.member;
 }
 
@@ -102,7 +99,7 @@ MemberId Machine::FindMember(MemberUse& use, const Object& object) const {
   const void* const shape = object.Shape();
   if (shape && shape == use.shape) return use.id;
   const MemberId id = object.FindMember(names.Spelling(use.name).View());
-  if (id == kNoMember) RaiseAbout(Number(ErrorNumber::NotSupported), use.name);
+  if (id == kNoMember) RaiseAbout(ErrorNumber::NotSupported, use.name);
   use.shape = shape;
   use.id = id;
   return id;
@@ -114,8 +111,8 @@ bool Machine::CallMember(RegisterView view, Instruction i, MemberUse& use) {
   Variant* const arguments = view.R + i.a;
   Variant* const result = (i.c & kDropResult) ? nullptr : spend ? &place : arguments;
   const Variant& held = static_cast<const Variant&>(place).Deref();
-  if (!held.IsObject()) RaiseAbout(Number(ErrorNumber::ObjectRequired), use.object);
-  if (!held.ObjectPtr()) RaiseAbout(Number(ErrorNumber::ObjectNotSet), use.object);
+  if (!held.IsObject()) RaiseAbout(ErrorNumber::ObjectRequired, use.object);
+  if (!held.ObjectPtr()) RaiseAbout(ErrorNumber::ObjectNotSet, use.object);
   if (Instance* instance = Instance::From(held.ObjectPtr(), *m_Link)) {
     const Ref<Instance> object(instance);
     if (spend) place.Reset();
@@ -125,7 +122,7 @@ bool Machine::CallMember(RegisterView view, Instruction i, MemberUse& use) {
   const MemberId member = FindMember(use, *object);
   Variant outcome = InvokeHost(*object, member, CallKind::MethodOrGet, {arguments, i.n});
   if (spend) place.Reset();
-  Finish(arguments, i.n, result, std::move(outcome));
+  FinishCall(arguments, i.n, result, std::move(outcome));
   return false;
 }
 
@@ -139,7 +136,7 @@ bool Machine::CallInstance(MemberUse& use, Instance& object, Variant* arguments,
     return true;
   }
   if (member.field < 0 || !(member.fieldIsPublic || isInside))
-    RaiseAbout(Number(ErrorNumber::NotSupported), use.name);
+    RaiseAbout(ErrorNumber::NotSupported, use.name);
   const Variant& field = object.Field(static_cast<std::size_t>(member.field));
   if (count) return CallValue(field, arguments, count, result, names.Spelling(use.name));
   if (result) *result = field;
@@ -159,12 +156,12 @@ bool Machine::CallValue(const Variant& callee, Variant* arguments, std::size_t c
                         const Text& name) {
   if (callee.IsArray()) {
     const Ref<Array> array(callee.ArrayPtr());
-    if (count == 0) throw NamedError(Number(ErrorNumber::SubscriptOutOfRange), name);
-    Finish(arguments, count, result, ElementAt(*array, {arguments, count}));
+    if (count == 0) throw NamedError(ErrorNumber::SubscriptOutOfRange, name);
+    FinishCall(arguments, count, result, ElementAt(*array, {arguments, count}));
     return false;
   }
-  if (!callee.IsObject()) throw NamedError(Number(ErrorNumber::TypeMismatch), name);
-  if (!callee.ObjectPtr()) throw NamedError(Number(ErrorNumber::ObjectNotSet), name);
+  if (!callee.IsObject()) throw NamedError(ErrorNumber::TypeMismatch, name);
+  if (!callee.ObjectPtr()) throw NamedError(ErrorNumber::ObjectNotSet, name);
   const Ref<Object> object(callee.ObjectPtr());
   if (const auto* function = dynamic_cast<const FunctionReference*>(object.get())) {
     if (function->Machine() == this) {
@@ -172,14 +169,15 @@ bool Machine::CallValue(const Variant& callee, Variant* arguments, std::size_t c
       return true;
     }
   } else if (Instance* instance = Instance::From(object.get(), *m_Link)) {
-    if (instance->DefaultMember() == kNoMember) throw NamedError(Number(ErrorNumber::NotSupported), name);
+    if (instance->DefaultMember() == kNoMember) throw NamedError(ErrorNumber::NotSupported, name);
     MemberUse use;
     use.name = instance->Class().members[static_cast<std::size_t>(instance->DefaultMember())].name;
     return CallInstance(use, *instance, arguments, count, result);
   }
   const MemberId member = object->DefaultMember();
-  if (member == kNoMember) throw NamedError(Number(ErrorNumber::NotSupported), name);
-  Finish(arguments, count, result, InvokeHost(*object, member, CallKind::MethodOrGet, {arguments, count}));
+  if (member == kNoMember) throw NamedError(ErrorNumber::NotSupported, name);
+  FinishCall(arguments, count, result,
+             InvokeHost(*object, member, CallKind::MethodOrGet, {arguments, count}));
   return false;
 }
 
@@ -190,7 +188,7 @@ bool Machine::NewObject(SymbolUse& use, Variant& target) {
     target = MakeRef<RegExp>(maxTextUnits);
     return false;
   }
-  if (!use.symbol || use.symbol->kind != SymbolKind::Class) RaiseAbout(506, use.name);
+  if (!use.symbol || use.symbol->kind != SymbolKind::Class) RaiseAbout(ErrorNumber::UndefinedClass, use.name);
   const Ref<ClassInfo> cls = use.symbol->cls;
   const Ref<Instance> instance = MakeInstance(*cls);
   target = instance;

@@ -48,7 +48,7 @@ struct Indices {
 // Most arrays have one dimension, most indices are whole.
 std::size_t PositionOf(Variant& holder, Args indices) {
   const Variant& held = std::as_const(holder).Deref();
-  if (held.IsArray() && indices.size() == 1 && Variant::AreWhole(indices[0], indices[0])) {
+  if (held.IsArray() && indices.size() == 1 && indices[0].IsWhole()) {
     Array& array = *held.ArrayPtr();
     if (const Variant* element = array.Find(indices[0].Long()))
       return static_cast<std::size_t>(element - array.Values().data());

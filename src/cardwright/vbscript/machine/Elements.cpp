@@ -64,20 +64,20 @@ void ReDimArray(RegisterView view, Instruction i, bool preserve) {
   }
   Variant& holder = view.R[i.a].Deref();
   Array* old = holder.IsArray() ? holder.ArrayPtr() : nullptr;
-  if (old && (old->IsFixed() || old->IsLocked())) Raise(10);
+  if (old && (old->IsFixed() || old->IsLocked())) Raise(ErrorNumber::ArrayIsFixedOrLocked);
   if (preserve && old && !old->Dimensions().empty()) {
     if (!KeepsShape(*old, uppers)) Raise(ErrorNumber::SubscriptOutOfRange);
     Array::Writable(holder).ResizeLast(uppers.back());
   } else {
     holder = Variant(MakeRef<Array>(FromZero(uppers)));
   }
-  Context::NoteWork(std::as_const(view.R[i.a]).Deref().ArrayPtr()->Values().size());
+  Context::ChargeWork(std::as_const(view.R[i.a]).Deref().ArrayPtr()->Values().size());
   view.R[i.a].Reset();
 }
 
 void EraseArray(Variant& holder) {
   if (!holder.IsArray()) Raise(ErrorNumber::TypeMismatch);
-  if (holder.ArrayPtr()->IsLocked()) Raise(10);
+  if (holder.ArrayPtr()->IsLocked()) Raise(ErrorNumber::ArrayIsFixedOrLocked);
   if (!holder.ArrayPtr()->IsFixed()) {
     holder = Variant(MakeRef<Array>());
     return;
@@ -116,11 +116,11 @@ void PutElement(Variant& place, Args arguments, bool isSet, const Text& name) {
     Variant plain;
     isSet ? AssignObject(plain, value, true) : AssignPlain(plain, value, true);
     Array& array = Array::Writable(place);
-    Context::NoteWork(array.Values().size());
+    Context::ChargeWork(array.Values().size());
     array.Values()[whole.In(array)] = std::move(plain);
     return;
   }
-  if (!held.IsObject()) throw NamedError(static_cast<int>(ErrorNumber::TypeMismatch), name);
+  if (!held.IsObject()) throw NamedError(ErrorNumber::TypeMismatch, name);
   const Ref<Object> object(&RequireObject(held));
   const MemberId member = object->DefaultMember();
   if (member == kNoMember) Raise(ErrorNumber::NotSupported);

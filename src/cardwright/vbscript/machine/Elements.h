@@ -17,14 +17,11 @@ void EraseArray(Variant& holder);
 
 /// The element of a GetSymbolElement and its like; null where it takes the long way.
 inline Variant* FindElement(Array& array, RegisterView view, Instruction i) noexcept {
-  const auto isWhole = [](const Variant& v) {
-    return v.Type() == VarType::Long || v.Type() == VarType::Integer;
-  };
   const Variant& first = view.C(i);
-  if (!isWhole(first)) return nullptr;
+  if (!first.IsWhole()) return nullptr;
   if (!(i.n & kTwoIndices)) return array.Find(first.Long());
   const Variant& second = view.B(i);
-  return isWhole(second) ? array.Find(first.Long(), second.Long()) : nullptr;
+  return second.IsWhole() ? array.Find(first.Long(), second.Long()) : nullptr;
 }
 
 /// The element at these indices, each converted to a whole number; error 9 where there is none.

@@ -9,8 +9,6 @@ namespace cardwright::vbscript {
 
 namespace {
 
-constexpr int kUserInterrupt = 18;
-
 // The engine as its embedders see it: modules by name, errors noted.
 class VbScriptEngine final : public ScriptEngine {
  public:
@@ -79,7 +77,7 @@ void VbScriptEngine::Noting(Step&& step) {
     m_Error = Described(fault, fault.Report(), fault.Where(), false);
     throw;
   } catch (const Interrupted&) {
-    const Error error(kUserInterrupt, u"User interrupt occurred");
+    const Error error(static_cast<int>(ErrorNumber::UserInterrupt), u"User interrupt occurred");
     m_Error = Described(error, error.Description(), {}, false);
     m_Error.isInterruption = true;
     throw error;

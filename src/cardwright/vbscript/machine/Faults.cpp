@@ -67,11 +67,10 @@ void Machine::NoteTime() noexcept {
 }
 
 // In the middle of work that nothing may come between: the host is asked after it.
-bool Machine::LookForStop() noexcept {
+bool Machine::ShouldStop() noexcept {
   NoteTime();
-  Order expected = Order::GoOn;
-  if (m_StopQuestion.IsDue())
-    m_Order.compare_exchange_strong(expected, Order::LookAround, std::memory_order_relaxed);
+  Order expected = Order::None;
+  if (m_HostPoll.IsDue()) m_Order.compare_exchange_strong(expected, Order::Poll, std::memory_order_relaxed);
   return IsStopping();
 }
 
@@ -81,11 +80,11 @@ void Machine::CheckStop() {
 }
 
 // Between two steps of the script. What the host does meanwhile may call the script.
-void Machine::LookAround() {
-  Order expected = Order::LookAround;
-  m_Order.compare_exchange_strong(expected, Order::GoOn, std::memory_order_relaxed);
+void Machine::PollInterrupts() {
+  Order expected = Order::Poll;
+  m_Order.compare_exchange_strong(expected, Order::None, std::memory_order_relaxed);
   CheckStop();
-  if (m_StopQuestion.IsDue() && m_StopQuestion.Ask(Host())) Interrupt();
+  if (m_HostPoll.IsDue() && m_HostPoll.Poll(Host())) Interrupt();
   StopIfAsked();
 }
 

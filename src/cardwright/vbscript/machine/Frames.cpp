@@ -5,7 +5,6 @@ namespace cardwright::vbscript {
 
 namespace {
 
-constexpr int kOutOfStackSpace = 28;
 constexpr std::size_t kFirstFrames = 32;
 constexpr std::uint32_t kCallsBetweenLooks = 1024;
 
@@ -21,7 +20,7 @@ void TakeValues(const Procedure& procedure, Variant* registers) {
 }  // namespace
 
 void Machine::CheckNesting(std::size_t stack) const {
-  if (!HasStackRoom(stack)) Raise(kOutOfStackSpace);
+  if (!HasStackRoom(stack)) Raise(ErrorNumber::OutOfStackSpace);
 }
 
 // Only for what a running script has read: a thread of little stack may still start one.
@@ -32,7 +31,7 @@ void Machine::CheckRoomForSource() const {
 inline void Machine::NoteCurrent() noexcept { m_Current = m_Depth ? &m_Frames[m_Depth - 1] : nullptr; }
 
 void Machine::AddFrames() {
-  if (m_Depth >= static_cast<std::size_t>(m_Limits.callDepth)) Raise(kOutOfStackSpace);
+  if (m_Depth >= static_cast<std::size_t>(m_Limits.callDepth)) Raise(ErrorNumber::OutOfStackSpace);
   m_Frames.resize(std::min<std::size_t>(std::max(kFirstFrames, 2 * m_Depth), m_Limits.callDepth));
   NoteCurrent();
 }
@@ -110,7 +109,7 @@ Variant Machine::Enter(const Procedure& procedure, Instance* me, Args args) {
   // Whole calls may be too short to look at the clock themselves, or even to come to a place to stop at:
   // objects that make objects at their end would never come to one.
   CheckStop();
-  if (++m_CallsSinceLook % kCallsBetweenLooks == 0) LookAround();
+  if (++m_CallsSinceLook % kCallsBetweenLooks == 0) PollInterrupts();
   Variant outcome;
   std::vector<Variant> copies(args.begin(), args.end());
   PushFrame(procedure, me, copies, &outcome, ArgumentPlace::Elsewhere);

@@ -18,10 +18,6 @@ namespace {
 // Jumps back between two looks at the clock.
 constexpr int kTicks = 2048;
 
-bool IsWhole(const Variant& value) noexcept {
-  return value.Type() == VarType::Long || value.Type() == VarType::Integer;
-}
-
 // The narrowest of the two types that holds the result of two whole operands.
 VarType WholeType(const Variant& x, const Variant& y, std::int32_t result) noexcept {
   const int wider = static_cast<int>(x.Type()) | static_cast<int>(y.Type());
@@ -32,14 +28,14 @@ static_assert((static_cast<int>(VarType::Integer) | 1) == static_cast<int>(VarTy
 bool AreDoubles(const Variant& x, const Variant& y) noexcept {
   return x.Type() == VarType::Double && y.Type() == VarType::Double;
 }
-bool IsReal(const Variant& value) noexcept { return value.Type() == VarType::Double || IsWhole(value); }
+bool IsReal(const Variant& value) noexcept { return value.Type() == VarType::Double || value.IsWhole(); }
 double Real(const Variant& value) noexcept {
   return value.Type() == VarType::Double ? value.Double() : value.Long();
 }
 
 // An object has a default value to be asked for, which may change the array that an element is to be assigned
 // in.
-bool IsPlain(const Variant& value) noexcept { return !value.Deref().IsObject(); }
+bool IsNoObject(const Variant& value) noexcept { return !value.Deref().IsObject(); }
 
 }  // namespace
 
@@ -89,9 +85,9 @@ void Machine::Run() {
 #define OPERAND_C ((i.n & kConstantC) ? K[i.c] : R[i.c])
 #define TICK()                                                                   \
   do {                                                                           \
-    if (--ticks < 0 || m_Order.load(std::memory_order_relaxed) != Order::GoOn) { \
+    if (--ticks < 0 || m_Order.load(std::memory_order_relaxed) != Order::None) { \
       ticks = kTicks;                                                            \
-      LookAround();                                                              \
+      PollInterrupts();                                                          \
     }                                                                            \
   } while (false)
 // No object with a destructor may be alive at a NEXT: the jump would leave it behind.
@@ -354,7 +350,7 @@ void Machine::Run() {
         Variant& variable = R[i.a].Deref();
         const Variant& limit = R[i.b + 1];
         const Variant& step = R[i.b + 2];
-        if (IsWhole(variable) && IsWhole(step) && IsWhole(limit)) {
+        if (variable.IsWhole() && step.IsWhole() && limit.IsWhole()) {
           const std::int64_t next = std::int64_t{variable.Long()} + step.Long();
           const auto whole = static_cast<std::int32_t>(next);
           if (whole == next) {
@@ -377,7 +373,7 @@ void Machine::Run() {
       OPERATION(GetElement) {
         const Variant& holder = static_cast<const Variant&>(R[i.b]).Deref();
         const Variant& index = OPERAND_C;
-        if (holder.IsArray() && IsWhole(index)) {
+        if (holder.IsArray() && index.IsWhole()) {
           if (const Variant* element = holder.ArrayPtr()->Find(index.Long())) {
             R[i.a] = *element;
             NEXT;
@@ -391,7 +387,7 @@ void Machine::Run() {
         const Variant& holder = static_cast<const Variant&>(R[i.b]).Deref();
         const Variant& first = OPERAND_C;
         const Variant& second = (i.n & kConstantSecond) ? K[word.a] : R[word.a];
-        if (holder.IsArray() && IsWhole(first) && IsWhole(second)) {
+        if (holder.IsArray() && first.IsWhole() && second.IsWhole()) {
           if (const Variant* element = holder.ArrayPtr()->Find(first.Long(), second.Long())) {
             R[i.a] = *element;
             NEXT;
@@ -403,7 +399,7 @@ void Machine::Run() {
       OPERATION(SetElement) {
         Variant& holder = R[i.b].Deref();
         const Variant& index = OPERAND_C;
-        if (holder.IsArray() && IsWhole(index) && holder.ArrayPtr()->IsUnshared() && IsPlain(R[i.a])) {
+        if (holder.IsArray() && index.IsWhole() && holder.ArrayPtr()->IsUnshared() && IsNoObject(R[i.a])) {
           if (Variant* element = holder.ArrayPtr()->Find(index.Long())) {
             AssignPlain(*element, R[i.a], i.a >= firstTemporary);
             NEXT;
@@ -417,8 +413,8 @@ void Machine::Run() {
         Variant& holder = R[i.b].Deref();
         const Variant& first = OPERAND_C;
         const Variant& second = (i.n & kConstantSecond) ? K[word.a] : R[word.a];
-        if (holder.IsArray() && IsWhole(first) && IsWhole(second) && holder.ArrayPtr()->IsUnshared() &&
-            IsPlain(R[i.a])) {
+        if (holder.IsArray() && first.IsWhole() && second.IsWhole() && holder.ArrayPtr()->IsUnshared() &&
+            IsNoObject(R[i.a])) {
           if (Variant* element = holder.ArrayPtr()->Find(first.Long(), second.Long())) {
             AssignPlain(*element, R[i.a], i.a >= firstTemporary);
             NEXT;
@@ -443,7 +439,7 @@ void Machine::Run() {
         SymbolUse& use = procedure->symbols[pc->Wide()];
         ++pc;
         if (use.epoch == m_Epoch && use.variable && use.variable->IsArray() &&
-            use.variable->ArrayPtr()->IsUnshared() && IsPlain(R[i.a])) {
+            use.variable->ArrayPtr()->IsUnshared() && IsNoObject(R[i.a])) {
           if (Variant* element = FindElement(*use.variable->ArrayPtr(), VIEW, i)) {
             AssignPlain(*element, R[i.a], i.a >= firstTemporary);
             NEXT;
@@ -467,7 +463,7 @@ void Machine::Run() {
       OPERATION(SetFieldElement) {
         Variant& holder = Current().me->Field(pc->Wide());
         ++pc;
-        if (holder.IsArray() && holder.ArrayPtr()->IsUnshared() && IsPlain(R[i.a])) {
+        if (holder.IsArray() && holder.ArrayPtr()->IsUnshared() && IsNoObject(R[i.a])) {
           if (Variant* element = FindElement(*holder.ArrayPtr(), VIEW, i)) {
             AssignPlain(*element, R[i.a], i.a >= firstTemporary);
             NEXT;
@@ -557,7 +553,7 @@ void Machine::Run() {
       m_Err->Clear();
       NEXT;
       OPERATION(RaiseError)
-      RaiseAbout(i.a, procedure->symbols[i.Wide()].name);
+      RaiseAbout(static_cast<ErrorNumber>(i.a), procedure->symbols[i.Wide()].name);
       OPERATION(RequireObject)
       TakeObject(VIEW, i);
       NEXT;

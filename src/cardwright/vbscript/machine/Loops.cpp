@@ -9,12 +9,10 @@ namespace cardwright::vbscript {
 
 namespace {
 
-constexpr int kLoopNotPrepared = 92;
-
-Variant Number(const Variant& value) {
+Variant NumberOf(const Variant& value) {
   const Variant& held = value.Deref();
   switch (held.Type()) {
-    case VarType::Object: return Number(DefaultValue(held));
+    case VarType::Object: return NumberOf(DefaultValue(held));
     case VarType::String: return Variant(ToDouble(held));
     case VarType::Empty: return Variant(std::int16_t{0});
     case VarType::Boolean: return Variant(ToInteger(held));
@@ -35,9 +33,9 @@ bool IsDone(const Variant& variable, const Variant& limit, const Variant& step) 
 bool PrepareFor(Variant& variable, Variant* bounds) {
   // Whichever of the three fails, no limit stays behind: that is how Next knows a loop that was not prepared.
   const Variant given = std::move(bounds[1]);
-  Variant first = Number(bounds[0]);
-  Variant limit = Number(given);
-  Variant step = Number(bounds[2]);
+  Variant first = NumberOf(bounds[0]);
+  Variant limit = NumberOf(given);
+  Variant step = NumberOf(bounds[2]);
   const bool runs = !IsDone(first, limit, step);
   bounds[0].Reset();
   bounds[1] = std::move(limit);
@@ -47,8 +45,8 @@ bool PrepareFor(Variant& variable, Variant* bounds) {
 }
 
 bool AdvanceFor(Variant& variable, const Variant& limit, const Variant& step) {
-  if (limit.IsEmpty()) Raise(kLoopNotPrepared);
-  Variant next = Add(Number(variable), step);
+  if (limit.IsEmpty()) Raise(ErrorNumber::ForLoopNotInitialized);
+  Variant next = Add(NumberOf(variable), step);
   const bool runs = !IsDone(next, limit, step);
   variable.Deref() = std::move(next);
   return runs;

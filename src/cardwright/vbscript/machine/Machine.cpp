@@ -195,8 +195,8 @@ Machine::Entry::Entry(Machine& machine)
   Locale::SetCurrent(*machine.locale);
   if (machine.m_Entries++ != 0) return;
   // The order to stop is for what was running; what begins now is another call.
-  machine.m_Order.store(Order::GoOn, std::memory_order_relaxed);
-  machine.m_StopQuestion.Begin();
+  machine.m_Order.store(Order::None, std::memory_order_relaxed);
+  machine.m_HostPoll.Restart();
   machine.m_Deadline = machine.m_Timeout < 0
                            ? kNoDeadline
                            : std::chrono::steady_clock::now() + std::chrono::milliseconds(machine.m_Timeout);

@@ -7,8 +7,8 @@
 #include <vector>
 
 #include "cardwright/automation/MemoryBudget.h"
+#include "cardwright/platform/HostPoll.h"
 #include "cardwright/platform/ScriptEngine.h"
-#include "cardwright/platform/StopQuestion.h"
 #include "cardwright/vbscript/Context.h"
 #include "cardwright/vbscript/Engine.h"
 #include "cardwright/vbscript/StopSignal.h"
@@ -168,7 +168,7 @@ class Machine final : public Context, public Linkage, private StopSignal {
   bool ReferToSymbol(SymbolUse& use, Variant& target);
   void AssignSymbol(SymbolUse& use, Variant& value, bool isSet, bool spend);
   void AppendToSymbol(RegisterView view, Instruction i, SymbolUse& use);
-  [[noreturn]] void RaiseAbout(int number, NameId name) const;
+  [[noreturn]] void RaiseAbout(ErrorNumber number, NameId name) const;
   Text LocalName(const Procedure& procedure, std::uint16_t r) const;
 
   // Faults.cpp
@@ -176,10 +176,10 @@ class Machine final : public Context, public Linkage, private StopSignal {
   void Handle(Pending pending, std::size_t entry);
   void Unwind(std::size_t depth) noexcept;
   void NoteTime() noexcept;
-  bool LookForStop() noexcept override;
+  bool ShouldStop() noexcept override;
   bool IsStopping() const noexcept { return m_Order.load(std::memory_order_relaxed) == Order::Stop; }
   void CheckStop();
-  void LookAround();
+  void PollInterrupts();
   void StopIfAsked() {
     if (IsStopping()) CheckStop();
   }
@@ -202,9 +202,9 @@ class Machine final : public Context, public Linkage, private StopSignal {
   Frame* m_Current = nullptr;  // the last of those in use
   std::uint32_t m_Epoch = 1;
   int m_Entries = 0;
-  enum class Order : std::uint8_t { GoOn, LookAround, Stop };
-  std::atomic<Order> m_Order = Order::GoOn;
-  StopQuestion m_StopQuestion;
+  enum class Order : std::uint8_t { None, Poll, Stop };
+  std::atomic<Order> m_Order = Order::None;
+  HostPoll m_HostPoll;
   std::uint32_t m_CallsSinceLook = 0;
   std::int32_t m_Timeout = -1;
   static constexpr auto kNoDeadline = std::chrono::steady_clock::time_point::max();

@@ -26,7 +26,7 @@ Variant ExecuteGlobal(Context& context, Args args) {
 
 Variant GetRef(Context& context, Args args) { return MachineOf(context).GetReference(ToText(args[0])); }
 
-constexpr Builtin kFunctions[] = {
+constexpr Builtin kMachineFunctions[] = {
     {u"Eval", Eval, 1, 1},
     {u"Execute", Execute, 1, 1},
     {u"ExecuteGlobal", ExecuteGlobal, 1, 1},
@@ -36,7 +36,7 @@ constexpr Builtin kFunctions[] = {
 }  // namespace
 
 const Builtin* FindMachineFunction(std::u16string_view name) noexcept {
-  for (const Builtin& function : kFunctions)
+  for (const Builtin& function : kMachineFunctions)
     if (EqualsNoCase(function.name, name)) return &function;
   return nullptr;
 }

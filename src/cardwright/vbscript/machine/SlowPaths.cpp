@@ -19,20 +19,16 @@ LiteralSide Literals(std::uint8_t n) noexcept {
   return kSides[n & (kConstantB | kConstantC)];
 }
 
-void Finish(RegisterView view, Instruction i, Variant outcome) {
+void StoreResult(RegisterView view, Instruction i, Variant outcome) {
   view.SpendB(i);
   view.SpendC(i);
   view.R[i.a] = std::move(outcome);
 }
 
-bool IsWhole(const Variant& value) noexcept {
-  return value.Type() == VarType::Long || value.Type() == VarType::Integer;
-}
-
-// Digits of a whole number without going through a text of its own.
-class Digits {
+// WholeNumberText of a whole number without going through a text of its own.
+class WholeNumberText {
  public:
-  explicit Digits(std::int32_t value) noexcept {
+  explicit WholeNumberText(std::int32_t value) noexcept {
     char narrow[12];
     const char* end = std::to_chars(narrow, narrow + sizeof narrow, value).ptr;
     for (const char* c = narrow; c != end; ++c) m_Units[m_Count++] = static_cast<char16_t>(*c);
@@ -78,7 +74,7 @@ void Extend(const Context& context, Variant& target, std::u16string_view tail) {
 
 void ApplyBinary(RegisterView view, Instruction i, Variant (*operation)(const Variant&, const Variant&)) {
   const Operands operands(view, i);
-  Finish(view, i, operation(operands.Left(), operands.Right()));
+  StoreResult(view, i, operation(operands.Left(), operands.Right()));
 }
 
 void ApplyAdd(const Context& context, RegisterView view, Instruction i) {
@@ -87,13 +83,13 @@ void ApplyAdd(const Context& context, RegisterView view, Instruction i) {
   const Variant& right = operands.Right().Deref();
   if (left.IsString() && right.IsString())
     context.CheckTextSize(left.StringView().size() + right.StringView().size());
-  Finish(view, i, Add(left, right));
+  StoreResult(view, i, Add(left, right));
 }
 
 void ApplyBinary(RegisterView view, Instruction i, BinaryOperator op) {
   const Operands operands(view, i);
-  if (operands.Left().IsString()) Context::NoteWork(operands.Left().StringView().size());
-  Finish(view, i, Apply(op, operands.Left(), operands.Right(), Literals(i.n)));
+  if (operands.Left().IsString()) Context::ChargeWork(operands.Left().StringView().size());
+  StoreResult(view, i, Apply(op, operands.Left(), operands.Right(), Literals(i.n)));
 }
 
 void ApplyUnary(RegisterView view, Instruction i, Variant (*operation)(const Variant&)) {
@@ -107,7 +103,7 @@ Ordering CompareOperands(RegisterView view, Instruction i) {
   const Variant& y = view.C(i);
   Ordering order;
   if (x.IsString() && y.IsString()) {
-    Context::NoteWork(std::min(x.StringView().size(), y.StringView().size()));
+    Context::ChargeWork(std::min(x.StringView().size(), y.StringView().size()));
     const int sign = x.StringView().compare(y.StringView());
     order = sign < 0 ? Ordering::Less : sign > 0 ? Ordering::Greater : Ordering::Equal;
   } else {
@@ -132,7 +128,7 @@ void AssignValue(Variant& to, Variant& from, bool spend) {
     if (spend) from.Reset();
     to = std::move(plain);
   } else if (value.IsArray() && value.ArrayPtr()->IsFixed()) {
-    Context::NoteWork(value.ArrayPtr()->Values().size());
+    Context::ChargeWork(value.ArrayPtr()->Values().size());
     to = Variant(value.ArrayPtr()->Copy());  // the copy can be dimensioned anew
     if (spend) from.Reset();
   } else if (spend && &value == &from) {
@@ -186,8 +182,8 @@ void AppendText(const Context& context, Variant& place, const Variant& tail) {
     place.Deref() = std::move(sum);
   } else if (tail.IsString()) {
     Extend(context, target, tail.StringView());
-  } else if (IsWhole(tail)) {
-    Extend(context, target, Digits(tail.Long()).View());
+  } else if (tail.IsWhole()) {
+    Extend(context, target, WholeNumberText(tail.Long()).View());
   } else {
     Extend(context, target, TextOf(tail));
   }
@@ -201,16 +197,16 @@ void AppendText(const Context& context, Variant& place, RegisterView view, std::
 void ConcatenateOperands(const Context& context, RegisterView view, Instruction i) {
   const Variant& x = view.B(i);
   const Variant& y = view.C(i);
-  if (x.IsString() && (y.IsString() || IsWhole(y))) {
+  if (x.IsString() && (y.IsString() || y.IsWhole())) {
     Variant sum = x;
     AppendText(context, sum, y);
-    Finish(view, i, std::move(sum));
+    StoreResult(view, i, std::move(sum));
     return;
   }
   const Operands operands(view, i);
   Variant sum = Concatenate(operands.Left(), operands.Right());
   if (sum.IsString()) context.CheckTextSize(sum.StringView().size());
-  Finish(view, i, std::move(sum));
+  StoreResult(view, i, std::move(sum));
 }
 
 }  // namespace cardwright::vbscript

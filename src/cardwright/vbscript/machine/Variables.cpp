@@ -5,14 +5,7 @@
 
 namespace cardwright::vbscript {
 
-namespace {
-
-constexpr int kUndefined = 500;
-constexpr int kIllegalAssignment = 501;
-
-}  // namespace
-
-void Machine::RaiseAbout(int number, NameId name) const {
+void Machine::RaiseAbout(ErrorNumber number, NameId name) const {
   if (name == kNoName) Raise(number);
   throw NamedError(number, names.Spelling(name));
 }
@@ -70,9 +63,9 @@ void Machine::Resolve(SymbolUse& use) {
 Variant& Machine::VariableToWrite(SymbolUse& use) {
   if (use.epoch != m_Epoch) Resolve(use);
   if (use.variable) return *use.variable;
-  if (use.symbol) RaiseAbout(kIllegalAssignment, use.name);
+  if (use.symbol) RaiseAbout(ErrorNumber::IllegalAssignment, use.name);
   if (use.local != kNoRegister) return Current().registers[use.local].Deref();
-  if (use.isStrict) RaiseAbout(kUndefined, use.name);
+  if (use.isStrict) RaiseAbout(ErrorNumber::UndefinedVariable, use.name);
   // Outside procedures an assignment to a name that is nothing yet makes it a variable of the module.
   Symbol& symbol = Current().procedure->module->Add(use.name);
   symbol.kind = SymbolKind::Variable;
@@ -86,7 +79,7 @@ bool Machine::LoadSymbol(SymbolUse& use, Variant& target) {
   if (use.epoch != m_Epoch) Resolve(use);
   const Symbol* symbol = use.symbol;
   if (!symbol) {
-    if (use.isStrict) RaiseAbout(kUndefined, use.name);
+    if (use.isStrict) RaiseAbout(ErrorNumber::UndefinedVariable, use.name);
     target = use.local == kNoRegister ? Variant()
                                       : static_cast<const Variant&>(Current().registers[use.local]).Deref();
     return false;
@@ -102,7 +95,7 @@ bool Machine::LoadSymbol(SymbolUse& use, Variant& target) {
       target = InvokeHost(*object, symbol->member, CallKind::MethodOrGet, {});
       return false;
     }
-    default: RaiseAbout(static_cast<int>(ErrorNumber::TypeMismatch), use.name);
+    default: RaiseAbout(ErrorNumber::TypeMismatch, use.name);
   }
 }
 

@@ -17,8 +17,8 @@ constexpr std::u16string_view kWords[] = {
     u"resume",  u"select", u"set",      u"step",    u"stop",     u"sub",     u"then",  u"to",
     u"true",    u"until",  u"wend",     u"while",   u"with",     u"xor",
 };
-constexpr std::size_t kFirst = static_cast<std::size_t>(TokenKind::And);
-static_assert(std::size(kWords) == kTokenKinds - kFirst);
+constexpr std::size_t kFirstKeyword = static_cast<std::size_t>(TokenKind::And);
+static_assert(std::size(kWords) == kTokenKinds - kFirstKeyword);
 
 constexpr std::size_t kShortest = 2;
 constexpr std::size_t kLongest = 8;
@@ -26,11 +26,11 @@ constexpr std::size_t kSlots = 256;
 
 // All keywords are ASCII letters, which this folds to lower case; what else it maps onto a letter is weeded
 // out by the comparison of Matches.
-constexpr char16_t Fold(char16_t c) { return c | 0x20; }
+constexpr char16_t LowerCase(char16_t c) { return c | 0x20; }
 
 constexpr std::size_t SlotOf(std::u16string_view word) {
-  const std::size_t mixed =
-      Fold(word[0]) * 7u + Fold(word[1]) * 31u + Fold(word[word.size() - 1]) * 3u + word.size() * 57u;
+  const std::size_t mixed = LowerCase(word[0]) * 7u + LowerCase(word[1]) * 31u +
+                            LowerCase(word[word.size() - 1]) * 3u + word.size() * 57u;
   return mixed % kSlots;
 }
 
@@ -59,7 +59,7 @@ TokenKind KeywordOf(std::u16string_view word) noexcept {
   if (word.size() < kShortest || word.size() > kLongest) return TokenKind::Identifier;
   for (std::size_t slot = SlotOf(word); kTable[slot] != 0; slot = (slot + 1) % kSlots) {
     const std::size_t index = kTable[slot] - 1u;
-    if (Matches(word, kWords[index])) return static_cast<TokenKind>(kFirst + index);
+    if (Matches(word, kWords[index])) return static_cast<TokenKind>(kFirstKeyword + index);
   }
   return TokenKind::Identifier;
 }

@@ -101,7 +101,7 @@ Expr* StatementParser::ParseConstantExpression() {
 namespace {
 
 /// A number with its sign turned, in the type that holds it; none of what is no number.
-std::optional<Variant> Negated(const Variant& value) {
+std::optional<Variant> NegatedConstant(const Variant& value) {
   switch (value.Type()) {
     case VarType::Integer:
       if (value.Integer() != std::numeric_limits<std::int16_t>::min()) {
@@ -124,7 +124,7 @@ const Variant* StatementParser::ConstantValue(const Expr& expression) {
     return ConstantValue(*static_cast<const ParenExpr&>(expression).inner);
   const auto& sign = static_cast<const UnaryExpr&>(expression);
   const Variant* value = ConstantValue(*sign.operand);
-  const std::optional<Variant> negated = Negated(*value);
+  const std::optional<Variant> negated = NegatedConstant(*value);
   if (!negated) Fail(SyntaxErrorNumber::ExpectedLiteral, sign.operand->position);
   return sign.op == UnaryOperator::Negate ? Tree().Keep(*negated) : value;
 }
