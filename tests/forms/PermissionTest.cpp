@@ -21,14 +21,14 @@ class OwnSettings {
   TempFolder m_Folder;
 };
 
-struct Language {
+struct AskingScript {
   const char* name;
   const char* twice;    ///< asks for the class with the click, twice, and writes what came of it
   const char* changed;  ///< the same with another text
   const char* unknown;  ///< asks for classes that nobody has
 };
 
-constexpr Language kLanguages[] = {
+constexpr AskingScript kAskingScripts[] = {
     {"VBScript",
      "Sub cmdToday_OnClick()\nOn Error Resume Next\nFor i = 1 To 2\n"
      "Set f = CreateObject(\"Scripting.FileSystemObject\")\ns = s & Err.Number & \" \"\nErr.Clear\nNext\n"
@@ -55,7 +55,9 @@ constexpr Language kLanguages[] = {
      "try { GetObject('/etc/passwd'); } catch (e) { s += e.number & 0xFFFF; }\ntxtDepth.Text = s;\n}\n"},
 };
 
-class ClassesOnLeave : private OwnSettings, public FormScripts, public testing::WithParamInterface<Language> {
+class ClassesOnLeave : private OwnSettings,
+                       public FormScripts,
+                       public testing::WithParamInterface<AskingScript> {
  protected:
   ClassesOnLeave() : FormScripts(GetParam().name) {
     ClassRegistry classes;
@@ -209,7 +211,7 @@ TEST_P(ClassesOnLeave, AreNotAllowedToWhoeverReadsAnAllowedForm) {
   EXPECT_EQ(boxes.Take(), Lines{Question(kClass)});
 }
 
-INSTANTIATE_TEST_SUITE_P(, ClassesOnLeave, testing::ValuesIn(kLanguages),
+INSTANTIATE_TEST_SUITE_P(, ClassesOnLeave, testing::ValuesIn(kAskingScripts),
                          [](const auto& one) { return one.param.name; });
 
 }  // namespace

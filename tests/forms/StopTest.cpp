@@ -10,7 +10,7 @@ namespace {
 
 const std::string kQuestion = "Run-time tests|The script of the form is still running. Stop it?|other";
 
-struct Language {
+struct EndlessScript {
   const char* name;
   const char* endless;  ///< endless at the first click, writes "alive" at later ones
   const char* calls;    ///< calls the host without an end
@@ -20,7 +20,7 @@ struct Language {
   const char* start;    ///< does not get to its first event
 };
 
-constexpr Language kLanguages[] = {
+constexpr EndlessScript kEndlessScripts[] = {
     {"VBScript",
      "Dim clicks\nSub cmdToday_OnClick()\nclicks = clicks + 1\nIf clicks = 1 Then\nDo\nLoop\nEnd If\n"
      "txtDepth.Text = \"alive\"\nEnd Sub\n",
@@ -49,7 +49,7 @@ void PressBreak(QWidget& widget) {
   QCoreApplication::postEvent(&widget, new QKeyEvent(QEvent::KeyPress, Qt::Key_Cancel, Qt::ControlModifier));
 }
 
-class EndlessScripts : public FormScripts, public testing::WithParamInterface<Language> {
+class EndlessScripts : public FormScripts, public testing::WithParamInterface<EndlessScript> {
  protected:
   EndlessScripts() : FormScripts(GetParam().name) {}
 
@@ -153,11 +153,11 @@ TEST_P(EndlessScripts, StopAtCtrlCInTheTerminal) {
   EXPECT_EQ(boxes.Take(), Lines{kQuestion});
 }
 
-INSTANTIATE_TEST_SUITE_P(, EndlessScripts, testing::ValuesIn(kLanguages),
+INSTANTIATE_TEST_SUITE_P(, EndlessScripts, testing::ValuesIn(kEndlessScripts),
                          [](const auto& one) { return one.param.name; });
 
 TEST_F(FormScripts, AreNotAskedAboutWhileTheyWaitInABox) {
-  ASSERT_TRUE(ReadScript(kLanguages[0].box));
+  ASSERT_TRUE(ReadScript(kEndlessScripts[0].box));
   boxes.beforeAnswer = [&] {
     QTest::qWait(1200);
     PressBreak(*QApplication::activeModalWidget());

@@ -21,7 +21,7 @@ class ObjectHost final : public HostConnection {
   const Ref<Object> m_Object;
 };
 
-constexpr Member kMembers[] = {
+constexpr Member kHostsMembers[] = {
     Method<&Hosts::Register>(u"Register"), Method<&Hosts::OpenStore>(u"OpenStore"),
     Method<&Hosts::Close>(u"Close"),       Property<&Hosts::Log>(u"Log"),
     Method<&Hosts::ClearLog>(u"ClearLog"),
@@ -42,7 +42,7 @@ std::int32_t Hosts::OpenStore(const Text& source) {
 }
 
 const MemberTable& Hosts::Members() const {
-  static const MemberTable table(kMembers);
+  static const MemberTable table(kHostsMembers);
   return table;
 }
 

@@ -215,7 +215,7 @@ void TakeScreenshot(Robot&, const Variant& widget, const Text& path) {
   SavePicture(*WidgetOf(widget).window(), path);
 }
 
-constexpr Member kMembers[] = {
+constexpr Member kRobotMembers[] = {
     Method<&Show>(u"Show"),
     Method<&Child>(u"Child"),
     Method<&Click>(u"Click"),
@@ -249,7 +249,7 @@ constexpr Member kMembers[] = {
 }  // namespace
 
 const MemberTable& Robot::Members() const {
-  static const MemberTable table(kMembers);
+  static const MemberTable table(kRobotMembers);
   return table;
 }
 

@@ -48,7 +48,7 @@ bool MakeBox(JSContext* cx, const JSClass& kind, JS::HandleObject prototype, con
 Array* ThisArray(JSContext* cx, const JS::CallArgs& args) {
   const Variant* value = args.thisv().isObject() ? BoxedValue(&args.thisv().toObject()) : nullptr;
   if (value && value->IsArray()) return value->ArrayPtr();
-  ThrowNumber(cx, kArrayExpected);
+  ThrowNumber(cx, kVBArrayExpected);
   return nullptr;
 }
 
@@ -57,7 +57,7 @@ bool ConstructArray(JSContext* cx, unsigned count, JS::Value* vp) {
   Session* session = Session::Required(cx);
   if (!session) return false;
   const Variant* value = args.get(0).isObject() ? BoxedValue(&args.get(0).toObject()) : nullptr;
-  if (!value || !value->IsArray()) return ThrowNumber(cx, kArrayExpected);
+  if (!value || !value->IsArray()) return ThrowNumber(cx, kVBArrayExpected);
   return BoxArray(*session, Variant(*value), args.rval());
 }
 

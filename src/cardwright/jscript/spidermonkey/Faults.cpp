@@ -99,14 +99,17 @@ int ExpectedKind(std::string_view message) noexcept {
   const struct {
     std::string_view mark;
     int number;
-  } kKinds[] = {{"Date", 5006},    {"RegExp", 5016},  {"Function", 5002}, {"String", 5005},
-                {"Number", 5001},  {"Boolean", 5010}, {"Error", 5007},    {"Enumerator", 5015},
-                {"VBArray", 5013}, {"Array", 5028}};
+  } kKinds[] = {{"Date", kDateExpected},         {"RegExp", kRegExpExpected},
+                {"Function", kFunctionExpected}, {"String", kStringExpected},
+                {"Number", kNumberExpected},     {"Boolean", kBooleanExpected},
+                {"Error", kObjectExpected},      {"Enumerator", kEnumeratorExpected},
+                {"VBArray", kVBArrayExpected},   {"Array", kArrayExpected}};
   for (const auto& kind : kKinds)
     if (message.starts_with(kind.mark)) return kind.number;
   // Those of dates are named without their class.
-  if (message.starts_with("get") || message.starts_with("set") || message.starts_with("to")) return 5006;
-  return 5014;
+  if (message.starts_with("get") || message.starts_with("set") || message.starts_with("to"))
+    return kDateExpected;
+  return kScriptObjectExpected;
 }
 
 bool IsUndefinedGlobal(Session& session, std::string_view name) {
@@ -132,7 +135,7 @@ ErrorFace FaceOfReport(Session& session, const JSErrorReport& report) {
     if (chunk && IsCalled(*chunk, static_cast<int>(report.lineno), static_cast<int>(report.column) - 1,
                           Text::FromUtf8(variable)))
       return {kObjectExpected, ErrorText(kObjectExpected)};
-    return {kUndefinedName, Quoted(variable, u"' is undefined")};
+    return {kUndefinedIdentifier, Quoted(variable, u"' is undefined")};
   }
   if (name == "JSMSG_UNEXPECTED_TYPE")
     return {kObjectExpected, Quoted(Before(message, " is "), u"' is null or not an object")};
@@ -141,7 +144,7 @@ ErrorFace FaceOfReport(Session& session, const JSErrorReport& report) {
     const bool isMember = callee.find('.') != std::string_view::npos || callee.ends_with(']');
     const int number = isMember                             ? kNoSuchMember
                        : IsUndefinedGlobal(session, callee) ? kObjectExpected
-                                                            : kNotAFunction;
+                                                            : kFunctionExpected;
     return {number, ErrorText(number)};
   }
   if (name.starts_with("JSMSG_INCOMPATIBLE_")) {
@@ -154,9 +157,9 @@ ErrorFace FaceOfReport(Session& session, const JSErrorReport& report) {
     case JSEXN_SYNTAXERR:
       if (message.find("regular expression") != std::string_view::npos ||
           message.find("pattern") != std::string_view::npos)
-        return {5017, ErrorText(5017)};
+        return {kRegExpSyntaxError, ErrorText(kRegExpSyntaxError)};
       return {kSyntaxError, ErrorText(kSyntaxError)};
-    case JSEXN_REFERENCEERR: return {kUndefinedName, Text::FromUtf8(message)};
+    case JSEXN_REFERENCEERR: return {kUndefinedIdentifier, Text::FromUtf8(message)};
     default: return {kInvalidCall, Text::FromUtf8(message)};
   }
 }
@@ -200,7 +203,7 @@ std::optional<ScriptError> CarriedError(Session& session, JS::HandleObject objec
   std::int32_t number = 0;
   if (!JS::ToInt32(cx, value, &number)) return std::nullopt;
   ScriptError error;
-  error.number = number == 0 ? kNotCaught : HostNumber(number);
+  error.number = number == 0 ? kUncaughtException : HostNumber(number);
   error.description = ReadText(session, object, "description");
   if (error.description.IsEmpty()) error.description = ReadText(session, object, "message");
   error.source = kRuntimeErrorSource;
@@ -223,8 +226,8 @@ ScriptError Describe(Session& session, const JS::ExceptionStack& exception, bool
   ScriptError error;
   error.source = isCompiling ? kCompilationErrorSource : kRuntimeErrorSource;
   error.isSyntax = isCompiling;
-  error.number = kNotCaught;
-  error.description = ErrorText(kNotCaught);
+  error.number = kUncaughtException;
+  error.description = ErrorText(kUncaughtException);
   Place place;
   if (exception.exception().isObject()) {
     JS::RootedObject object(cx, &exception.exception().toObject());

@@ -70,7 +70,7 @@ bool MakeWalk(JSContext* cx, unsigned count, JS::Value* vp) {
     Variant collection;
     if (!FromScript(*session, args.get(0), collection)) return false;
     if (!collection.IsArray() && (!collection.IsObject() || !collection.ObjectPtr()))
-      Raise(kNoCollection, ErrorText(kNoCollection));
+      Raise(kNotACollection, ErrorText(kNotACollection));
     return ToScript(*session, Variant(MakeRef<Walk>(collection)), args.rval());
   });
 }
@@ -135,8 +135,8 @@ bool NewActiveXObject(JSContext* cx, unsigned count, JS::Value* vp) {
     } catch (const Error& error) {
       // The platform's own text of this error is another one.
       const bool isPlain = error.Description() == StandardErrorText(error.Number());
-      if (error.Number() != kCannotCreate || !isPlain) throw;
-      Raise(kCannotCreate, ErrorText(kCannotCreate));
+      if (error.Number() != kCannotCreateObject || !isPlain) throw;
+      Raise(kCannotCreateObject, ErrorText(kCannotCreateObject));
     }
   });
 }

@@ -23,7 +23,7 @@ struct HostLink {
 
 namespace {
 
-constexpr std::size_t kNameSlot = 0, kObjectSlot = 1;
+constexpr std::size_t kMethodNameSlot = 0, kMethodObjectSlot = 1;
 constexpr int kMostDefaults = 16;  // default members of default members
 
 HostLink* LinkOf(JSObject* object) noexcept {
@@ -47,13 +47,13 @@ bool TargetOf(JSContext* cx, JSObject* proxy, Target& target) {
 
 bool CallMethod(JSContext* cx, unsigned count, JS::Value* vp) {
   const JS::CallArgs args = JS::CallArgsFromVp(count, vp);
-  JS::RootedValue on(cx, js::GetFunctionNativeReserved(&args.callee(), kObjectSlot));
+  JS::RootedValue on(cx, js::GetFunctionNativeReserved(&args.callee(), kMethodObjectSlot));
   if (!on.isObject()) on = args.thisv();
   if (!on.isObject() || !IsHostObject(&on.toObject())) return ThrowNumber(cx, kObjectExpected);
   Target target;
   if (!TargetOf(cx, &on.toObject(), target)) return false;
   JS::RootedId name(cx);
-  JS::RootedString text(cx, js::GetFunctionNativeReserved(&args.callee(), kNameSlot).toString());
+  JS::RootedString text(cx, js::GetFunctionNativeReserved(&args.callee(), kMethodNameSlot).toString());
   if (!JS_StringToId(cx, text, &name)) return false;
   const HostMember member = target.session->Members().Find(*target.object, name);
   if (!member.IsThere()) return ThrowNumber(cx, kNoSuchMember);
@@ -221,15 +221,16 @@ JSObject* MethodFunction(Session& session, JS::HandleId name, JS::HandleObject b
   JSFunction* function = js::NewFunctionWithReserved(cx, &CallMethod, 0, 0, "method");
   if (!function) return nullptr;
   JSObject* object = JS_GetFunctionObject(function);
-  js::SetFunctionNativeReserved(object, kNameSlot, JS::StringValue(text));
-  js::SetFunctionNativeReserved(object, kObjectSlot, bound ? JS::ObjectValue(*bound) : JS::UndefinedValue());
+  js::SetFunctionNativeReserved(object, kMethodNameSlot, JS::StringValue(text));
+  js::SetFunctionNativeReserved(object, kMethodObjectSlot,
+                                bound ? JS::ObjectValue(*bound) : JS::UndefinedValue());
   return object;
 }
 
 bool IsBoundMethod(JSObject* function, JS::MutableHandleValue object, JS::MutableHandleValue name) {
   if (!JS_IsNativeFunction(function, &CallMethod)) return false;
-  object.set(js::GetFunctionNativeReserved(function, kObjectSlot));
-  name.set(js::GetFunctionNativeReserved(function, kNameSlot));
+  object.set(js::GetFunctionNativeReserved(function, kMethodObjectSlot));
+  name.set(js::GetFunctionNativeReserved(function, kMethodNameSlot));
   return object.isObject();
 }
 
@@ -286,7 +287,7 @@ bool HostCall(JSContext* cx, JS::HandleObject proxy, const JS::CallArgs& args) {
   Target target;
   if (!TargetOf(cx, proxy, target)) return false;
   const MemberId member = target.object->DefaultMember();
-  if (member == kNoMember) return ThrowNumber(cx, kNotAFunction);
+  if (member == kNoMember) return ThrowNumber(cx, kFunctionExpected);
   return InvokeMember(*target.session, *target.object, member, CallKind::MethodOrGet, args);
 }
 

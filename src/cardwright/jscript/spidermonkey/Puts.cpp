@@ -14,12 +14,13 @@
 namespace cardwright::jscript {
 namespace {
 
-constexpr std::uint32_t kObjectSlot = 0, kNameSlot = 1, kArgumentsSlot = 2;
-constexpr JSClass kPlaceClass = {"Object", JSCLASS_HAS_RESERVED_SLOTS(3), nullptr, nullptr, nullptr, nullptr};
+constexpr std::uint32_t kTargetObjectSlot = 0, kTargetNameSlot = 1, kTargetArgumentsSlot = 2;
+constexpr JSClass kTargetClass = {"Object", JSCLASS_HAS_RESERVED_SLOTS(3), nullptr, nullptr, nullptr,
+                                  nullptr};
 
 // The place of a member of `object`, or of its default member, with the arguments from `first` on.
-bool MakePlace(JSContext* cx, JS::HandleValue object, JS::HandleValue name, const JS::CallArgs& args,
-               unsigned first) {
+bool MakeTarget(JSContext* cx, JS::HandleValue object, JS::HandleValue name, const JS::CallArgs& args,
+                unsigned first) {
   Session* session = Session::Required(cx);
   if (!session) return false;
   JS::RootedValueVector values(cx);
@@ -27,44 +28,44 @@ bool MakePlace(JSContext* cx, JS::HandleValue object, JS::HandleValue name, cons
     if (!values.append(args[k])) return false;
   JS::RootedObject list(cx, JS::NewArrayObject(cx, values));
   JS::RootedObject prototype(cx, session->PutPrototype());
-  JS::RootedObject place(cx, list ? JS_NewObjectWithGivenProto(cx, &kPlaceClass, prototype) : nullptr);
-  if (!place) return false;
-  JS::SetReservedSlot(place, kObjectSlot, object);
-  JS::SetReservedSlot(place, kNameSlot, name);
-  JS::SetReservedSlot(place, kArgumentsSlot, JS::ObjectValue(*list));
-  args.rval().setObject(*place);
+  JS::RootedObject target(cx, list ? JS_NewObjectWithGivenProto(cx, &kTargetClass, prototype) : nullptr);
+  if (!target) return false;
+  JS::SetReservedSlot(target, kTargetObjectSlot, object);
+  JS::SetReservedSlot(target, kTargetNameSlot, name);
+  JS::SetReservedSlot(target, kTargetArgumentsSlot, JS::ObjectValue(*list));
+  args.rval().setObject(*target);
   return true;
 }
 
-bool MakePlaceOfCallee(JSContext* cx, JS::HandleValue callee, const JS::CallArgs& args, unsigned first) {
-  if (!callee.isObject()) return ThrowNumber(cx, callee.isUndefined() ? kObjectExpected : kNotAFunction);
+bool MakeTargetOfCallee(JSContext* cx, JS::HandleValue callee, const JS::CallArgs& args, unsigned first) {
+  if (!callee.isObject()) return ThrowNumber(cx, callee.isUndefined() ? kObjectExpected : kFunctionExpected);
   JS::RootedValue object(cx), name(cx);
-  if (IsHostObject(&callee.toObject())) return MakePlace(cx, callee, name, args, first);
-  if (IsBoundMethod(&callee.toObject(), &object, &name)) return MakePlace(cx, object, name, args, first);
+  if (IsHostObject(&callee.toObject())) return MakeTarget(cx, callee, name, args, first);
+  if (IsBoundMethod(&callee.toObject(), &object, &name)) return MakeTarget(cx, object, name, args, first);
   return ThrowNumber(cx, kCannotAssignToResult);
 }
 
 bool Put(JSContext* cx, unsigned count, JS::Value* vp) {
   const JS::CallArgs args = JS::CallArgsFromVp(count, vp);
   JS::RootedValue callee(cx, args.get(0));
-  return MakePlaceOfCallee(cx, callee, args, 1);
+  return MakeTargetOfCallee(cx, callee, args, 1);
 }
 
 bool PutNamed(JSContext* cx, unsigned count, JS::Value* vp) {
   const JS::CallArgs args = JS::CallArgsFromVp(count, vp);
   JS::RootedValue object(cx, args.get(0)), name(cx, args.get(1)), callee(cx);
   if (object.isNullOrUndefined()) return ThrowNumber(cx, kObjectExpected);
-  if (object.isObject() && IsHostObject(&object.toObject())) return MakePlace(cx, object, name, args, 2);
+  if (object.isObject() && IsHostObject(&object.toObject())) return MakeTarget(cx, object, name, args, 2);
   JS::RootedObject holder(cx);
   JS::RootedId id(cx);
   if (!JS_ValueToObject(cx, object, &holder) || !JS_ValueToId(cx, name, &id) ||
       !JS_GetPropertyById(cx, holder, id, &callee))
     return false;
-  return MakePlaceOfCallee(cx, callee, args, 2);
+  return MakeTargetOfCallee(cx, callee, args, 2);
 }
 
-/// A place, taken apart.
-struct Place {
+/// A target, taken apart.
+struct AssignmentTarget {
   Session* session = nullptr;
   Ref<Object> object;
   MemberId member = kNoMember;
@@ -72,74 +73,74 @@ struct Place {
   std::vector<Variant> arguments;
 };
 
-bool Open(JSContext* cx, const JS::CallArgs& args, Place& place) {
-  place.session = Session::Required(cx);
-  if (!place.session) return false;
-  if (!args.thisv().isObject() || JS::GetClass(&args.thisv().toObject()) != &kPlaceClass)
+bool Open(JSContext* cx, const JS::CallArgs& args, AssignmentTarget& target) {
+  target.session = Session::Required(cx);
+  if (!target.session) return false;
+  if (!args.thisv().isObject() || JS::GetClass(&args.thisv().toObject()) != &kTargetClass)
     return ThrowNumber(cx, kObjectExpected);
   JSObject* self = &args.thisv().toObject();
-  place.object = Ref<Object>(WrappedObject(&JS::GetReservedSlot(self, kObjectSlot).toObject()));
-  if (!place.object) return ThrowNumber(cx, kFreedScript);
-  JS::RootedObject list(cx, &JS::GetReservedSlot(self, kArgumentsSlot).toObject());
-  JS::RootedValue name(cx, JS::GetReservedSlot(self, kNameSlot));
-  place.isNamed = !name.isUndefined();
+  target.object = Ref<Object>(WrappedObject(&JS::GetReservedSlot(self, kTargetObjectSlot).toObject()));
+  if (!target.object) return ThrowNumber(cx, kFreedScript);
+  JS::RootedObject list(cx, &JS::GetReservedSlot(self, kTargetArgumentsSlot).toObject());
+  JS::RootedValue name(cx, JS::GetReservedSlot(self, kTargetNameSlot));
+  target.isNamed = !name.isUndefined();
   JS::RootedId id(cx);
   std::uint32_t count = 0;
-  if ((place.isNamed && !JS_ValueToId(cx, name, &id)) || !JS::GetArrayLength(cx, list, &count)) return false;
-  place.arguments.resize(count);
+  if ((target.isNamed && !JS_ValueToId(cx, name, &id)) || !JS::GetArrayLength(cx, list, &count)) return false;
+  target.arguments.resize(count);
   for (std::uint32_t k = 0; k < count; ++k) {
     JS::RootedValue value(cx);
-    const auto take = [&] { return FromScript(*place.session, value, place.arguments[k]); };
-    if (!JS_GetElement(cx, list, k, &value) || !CallHost(*place.session, take)) return false;
+    const auto take = [&] { return FromScript(*target.session, value, target.arguments[k]); };
+    if (!JS_GetElement(cx, list, k, &value) || !CallHost(*target.session, take)) return false;
   }
-  place.member =
-      place.isNamed ? place.session->Members().Find(*place.object, id).id : place.object->DefaultMember();
-  return place.member != kNoMember || ThrowNumber(cx, kNoSuchMember);
+  target.member =
+      target.isNamed ? target.session->Members().Find(*target.object, id).id : target.object->DefaultMember();
+  return target.member != kNoMember || ThrowNumber(cx, kNoSuchMember);
 }
 
-bool GetPlace(JSContext* cx, unsigned count, JS::Value* vp) {
+bool GetTarget(JSContext* cx, unsigned count, JS::Value* vp) {
   const JS::CallArgs args = JS::CallArgsFromVp(count, vp);
-  Place place;
-  return Open(cx, args, place) && InvokeMember(*place.session, *place.object, place.member,
-                                               CallKind::MethodOrGet, place.arguments, args.rval());
+  AssignmentTarget target;
+  return Open(cx, args, target) && InvokeMember(*target.session, *target.object, target.member,
+                                                CallKind::MethodOrGet, target.arguments, args.rval());
 }
 
 // `o.Items(1) = v`: a member that gives a collection, and the assignment is to one of its items.
-bool LeadsToCollection(Session& session, Place& place) {
+bool LeadsToCollection(Session& session, AssignmentTarget& target) {
   return CallHost(session, [&] {
-    const Variant held = place.object->Invoke(place.member, CallKind::Get, {});
+    const Variant held = target.object->Invoke(target.member, CallKind::Get, {});
     if (!held.IsObject() || !held.ObjectPtr() || held.ObjectPtr()->DefaultMember() == kNoMember)
       Raise(kNoSuchMember, ErrorText(kNoSuchMember));
-    place.object = Ref<Object>(held.ObjectPtr());
-    place.member = place.object->DefaultMember();
+    target.object = Ref<Object>(held.ObjectPtr());
+    target.member = target.object->DefaultMember();
     return true;
   });
 }
 
-bool SetPlace(JSContext* cx, unsigned count, JS::Value* vp) {
+bool SetTarget(JSContext* cx, unsigned count, JS::Value* vp) {
   const JS::CallArgs args = JS::CallArgsFromVp(count, vp);
-  Place place;
-  if (!Open(cx, args, place)) return false;
-  Session& session = *place.session;
+  AssignmentTarget target;
+  if (!Open(cx, args, target)) return false;
+  Session& session = *target.session;
   JS::RootedValue value(cx, args.get(0));
-  place.arguments.emplace_back();
-  if (!CallHost(session, [&] { return FromScript(session, value, place.arguments.back()); })) return false;
+  target.arguments.emplace_back();
+  if (!CallHost(session, [&] { return FromScript(session, value, target.arguments.back()); })) return false;
   bool isRefused = false;
   const auto put = [&] {
     try {
-      const bool isObject = place.arguments.back().IsObject();
-      place.object->Invoke(place.member, isObject ? CallKind::Set : CallKind::Let, place.arguments);
+      const bool isObject = target.arguments.back().IsObject();
+      target.object->Invoke(target.member, isObject ? CallKind::Set : CallKind::Let, target.arguments);
     } catch (const Error& error) {
-      isRefused = place.isNamed && (error.Number() == static_cast<int>(ErrorNumber::NotSupported) ||
-                                    error.Number() == static_cast<int>(ErrorNumber::WrongArgumentCount));
+      isRefused = target.isNamed && (error.Number() == static_cast<int>(ErrorNumber::NotSupported) ||
+                                     error.Number() == static_cast<int>(ErrorNumber::WrongArgumentCount));
       if (!isRefused) throw;
     }
     return true;
   };
-  if (!place.isNamed) return PutMember(session, *place.object, place.member, place.arguments);
+  if (!target.isNamed) return PutMember(session, *target.object, target.member, target.arguments);
   if (!CallHost(session, put)) return false;
-  return !isRefused || (LeadsToCollection(session, place) &&
-                        PutMember(session, *place.object, place.member, place.arguments));
+  return !isRefused || (LeadsToCollection(session, target) &&
+                        PutMember(session, *target.object, target.member, target.arguments));
 }
 
 }  // namespace
@@ -148,7 +149,7 @@ bool DefinePuts(JSContext* cx, JS::HandleObject global, JS::MutableHandleObject 
   constexpr unsigned kFixed = JSPROP_PERMANENT | JSPROP_READONLY;
   constexpr std::u16string_view put = hidden::kPut, putMember = hidden::kPutMember;
   prototype.set(JS_NewPlainObject(cx));
-  return prototype && JS_DefineProperty(cx, prototype, "v", &GetPlace, &SetPlace, 0) &&
+  return prototype && JS_DefineProperty(cx, prototype, "v", &GetTarget, &SetTarget, 0) &&
          JS_DefineUCFunction(cx, global, put.data(), put.size(), &Put, 1, kFixed) &&
          JS_DefineUCFunction(cx, global, putMember.data(), putMember.size(), &PutNamed, 2, kFixed);
 }

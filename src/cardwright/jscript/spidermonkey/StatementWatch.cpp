@@ -24,7 +24,7 @@
 namespace cardwright::jscript {
 namespace {
 
-constexpr JSClass kGlobalClass = {
+constexpr JSClass kDebuggerGlobalClass = {
     "debugger", JSCLASS_GLOBAL_FLAGS, &JS::DefaultGlobalClassOps, nullptr, nullptr, nullptr};
 
 constexpr char16_t kHooks[] =
@@ -70,7 +70,7 @@ StatementWatch::StatementWatch(Session& session, ScriptObserver& observer)
   JSContext* cx = session.Context();
   JS::RealmOptions options;
   options.creationOptions().setNewCompartmentAndZone();
-  m_Global = JS_NewGlobalObject(cx, &kGlobalClass, nullptr, JS::FireOnNewGlobalHook, options);
+  m_Global = JS_NewGlobalObject(cx, &kDebuggerGlobalClass, nullptr, JS::FireOnNewGlobalHook, options);
   if (!m_Global) Raise(ErrorNumber::OutOfMemory);
   const JSAutoRealm realm(cx, m_Global);
   if (Start(cx)) return;

@@ -84,7 +84,7 @@ bool ObjectToHost(Session& session, JS::HandleObject object, Variant& result) {
 
 Text TextOf(Session& session, JS::HandleString text) {
   const std::size_t size = JS::GetStringLength(text);
-  if (size > session.GetLimits().textUnits) Raise(kOutOfTextSpace, ErrorText(kOutOfTextSpace));
+  if (size > session.GetLimits().textUnits) Raise(kOutOfStringSpace, ErrorText(kOutOfStringSpace));
   bool isCopied = true;
   Text copy = Text::OfSize(size, [&](char16_t* to) {
     isCopied = JS_CopyStringChars(session.Context(), mozilla::Range<char16_t>(to, size), text);

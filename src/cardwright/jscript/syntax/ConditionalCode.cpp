@@ -4,14 +4,13 @@
 #include <cmath>
 
 #include "cardwright/automation/Conversions.h"
+#include "cardwright/jscript/errors/ErrorNumbers.h"
 #include "cardwright/jscript/syntax/Characters.h"
 #include "cardwright/jscript/syntax/ConditionalExpression.h"
 #include "cardwright/jscript/syntax/SyntaxFault.h"
 
 namespace cardwright::jscript {
 namespace {
-
-constexpr int kExpectedEnd = 1029, kExpectedEquals = 1011, kExpectedAt = 1032, kSyntaxError = 1002;
 
 std::u16string Literal(double value) {
   if (std::isnan(value)) return u"NaN";
@@ -26,7 +25,7 @@ class Runner {
 
   ConditionalResult Run() {
     while (m_At < m_Source.size()) Step();
-    if (!m_Ifs.empty()) throw SyntaxFault{kExpectedEnd, m_Source.size()};
+    if (!m_Ifs.empty()) throw SyntaxFault{kExpectedConditionalEnd, m_Source.size()};
     return std::move(m_Result);
   }
 
@@ -177,7 +176,7 @@ void Runner::RunSet() {
     while (m_At < m_Source.size() && IsBlank(m_Source[m_At]) && !IsLineEnd(m_Source[m_At])) ++m_At;
   };
   passBlanks();
-  if (m_At >= m_Source.size() || m_Source[m_At] != u'@') throw SyntaxFault{kExpectedAt, m_At};
+  if (m_At >= m_Source.size() || m_Source[m_At] != u'@') throw SyntaxFault{kExpectedAtSign, m_At};
   ++m_At;
   const std::u16string name = Name();
   passBlanks();

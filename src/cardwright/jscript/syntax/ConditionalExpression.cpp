@@ -4,13 +4,13 @@
 #include <cstdint>
 
 #include "cardwright/automation/Conversions.h"
+#include "cardwright/jscript/errors/ErrorNumbers.h"
 #include "cardwright/jscript/syntax/Characters.h"
 #include "cardwright/jscript/syntax/SyntaxFault.h"
 
 namespace cardwright::jscript {
 namespace {
 
-constexpr int kSyntaxError = 1002, kExpectedClosing = 1006, kExpectedConstant = 1031;
 constexpr int kDeepest = 200;
 
 bool IsTrue(double value) noexcept { return value != 0 && !std::isnan(value); }
@@ -115,7 +115,7 @@ double ConditionalExpression::Primary() {
     ++m_At;
     const double value = Binary(0);
     PassBlanks();
-    if (m_At >= m_Source.size() || m_Source[m_At] != u')') throw SyntaxFault{kExpectedClosing, m_At};
+    if (m_At >= m_Source.size() || m_Source[m_At] != u')') throw SyntaxFault{kExpectedCloseParenthesis, m_At};
     ++m_At;
     return value;
   }
