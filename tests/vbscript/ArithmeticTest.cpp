@@ -6,19 +6,15 @@
 namespace cardwright::vbscript {
 namespace {
 
-using Operation = Variant (*)(const Variant&, const Variant&);
-using Byte = std::uint8_t;
-using Short = std::int16_t;
-
-struct Case {
+struct ArithmeticCase {
   Variant left;
   Variant right;
   const char* outcome;
 };
 
-void ExpectOutcomes(Operation operation, std::initializer_list<Case> cases) {
+void ExpectOutcomes(Operation operation, std::initializer_list<ArithmeticCase> cases) {
   int number = 0;
-  for (const Case& c : cases) {
+  for (const ArithmeticCase& c : cases) {
     EXPECT_EQ(Outcome([&] { return operation(c.left, c.right); }), c.outcome) << "case " << number;
     ++number;
   }

@@ -5,9 +5,6 @@
 namespace cardwright::vbscript {
 namespace {
 
-const Variant kNull = Variant::Null();
-const Variant kMissing = Variant::Missing();
-
 Variant List(std::vector<Variant> values) { return Array::FromValues(std::move(values)); }
 
 // The values of the array that a call answers, between brackets.
@@ -22,13 +19,13 @@ std::string Listed(FamilyCalls& calls, std::u16string_view name, std::vector<Var
   }
 }
 
-struct Row {
+struct ArrayRow {
   const char16_t* name;
   std::vector<Variant> args;
   const char* answer;
 };
 
-class ListingFunction : public testing::TestWithParam<Row> {};
+class ListingFunction : public testing::TestWithParam<ArrayRow> {};
 
 TEST_P(ListingFunction, Answers) {
   FamilyCalls calls(ArrayFunctions());
@@ -37,7 +34,7 @@ TEST_P(ListingFunction, Answers) {
 
 INSTANTIATE_TEST_SUITE_P(
     All, ListingFunction,
-    testing::ValuesIn<Row>({
+    testing::ValuesIn<ArrayRow>({
         {u"Array", {}, ""},
         {u"Array", {1, u"b", 2.5}, "[1][b][2.5]"},
         {u"Split", {u"a b c"}, "[a][b][c]"},
@@ -79,7 +76,7 @@ INSTANTIATE_TEST_SUITE_P(
         {u"Filter", {List({u"a"}), u"a", u"maybe"}, "Error 13"},
     }));
 
-class ArrayFunction : public testing::TestWithParam<Row> {};
+class ArrayFunction : public testing::TestWithParam<ArrayRow> {};
 
 TEST_P(ArrayFunction, Answers) {
   FamilyCalls calls(ArrayFunctions());
@@ -88,7 +85,7 @@ TEST_P(ArrayFunction, Answers) {
 
 INSTANTIATE_TEST_SUITE_P(
     All, ArrayFunction,
-    testing::ValuesIn<Row>({
+    testing::ValuesIn<ArrayRow>({
         {u"UBound", {List({1, 2, 3})}, "Long 2"},
         {u"UBound", {List({})}, "Long -1"},
         {u"LBound", {List({1, 2, 3})}, "Long 0"},

@@ -5,9 +5,6 @@
 namespace cardwright::vbscript {
 namespace {
 
-using Byte = std::uint8_t;
-using Short = std::int16_t;
-
 char SignOf(Ordering order) {
   switch (order) {
     case Ordering::Less: return '<';
@@ -17,15 +14,15 @@ char SignOf(Ordering order) {
   }
 }
 
-struct Case {
+struct ComparisonCase {
   Variant left;
   char sign;
   Variant right;
 };
 
-void ExpectOrder(std::initializer_list<Case> cases, LiteralSide literals = LiteralSide::None) {
+void ExpectOrder(std::initializer_list<ComparisonCase> cases, LiteralSide literals = LiteralSide::None) {
   int number = 0;
-  for (const Case& c : cases) {
+  for (const ComparisonCase& c : cases) {
     EXPECT_EQ(SignOf(Compare(c.left, c.right, literals)), c.sign) << "case " << number;
     if (literals == LiteralSide::None) {
       const char reversed = c.sign == '<' ? '>' : c.sign == '>' ? '<' : c.sign;

@@ -5,13 +5,7 @@
 namespace cardwright::vbscript {
 namespace {
 
-using Byte = std::uint8_t;
-using Short = std::int16_t;
-
 void ExpectConversions(std::initializer_list<CallCase> cases) { ExpectCalls(ConversionFunctions(), cases); }
-
-const Variant kNull = Variant::Null();
-const Variant kMissing = Variant::Missing();
 
 TEST(ConversionFunctions, RoundHalfToEven) {
   ExpectConversions({{u"CInt", {2.5}, "i 2"},

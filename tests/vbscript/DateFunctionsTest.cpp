@@ -6,7 +6,7 @@
 namespace cardwright::vbscript {
 namespace {
 
-struct CallCase {
+struct DateCase {
   const char16_t* name;
   std::vector<Variant> args;
   const char* answer;
@@ -14,8 +14,8 @@ struct CallCase {
 
 class DateFunctionsTest : public testing::Test {
  protected:
-  void Expect(const std::vector<CallCase>& cases) {
-    for (const CallCase& c : cases) {
+  void Expect(const std::vector<DateCase>& cases) {
+    for (const DateCase& c : cases) {
       std::string call = Text(c.name).ToUtf8() + "(";
       for (const Variant& arg : c.args) {
         call += (arg.IsNull() ? "Null" : arg.IsMissing() ? "" : ToText(arg).ToUtf8()) + ", ";

@@ -11,6 +11,7 @@
 #include "cardwright/automation/Locale.h"
 #include "cardwright/vbscript/Context.h"
 #include "cardwright/vbscript/builtins/Builtin.h"
+#include "vbscript/OperatorSamples.h"
 
 namespace cardwright::vbscript {
 

@@ -3,10 +3,6 @@
 namespace cardwright::vbscript {
 namespace {
 
-using Operation = Variant (*)(const Variant&, const Variant&);
-using Byte = std::uint8_t;
-using Short = std::int16_t;
-
 // F, N, T for False, Null, True: the results of the nine pairs, left operand first.
 std::string TruthTable(Operation operation) {
   const Variant values[] = {false, Variant::Null(), true};
@@ -29,7 +25,7 @@ TEST(Logic, HasThreeValues) {
   EXPECT_EQ(TruthTable(Imp), "TTT NNT FNT ");
 }
 
-struct Case {
+struct LogicCase {
   Operation operation;
   Variant left;
   Variant right;
@@ -37,31 +33,31 @@ struct Case {
 };
 
 TEST(Logic, WorksOnBits) {
-  const Case cases[] = {{And, Short{6}, Short{3}, "i 2"},  {Or, Short{6}, Short{3}, "i 7"},
-                        {Xor, Short{6}, Short{3}, "i 5"},  {Eqv, Short{6}, Short{3}, "i -6"},
-                        {Imp, Short{6}, Short{3}, "i -5"}, {Eqv, Byte{6}, Byte{3}, "y 250"},
-                        {Imp, Byte{6}, Byte{3}, "y 251"},  {And, 70000, true, "l 70000"},
-                        {And, Byte{5}, true, "i 5"},       {Or, Variant(), true, "i -1"},
-                        {And, 6.5, Short{7}, "l 6"},       {And, 7.5, Short{15}, "l 8"},
-                        {And, 3e9, Short{1}, "error 6"},   {And, u"6", Short{3}, "l 2"},
-                        {And, u"6", u"3", "l 2"},          {And, u"True", true, "b True"},
-                        {And, u"false", true, "b False"},  {And, u"maybe", true, "error 13"},
-                        {And, u"", true, "error 13"},      {Xor, Currency{20000}, Short{3}, "l 1"},
-                        {Or, Date{2}, Short{1}, "l 3"}};
-  for (const Case& c : cases) {
+  const LogicCase cases[] = {{And, Short{6}, Short{3}, "i 2"},  {Or, Short{6}, Short{3}, "i 7"},
+                             {Xor, Short{6}, Short{3}, "i 5"},  {Eqv, Short{6}, Short{3}, "i -6"},
+                             {Imp, Short{6}, Short{3}, "i -5"}, {Eqv, Byte{6}, Byte{3}, "y 250"},
+                             {Imp, Byte{6}, Byte{3}, "y 251"},  {And, 70000, true, "l 70000"},
+                             {And, Byte{5}, true, "i 5"},       {Or, Variant(), true, "i -1"},
+                             {And, 6.5, Short{7}, "l 6"},       {And, 7.5, Short{15}, "l 8"},
+                             {And, 3e9, Short{1}, "error 6"},   {And, u"6", Short{3}, "l 2"},
+                             {And, u"6", u"3", "l 2"},          {And, u"True", true, "b True"},
+                             {And, u"false", true, "b False"},  {And, u"maybe", true, "error 13"},
+                             {And, u"", true, "error 13"},      {Xor, Currency{20000}, Short{3}, "l 1"},
+                             {Or, Date{2}, Short{1}, "l 3"}};
+  for (const LogicCase& c : cases) {
     EXPECT_EQ(Outcome([&] { return c.operation(c.left, c.right); }), c.outcome) << c.outcome;
   }
 }
 
 TEST(Logic, KnowsTheResultWhereTheSideThatIsNotNullDecidesAlone) {
   const Variant null = Variant::Null();
-  const Case cases[] = {
+  const LogicCase cases[] = {
       {And, null, Short{0}, "i 0"},  {And, Byte{0}, null, "y 0"},   {And, null, Short{5}, "n"},
       {And, Variant(), null, "i 0"}, {Or, null, Short{5}, "i 5"},   {Or, 70000, null, "l 70000"},
       {Or, null, Short{0}, "n"},     {Or, Variant(), null, "n"},    {Imp, Short{5}, null, "i -6"},
       {Imp, Short{-1}, null, "n"},   {Imp, null, Short{5}, "i 5"},  {Imp, null, Short{0}, "n"},
       {Imp, Byte{255}, null, "n"},   {Imp, Byte{1}, null, "y 254"}, {Imp, 0, null, "l -1"}};
-  for (const Case& c : cases) {
+  for (const LogicCase& c : cases) {
     EXPECT_EQ(Outcome([&] { return c.operation(c.left, c.right); }), c.outcome) << c.outcome;
   }
 }

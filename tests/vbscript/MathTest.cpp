@@ -6,11 +6,6 @@
 namespace cardwright::vbscript {
 namespace {
 
-using Byte = std::uint8_t;
-using Short = std::int16_t;
-
-const Variant kNull = Variant::Null();
-
 void ExpectResults(std::initializer_list<CallCase> cases) { ExpectCalls(MathFunctions(), cases); }
 
 TEST(MathFunctions, OfTheRealsGiveDoubles) {

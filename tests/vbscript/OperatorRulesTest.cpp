@@ -5,8 +5,6 @@
 namespace cardwright::vbscript {
 namespace {
 
-using Operation = Variant (*)(const Variant&, const Variant&);
-
 std::string RowOf(Operation operation, const Variant& left) {
   std::string row;
   for (const Variant& right : OneOfEachType()) {

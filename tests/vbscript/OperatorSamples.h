@@ -10,6 +10,13 @@
 
 namespace cardwright::vbscript {
 
+using Operation = Variant (*)(const Variant&, const Variant&);
+using Byte = std::uint8_t;
+using Short = std::int16_t;
+
+inline const Variant kNull = Variant::Null();
+inline const Variant kMissing = Variant::Missing();
+
 /// One small value of each type that operators take, in the order of the tests' tables: Empty, Boolean, Byte,
 /// Integer, Long, Single, Double, Currency, Date, Decimal, text.
 inline std::array<Variant, 11> OneOfEachType() {

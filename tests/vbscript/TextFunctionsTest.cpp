@@ -5,13 +5,13 @@
 namespace cardwright::vbscript {
 namespace {
 
-struct Row {
+struct TextRow {
   const char16_t* name;
   std::vector<Variant> args;
   const char* answer;
 };
 
-class TextFunction : public testing::TestWithParam<Row> {};
+class TextFunction : public testing::TestWithParam<TextRow> {};
 
 TEST_P(TextFunction, Answers) {
   FamilyCalls calls(TextFunctions());
@@ -19,13 +19,11 @@ TEST_P(TextFunction, Answers) {
       << Text(GetParam().name).ToUtf8();
 }
 
-const Variant kNull = Variant::Null();
-const Variant kMissing = Variant::Missing();
 const Variant kList = Array::FromValues({});
 const Variant kNothing = Variant::Nothing();
 
 INSTANTIATE_TEST_SUITE_P(Parts, TextFunction,
-                         testing::ValuesIn<Row>({
+                         testing::ValuesIn<TextRow>({
                              {u"Len", {u"abc"}, "Long 3"},
                              {u"Len", {u""}, "Long 0"},
                              {u"Len", {Variant()}, "Long 0"},
@@ -91,7 +89,7 @@ INSTANTIATE_TEST_SUITE_P(Parts, TextFunction,
                          }));
 
 INSTANTIATE_TEST_SUITE_P(Bytes, TextFunction,
-                         testing::ValuesIn<Row>({
+                         testing::ValuesIn<TextRow>({
                              {u"LenB", {u"abc"}, "Long 6"},
                              {u"LenB", {12}, "Long 4"},
                              {u"LenB", {kNull}, "Null"},
@@ -122,7 +120,7 @@ INSTANTIATE_TEST_SUITE_P(Bytes, TextFunction,
                          }));
 
 INSTANTIATE_TEST_SUITE_P(Search, TextFunction,
-                         testing::ValuesIn<Row>({
+                         testing::ValuesIn<TextRow>({
                              {u"InStr", {u"abcabc", u"c"}, "Long 3"},
                              {u"InStr", {u"abcabc", u"x"}, "Long 0"},
                              {u"InStr", {4, u"abcabc", u"c"}, "Long 6"},
@@ -188,7 +186,7 @@ INSTANTIATE_TEST_SUITE_P(Search, TextFunction,
                          }));
 
 INSTANTIATE_TEST_SUITE_P(Replacing, TextFunction,
-                         testing::ValuesIn<Row>({
+                         testing::ValuesIn<TextRow>({
                              {u"Replace", {u"banana", u"an", u"AN"}, "String bANANa"},
                              {u"Replace", {u"banana", u"a", u""}, "String bnn"},
                              {u"Replace", {u"banana", u"a", u"xyz"}, "String bxyznxyznxyz"},
@@ -219,7 +217,7 @@ INSTANTIATE_TEST_SUITE_P(Replacing, TextFunction,
                          }));
 
 INSTANTIATE_TEST_SUITE_P(Forms, TextFunction,
-                         testing::ValuesIn<Row>({
+                         testing::ValuesIn<TextRow>({
                              {u"LCase", {u"AbC1Ä"}, "String abc1ä"},
                              {u"UCase", {u"aBc1ä"}, "String ABC1Ä"},
                              {u"UCase", {u"ß"}, "String ß"},

@@ -6,8 +6,6 @@ namespace cardwright {
 
 namespace {
 
-constexpr int kKeyExists = 457;
-
 // A key is a text and nothing else: a number would be a position.
 Text KeyOf(const std::optional<Variant>& key) {
   if (!key) return {};
@@ -79,7 +77,8 @@ void Collection::Add(const Variant& item, std::optional<Variant> key, std::optio
                      std::optional<Variant> after) {
   const std::size_t position = PositionOfNew(before, after);
   auto entry = std::make_unique<Entry>(Entry{KeyOf(key), item.Deref()});
-  if (!entry->key.IsEmpty() && !m_ByKey.try_emplace(entry->key, entry.get()).second) Raise(kKeyExists);
+  if (!entry->key.IsEmpty() && !m_ByKey.try_emplace(entry->key, entry.get()).second)
+    Raise(ErrorNumber::KeyExists);
   m_Entries.insert(m_Entries.begin() + static_cast<std::ptrdiff_t>(position), std::move(entry));
   for (Walk* walk : m_Walks) walk->OnAdded(position);
 }

@@ -11,9 +11,8 @@ namespace {
 
 using Kind = DateToken::Kind;
 
-constexpr int kEnglish = 1033;
+constexpr int kEnglishLcid = 1033;
 
-bool IsDigit(char16_t c) noexcept { return c >= u'0' && c <= u'9'; }
 bool IsSeparator(char16_t c) noexcept { return c == u'/' || c == u'-' || c == u'.' || c == u','; }
 bool IsLetter(char16_t c) noexcept { return ToLower(c) != ToUpper(c); }
 
@@ -43,7 +42,7 @@ std::optional<DateToken> NameToken(const Locale& locale, std::u16string_view wor
   if (auto token = NameIn(locale, word)) return token;
   if (EqualsNoCase(word, u"a")) return DateToken{Kind::Am};
   if (EqualsNoCase(word, u"p")) return DateToken{Kind::Pm};
-  return NameIn(*Locale::Find(kEnglish), word);
+  return NameIn(*Locale::Find(kEnglishLcid), word);
 }
 
 // Whether the country's long dates have the word between their parts, as the "de" of "21 de noviembre".

@@ -7,6 +7,9 @@
 
 namespace cardwright {
 
+/// Significant digits that a number of the type is told with.
+inline constexpr int kDoubleDigits = 15, kSingleDigits = 7;
+
 /// A number as its decimal digits, (-1)^negative * digits * 10^exponent: where texts and the exact types meet
 /// without passing through binary fractions. Zero has no digits.
 struct DecimalDigits {

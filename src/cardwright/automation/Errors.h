@@ -15,6 +15,7 @@ enum class ErrorNumber : int {
   OutOfMemory = 7,
   SubscriptOutOfRange = 9,
   ArrayIsFixedOrLocked = 10,
+  DivisionByZero = 11,
   TypeMismatch = 13,
   OutOfStringSpace = 14,
   CannotPerform = 17,
@@ -22,6 +23,15 @@ enum class ErrorNumber : int {
   OutOfStackSpace = 28,
   BadFileName = 52,
   FileNotFound = 53,
+  BadFileMode = 54,
+  DeviceError = 57,
+  FileExists = 58,
+  DiskFull = 61,
+  InputPastEnd = 62,
+  TooManyFiles = 67,
+  PermissionDenied = 70,
+  DifferentDevice = 74,
+  PathAccess = 75,
   PathNotFound = 76,
   ObjectNotSet = 91,
   ForLoopNotInitialized = 92,
@@ -29,15 +39,26 @@ enum class ErrorNumber : int {
   InvalidPropertyValue = 380,
   ObjectRequired = 424,
   CannotCreateObject = 429,
+  FileOrClassNotFound = 432,
   NotSupported = 438,
+  LocaleNotSupported = 447,
   ArgumentNotOptional = 449,
   WrongArgumentCount = 450,
   NotACollection = 451,
+  KeyExists = 457,
+  ServerNotAvailable = 462,
+  InvalidPicture = 481,
   UndefinedVariable = 500,
   IllegalAssignment = 501,
   InvalidReference = 505,
   UndefinedClass = 506,
   ControlNameExists = 727,
+  RegExpSyntax = 5017,
+  RegExpUnexpectedQuantifier = 5018,
+  RegExpExpectedBracket = 5019,
+  RegExpExpectedParenthesis = 5020,
+  RegExpInvalidRange = 5021,
+  ElementNotFound = 32811,
 };
 
 /// Text that the platform gives an error of this number; "Unknown runtime error" where it has none.
@@ -50,6 +71,7 @@ class Error : public std::exception {
   explicit Error(ErrorNumber number) : Error(static_cast<int>(number)) {}
 
   int Number() const noexcept { return m_Number; }
+  bool Is(ErrorNumber number) const noexcept { return m_Number == static_cast<int>(number); }
   const Text& Description() const noexcept { return m_Description; }
   const Text& Source() const noexcept { return m_Source; }
   const char* what() const noexcept override;

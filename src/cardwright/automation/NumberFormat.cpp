@@ -9,8 +9,6 @@ namespace cardwright {
 
 namespace {
 
-constexpr int kDoubleDigits = 15;
-constexpr int kSingleDigits = 7;
 constexpr int kAnyDecimals = 400;
 
 Text FromAscii(const std::string& text, char16_t point) {

@@ -14,8 +14,6 @@ namespace {
 
 constexpr int kCurrencyUnit = -4;
 constexpr double kTenThousand = 10000;
-constexpr int kDoubleDigits = 15;
-constexpr int kSingleDigits = 7;
 
 NumericText RequireNumber(std::u16string_view text) {
   auto number = ReadNumericText(text, Locale::Current());

@@ -16,7 +16,6 @@ constexpr char16_t kNarrowNoBreakSpace = 0x202F;
 constexpr int kMaxExponent = 99999;
 
 bool IsSpace(char16_t c) noexcept { return c == u' ' || (c >= u'\t' && c <= u'\r'); }
-bool IsDigit(char16_t c) noexcept { return c >= u'0' && c <= u'9'; }
 
 int DigitValue(char16_t c) noexcept {
   if (IsDigit(c)) return c - u'0';

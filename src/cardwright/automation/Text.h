@@ -86,6 +86,8 @@ std::size_t FindNoCase(std::u16string_view text, std::u16string_view part, std::
 std::size_t HashNoCase(std::u16string_view text) noexcept;
 /// @}
 
+/// Whether it is one of 0 to 9.
+constexpr bool IsDigit(char16_t c) noexcept { return c >= u'0' && c <= u'9'; }
 /// Blanks (U+0020) cut off both ends, as the platform's Trim does; other white space stays.
 std::u16string_view Trim(std::u16string_view text) noexcept;
 /// Every occurrence of `from` replaced by `to`; with `noCase` the search ignores case.

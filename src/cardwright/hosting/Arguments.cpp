@@ -3,7 +3,7 @@
 namespace cardwright {
 namespace {
 
-constexpr Member kMembers[] = {
+constexpr Member kArgumentsMembers[] = {
     Property<&Arguments::Item>(u"Item"),
     Property<&Arguments::Count>(u"Count"),
     Property<&Arguments::Count>(u"Length"),
@@ -33,7 +33,7 @@ Text Arguments::Item(std::int32_t index) const {
 std::unique_ptr<Enumerator> Arguments::Enumerate() { return std::make_unique<Walk>(*this); }
 
 const MemberTable& Arguments::Members() const {
-  static const MemberTable table(kMembers, u"Item");
+  static const MemberTable table(kArgumentsMembers, u"Item");
   return table;
 }
 

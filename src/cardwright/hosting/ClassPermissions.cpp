@@ -7,8 +7,6 @@
 namespace cardwright {
 namespace {
 
-constexpr int kYes = 6;
-
 // The file itself, whatever links and relative paths lead to it.
 Text Canonical(const Text& file) {
   std::error_code error;
@@ -44,7 +42,7 @@ bool ClassPermissions::Ask(std::u16string_view progid) const {
                         u"\r\n\r\nAllow it, until the script is changed? Do so only if you know where the "
                         u"form comes from.";
   constexpr int kStyle = BoxStyle::YesNo | BoxStyle::Exclamation | BoxStyle::SecondIsDefault;
-  return Module().desktop->ShowMessage(question, kStyle, {}) == kYes;
+  return Module().desktop->ShowMessage(question, kStyle, {}) == BoxAnswer::Yes;
 }
 
 bool ClassPermissions::Note(std::u16string_view progid, bool isYes) {

@@ -8,11 +8,7 @@
 #include "cardwright/hosting/InterruptSignal.h"
 
 namespace cardwright {
-namespace {
-
-constexpr int kDeviceError = 57, kDiskFull = 61;
-
-}  // namespace
+namespace {}  // namespace
 
 bool FileHandle::IsTerminal() const noexcept { return isatty(m_Descriptor) != 0; }
 
@@ -28,7 +24,7 @@ std::size_t FileHandle::Read(char* bytes, std::size_t size) const {
     if (count >= 0) return static_cast<std::size_t>(count);
     if (errno != EINTR) break;
   }
-  Raise(kDeviceError);
+  Raise(ErrorNumber::DeviceError);
 }
 
 void FileHandle::Write(std::string_view bytes) const {
@@ -37,7 +33,7 @@ void FileHandle::Write(std::string_view bytes) const {
     if (count >= 0) {
       bytes.remove_prefix(static_cast<std::size_t>(count));
     } else if (errno != EINTR) {
-      Raise(errno == ENOSPC || errno == EDQUOT ? kDiskFull : kDeviceError);
+      Raise(errno == ENOSPC || errno == EDQUOT ? ErrorNumber::DiskFull : ErrorNumber::DeviceError);
     }
   }
 }

@@ -8,8 +8,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr int kFileExists = 58, kPermissionDenied = 70;
-
 bool IsFolder(const fs::path& path) {
   std::error_code ignored;
   return fs::is_directory(path, ignored);
@@ -37,13 +35,13 @@ void ForEachTarget(std::u16string_view source, std::u16string_view target, Entry
 }
 
 void CopyFile(const fs::path& from, const fs::path& to, IfThere ifThere) {
-  if (IsFolder(to) || IsProtected(to)) Raise(kPermissionDenied);
-  if (Exists(to) && ifThere == IfThere::Fail) Raise(kFileExists);
+  if (IsFolder(to) || IsProtected(to)) Raise(ErrorNumber::PermissionDenied);
+  if (Exists(to) && ifThere == IfThere::Fail) Raise(ErrorNumber::FileExists);
   std::error_code error;
   fs::copy_file(from, to, fs::copy_options::overwrite_existing, error);
   // The source is there: what is missing is the target's folder.
   if (error == std::errc::no_such_file_or_directory) Raise(ErrorNumber::PathNotFound);
-  if (error == std::errc::file_exists) Raise(kPermissionDenied);  // onto itself
+  if (error == std::errc::file_exists) Raise(ErrorNumber::PermissionDenied);  // onto itself
   Check(error, to);
 }
 
@@ -52,8 +50,8 @@ void CopyFolder(const fs::path& from, const fs::path& to, IfThere ifThere) {
   const fs::path inside =
       fs::weakly_canonical(to, error).lexically_relative(fs::weakly_canonical(from, error));
   // A folder copied into itself would never come to an end.
-  if (!inside.empty() && *inside.begin() != "..") Raise(kPermissionDenied);
-  if (Exists(to) && !IsFolder(to)) Raise(kFileExists);
+  if (!inside.empty() && *inside.begin() != "..") Raise(ErrorNumber::PermissionDenied);
+  if (Exists(to) && !IsFolder(to)) Raise(ErrorNumber::FileExists);
   if (!IsFolder(to)) CreateFolder(to);
   for (fs::directory_iterator entry(from, error), end; !error && entry != end; entry.increment(error)) {
     const fs::path target = to / entry->path().filename();
@@ -70,7 +68,7 @@ void CheckUnprotected(const fs::path& folder) {
   std::error_code error;
   for (fs::recursive_directory_iterator entry(folder, error), end; !error && entry != end;
        entry.increment(error))
-    if (!entry->is_symlink() && IsProtected(entry->path())) Raise(kPermissionDenied);
+    if (!entry->is_symlink() && IsProtected(entry->path())) Raise(ErrorNumber::PermissionDenied);
   Check(error, folder);
 }
 
@@ -88,7 +86,7 @@ void Copy(std::u16string_view source, std::u16string_view target, EntryKind kind
 
 void Move(std::u16string_view source, std::u16string_view target, EntryKind kind) {
   ForEachTarget(source, target, kind, [&](const fs::path& from, const fs::path& to) {
-    if (Exists(to)) Raise(kFileExists);
+    if (Exists(to)) Raise(ErrorNumber::FileExists);
     std::error_code error;
     fs::rename(from, to, error);
     if (error == std::errc::cross_device_link && kind == EntryKind::File) {
@@ -96,7 +94,7 @@ void Move(std::u16string_view source, std::u16string_view target, EntryKind kind
       fs::remove(from, error);
     }
     if (error == std::errc::no_such_file_or_directory) Raise(ErrorNumber::PathNotFound);
-    if (error == std::errc::invalid_argument) Raise(kPermissionDenied);  // into itself
+    if (error == std::errc::invalid_argument) Raise(ErrorNumber::PermissionDenied);  // into itself
     Check(error, from);
   });
 }
@@ -104,7 +102,7 @@ void Move(std::u16string_view source, std::u16string_view target, EntryKind kind
 void Delete(std::u16string_view source, EntryKind kind, ReadOnly readOnly) {
   for (const fs::path& entry : MatchingEntries(source, kind)) {
     if (readOnly == ReadOnly::Keep) {
-      if (IsProtected(entry)) Raise(kPermissionDenied);
+      if (IsProtected(entry)) Raise(ErrorNumber::PermissionDenied);
       if (kind == EntryKind::Folder) CheckUnprotected(entry);
     }
     std::error_code error;
@@ -118,7 +116,7 @@ void Delete(std::u16string_view source, EntryKind kind, ReadOnly readOnly) {
 }
 
 void CreateFolder(const fs::path& path) {
-  if (Exists(path)) Raise(kFileExists);
+  if (Exists(path)) Raise(ErrorNumber::FileExists);
   std::error_code error;
   fs::create_directory(path, error);
   if (error == std::errc::no_such_file_or_directory) Raise(ErrorNumber::PathNotFound);

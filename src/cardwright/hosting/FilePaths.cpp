@@ -12,8 +12,6 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr std::u16string_view kSeparators = u"/\\";
-constexpr int kFileExists = 58, kDiskFull = 61, kTooManyFiles = 67, kPermissionDenied = 70,
-              kDifferentDevice = 74, kAccess = 75, kDevice = 57;
 
 std::u16string_view WithoutEndSeparators(std::u16string_view path) {
   while (path.size() > 1 && EndsWithSeparator(path)) path.remove_suffix(1);
@@ -153,23 +151,23 @@ void RaiseFileError(int systemError, const fs::path& path) {
         Raise(ErrorNumber::FileNotFound);
       Raise(ErrorNumber::PathNotFound);
     case ENOTDIR: Raise(ErrorNumber::PathNotFound);
-    case EEXIST: Raise(kFileExists);
+    case EEXIST: Raise(ErrorNumber::FileExists);
     case EACCES:
     case EPERM:
     case EROFS:
     case EISDIR:
     case EBUSY:
     case ETXTBSY:
-    case ENOTEMPTY: Raise(kPermissionDenied);
+    case ENOTEMPTY: Raise(ErrorNumber::PermissionDenied);
     case ENAMETOOLONG:
     case EINVAL: Raise(ErrorNumber::BadFileName);
     case ENOSPC:
-    case EDQUOT: Raise(kDiskFull);
+    case EDQUOT: Raise(ErrorNumber::DiskFull);
     case EMFILE:
-    case ENFILE: Raise(kTooManyFiles);
-    case EXDEV: Raise(kDifferentDevice);
-    case EIO: Raise(kDevice);
-    default: Raise(kAccess);
+    case ENFILE: Raise(ErrorNumber::TooManyFiles);
+    case EXDEV: Raise(ErrorNumber::DifferentDevice);
+    case EIO: Raise(ErrorNumber::DeviceError);
+    default: Raise(ErrorNumber::PathAccess);
   }
 }
 

@@ -96,7 +96,7 @@ Ref<TextStream> CreateTextFile(Self&, const Text& path, Flag overwrite, Flag uni
                        unicode.value_or(false) ? TextCoding::Utf16 : TextCoding::CodePage);
 }
 
-constexpr Member kMembers[] = {
+constexpr Member kFileSystemMembers[] = {
     Method<&Joined>(u"BuildPath"),
     Method<&CopyFile>(u"CopyFile"),
     Method<&CopyFolder>(u"CopyFolder"),
@@ -125,7 +125,7 @@ constexpr Member kMembers[] = {
 }  // namespace
 
 const MemberTable& FileSystemObject::Members() const {
-  static const MemberTable table(kMembers);
+  static const MemberTable table(kFileSystemMembers);
   return table;
 }
 

@@ -4,11 +4,6 @@
 #include "cardwright/shared/ModuleState.h"
 
 namespace cardwright {
-namespace {
-
-constexpr int kYes = 6;
-
-}  // namespace
 
 FormScriptHost::FormScriptHost(std::shared_ptr<ClassRegistry> onLeave)
     : m_OnLeave(std::move(onLeave)), m_Permissions(Module().programFile, Module().program) {
@@ -40,7 +35,8 @@ bool FormScriptHost::ShouldStop() {
   Desktop* const desktop = Module().desktop;
   if (!desktop || !desktop->BreakPressed()) return false;
   constexpr int kStyle = BoxStyle::YesNo | BoxStyle::Question | BoxStyle::SecondIsDefault;
-  return desktop->ShowMessage(u"The script of the form is still running. Stop it?", kStyle, {}) == kYes;
+  return desktop->ShowMessage(u"The script of the form is still running. Stop it?", kStyle, {}) ==
+         BoxAnswer::Yes;
 }
 
 }  // namespace cardwright

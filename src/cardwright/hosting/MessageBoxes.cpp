@@ -4,10 +4,12 @@
 #include <cstddef>
 #include <iterator>
 
+#include "cardwright/platform/Desktop.h"
+
 namespace cardwright {
 namespace {
 
-constexpr int kOk = 1, kCancel = 2, kAbort = 3, kRetry = 4, kIgnore = 5, kYes = 6, kNo = 7;
+namespace answer = BoxAnswer;
 
 struct ButtonSet {
   std::size_t count;
@@ -15,8 +17,12 @@ struct ButtonSet {
 };
 // By the number in the style's lowest three bits.
 constexpr ButtonSet kSets[] = {
-    {1, {kOk}},       {2, {kOk, kCancel}},    {3, {kAbort, kRetry, kIgnore}}, {3, {kYes, kNo, kCancel}},
-    {2, {kYes, kNo}}, {2, {kRetry, kCancel}},
+    {1, {answer::Ok}},
+    {2, {answer::Ok, answer::Cancel}},
+    {3, {answer::Abort, answer::Retry, answer::Ignore}},
+    {3, {answer::Yes, answer::No, answer::Cancel}},
+    {2, {answer::Yes, answer::No}},
+    {2, {answer::Retry, answer::Cancel}},
 };
 
 }  // namespace

@@ -11,17 +11,16 @@
 namespace cardwright::files {
 namespace {
 
-constexpr int kPermissionDenied = 70;
 constexpr mode_t kNewFile = 0666;
 
 FileHandle OpenHandle(const std::filesystem::path& path, int flags) {
   // A privileged user could write to a file that its owner protected.
-  if ((flags & O_ACCMODE) != O_RDONLY && IsReadOnly(FromPath(path))) Raise(kPermissionDenied);
+  if ((flags & O_ACCMODE) != O_RDONLY && IsReadOnly(FromPath(path))) Raise(ErrorNumber::PermissionDenied);
   const int descriptor = ::open(path.c_str(), flags | O_CLOEXEC, kNewFile);
   if (descriptor < 0) RaiseFileError(errno, path);
   FileHandle file(descriptor, FileHandle::Owner::Holder);
   struct stat status {};
-  if (::fstat(descriptor, &status) == 0 && S_ISDIR(status.st_mode)) Raise(kPermissionDenied);
+  if (::fstat(descriptor, &status) == 0 && S_ISDIR(status.st_mode)) Raise(ErrorNumber::PermissionDenied);
   return file;
 }
 

@@ -9,21 +9,19 @@
 namespace cardwright {
 namespace {
 
-constexpr int kDone = 0, kErrorMet = 1, kWrongUse = 2;
-
 int Compile(const ScriptJob& job, const ScriptLanguage& language, const Text& source,
             const StandardStreams& streams) {
   const ScriptError fault = language.check(source);
-  if (fault.number == 0) return kDone;
+  if (fault.number == 0) return ExitStatus::kDone;
   streams.Tell(ErrorLine(job.file, language.name, fault));
-  return kErrorMet;
+  return ExitStatus::kFailed;
 }
 
 int List(const ScriptJob& job, const ScriptLanguage& language, const Text& source,
          const StandardStreams& streams) {
-  if (const int status = Compile(job, language, source, streams); status != kDone) return status;
+  if (const int status = Compile(job, language, source, streams); status != ExitStatus::kDone) return status;
   streams.out->Write(language.disassemble(source));
-  return kDone;
+  return ExitStatus::kDone;
 }
 
 Text KnownFiles(const ScriptLanguages& languages) {
@@ -37,7 +35,7 @@ Text KnownFiles(const ScriptLanguages& languages) {
 
 int Refuse(const ScriptJob& job, std::u16string_view reason, const StandardStreams& streams) {
   streams.Tell(job.file + u": " + reason);
-  return kWrongUse;
+  return ExitStatus::kUsage;
 }
 
 // What cannot be written in the end is an error like any other.
@@ -46,7 +44,7 @@ int Finish(const ScriptJob& job, int status, const StandardStreams& streams) {
     streams.out->Flush();
   } catch (const Error& error) {
     streams.Tell(job.file + u": the output cannot be written: " + error.Description());
-    return status == kDone ? kErrorMet : status;
+    return status == ExitStatus::kDone ? ExitStatus::kFailed : status;
   }
   return status;
 }

@@ -6,6 +6,11 @@
 
 namespace cardwright {
 
+/// How a program that ran a script ends, as a shell sees it.
+namespace ExitStatus {
+inline constexpr int kDone = 0, kFailed = 1, kUsage = 2, kInterrupted = 130;
+}  // namespace ExitStatus
+
 /// What to do with a script file.
 struct ScriptJob {
   enum class Task {

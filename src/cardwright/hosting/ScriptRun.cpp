@@ -12,8 +12,6 @@
 namespace cardwright {
 namespace {
 
-constexpr int kErrorMet = 1, kInterrupted = 130;
-constexpr int kNoSuchServer = 462, kNoSuchFileOrClass = 432;
 // As long as Ctrl+C may have to wait.
 constexpr std::chrono::milliseconds kSlice{50};
 
@@ -59,10 +57,10 @@ int ScriptRun::Run(const Text& source) {
 
 int ScriptRun::Status() const {
   if (m_Quit) return *m_Quit;
-  if (m_HasFailed) return kErrorMet;
+  if (m_HasFailed) return ExitStatus::kFailed;
   if (!InterruptSignal::WasRaised()) return 0;
   m_Streams.Tell(m_Job.file + u": interrupted");
-  return kInterrupted;
+  return ExitStatus::kInterrupted;
 }
 
 bool ScriptRun::IsStopping() const noexcept {
@@ -126,13 +124,13 @@ Text ScriptRun::SpellingOf(std::u16string_view procedure) const {
 }
 
 Ref<Object> ScriptRun::CreateObject(std::u16string_view progid, std::u16string_view server) {
-  if (!server.empty()) Raise(kNoSuchServer);
+  if (!server.empty()) Raise(ErrorNumber::ServerNotAvailable);
   return Create(progid);
 }
 
 Ref<Object> ScriptRun::GetObject(std::u16string_view path, std::u16string_view) {
   // No class keeps a running object or makes one of a file.
-  if (!path.empty()) Raise(kNoSuchFileOrClass);
+  if (!path.empty()) Raise(ErrorNumber::FileOrClassNotFound);
   Raise(ErrorNumber::CannotCreateObject);
 }
 

@@ -6,13 +6,12 @@
 namespace cardwright {
 namespace {
 
-constexpr int kOutOfStringSpace = 14, kBadFileMode = 54, kInputPastEnd = 62;
 constexpr std::size_t kBlock = std::size_t{1} << 16;
 constexpr std::size_t kAll = std::numeric_limits<std::size_t>::max();
 // As much as the engine lets a script put into one text.
 constexpr std::size_t kMaxText = std::size_t{1} << 28;
 
-constexpr Member kMembers[] = {
+constexpr Member kTextStreamMembers[] = {
     Property<&TextStream::AtEndOfLine>(u"AtEndOfLine"),
     Property<&TextStream::AtEndOfStream>(u"AtEndOfStream"),
     Property<&TextStream::Column>(u"Column"),
@@ -48,13 +47,13 @@ TextStream::~TextStream() {
 }
 
 const MemberTable& TextStream::Members() const {
-  static const MemberTable table(kMembers);
+  static const MemberTable table(kTextStreamMembers);
   return table;
 }
 
 void TextStream::Require(Access access) const {
   if (!m_File.IsOpen()) Raise(ErrorNumber::ObjectNotSet);
-  if (m_Access != access) Raise(kBadFileMode);
+  if (m_Access != access) Raise(ErrorNumber::BadFileMode);
 }
 
 bool TextStream::Fill() {
@@ -75,7 +74,7 @@ bool TextStream::Fill() {
 
 void TextStream::RequireMore() {
   Require(Access::Read);
-  if (!Fill()) Raise(kInputPastEnd);
+  if (!Fill()) Raise(ErrorNumber::InputPastEnd);
 }
 
 std::int32_t TextStream::Shown(std::int64_t place) noexcept {
@@ -98,7 +97,7 @@ std::u16string TextStream::Take(std::size_t count, bool toLine) {
     std::u16string_view rest = m_Text.View().substr(m_Next, count);
     const std::size_t end = toLine ? rest.find(u'\n') : std::u16string_view::npos;
     if (end != std::u16string_view::npos) rest = rest.substr(0, end + 1);
-    if (taken.size() + rest.size() > kMaxText) Raise(kOutOfStringSpace);
+    if (taken.size() + rest.size() > kMaxText) Raise(ErrorNumber::OutOfStringSpace);
     Advance(rest);
     taken += rest;
     m_Next += rest.size();
@@ -148,7 +147,7 @@ void TextStream::Skip(std::int32_t count) {
   // In blocks, as what is passed over need not fit into a text.
   for (std::size_t wanted = RequireCount(count); wanted > 0;) {
     const std::size_t taken = Take(std::min(wanted, kBlock), false).size();
-    if (taken == 0) Raise(kInputPastEnd);
+    if (taken == 0) Raise(ErrorNumber::InputPastEnd);
     wanted -= taken;
   }
 }

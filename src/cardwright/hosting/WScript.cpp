@@ -40,7 +40,7 @@ void Sleep(WScript& self, std::int32_t milliseconds) {
 
 void Quit(WScript& self, std::optional<std::int32_t> status) { self.Run().Quit(status.value_or(0)); }
 
-Text Name(WScript&) { return u"Cardwright"; }
+Text ProgramName(WScript&) { return u"Cardwright"; }
 Text FullName(WScript& self) { return self.Run().Program(); }
 Text Path(WScript& self) { return ParentName(self.Run().Program()); }
 Text ScriptFullName(WScript& self) { return AbsolutePath(self.Run().Job().file); }
@@ -49,14 +49,14 @@ Ref<TextStream> StdIn(WScript& self) { return self.Run().Streams().in; }
 Ref<TextStream> StdOut(WScript& self) { return self.Run().Streams().out; }
 Ref<TextStream> StdErr(WScript& self) { return self.Run().Streams().error; }
 
-constexpr Member kMembers[] = {
+constexpr Member kWScriptMembers[] = {
     Property<&WScript::Words>(u"Arguments"),
     Method<&Connect>(u"ConnectObject"),
     Method<&Create>(u"CreateObject"),
     Method<&Disconnect>(u"DisconnectObject"),
     {.name = u"Echo", .method = &Echo},
     Property<&FullName>(u"FullName"),
-    Property<&Name>(u"Name"),
+    Property<&ProgramName>(u"Name"),
     Property<&Path>(u"Path"),
     Method<&Quit>(u"Quit"),
     Property<&ScriptFullName>(u"ScriptFullName"),
@@ -72,7 +72,7 @@ constexpr Member kMembers[] = {
 WScript::WScript(ScriptRun& run) : m_Run(run), m_Words(MakeRef<Arguments>(run.Job().arguments)) {}
 
 const MemberTable& WScript::Members() const {
-  static const MemberTable table(kMembers);
+  static const MemberTable table(kWScriptMembers);
   return table;
 }
 

@@ -21,18 +21,23 @@ class SettingsStore {
 
 /// Style of a message box: a question's buttons plus an icon, as the platform numbers them.
 namespace BoxStyle {
-inline constexpr int OkOnly = 0, OkCancel = 1, YesNoCancel = 3, YesNo = 4;
+inline constexpr int OkOnly = 0, OkCancel = 1, AbortRetryIgnore = 2, YesNoCancel = 3, YesNo = 4,
+                     RetryCancel = 5;
 inline constexpr int SecondIsDefault = 256;  ///< of the buttons
 inline constexpr int Critical = 16, Question = 32, Exclamation = 48, Information = 64;
 }  // namespace BoxStyle
+
+/// The button that a message box was left by.
+namespace BoxAnswer {
+inline constexpr int Ok = 1, Cancel = 2, Abort = 3, Retry = 4, Ignore = 5, Yes = 6, No = 7;
+}  // namespace BoxAnswer
 
 /// What the library asks of the machine that it runs on, beside surfaces and widgets.
 class Desktop {
  public:
   virtual ~Desktop() = default;
 
-  /// Shows a modal message box; the answer is 1 OK, 2 Cancel, 6 Yes, 7 No. An empty title gives the program's
-  /// name.
+  /// Shows a modal message box; the answer is a BoxAnswer. An empty title gives the program's name.
   virtual int ShowMessage(const Text& text, int style, const Text& title) = 0;
   /// Shows a box to type one line into, at a place of the screen in twips or Missing; the text, or Empty
   /// where it was cancelled. An empty title gives the program's name.

@@ -2,15 +2,13 @@
 
 namespace cardwright {
 
-namespace {
-constexpr int kInvalidPicture = 481;
-}
+namespace {}
 
 Picture::Picture(int width, int height, std::vector<OleColor> pixels)
     : m_Width(width), m_Height(height), m_Pixels(std::move(pixels)) {
   const bool fits = width >= 0 && height >= 0 &&
                     static_cast<std::uint64_t>(width) * static_cast<std::uint64_t>(height) == m_Pixels.size();
-  if (!fits) Raise(kInvalidPicture);
+  if (!fits) Raise(ErrorNumber::InvalidPicture);
 }
 
 const MemberTable& Picture::Members() const {

@@ -29,8 +29,6 @@ QMessageBox::StandardButton ButtonNumbered(int number) {
                                                                       : QMessageBox::NoButton;
 }
 
-constexpr int kCancel = 2;
-
 /// Without the shortcut that stands behind it.
 QString CaptionOf(const QAction& item) { return item.text().section(u'\t', 0, 0); }
 
@@ -114,7 +112,7 @@ void Attendant::AnswerBox(QMessageBox& box) {
 }
 
 void Attendant::AnswerInput(QInputDialog& dialog) {
-  PressKey(dialog, ParseStroke(TakeNext(m_Answers.boxes) == kCancel ? u"Esc" : u"Enter"));
+  PressKey(dialog, ParseStroke(TakeNext(m_Answers.boxes) == BoxAnswer::Cancel ? u"Esc" : u"Enter"));
 }
 
 void Attendant::AnswerFile(QFileDialog& dialog) {

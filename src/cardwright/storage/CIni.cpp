@@ -17,8 +17,6 @@ constexpr std::size_t kSectionsSize = kBuffer - 1;
 constexpr std::size_t kKeysSize = kBuffer;
 constexpr std::size_t kLongestValue = kBuffer - 1;
 
-constexpr bool IsDigit(char16_t c) noexcept { return c >= u'0' && c <= u'9'; }
-
 // Where the digits end that a separator may stand in: at an exponent, or before "&H" and "&O". A parcel
 // number like "2E5,7" is no number anywhere and keeps its comma.
 std::size_t EndOfMantissa(std::u16string_view text) {

@@ -1,5 +1,4 @@
 #include <algorithm>
-#include <cstring>
 #include <vector>
 
 #include "cardwright/automation/Array.h"
@@ -67,11 +66,6 @@ std::span<Variant> TextsOf(Variant& list) {
 
 std::u16string_view Delimiter(Args args, std::size_t index) {
   return ArgumentAt(args, index) ? RequireText(args[index]) : u" ";
-}
-
-char16_t* Append(char16_t* to, std::u16string_view characters) noexcept {
-  if (!characters.empty()) std::memcpy(to, characters.data(), characters.size() * sizeof(char16_t));
-  return to + characters.size();
 }
 
 }  // namespace

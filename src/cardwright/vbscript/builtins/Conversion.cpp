@@ -20,7 +20,7 @@ Variant CStr(Context&, Args args) {
   return ToText(value);
 }
 
-constexpr Builtin kFunctions[] = {
+constexpr Builtin kConversionFunctions[] = {
     {u"Asc", conversion::Asc, 1, 1},
     {u"AscB", conversion::AscB, 1, 1},
     {u"AscW", conversion::AscW, 1, 1},
@@ -53,6 +53,6 @@ constexpr Builtin kFunctions[] = {
 
 }  // namespace
 
-std::span<const Builtin> ConversionFunctions() { return kFunctions; }
+std::span<const Builtin> ConversionFunctions() { return kConversionFunctions; }
 
 }  // namespace cardwright::vbscript

@@ -41,7 +41,7 @@ Date Add(Interval interval, std::int64_t count, const CalendarTime& time) {
 }
 
 // How often a unit begins between the two, which for "w" are whole weeks.
-std::int64_t Difference(Interval interval, const CalendarTime& from, const CalendarTime& to, int firstDay) {
+std::int64_t UnitsBetween(Interval interval, const CalendarTime& from, const CalendarTime& to, int firstDay) {
   const auto crossed = [&](std::int64_t unit) {
     return FloorDivide(SecondNumber(to), unit) - FloorDivide(SecondNumber(from), unit);
   };
@@ -92,7 +92,7 @@ Variant DateDiffFunction(Context& context, Args args) {
   if (TakesNull(args, 1) || TakesNull(args, 2)) return Variant::Null();
   const CalendarTime from = ToCalendar(ToDate(args[1]));
   const CalendarTime to = ToCalendar(ToDate(args[2]));
-  const std::int64_t count = Difference(interval, from, to, firstDay);
+  const std::int64_t count = UnitsBetween(interval, from, to, firstDay);
   using Limits = std::numeric_limits<std::int32_t>;
   if (count < Limits::min() || count > Limits::max()) Raise(ErrorNumber::Overflow);
   return static_cast<std::int32_t>(count);

@@ -26,7 +26,7 @@ Variant WeekdayFunction(Context& context, Args args) {
   return static_cast<std::int16_t>(WeekdayNumber(ToCalendar(ToDate(args[0])).weekday, firstDay));
 }
 
-constexpr Builtin kFunctions[] = {
+constexpr Builtin kDateFunctions[] = {
     {u"Date", DateFunction, 0, 0},
     {u"DateAdd", DateAddFunction, 3, 3},
     {u"DateDiff", DateDiffFunction, 3, 5},
@@ -51,6 +51,6 @@ constexpr Builtin kFunctions[] = {
 
 }  // namespace
 
-std::span<const Builtin> DateFunctions() { return kFunctions; }
+std::span<const Builtin> DateFunctions() { return kDateFunctions; }
 
 }  // namespace cardwright::vbscript

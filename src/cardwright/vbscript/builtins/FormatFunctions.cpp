@@ -14,9 +14,7 @@ namespace cardwright::vbscript {
 namespace {
 
 constexpr int kDefaultDecimals = 2;  // of every locale in the table
-constexpr int kMaxDecimals = 255;
-constexpr int kDoubleDigits = 15;
-constexpr int kSingleDigits = 7;
+constexpr int kMaxShownDecimals = 255;
 
 /// The arguments behind the number: each locale of the table shows a leading zero and groups digits.
 struct Options {
@@ -34,7 +32,7 @@ std::int32_t ReadTristate(Args args, std::size_t index) {
 Options ReadOptions(Args args) {
   Options options;
   const std::int32_t decimals = LongOr(args, 1, -1);
-  if (decimals < -1 || decimals > kMaxDecimals) Raise(ErrorNumber::InvalidCall);
+  if (decimals < -1 || decimals > kMaxShownDecimals) Raise(ErrorNumber::InvalidCall);
   options.shape.decimals = decimals == -1 ? kDefaultDecimals : decimals;
   options.shape.leadingZero = ReadTristate(args, 2) != 0;
   const std::int32_t parentheses = ReadTristate(args, 3);
@@ -45,7 +43,7 @@ Options ReadOptions(Args args) {
 }
 
 // The digits that the number shows, so that 2.345 rounds as it is read. Error 13 for Null too.
-DecimalDigits ReadNumber(Args args) {
+DecimalDigits NumberToFormat(Args args) {
   if (TakesNull(args, 0)) Raise(ErrorNumber::TypeMismatch);
   const Variant& value = args[0];
   if (value.Type() == VarType::Currency) return DecimalDigits::Of(value.CurrencyValue());
@@ -88,18 +86,18 @@ Variant Format(const Context& context, const DecimalDigits& number, const Option
 }
 
 Variant FormatNumberFunction(Context& context, Args args) {
-  const DecimalDigits number = ReadNumber(args);
+  const DecimalDigits number = NumberToFormat(args);
   return Format(context, number, ReadOptions(args), {u"n", u"-n", u"(n)", u"-n"});
 }
 
 Variant FormatPercentFunction(Context& context, Args args) {
-  DecimalDigits number = ReadNumber(args);
+  DecimalDigits number = NumberToFormat(args);
   number.exponent += 2;
   return Format(context, number, ReadOptions(args), {u"n%", u"-n%", u"(n%)", u"-n%"});
 }
 
 Variant FormatCurrencyFunction(Context& context, Args args) {
-  const DecimalDigits number = ReadNumber(args);
+  const DecimalDigits number = NumberToFormat(args);
   const std::u16string_view positive = context.locale->currencyForm;
   const std::u16string_view negative = context.locale->negativeCurrencyForm;
   const std::u16string inParentheses = u"(" + std::u16string(positive) + u")";
@@ -127,7 +125,7 @@ Variant FormatDateTimeFunction(Context& context, Args args) {
   }
 }
 
-constexpr Builtin kFunctions[] = {
+constexpr Builtin kFormatFunctions[] = {
     {u"FormatCurrency", FormatCurrencyFunction, 1, 5},
     {u"FormatDateTime", FormatDateTimeFunction, 1, 2},
     {u"FormatNumber", FormatNumberFunction, 1, 5},
@@ -136,6 +134,6 @@ constexpr Builtin kFunctions[] = {
 
 }  // namespace
 
-std::span<const Builtin> FormatFunctions() { return kFunctions; }
+std::span<const Builtin> FormatFunctions() { return kFormatFunctions; }
 
 }  // namespace cardwright::vbscript

@@ -18,7 +18,7 @@ Variant VersionFunction(Context&, Args) {
   return Number;
 }
 
-constexpr Builtin kFunctions[] = {
+constexpr Builtin kHostFunctions[] = {
     {u"CreateObject", CreateObjectFunction, 1, 2},
     {u"GetLocale", GetLocaleFunction, 0, 0},
     {u"GetObject", GetObjectFunction, 0, 2},
@@ -34,6 +34,6 @@ constexpr Builtin kFunctions[] = {
 
 }  // namespace
 
-std::span<const Builtin> HostFunctions() { return kFunctions; }
+std::span<const Builtin> HostFunctions() { return kHostFunctions; }
 
 }  // namespace cardwright::vbscript

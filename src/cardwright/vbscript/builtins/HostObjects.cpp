@@ -7,11 +7,7 @@ namespace cardwright::vbscript {
 
 namespace {
 
-constexpr int kCannotCreate = static_cast<int>(ErrorNumber::CannotCreateObject);
-constexpr int kNameNotFound = 432;
-constexpr int kInvalidPicture = 481;
-
-Variant Required(Ref<Object> object, int error) {
+Variant Required(Ref<Object> object, ErrorNumber error) {
   if (!object) Raise(error);
   return object;
 }
@@ -19,10 +15,10 @@ Variant Required(Ref<Object> object, int error) {
 // The report to the host names the class that there is none of.
 Variant Create(Context& context, const Text& progid, const Text& server) {
   try {
-    return Required(context.Host().CreateObject(progid, server), kCannotCreate);
+    return Required(context.Host().CreateObject(progid, server), ErrorNumber::CannotCreateObject);
   } catch (const Error& error) {
-    if (error.Number() != kCannotCreate) throw;
-    throw NamedError(kCannotCreate, progid);
+    if (!error.Is(ErrorNumber::CannotCreateObject)) throw;
+    throw NamedError(ErrorNumber::CannotCreateObject, progid);
   }
 }
 
@@ -38,14 +34,15 @@ Variant GetObjectFunction(Context& context, Args args) {
   const Text path = TextOr(args, 0, {});
   const Text progid = TextOr(args, 1, {});
   if (path.IsEmpty() && progid.IsEmpty())
-    Raise(hasPath ? kNameNotFound : static_cast<int>(ErrorNumber::InvalidCall));
+    Raise(hasPath ? ErrorNumber::FileOrClassNotFound : ErrorNumber::InvalidCall);
   // An empty path asks for a new object of the class, one left out for the running one.
   if (hasPath && path.IsEmpty()) return Create(context, progid, {});
-  return Required(context.Host().GetObject(path, progid), hasPath ? kNameNotFound : kCannotCreate);
+  return Required(context.Host().GetObject(path, progid),
+                  hasPath ? ErrorNumber::FileOrClassNotFound : ErrorNumber::CannotCreateObject);
 }
 
 Variant LoadPictureFunction(Context& context, Args args) {
-  return Required(context.Host().LoadPicture(RequiredText(args, 0)), kInvalidPicture);
+  return Required(context.Host().LoadPicture(RequiredText(args, 0)), ErrorNumber::InvalidPicture);
 }
 
 }  // namespace cardwright::vbscript

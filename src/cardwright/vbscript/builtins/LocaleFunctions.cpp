@@ -7,7 +7,6 @@ namespace cardwright::vbscript {
 
 namespace {
 
-constexpr int kLocaleNotSupported = 447;
 constexpr std::int32_t kNeutral = 0, kUserDefault = 0x400, kSystemDefault = 0x800;
 
 const Locale* ByNumber(std::int32_t number) noexcept {
@@ -34,7 +33,7 @@ Variant GetLocaleFunction(Context& context, Args) { return std::int32_t{context.
 Variant SetLocaleFunction(Context& context, Args args) {
   const Variant* wanted = ArgumentAt(args, 0);
   const Locale* locale = wanted ? FindLocale(DefaultValue(*wanted)) : &Locale::OfProcess();
-  if (!locale) Raise(kLocaleNotSupported);
+  if (!locale) Raise(ErrorNumber::LocaleNotSupported);
   const std::int32_t before = context.locale->lcid;
   context.locale = locale;
   Locale::SetCurrent(*locale);  // what the conversions go by

@@ -66,7 +66,7 @@ Variant Rgb(Context&, Args args) {
   return red | (green << 8) | (blue << 16);
 }
 
-constexpr Builtin kFunctions[] = {
+constexpr Builtin kMathFunctions[] = {
     {u"Abs", Abs, 1, 1},
     {u"Atn", Real<std::atan>, 1, 1},
     {u"Cos", Real<std::cos>, 1, 1},
@@ -83,6 +83,6 @@ constexpr Builtin kFunctions[] = {
 
 }  // namespace
 
-std::span<const Builtin> MathFunctions() { return kFunctions; }
+std::span<const Builtin> MathFunctions() { return kMathFunctions; }
 
 }  // namespace cardwright::vbscript

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <cstring>
 #include <limits>
 #include <string_view>
 
@@ -57,6 +58,12 @@ inline std::size_t Count(const Variant& argument) {
 inline std::size_t Offset(std::int32_t position) {
   if (position < 1) Raise(ErrorNumber::InvalidCall);
   return static_cast<std::size_t>(position) - 1;
+}
+
+/// Writes the characters at `to` and answers where they end.
+inline char16_t* Append(char16_t* to, std::u16string_view characters) noexcept {
+  if (!characters.empty()) std::memcpy(to, characters.data(), characters.size() * sizeof(char16_t));
+  return to + characters.size();
 }
 
 /// Count where all is meant.

@@ -1,6 +1,5 @@
 #include <array>
 #include <cstddef>
-#include <cstring>
 #include <memory_resource>
 #include <vector>
 
@@ -15,11 +14,6 @@ namespace cardwright::vbscript::builtin {
 namespace {
 
 using Hits = std::pmr::vector<std::size_t>;
-
-char16_t* Append(char16_t* to, std::u16string_view characters) noexcept {
-  if (!characters.empty()) std::memcpy(to, characters.data(), characters.size() * sizeof(char16_t));
-  return to + characters.size();
-}
 
 void FindAll(Hits& hits, std::u16string_view text, std::u16string_view part, std::size_t limit,
              CompareMode mode) {

@@ -6,8 +6,6 @@ namespace cardwright::vbscript {
 
 namespace {
 
-constexpr int kKeyExists = 457;
-constexpr int kNoSuchKey = 32811;
 constexpr std::int32_t kLastCompareMode = 2;
 
 class KeyWalk final : public Enumerator {
@@ -31,20 +29,20 @@ Dictionary::Dictionary() : m_Table(KeyCase::Matters) {}
 
 void Dictionary::Add(const Variant& key, const Variant& item) {
   const KeyTable::Place place = m_Table.FindOrAdd(key);
-  if (!place.isNew) Raise(kKeyExists);
+  if (!place.isNew) Raise(ErrorNumber::KeyExists);
   *place.value = item;
 }
 
 void Dictionary::LetKey(const Variant& key, const Variant& newKey) {
   switch (m_Table.Rename(key, newKey)) {
     case KeyTable::Renaming::Done: return;
-    case KeyTable::Renaming::NoSuchKey: Raise(kNoSuchKey);
-    case KeyTable::Renaming::NewKeyExists: Raise(kKeyExists);
+    case KeyTable::Renaming::NoSuchKey: Raise(ErrorNumber::ElementNotFound);
+    case KeyTable::Renaming::NewKeyExists: Raise(ErrorNumber::KeyExists);
   }
 }
 
 void Dictionary::Remove(const Variant& key) {
-  if (!m_Table.Take(key)) Raise(kNoSuchKey);
+  if (!m_Table.Take(key)) Raise(ErrorNumber::ElementNotFound);
 }
 
 void Dictionary::RemoveAll() {

@@ -94,7 +94,7 @@ LibraryPattern Translator::Run() {
   m_Result.isCaseless = m_Flags.ignoreCase && !m_HasReferences;
   Checkpoint();
   while (!AtEnd()) Part();
-  if (m_Depth > 0) Raise(kRegExpExpectedParenthesis);
+  if (m_Depth > 0) Raise(ErrorNumber::RegExpExpectedParenthesis);
   return std::move(m_Result);
 }
 
@@ -138,7 +138,7 @@ void Translator::Part() {
     case u'[': return Class();
     default: break;
   }
-  if (ReadQuantifier()) Raise(kRegExpQuantifier);
+  if (ReadQuantifier()) Raise(ErrorNumber::RegExpUnexpectedQuantifier);
   ++m_At;
   if (unit == u'.') {
     Atom(NoLineFeed());
@@ -164,7 +164,7 @@ void Translator::OpenGroup() {
 }
 
 void Translator::CloseGroup() {
-  if (m_Depth == 0) Raise(kRegExpSyntax);
+  if (m_Depth == 0) Raise(ErrorNumber::RegExpSyntax);
   --m_Depth;
   ++m_At;
   m_Result.text += u')';
@@ -191,7 +191,7 @@ void Translator::LineEnd() {
 
 void Translator::Escape() {
   ++m_At;
-  if (AtEnd()) Raise(kRegExpSyntax);
+  if (AtEnd()) Raise(ErrorNumber::RegExpSyntax);
   if (WordBoundary() || BackReference()) return;
   const RegExpEscape escape = ReadEscape(m_Pattern.substr(m_At));
   m_At += escape.length;
@@ -259,7 +259,7 @@ void Translator::Class() {
     if (!isSingle || !isLastSingle) {
       set.Add(u'-');  // a set is no end of a range: [\w-.] is meant literally, and much in use
     } else if (first > last) {
-      Raise(kRegExpInvalidRange);
+      Raise(ErrorNumber::RegExpInvalidRange);
     } else {
       set.Add(first, last);
     }
@@ -271,11 +271,11 @@ void Translator::Class() {
 
 // One unit of a class, or the set of an escape.
 CodeUnitSet Translator::ClassAtom(bool& isSingle, char16_t& unit) {
-  if (AtEnd()) Raise(kRegExpExpectedBracket);
+  if (AtEnd()) Raise(ErrorNumber::RegExpExpectedBracket);
   unit = m_Pattern[m_At++];
   isSingle = true;
   if (unit == u'\\') {
-    if (AtEnd()) Raise(kRegExpExpectedBracket);
+    if (AtEnd()) Raise(ErrorNumber::RegExpExpectedBracket);
     RegExpEscape escape = ReadEscape(m_Pattern.substr(m_At));
     if (Sees(u"b")) escape.unit = u'\b';
     m_At += escape.length;
@@ -324,7 +324,7 @@ std::optional<Quantifier> Translator::ReadCounts() {
     result.most = most.digits == 0 || most.value > kMaxRegExpCount ? kUnlimited : most.value;
   }
   if (!rest.starts_with(u'}')) return {};
-  if (result.most != kUnlimited && result.least > result.most) Raise(kRegExpSyntax);
+  if (result.most != kUnlimited && result.least > result.most) Raise(ErrorNumber::RegExpSyntax);
   if (result.least > kMaxRegExpCount) Raise(ErrorNumber::OutOfMemory);
   m_At = m_Pattern.size() - rest.size() + 1;
   return result;

@@ -24,11 +24,6 @@ struct LibraryPattern {
 
 /// @name Numbers of the errors in patterns
 /// @{
-inline constexpr int kRegExpSyntax = 5017;
-inline constexpr int kRegExpQuantifier = 5018;
-inline constexpr int kRegExpExpectedBracket = 5019;
-inline constexpr int kRegExpExpectedParenthesis = 5020;
-inline constexpr int kRegExpInvalidRange = 5021;
 /// @}
 
 /// Longest pattern in code units.

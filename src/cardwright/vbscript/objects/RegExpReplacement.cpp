@@ -5,14 +5,6 @@
 
 namespace cardwright::vbscript {
 
-namespace {
-
-constexpr int kOutOfStringSpace = 14;
-
-bool IsDigit(char16_t unit) noexcept { return unit >= u'0' && unit <= u'9'; }
-
-}  // namespace
-
 RegExpReplacement::RegExpReplacement(std::u16string_view notation, std::size_t groups) {
   std::size_t done = 0;
   std::size_t sign = notation.find(u'$');
@@ -73,7 +65,7 @@ void RegExpReplacement::AppendTo(Text& result, std::u16string_view text, std::sp
 }
 
 void AppendChecked(Text& result, std::u16string_view part, std::size_t maxUnits) {
-  if (result.Size() + part.size() > maxUnits) Raise(kOutOfStringSpace);
+  if (result.Size() + part.size() > maxUnits) Raise(ErrorNumber::OutOfStringSpace);
   result += part;
 }
 

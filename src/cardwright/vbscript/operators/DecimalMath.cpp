@@ -9,14 +9,14 @@ namespace cardwright::vbscript {
 
 namespace {
 
-__extension__ using Wide = unsigned __int128;
+__extension__ using UInt128 = unsigned __int128;
 
 constexpr int kMaxScale = 28;
-constexpr Wide kMaxMagnitude = (Wide{1} << 96) - 1;
+constexpr UInt128 kMaxMagnitude = (UInt128{1} << 96) - 1;
 
-Wide Magnitude(const Decimal& value) noexcept { return (Wide{value.high} << 64) | value.low; }
+UInt128 Magnitude(const Decimal& value) noexcept { return (UInt128{value.high} << 64) | value.low; }
 
-Decimal Make(Wide magnitude, int scale, bool negative) {
+Decimal Make(UInt128 magnitude, int scale, bool negative) {
   if (magnitude > kMaxMagnitude) Raise(ErrorNumber::Overflow);
   return {static_cast<std::uint64_t>(magnitude), static_cast<std::uint32_t>(magnitude >> 64),
           static_cast<std::uint8_t>(scale), negative && magnitude != 0};
@@ -26,10 +26,10 @@ Decimal Make(Wide magnitude, int scale, bool negative) {
 /// the decimals of the other.
 class Words {
  public:
-  explicit Words(Wide value) noexcept
+  explicit Words(UInt128 value) noexcept
       : m_Words{static_cast<std::uint64_t>(value), static_cast<std::uint64_t>(value >> 64), 0} {}
 
-  static Words Product(Wide a, Wide b) noexcept {
+  static Words Product(UInt128 a, UInt128 b) noexcept {
     Words result(0);
     const auto high = static_cast<std::uint64_t>(b >> 64);
     const auto low = static_cast<std::uint64_t>(b);
@@ -40,9 +40,9 @@ class Words {
 
   Words Times(std::uint64_t factor) const noexcept {
     Words result(0);
-    Wide carry = 0;
+    UInt128 carry = 0;
     for (std::size_t i = 0; i < m_Words.size(); ++i) {
-      carry += Wide{m_Words[i]} * factor;
+      carry += UInt128{m_Words[i]} * factor;
       result.m_Words[i] = static_cast<std::uint64_t>(carry);
       carry >>= 64;
     }
@@ -50,9 +50,9 @@ class Words {
   }
   Words Plus(const Words& other) const noexcept {
     Words result(0);
-    Wide carry = 0;
+    UInt128 carry = 0;
     for (std::size_t i = 0; i < m_Words.size(); ++i) {
-      carry += Wide{m_Words[i]} + other.m_Words[i];
+      carry += UInt128{m_Words[i]} + other.m_Words[i];
       result.m_Words[i] = static_cast<std::uint64_t>(carry);
       carry >>= 64;
     }
@@ -63,7 +63,7 @@ class Words {
     Words result(0);
     bool borrow = false;
     for (std::size_t i = 0; i < m_Words.size(); ++i) {
-      const Wide taken = Wide{other.m_Words[i]} + (borrow ? 1 : 0);
+      const UInt128 taken = UInt128{other.m_Words[i]} + (borrow ? 1 : 0);
       borrow = m_Words[i] < taken;
       result.m_Words[i] = static_cast<std::uint64_t>(m_Words[i] - taken);
     }
@@ -71,16 +71,16 @@ class Words {
   }
   /// Divides by ten and answers the remainder.
   unsigned CutDigit() noexcept {
-    Wide rest = 0;
+    UInt128 rest = 0;
     for (std::size_t i = m_Words.size(); i-- > 0;) {
-      const Wide part = (rest << 64) | m_Words[i];
+      const UInt128 part = (rest << 64) | m_Words[i];
       m_Words[i] = static_cast<std::uint64_t>(part / 10);
       rest = part % 10;
     }
     return static_cast<unsigned>(rest);
   }
   bool FitsDecimal() const noexcept { return m_Words[2] == 0 && (m_Words[1] >> 32) == 0; }
-  Wide Low() const noexcept { return (Wide{m_Words[1]} << 64) | m_Words[0]; }
+  UInt128 Low() const noexcept { return (UInt128{m_Words[1]} << 64) | m_Words[0]; }
 
   friend bool operator<(const Words& a, const Words& b) noexcept {
     return std::lexicographical_compare(a.m_Words.rbegin(), a.m_Words.rend(), b.m_Words.rbegin(),
@@ -107,7 +107,7 @@ Decimal Rounded(Words words, int scale, bool negative, int maxScale = kMaxScale)
     --scale;
   }
   if (!words.FitsDecimal()) Raise(ErrorNumber::Overflow);
-  Wide magnitude = words.Low();
+  UInt128 magnitude = words.Low();
   if (last > 5 || (last == 5 && (more || magnitude % 2 != 0))) ++magnitude;
   if (magnitude > kMaxMagnitude && scale > 0) return Rounded(Words(magnitude), scale, negative);
   return Make(magnitude, scale, negative);
@@ -130,9 +130,9 @@ Decimal MultiplyDecimals(const Decimal& a, const Decimal& b) {
 }
 
 Decimal DivideDecimals(const Decimal& a, const Decimal& b) {
-  const Wide divisor = Magnitude(b);
-  Wide quotient = Magnitude(a) / divisor;
-  Wide rest = Magnitude(a) % divisor;
+  const UInt128 divisor = Magnitude(b);
+  UInt128 quotient = Magnitude(a) / divisor;
+  UInt128 rest = Magnitude(a) % divisor;
   int scale = a.scale - b.scale;
   // One more decimal at a time, while there is something left to divide and room for it.
   while (scale < 0 || (rest != 0 && scale < kMaxScale && quotient <= (kMaxMagnitude - 9) / 10)) {
@@ -151,7 +151,7 @@ Decimal RoundDecimal(const Decimal& value, int decimals) {
 }
 
 Decimal TruncateDecimal(const Decimal& value) noexcept {
-  Wide magnitude = Magnitude(value);
+  UInt128 magnitude = Magnitude(value);
   for (int i = 0; i < value.scale; ++i) magnitude /= 10;
   return Make(magnitude, 0, value.negative);
 }

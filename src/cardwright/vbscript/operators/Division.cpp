@@ -10,11 +10,9 @@ namespace cardwright::vbscript {
 
 namespace {
 
-constexpr int kDivisionByZero = 11;
-
 // Nothing divided by nothing is told apart from a division by zero: the language calls it an overflow.
 void CheckDivisor(bool dividendIsZero, bool divisorIsZero) {
-  if (divisorIsZero) Raise(dividendIsZero ? static_cast<int>(ErrorNumber::Overflow) : kDivisionByZero);
+  if (divisorIsZero) Raise(dividendIsZero ? ErrorNumber::Overflow : ErrorNumber::DivisionByZero);
 }
 
 double Quotient(const Variant& a, const Variant& b) {
@@ -38,7 +36,7 @@ Variant OnWhole(const Variant& left, const Variant& right, Operation operation) 
   const Working type = RuleOf(kWholeRules, a.Kind(), b.Kind());
   const std::int64_t dividend = ToLong(a);
   const std::int64_t divisor = ToLong(b);
-  if (divisor == 0) Raise(kDivisionByZero);
+  if (divisor == 0) Raise(ErrorNumber::DivisionByZero);
   Variant result = FittingWhole(operation(dividend, divisor), type);
   // Only the smallest Long divided by -1; there is no larger whole type.
   if (result.Type() == VarType::Double) Raise(ErrorNumber::Overflow);
