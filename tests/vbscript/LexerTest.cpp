@@ -26,14 +26,13 @@ std::vector<TokenKind> Kinds(std::u16string_view source) {
   return kinds;
 }
 
-using enum TokenKind;
-
 struct KindsRow {
   std::u16string_view source;
   std::vector<TokenKind> kinds;
 };
 
 TEST(Lexer, CutsSourcesIntoTokens) {
+  using enum TokenKind;
   const KindsRow rows[] = {
       {u"", {}},
       {u" \t\v\f ", {}},
@@ -103,6 +102,7 @@ TEST(Lexer, CutsSourcesIntoTokens) {
 }
 
 TEST(Lexer, KnowsEachKeywordInAnyCase) {
+  using enum TokenKind;
   const std::u16string_view words[] = {
       u"And",     u"As",     u"ByRef",    u"ByVal",   u"Call",     u"Case",    u"Class", u"Const",
       u"Default", u"Dim",    u"Do",       u"Each",    u"Else",     u"ElseIf",  u"Empty", u"End",
@@ -125,6 +125,7 @@ TEST(Lexer, KnowsEachKeywordInAnyCase) {
 }
 
 TEST(Lexer, TakesNoOtherCharactersForTheLettersOfKeywords) {
+  using enum TokenKind;
   EXPECT_EQ(Kinds(u"\u017Fet"), std::vector<TokenKind>{Identifier});
 }
 
@@ -155,6 +156,7 @@ TEST(Lexer, TellsWhichTokenIsTheFirstOfItsLine) {
 }
 
 TEST(Lexer, TakesANumberBehindAnOperandBackToAnAmpersand) {
+  using enum TokenKind;
   Lexer lexer(u"a&17 b");
   lexer.Next();
   const Token number = lexer.Next();
@@ -184,6 +186,7 @@ struct ErrorRow {
 };
 
 TEST(Lexer, RefusesWhatIsNoToken) {
+  using enum TokenKind;
   const std::u16string longName(256, u'n');
   const ErrorRow rows[] = {
       {u"a ?", SyntaxErrorNumber::InvalidCharacter, {1, 2}},

@@ -13,6 +13,7 @@
 #include <QPushButton>
 #include <QTimer>
 
+#include "cardwright/platform/Desktop.h"
 #include "cardwright/qt/values/Colors.h"
 #include "cardwright/qt/values/QtText.h"
 #include "cardwright/robot/Keyboard.h"

@@ -18,7 +18,7 @@ constexpr std::u16string_view kCheckpoint = u"(?C)";
 constexpr int kShortRepeat = 16;
 constexpr int kUnlimited = -1;
 
-std::u16string Decimal(std::size_t number) {
+std::u16string DecimalNotation(std::size_t number) {
   const std::string digits = std::to_string(number);
   return {digits.begin(), digits.end()};
 }
@@ -33,8 +33,8 @@ struct Quantifier {
 };
 
 std::u16string Quantifier::Notation() const {
-  std::u16string result = u'{' + Decimal(static_cast<std::size_t>(least)) + u',';
-  if (most != kUnlimited) result += Decimal(static_cast<std::size_t>(most));
+  std::u16string result = u'{' + DecimalNotation(static_cast<std::size_t>(least)) + u',';
+  if (most != kUnlimited) result += DecimalNotation(static_cast<std::size_t>(most));
   result += u'}';
   if (isLazy) result += u'?';
   return result;
@@ -237,7 +237,7 @@ bool Translator::BackReference() {
   }
   if (digits == 0) return false;
   m_At += digits;
-  const std::u16string notation = u"\\g{" + Decimal(group) + u'}';
+  const std::u16string notation = u"\\g{" + DecimalNotation(group) + u'}';
   Atom((m_Result.foldsReferences ? u"(?i:" : u"(?:") + notation + u')', true);
   return true;
 }
