@@ -1,34 +1,32 @@
 #include <QFileInfo>
 
-#include "cardwright/qt/values/QtText.h"
-#include "desktop/Commands.h"
-#include "desktop/Console.h"
-#include "desktop/Options.h"
+#include "desktop/DesktopCommands.h"
 #include "desktop/ProjectFaults.h"
+#include "launcher/CommandLine.h"
 
 namespace cardwright::desktop {
 
-int RunCheck(const QStringList& words) {
-  Options options(QStringLiteral("check"),
-                  QStringLiteral("Tells the faults of form projects, one a line. Status 1 if there are any."),
-                  QStringLiteral("FORM…"), {{"data", "SOURCE", "a data source that the forms must fit"}});
-  if (const auto status = options.Parse(words, 1, 1'000'000)) return *status;
+int RunCheck(std::span<const std::string> words) {
+  app::CommandLine line(
+      {.name = "check",
+       .summary = "Tells the faults of form projects, one a line. Status 1 if there are any.",
+       .operands = "FORM…",
+       .leastOperands = 1,
+       .options = {{"--data <SOURCE>", "a data source that the forms must fit"}}});
+  if (const auto status = line.Parse(words)) return *status;
   Ref<EmbeddedHost> data;
-  if (options.Has(QStringLiteral("data")))
-    data = EmbeddedHost::Open(qt::FromQString(options.Value(QStringLiteral("data"))),
-                              EmbeddedHost::Access::ReadOnly);
+  if (line.Has("data"))
+    data = EmbeddedHost::Open(Text::FromUtf8(line.Value("data")), EmbeddedHost::Access::ReadOnly);
   bool isClean = true;
-  for (const QString& file : options.Operands()) {
-    if (!QFileInfo(file).isFile()) {
-      PrintError(QStringLiteral("cardwright check: there is no form project %1").arg(file));
-      return kWrongUse;
-    }
+  for (const std::string& operand : line.Operands()) {
+    const QString file = QString::fromStdString(operand);
+    if (!QFileInfo(file).isFile()) return line.Fail("there is no form project " + operand, app::kWrongUse);
     for (const Fault& fault : FindFaults(file, data.get())) {
-      PrintLine(QStringLiteral("%1:%2: %3").arg(file, fault.section, fault.text));
+      app::PrintLine(QStringLiteral("%1:%2: %3").arg(file, fault.section, fault.text).toStdString());
       isClean = false;
     }
   }
-  return isClean ? kDone : kFaultsFound;
+  return isClean ? app::kDone : app::kFailed;
 }
 
 }  // namespace cardwright::desktop

@@ -1,28 +1,29 @@
 #include "cardwright/qt/desktop/TerminalBreak.h"
-#include "desktop/Commands.h"
-#include "desktop/Console.h"
-#include "desktop/Options.h"
-#include "desktop/Session.h"
+#include "desktop/DesktopCommands.h"
+#include "desktop/DesktopSession.h"
+#include "launcher/CommandLine.h"
 #include "workbench/Workbench.h"
 
 namespace cardwright::desktop {
 
-int RunDesign(const QStringList& words) {
-  Options options(QStringLiteral("design"), QStringLiteral("Opens the workbench, in which forms are drawn."),
-                  QStringLiteral("[FORM]"),
-                  {{"data", "SOURCE", "a data source to bind the form to, as a GeoPackage's path"}});
-  if (const auto status = options.Parse(words, 0, 1)) return *status;
-  Session session(Display::Needed);
+int RunDesign(std::span<const std::string> words) {
+  app::CommandLine line(
+      {.name = "design",
+       .summary = "Opens the workbench, in which forms are drawn.",
+       .operands = "[FORM]",
+       .mostOperands = 1,
+       .options = {{"--data <SOURCE>", "a data source to bind the form to, as a GeoPackage's path"}}});
+  if (const auto status = line.Parse(words)) return *status;
+  DesktopSession session(Display::Needed);
   const qt::TerminalBreak terminal;
   workbench::Workbench window(session.Data());
   window.show();
-  const QStringList operands = options.Operands();
-  if (operands.isEmpty()) {
+  if (line.Operands().empty()) {
     window.OfferLeftWork();
-  } else if (!window.OpenProject(operands.first())) {
-    return kFaultsFound;
+  } else if (!window.OpenProject(QString::fromStdString(line.Operands().front()))) {
+    return app::kFailed;
   }
-  if (options.Has(QStringLiteral("data"))) window.OpenData(options.Value(QStringLiteral("data")));
+  if (line.Has("data")) window.OpenData(QString::fromStdString(line.Value("data")));
   return QApplication::exec();
 }
 

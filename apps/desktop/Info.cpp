@@ -10,15 +10,16 @@
 #include "cardwright/qt/FormDesigner.h"
 #include "cardwright/qt/values/QtText.h"
 #include "cardwright/shared/ModuleState.h"
-#include "desktop/Commands.h"
-#include "desktop/Console.h"
+#include "desktop/DesktopCommands.h"
+#include "desktop/DesktopSession.h"
 #include "desktop/FormWindow.h"
-#include "desktop/Options.h"
 #include "desktop/ScriptProcedures.h"
-#include "desktop/Session.h"
+#include "launcher/CommandLine.h"
 
 namespace cardwright::desktop {
 namespace {
+
+void PrintLine(const QString& line) { app::PrintLine(line.toStdString()); }
 
 QString FontText(const Font& font) {
   const FontValues& values = font.Values();
@@ -164,33 +165,31 @@ void PrintProject(const QJsonObject& project) {
 
 }  // namespace
 
-int RunInfo(const QStringList& words) {
-  Options options(
-      QStringLiteral("info"),
-      QStringLiteral(
-          "Shows the form, its controls with their properties and events, and the script's procedures."),
-      QStringLiteral("FORM"), {{"json", "", "as JSON"}});
-  if (const auto status = options.Parse(words, 1, 1)) return *status;
-  const QString file = options.Operands().at(0);
-  if (!QFileInfo(file).isFile()) {
-    PrintError(QStringLiteral("cardwright info: there is no form project %1").arg(file));
-    return kWrongUse;
-  }
-  Session session(Display::Unused);
+int RunInfo(std::span<const std::string> words) {
+  app::CommandLine line({.name = "info",
+                         .summary = "Shows the form, its controls with their properties and events, and the "
+                                    "script's procedures.",
+                         .operands = "FORM",
+                         .leastOperands = 1,
+                         .mostOperands = 1,
+                         .options = {{"--json", "as JSON"}}});
+  if (const auto status = line.Parse(words)) return *status;
+  const std::string& file = line.Operands().front();
+  const QString path = QString::fromStdString(file);
+  if (!QFileInfo(path).isFile()) return line.Fail("there is no form project " + file, app::kWrongUse);
+  DesktopSession session(Display::Unused);
   qt::FormDesigner designer;
   FormWindow window(session.Data());
-  if (!designer.ProjectRead(file) || !window.Form().ProjectRead(file)) {
-    PrintError(QStringLiteral("cardwright info: the form project %1 could not be read").arg(file));
-    return kFaultsFound;
-  }
-  QJsonObject project = ProjectJson(file, window.Form().Object()->Controls());
+  if (!designer.ProjectRead(path) || !window.Form().ProjectRead(path))
+    return line.Fail("the form project " + file + " could not be read");
+  QJsonObject project = ProjectJson(path, window.Form().Object()->Controls());
   project["design"] = DesignJson(*designer.Object());
-  if (options.Has(QStringLiteral("json"))) {
+  if (line.Has("json")) {
     PrintLine(QString::fromUtf8(QJsonDocument(project).toJson()).trimmed());
   } else {
     PrintProject(project);
   }
-  return kDone;
+  return app::kDone;
 }
 
 }  // namespace cardwright::desktop

@@ -3,19 +3,17 @@
 #include <iostream>
 #include <string>
 
-#include "cardwright/automation/Errors.h"
 #include "cardwright/orv/EmbeddedHost.h"
 #include "cardwright/qt/values/QtText.h"
-#include "desktop/Commands.h"
-#include "desktop/Console.h"
-#include "desktop/Options.h"
+#include "desktop/DesktopCommands.h"
+#include "launcher/CommandLine.h"
 
 namespace cardwright::desktop {
 namespace {
 
-void Send(EmbeddedHost& host, const QString& command) {
-  const Text reply = host.Execute(qt::ViewOf(command));
-  if (host.LastError().IsEmpty()) PrintLine(qt::ToQString(reply));
+void Send(EmbeddedHost& host, const Text& command) {
+  const Text reply = host.Execute(command);
+  if (host.LastError().IsEmpty()) app::PrintLine(reply.ToUtf8());
 }
 
 void SendLines(EmbeddedHost& host) {
@@ -23,31 +21,32 @@ void SendLines(EmbeddedHost& host) {
   std::string line;
   while ((isPrompt ? std::cout << "orv> " << std::flush : std::cout), std::getline(std::cin, line)) {
     const QString command = QString::fromUtf8(line.data(), static_cast<qsizetype>(line.size())).trimmed();
-    if (!command.isEmpty()) Send(host, command);
+    if (!command.isEmpty()) Send(host, qt::FromQString(command));
   }
   if (isPrompt) std::cout << std::endl;  // the shell's own prompt begins a line
 }
 
 }  // namespace
 
-int RunOrv(const QStringList& words) {
-  Options options(
-      QStringLiteral("orv"),
-      QStringLiteral("Sends host commands to a data source and prints the replies; without a COMMAND they\n"
-                     "are read from standard input, a line each. Status 1 where one was refused."),
-      QStringLiteral("[COMMAND…]"), {{"data", "SOURCE", "the data source, as a GeoPackage's path"}});
-  if (const auto status = options.Parse(words, 0, 1'000'000)) return *status;
-  if (!options.Has(QStringLiteral("data"))) return options.Refuse(QStringLiteral("--data is missing"));
-  const Ref<EmbeddedHost> host = EmbeddedHost::Open(qt::FromQString(options.Value(QStringLiteral("data"))));
+int RunOrv(std::span<const std::string> words) {
+  app::CommandLine line(
+      {.name = "orv",
+       .summary = "Sends host commands to a data source and prints the replies; without a COMMAND they\n"
+                  "are read from standard input, a line each. Status 1 where one was refused.",
+       .operands = "[COMMAND…]",
+       .options = {{"--data <SOURCE>", "the data source, as a GeoPackage's path"}}});
+  if (const auto status = line.Parse(words)) return *status;
+  if (!line.Has("data")) return line.Refuse("--data is missing");
+  const Ref<EmbeddedHost> host = EmbeddedHost::Open(Text::FromUtf8(line.Value("data")));
   bool allDone = true;
   host->onRefusal = [&](const Text& reason) {
-    PrintError(QStringLiteral("refused: ") + qt::ToQString(reason));
+    app::PrintError("refused: " + reason.ToUtf8());
     allDone = false;
   };
-  if (options.Operands().isEmpty()) SendLines(*host);
-  for (const QString& command : options.Operands()) Send(*host, command);
+  if (line.Operands().empty()) SendLines(*host);
+  for (const std::string& command : line.Operands()) Send(*host, Text::FromUtf8(command));
   host->Execute(u"APPLICATION_REDRAW");  // stores the values that still wait for their feature's other ones
-  return allDone ? kDone : kFaultsFound;
+  return allDone ? app::kDone : app::kFailed;
 }
 
 }  // namespace cardwright::desktop

@@ -5,16 +5,12 @@
 #include "cardwright/qt/FormDesigner.h"
 #include "cardwright/qt/FormInput.h"
 #include "cardwright/qt/surface/QtHostWindow.h"
-#include "desktop/Commands.h"
-#include "desktop/Console.h"
-#include "desktop/Options.h"
-#include "desktop/Session.h"
+#include "desktop/DesktopCommands.h"
+#include "desktop/DesktopSession.h"
+#include "launcher/CommandLine.h"
 
 namespace cardwright::desktop {
-
 namespace {
-
-QString Told(const QString& text) { return QStringLiteral("cardwright render: ") + text; }
 
 /// The form as it is shown: to an end user, or with its grid to the author who draws it.
 std::unique_ptr<qt::VisualControl> ReadForm(const QString& file, bool designed) {
@@ -28,36 +24,32 @@ std::unique_ptr<qt::VisualControl> ReadForm(const QString& file, bool designed) 
 
 }  // namespace
 
-int RunRender(const QStringList& words) {
-  Options options(
-      QStringLiteral("render"), QStringLiteral("Makes a picture of a form as an end user meets it."),
-      QStringLiteral("FORM"),
-      {{"o", "FILE.png", "the picture to write"}, {"design", "", "as its author draws it, with the grid"}});
-  if (const auto status = options.Parse(words, 1, 1)) return *status;
-  const QString target = options.Value(QStringLiteral("o"));
-  if (target.isEmpty()) return options.Refuse(QStringLiteral("-o FILE.png is missing"));
-  const QString file = options.Operands().at(0);
-  if (!QFileInfo(file).isFile()) {
-    PrintError(Told(QStringLiteral("there is no form project %1").arg(file)));
-    return kWrongUse;
-  }
-  const Session session(Display::Unused);
-  const auto form = ReadForm(file, options.Has(QStringLiteral("design")));
-  if (!form) {
-    PrintError(Told(QStringLiteral("the form project %1 could not be read").arg(file)));
-    return kFaultsFound;
-  }
-  if (std::max(form->width(), form->height()) > qt::kLargestWindow) {
-    PrintError(Told(QStringLiteral("the form is %1 x %2 pixels; the largest picture has %3 x %3")
-                        .arg(form->width())
-                        .arg(form->height())
-                        .arg(qt::kLargestWindow)));
-    return kFaultsFound;
-  }
+int RunRender(std::span<const std::string> words) {
+  app::CommandLine line({.name = "render",
+                         .summary = "Makes a picture of a form as an end user meets it.",
+                         .operands = "FORM",
+                         .leastOperands = 1,
+                         .mostOperands = 1,
+                         .options = {{"-o <FILE.png>", "the picture to write"},
+                                     {"--design", "as its author draws it, with the grid"}}});
+  if (const auto status = line.Parse(words)) return *status;
+  const std::string target = line.Value("o");
+  if (target.empty()) return line.Refuse("-o FILE.png is missing");
+  const std::string& file = line.Operands().front();
+  const QString path = QString::fromStdString(file);
+  if (!QFileInfo(path).isFile()) return line.Fail("there is no form project " + file, app::kWrongUse);
+  const DesktopSession session(Display::Unused);
+  const auto form = ReadForm(path, line.Has("design"));
+  if (!form) return line.Fail("the form project " + file + " could not be read");
+  if (std::max(form->width(), form->height()) > qt::kLargestWindow)
+    return line.Fail(QStringLiteral("the form is %1 x %2 pixels; the largest picture has %3 x %3")
+                         .arg(form->width())
+                         .arg(form->height())
+                         .arg(qt::kLargestWindow)
+                         .toStdString());
   form->show();
-  if (form->grab().save(target)) return kDone;
-  PrintError(Told(QStringLiteral("%1 could not be written").arg(target)));
-  return kFaultsFound;
+  if (form->grab().save(QString::fromStdString(target))) return app::kDone;
+  return line.Fail(target + " could not be written");
 }
 
 }  // namespace cardwright::desktop

@@ -3,7 +3,7 @@
 #include <optional>
 
 #include "cardwright/robot/Workplace.h"
-#include "desktop/Session.h"
+#include "desktop/DesktopSession.h"
 #include "desktop/UnseenDesktop.h"
 #include "launcher/DesktopModule.h"
 
@@ -20,7 +20,7 @@ class ScriptWindows final : public ScriptDesktop {
   bool HasDisplay() const override;
 
  private:
-  Session m_Session;
+  DesktopSession m_Session;
   std::optional<UnseenDesktop> m_Unseen;
   robot::Workplace m_Workplace;
 };

@@ -1,7 +1,7 @@
 #include "cardwright/automation/Errors.h"
-#include "launcher/CommandLine.h"
-#include "launcher/Commands.h"
+#include "launcher/Console.h"
 #include "launcher/DesktopModule.h"
+#include "launcher/ScriptCommand.h"
 
 namespace cardwright::app {
 namespace {

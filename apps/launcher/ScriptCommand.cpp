@@ -1,8 +1,9 @@
+#include "launcher/ScriptCommand.h"
+
 #include <cstdlib>
 
 #include "cardwright/hosting/ScriptHosting.h"
 #include "launcher/CommandLine.h"
-#include "launcher/Commands.h"
 #include "launcher/DesktopModule.h"
 #include "launcher/Languages.h"
 #include "launcher/Modules.h"
@@ -18,23 +19,30 @@ bool IsSet(const char* variable) {
 }  // namespace
 
 int RunScriptCommand(std::span<const std::string> words) {
-  CommandLine line("script",
-                   "Runs a VBScript or JScript file. Status 1 after an error that the script did not catch, "
-                   "130 after Ctrl+C,\n"
-                   "else what WScript.Quit said, or 0.",
-                   "FILE [ARG…]",
-                   {{"check", "", "only compile the script"},
-                    {"disassemble", "", "only compile the script, in VBScript, and write its instructions"},
-                    {"trace", "", "tell each statement on standard error before it runs"},
-                    {"profile", "", "tell on standard error how long each line took"},
-                    {"display", "", "insist on a display for windows"}});
+  CommandLine line(
+      {.name = "script",
+       .summary = "Runs a VBScript or JScript file. Status 1 after an error that the script did not "
+                  "catch, 130 after Ctrl+C,\nelse what WScript.Quit said, or 0.",
+       .operands = "FILE [ARG…]",
+       .leastOperands = 1,
+       .options = {{"--check", "only compile the script"},
+                   {"--disassemble", "only compile the script, in VBScript, and write its instructions"},
+                   {"--trace", "tell each statement on standard error before it runs"},
+                   {"--profile", "tell on standard error how long each line took"},
+                   {"--display", "insist on a display for windows"},
+                   {"--codepage <NAME>", "code page of form projects and plain text files (windows-1252)"},
+                   {"--locale <NAME>", "language and country, as in it-IT"},
+                   {"--help", "this text (-h)"},
+                   {"--version", "the program's version (-v)"}},
+       .optionPlace = CommandText::OptionPlace::BeforeOperands});
   if (const auto status = line.Parse(words)) return *status;
   const bool hasDisplay = IsSet("DISPLAY") || IsSet("WAYLAND_DISPLAY");
   if (line.Has("display") && !hasDisplay) return line.Refuse("there is no display");
 
   ScriptJob job;
   job.file = Text::FromUtf8(line.Operands().front());
-  for (const std::string& word : line.Operands().subspan(1)) job.arguments.push_back(Text::FromUtf8(word));
+  for (const std::string& word : std::span(line.Operands()).subspan(1))
+    job.arguments.push_back(Text::FromUtf8(word));
   if (line.Has("check")) job.task = ScriptJob::Task::Compile;
   if (line.Has("disassemble")) job.task = ScriptJob::Task::Disassemble;
   job.traces = line.Has("trace");

@@ -1,4 +1,4 @@
-#include "desktop/Session.h"
+#include "desktop/DesktopSession.h"
 
 #include "cardwright/automation/Errors.h"
 #include "cardwright/hosting/FormScripts.h"
@@ -19,7 +19,7 @@ QByteArray Platforms(Display display) {
 
 }  // namespace
 
-Session::Session(Display display) {
+DesktopSession::DesktopSession(Display display) {
   const bool chosen = !qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM");
   if (!chosen) qputenv("QT_QPA_PLATFORM", Platforms(display));
   m_Application = std::make_unique<QApplication>(m_Argc, m_Argv);
@@ -31,7 +31,7 @@ Session::Session(Display display) {
   m_Data = std::make_unique<DataSource>(*m_Library);
 }
 
-bool Session::HasDisplay() const {
+bool DesktopSession::HasDisplay() const {
   const QString platform = QApplication::platformName();
   return platform != u"offscreen" && platform != u"minimal";
 }

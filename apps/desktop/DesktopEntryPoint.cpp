@@ -1,6 +1,6 @@
-#include <QString>
+#include <QtGlobal>
 
-#include "desktop/Commands.h"
+#include "desktop/DesktopCommands.h"
 #include "desktop/ScriptWindows.h"
 #include "launcher/DesktopModule.h"
 
@@ -9,7 +9,7 @@ namespace {
 
 struct Command {
   const char* name;
-  int (*run)(const QStringList& words);
+  int (*run)(std::span<const std::string> words);
 };
 
 constexpr Command kCommands[] = {
@@ -18,10 +18,8 @@ constexpr Command kCommands[] = {
 };
 
 int Run(const std::string& command, std::span<const std::string> words) {
-  QStringList list;
-  for (const std::string& word : words) list += QString::fromLocal8Bit(word);
   for (const Command& known : kCommands)
-    if (command == known.name) return known.run(list);
+    if (command == known.name) return known.run(words);
   qFatal("the desktop module has no command %s", command.c_str());
 }
 

@@ -11,10 +11,10 @@ namespace cardwright::desktop {
 enum class Display { Needed, IfThere, Unused };
 
 /// What a command holds of toolkit and library while it runs.
-class Session {
+class DesktopSession {
  public:
   /// Error 5 with a description where a display is needed and there is none.
-  explicit Session(Display display);
+  explicit DesktopSession(Display display);
 
   /// Whether a person can see the windows.
   bool HasDisplay() const;

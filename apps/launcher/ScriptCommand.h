@@ -5,7 +5,9 @@
 
 namespace cardwright::app {
 
-/// Runs a script; takes the words behind the command's name and gives the exit status.
+/// The command `script`, which runs a script file.
+/// @param words those that follow the command's name
+/// @return the exit status
 int RunScriptCommand(std::span<const std::string> words);
 
 }  // namespace cardwright::app
