@@ -8,7 +8,7 @@ namespace {
 
 using ::testing::HasSubstr;
 
-TEST(CommandLine, TellsItsCommandsAndItsVersion) {
+TEST(CommandLine, ShowsItsCommandsAndItsVersion) {
   const Outcome help = Cardwright({"--help"});
   EXPECT_EQ(help.status, 0);
   for (const char* command : {"design", "fill", "check", "info", "render", "orv", "script"})
@@ -39,6 +39,27 @@ TEST(CommandLine, OpensTheWorkbenchWithoutACommand) {
   }
 }
 
+TEST(CommandLine, ShowsHelpWhateverElseIsWrong) {
+  const Outcome help = Cardwright({"info", "--sideways", "--help"});
+  EXPECT_EQ(help.status, 0);
+  EXPECT_EQ(help.out, Cardwright({"info", "-h"}).out);
+  EXPECT_EQ(help.err, "");
+}
+
+TEST(CommandLine, AlignsHelpOnTheLongestOption) {
+  EXPECT_EQ(Cardwright({"render", "--help"}).out,
+            "Usage: cardwright render [options] FORM\n"
+            "Makes a picture of a form as an end user meets it.\n"
+            "\n"
+            "Options:\n"
+            "  -o <FILE.png>      the picture to write\n"
+            "  --design           as its author draws it, with the grid\n"
+            "  --codepage <NAME>  code page of form projects (windows-1252)\n"
+            "  --locale <NAME>    language and country, as in it-IT\n"
+            "  -h, --help         this text\n"
+            "  -v, --version      the program's version\n");
+}
+
 struct WrongUse {
   std::vector<std::string> words;
   const char* complaint;
@@ -51,7 +72,7 @@ void PrintTo(const WrongUse& use, std::ostream* out) {
 
 class WrongUseTest : public ::testing::TestWithParam<WrongUse> {};
 
-TEST_P(WrongUseTest, EndsWithStatus2AndSaysWhyOnStandardError) {
+TEST_P(WrongUseTest, EndsWithStatus2AndPrintsTheReason) {
   const Outcome outcome = Cardwright(GetParam().words);
   EXPECT_EQ(outcome.status, 2);
   EXPECT_EQ(outcome.out, "");
@@ -63,7 +84,14 @@ INSTANTIATE_TEST_SUITE_P(
     ::testing::Values(WrongUse{{"frobnicate"}, "unknown command: frobnicate"},
                       WrongUse{{"info"}, "FORM is missing"},
                       WrongUse{{"info", "a", "b"}, "one word too many: b"},
-                      WrongUse{{"info", "--sideways", "a"}, "sideways"},
+                      WrongUse{{"info", "--sideways", "a"}, "unknown option: --sideways"},
+                      WrongUse{{"info", "-x", "a"}, "unknown option: -x"},
+                      WrongUse{{"info", "--json=1", "a"}, "--json takes no value"},
+                      WrongUse{{"info", "a", "--locale"}, "--locale needs a value"},
+                      WrongUse{{"info", "--", "--json"}, "there is no form project --json"},
+                      WrongUse{{"render", "-oform.png", "x"}, "there is no form project x"},
+                      WrongUse{{"script", "--sideways", "a"}, "unknown option: --sideways"},
+                      WrongUse{{"script"}, "FILE is missing"},
                       WrongUse{{"info", "/no/such/form.cwf"}, "there is no form project /no/such/form.cwf"},
                       WrongUse{{"info", "--codepage", "utf-8", "x"}, "unknown code page: utf-8"},
                       WrongUse{{"info", "--locale", "xx-YY", "x"}, "unknown locale: xx-YY"},
