@@ -29,8 +29,8 @@ void AddDesktopClasses(ClassRegistry& classes) {
   classes.Add(u"Cardwright.Vellum", Make<Vellum>);
   classes.Add(u"Cardwright.CForm", Make<CForm>);
   AddDataClasses(classes);
-  for (const ControlClass& control : ControlClasses())
-    classes.Add(Text(u"Cardwright.") + control.table->className, [make = control.create] { return make(); });
+  for (const ClassTable* table : ControlClasses())
+    classes.Add(Text(u"Cardwright.") + table->className, [make = table->create] { return make(); });
 }
 
 ClassRegistry ClassesOnLeave() {

@@ -151,7 +151,7 @@ class SectionFaults {
   }
 
   void EnterControl(int number) { m_Section = Text(u"CONTROLS_") + ToText(Variant(std::int32_t{number})); }
-  const ControlClass* Kind() const { return FindControlClass(WidgetIdentifier(qt::ViewOf(Value(u"Type")))); }
+  const ClassTable* Kind() const { return FindControlClass(qt::ViewOf(Value(u"Type"))); }
   QString WidgetName(int number) const {
     const QString name = Value(u"Name");
     return name.isEmpty() ? QStringLiteral("object_%1").arg(number + 1) : name;
@@ -165,7 +165,7 @@ class SectionFaults {
   void NoteKind(int number) {
     EnterControl(number);
     const QString name = UserName(number).toLower();
-    if (const ControlClass* const kind = Kind(); kind && !m_Kinds.contains(name)) m_Kinds.insert(name, kind);
+    if (const ClassTable* const kind = Kind(); kind && !m_Kinds.contains(name)) m_Kinds.insert(name, kind);
   }
 
   void LookAtControl(int number) {
@@ -173,7 +173,7 @@ class SectionFaults {
     const QString type = Value(u"Type");
     if (type.isEmpty())
       return Add(QStringLiteral("the section is missing or has no Type: there is no such control"));
-    const ControlClass* const known = Kind();
+    const ClassTable* const known = Kind();
     if (!known) return Add(QStringLiteral("unknown type %1: the control is left out").arg(type));
     LookAtNames(number, *known);
     LookAtNumbers();
@@ -184,24 +184,24 @@ class SectionFaults {
       Add(QStringLiteral("the theme %1 has no attribute %2").arg(qt::ToQString(m_Theme), attribute));
   }
 
-  void LookAtLinks(const ControlClass& known) {
-    for (const PropertyRow& row : known.table->rows) {
-      const ControlClass* const wanted = FindControlClass(row.links);
+  void LookAtLinks(const ClassTable& known) {
+    for (const PropertyRow& row : known.rows) {
+      const ClassTable* const wanted = FindControlClass(row.links);
       const QString target = wanted ? Value(row.name) : QString();
       if (target.isEmpty()) continue;
-      const ControlClass* const found = m_Kinds.value(target.toLower());
+      const ClassTable* const found = m_Kinds.value(target.toLower());
       if (!found)
         Add(QStringLiteral("%1 names %2, which is no control of the form")
                 .arg(QStringView(row.name), target));
       else if (found != wanted)
         Add(QStringLiteral("%1 names %2, which is no %3")
-                .arg(QStringView(row.name), target, QStringView(wanted->table->className)));
+                .arg(QStringView(row.name), target, QStringView(wanted->className)));
     }
     if (known.type == ControlTypeEnum::ctAttributeSelector && Value(u"ThemeSelectorName").isEmpty())
       Add(QStringLiteral("there is no ThemeSelectorName: the control lists no attributes"));
   }
 
-  void LookAtRegKey(const ControlClass& known) {
+  void LookAtRegKey(const ClassTable& known) {
     const QString key = Value(u"RegKey");
     if (known.type != ControlTypeEnum::ctResourceSelector || key.trimmed().isEmpty()) return;
     if (!SplitRegKey(qt::ViewOf(key)))
@@ -209,7 +209,7 @@ class SectionFaults {
               .arg(key));
   }
 
-  void LookAtNames(int number, const ControlClass& known) {
+  void LookAtNames(int number, const ClassTable& known) {
     const QString name = WidgetName(number);
     const QString userName = UserName(number);
     const QString container = Value(u"Container");
@@ -224,7 +224,7 @@ class SectionFaults {
       Add(QStringLiteral("the user name %1 has a \"=\": its stacking is lost").arg(userName));
     m_Names.insert(name.toLower());
     m_UserNames.insert(userName.toLower());
-    m_Elements.push_back({userName, known.table->events});
+    m_Elements.push_back({userName, known.events});
   }
 
   std::vector<Fault>& m_Faults;
@@ -233,7 +233,7 @@ class SectionFaults {
   Text m_Section;
   Text m_Theme;
   QSet<QString> m_Attributes, m_Names, m_UserNames;
-  QHash<QString, const ControlClass*> m_Kinds;  // by lower-case user name
+  QHash<QString, const ClassTable*> m_Kinds;  // by lower-case user name
   std::vector<ScriptedElement> m_Elements;
   bool m_KnowsAttributes = false;
 };

@@ -108,8 +108,8 @@ class ScriptFaults {
     const qsizetype line = procedure.name.lastIndexOf(u'_');
     if (line <= 0) return;
     const QString event = procedure.name.mid(line + 1);
-    for (const ControlClass& one : ControlClasses())
-      if (FindEvent(one.table->events, event))
+    for (const ClassTable* one : ControlClasses())
+      if (FindEvent(one->events, event))
         return AddAt(procedure.line, QStringLiteral("the form has no element %1: %2 is never run by the form")
                                          .arg(procedure.name.first(line), procedure.name));
   }

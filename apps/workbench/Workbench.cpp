@@ -223,7 +223,7 @@ void Workbench::ShowSelection(const Ref<IControl>& control) {
 // What acts on a control needs one; beside that the designer says what it does not allow.
 void Workbench::ShowCommands() {
   const Ref<IControl>& control = m_Grid->Model().Control();
-  const bool isForm = !control || KindOf(*control) == ControlTypeEnum::ctDefault;
+  const bool isForm = !control || ClassOf(*control).type == ControlTypeEnum::ctDefault;
   for (const char* name : {"mnuCut", "mnuCopy", "mnuDelete", "mnuForeground", "mnuBackground",
                            "mnuCenterAcross", "mnuCenterDown"}) {
     const auto state = m_MenuStates.find(QLatin1String(name));
@@ -241,7 +241,7 @@ void Workbench::ShowList() {
   for (const Ref<IControl>& control : ControlsOf(designer.Controls()))
     if (QWidget* native = NativeOf(*control)) {
       native->setAccessibleName(qt::ToQString(control->UserName()));
-      native->setAccessibleDescription(KindName(KindOf(*control)));
+      native->setAccessibleDescription(KindName(ClassOf(*control).type));
     }
 }
 

@@ -108,9 +108,9 @@ void Workbench::MakeEditActions() {
   }
   menu.addSeparator();
   QMenu* insert = menu.addMenu(tr("&Insert Control"));
-  for (const Kind& kind : Kinds()) {
-    QAction* action = insert->addAction(IconOf(kind.type), KindName(kind.type));
-    connect(action, &QAction::triggered, this, [this, type = kind.type] { m_Document->Insert(type); });
+  for (const ClassTable* kind : ControlClasses()) {
+    QAction* action = insert->addAction(IconOf(kind->type), KindName(kind->type));
+    connect(action, &QAction::triggered, this, [this, type = kind->type] { m_Document->Insert(type); });
   }
 }
 

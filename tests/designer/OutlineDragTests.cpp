@@ -15,7 +15,7 @@ namespace {
 
 using enum DragMode;
 constexpr LeastSize kControl{7, 19};
-constexpr LeastSize kFrame{7, 0};
+constexpr LeastSize kFrameMinimum{7, 0};
 constexpr LeastSize kNew{};
 constexpr ScreenRect kRoom{0, 0, 400, 300};
 constexpr ScreenRect kBox{100, 100, 160, 140};
@@ -100,7 +100,7 @@ TEST(OutlineDrag, TurnsTheHeightOfAFrameOverWhereTheEdgesCross) {
                // The width is refused before it could turn over.
                {Right, -70, 0, {100, 100, 160, 140}},
                {Left, 70, 0, {100, 100, 160, 140}}},
-              kFrame);
+              kFrameMinimum);
 }
 
 TEST(OutlineDrag, TurnsANewRectangleOverInBothAxes) {

@@ -50,8 +50,8 @@ constexpr std::u16string_view kContract[] = {u"Name",
 }  // namespace
 
 TEST(ByName, EveryClassAnswersToEveryMemberOfTheContractInItsOrder) {
-  for (const ControlClass& entry : ControlClasses()) {
-    const Ref<Control> control = entry.create();
+  for (const ClassTable* entry : ControlClasses()) {
+    const Ref<Control> control = entry->create();
     const std::vector<Text> names = control->MemberNames();
     ASSERT_GE(names.size(), std::size(kContract));
     for (std::size_t i = 0; i < std::size(kContract); ++i) {
@@ -64,18 +64,18 @@ TEST(ByName, EveryClassAnswersToEveryMemberOfTheContractInItsOrder) {
 }
 
 TEST(ByName, EveryRowOfEveryClassIsAProperty) {
-  for (const ControlClass& entry : ControlClasses()) {
+  for (const ClassTable* entry : ControlClasses()) {
     InputForm on;
-    const auto control = on.Add(entry.table->className);
-    for (const auto rows : {entry.table->rows, entry.table->hidden})
+    const auto control = on.Add(entry->className);
+    for (const auto rows : {entry->rows, entry->hidden})
       for (const PropertyRow& row : rows) {
         if (row.name == u"Name") continue;  // the contract's own, which gives the widget's name
         const Variant byRow = control->PropertyValue(row.name);
         const Variant byName = Ask(*control, row.name);
-        const std::string where = Text(entry.table->className).ToUtf8() + "." + Text(row.name).ToUtf8();
+        const std::string where = Text(entry->className).ToUtf8() + "." + Text(row.name).ToUtf8();
         if (byRow.IsObject()) {
           EXPECT_EQ(byName.ObjectPtr(), byRow.ObjectPtr()) << where;
-        } else if (entry.table->className != u"COptionButton" || row.name != u"Value") {
+        } else if (entry->className != u"COptionButton" || row.name != u"Value") {
           EXPECT_EQ(ToText(byName), ToText(byRow)) << where;
         }
       }

@@ -233,11 +233,11 @@ TEST(Control, SharesTheWidgetsFont) {
 TEST(Control, BindsOnlyTheWidgetOfItsClass) {
   DesignForm on;
   std::vector<Ref<Widget>> widgets;
-  for (const ControlClass& entry : ControlClasses())
-    widgets.push_back(on.surface.Add(entry.table->widgetIdentifier, entry.table->className, nullptr));
+  for (const ClassTable* entry : ControlClasses())
+    widgets.push_back(on.surface.Add(entry->widgetIdentifier, entry->className, nullptr));
   for (std::size_t i = 0; i < widgets.size(); ++i)
     for (std::size_t j = 0; j < widgets.size(); ++j) {
-      const Ref<Control> control = ControlClasses()[i].create();
+      const Ref<Control> control = ControlClasses()[i]->create();
       const int error = ErrorOf([&] { control->BindObject(widgets[j]); });
       EXPECT_EQ(error, i == j ? 0 : 13) << i << " with the widget of " << j;
       EXPECT_EQ(control->BoundObject() == widgets[j].get(), i == j);
@@ -245,8 +245,8 @@ TEST(Control, BindsOnlyTheWidgetOfItsClass) {
 }
 
 TEST(Control, SaysWithoutAWidgetThatThereIsNone) {
-  for (const ControlClass& entry : ControlClasses()) {
-    const Ref<Control> control = entry.create();
+  for (const ClassTable* entry : ControlClasses()) {
+    const Ref<Control> control = entry->create();
     control->SetLeft(3);
     control->SetForeColor(3);
     control->SetZOrder(1);
@@ -262,7 +262,7 @@ TEST(Control, SaysWithoutAWidgetThatThereIsNone) {
 TEST(ParentForm, TakesTheTwoKindsOfOwnerAndIgnoresAnyOther) {
   DesignForm design;
   InputForm input;
-  const Ref<Control> control = ControlClasses().front().create();
+  const Ref<Control> control = ControlClasses().front()->create();
   control->SetParentForm(MakeRef<Stranger>());
   control->SetParentForm(MakeRef<Stranger>(u"FormDesigner"));  // of that name, but none
   control->SetParentForm(nullptr);
@@ -312,7 +312,7 @@ TEST(RenameInCollection, ChangesTheCaseAloneThroughAKeyAside) {
 TEST(RenameInCollection, LeavesACollectionAloneThatDoesNotHoldTheControl) {
   DesignForm on;
   on.Add(u"CTextBox", u"a", u"object_1");
-  const Ref<Control> pasted = ControlClasses().front().create();
+  const Ref<Control> pasted = ControlClasses().front()->create();
   pasted->SetName(u"A");
   RenameInCollection(on.owner->Controls(), *pasted, u"free");
   EXPECT_EQ(on.Names(), "Form, a");
@@ -340,8 +340,8 @@ TEST(EveryControl, StoresItsZOrderWithoutMovingTheWidget) {
 
 TEST(FilenameFilter, IsEmptyForControls) {
   DesignForm on;
-  for (const ControlClass& entry : ControlClasses()) {
-    const auto control = on.Add(entry.table->className, entry.table->className, entry.table->className);
+  for (const ClassTable* entry : ControlClasses()) {
+    const auto control = on.Add(entry->className, entry->className, entry->className);
     EXPECT_EQ(control->FilenameFilter(u"Text"), u"");
     EXPECT_EQ(control->FilenameFilter(99), u"");
     EXPECT_TRUE(control->PropertyList(u"Text").empty());

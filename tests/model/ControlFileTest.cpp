@@ -8,9 +8,9 @@ namespace cardwright {
 TEST(Read, LeavesEverythingAsCreatedWhereTheSectionIsEmpty) {
   const TempFolder folder;
   const Text file = folder.Put("a.frm", "[CONTROLS_1]\r\n");
-  for (const ControlClass& entry : ControlClasses()) {
+  for (const ClassTable* entry : ControlClasses()) {
     DesignForm on;
-    const auto control = on.Add(entry.table->className, u"a", u"object_1");
+    const auto control = on.Add(entry->className, u"a", u"object_1");
     WidgetOf(*control).SetVisible(false);
     WidgetOf(*control).Move(10, 20, 130, 40);
     const float height = WidgetOf(*control).Height();
@@ -120,8 +120,8 @@ TEST(Save, WritesNothingOutsideTheDesigner) {
   const TempFolder folder;
   const Text file = folder.Put("a.frm", "");
   InputForm on;
-  for (const ControlClass& entry : ControlClasses()) {
-    const auto control = on.Add(entry.table->className, entry.table->className, entry.table->className);
+  for (const ClassTable* entry : ControlClasses()) {
+    const auto control = on.Add(entry->className, entry->className, entry->className);
     EXPECT_FALSE(control->Save(file, u"CONTROLS_1")) << control->TypeName().ToUtf8();
   }
   EXPECT_EQ(folder.Get("a.frm"), "");
@@ -133,7 +133,7 @@ TEST(Save, WritesTheKeysInOrderWithTheContainerLast) {
   DesignForm on;
   const auto frame = on.Add(u"CFrame", u"fra", u"object_1");
   const Ref<Widget> widget = on.surface.Add(u"vb.label", u"object_2", &WidgetOf(*frame));
-  const Ref<Control> label = FindControlClass(u"vb.label")->create();
+  const Ref<Control> label = FindControlClass(u"Label")->create();
   label->BindObject(widget);
   label->SetParentForm(on.owner);
   label->SetName(u"lbl");

@@ -65,11 +65,7 @@ void FakeDesigner::SetCtrl(Ref<IControl> control) {
 }
 
 std::vector<Ref<IControl>> FakeDesigner::FilterControls(ControlTypeEnum type) const {
-  std::vector<Ref<IControl>> controls;
-  const ControlClass* wanted = FindControlClass(type);
-  for (const Ref<IControl>& control : ControlsOf(*m_Controls))
-    if (wanted && control->TypeName() == wanted->table->className) controls.push_back(control);
-  return controls;
+  return ControlsOfType(*m_Controls, type);
 }
 
 void FakeDesigner::OpenControlMenu(IControl& control) {

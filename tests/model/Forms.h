@@ -35,10 +35,10 @@ struct FormOn {
   /// A control of a class bound to a new widget `widgetName` under the user name, in the form's collection.
   Ref<Control> Add(std::u16string_view className, std::u16string_view userName,
                    std::u16string_view widgetName) {
-    for (const ControlClass& candidate : ControlClasses()) {
-      if (candidate.table->className != className) continue;
-      const Ref<Widget> widget = surface.Add(candidate.table->widgetIdentifier, widgetName, nullptr);
-      Ref<Control> control = candidate.create();
+    for (const ClassTable* candidate : ControlClasses()) {
+      if (candidate->className != className) continue;
+      const Ref<Widget> widget = surface.Add(candidate->widgetIdentifier, widgetName, nullptr);
+      Ref<Control> control = candidate->create();
       control->BindObject(widget);
       control->SetParentForm(owner);
       control->SetName(userName);

@@ -111,21 +111,25 @@ TEST(Read, SkipsTypesWithoutAClass) {
   }
 }
 
-TEST(WidgetIdentifier, IsFixedForCompanionWidgetsAndMadeOfTheTypeForAnyOther) {
-  EXPECT_EQ(WidgetIdentifier(u"TextBoxMultiline"), u"CardwrightCtrl.MultilineTextBox");
-  EXPECT_EQ(WidgetIdentifier(u"RESOURCESELECTOR"), u"CardwrightCtrl.ResourceSelector");
-  EXPECT_EQ(WidgetIdentifier(u"themeselector"), u"CardwrightCtrl.ThemeSelector");
-  EXPECT_EQ(WidgetIdentifier(u"dbtableviewer"), u"CardwrightCtrl.DbTableViewer");
-  EXPECT_EQ(WidgetIdentifier(u"attributeselector"), u"CardwrightCtrl.AttributeSelector");
-  EXPECT_EQ(WidgetIdentifier(u"fontselector"), u"CardwrightCtrl.FontSelector");
-  EXPECT_EQ(WidgetIdentifier(u"colorselector"), u"CardwrightCtrl.ColorSelector");
-  EXPECT_EQ(WidgetIdentifier(u"ListBox"), u"MSComctlLib.ListViewCtrl.2");
-  EXPECT_EQ(WidgetIdentifier(u"Label"), u"vb.label");
-  EXPECT_EQ(WidgetIdentifier(u""), u"vb.");
-  EXPECT_EQ(FindControlClass(u"CardwrightCtrl.DbTableViewer"), nullptr);
-  EXPECT_EQ(FindControlClass(u"vb."), nullptr);
-  for (const ControlClass& entry : ControlClasses())
-    EXPECT_EQ(FindControlClass(WidgetIdentifier(entry.table->typeText)), &entry);
+TEST(FindControlClass, KnowsTheClassOfATypeTextInAnyCase) {
+  const auto identifier = [](std::u16string_view type) { return FindControlClass(type)->widgetIdentifier; };
+  EXPECT_EQ(identifier(u"TextBoxMultiline"), u"CardwrightCtrl.MultilineTextBox");
+  EXPECT_EQ(identifier(u"RESOURCESELECTOR"), u"CardwrightCtrl.ResourceSelector");
+  EXPECT_EQ(identifier(u"themeselector"), u"CardwrightCtrl.ThemeSelector");
+  EXPECT_EQ(identifier(u"attributeselector"), u"CardwrightCtrl.AttributeSelector");
+  EXPECT_EQ(identifier(u"fontselector"), u"CardwrightCtrl.FontSelector");
+  EXPECT_EQ(identifier(u"colorselector"), u"CardwrightCtrl.ColorSelector");
+  EXPECT_EQ(identifier(u"ListBox"), u"MSComctlLib.ListViewCtrl.2");
+  EXPECT_EQ(identifier(u"Label"), u"vb.label");
+  for (const ClassTable* entry : ControlClasses()) EXPECT_EQ(FindControlClass(entry->typeText), entry);
+}
+
+TEST(FindControlClass, KnowsNoClassForTheTableViewerAndOtherTexts) {
+  for (const char16_t* type :
+       {u"dbtableviewer", u"CardwrightCtrl.DbTableViewer", u"vb.label", u"Picture", u""})
+    EXPECT_EQ(FindControlClass(type), nullptr) << Text(type).ToUtf8();
+  EXPECT_EQ(FindDrawable(ControlTypeEnum::ctDbTableViewer)->design.identifier,
+            u"CardwrightCtrl.DbTableViewer");
 }
 
 TEST(Read, LosesAControlWhoseContainerIsNotThereYet) {

@@ -42,11 +42,11 @@ INSTANTIATE_TEST_SUITE_P(, EverySelector, testing::ValuesIn(kKinds),
                          [](const auto& test) { return Text(test.param.className).ToUtf8(); });
 
 TEST_P(EverySelector, IsTheClassOfItsTypeItsIdentifierAndItsNumber) {
-  const ControlClass* byNumber = FindControlClass(GetParam().number);
+  const ClassTable* byNumber = FindControlClass(GetParam().number);
   ASSERT_TRUE(byNumber);
-  EXPECT_EQ(byNumber->table->className, GetParam().className);
-  EXPECT_EQ(byNumber->table->typeText, GetParam().type);
-  EXPECT_EQ(FindControlClass(WidgetIdentifier(GetParam().type)), byNumber);
+  EXPECT_EQ(byNumber->className, GetParam().className);
+  EXPECT_EQ(byNumber->typeText, GetParam().type);
+  EXPECT_EQ(FindControlClass(GetParam().type), byNumber);
 }
 
 TEST_P(EverySelector, WorksWithNoOtherWidget) {

@@ -10,9 +10,9 @@ namespace cardwright {
 template <class Owner>
 Ref<Control> Bind(FormOn<Owner>& on, std::u16string_view className, const Ref<Widget>& widget,
                   std::u16string_view userName = u"a") {
-  for (const ControlClass& candidate : ControlClasses()) {
-    if (candidate.table->className != className) continue;
-    Ref<Control> control = candidate.create();
+  for (const ClassTable* candidate : ControlClasses()) {
+    if (candidate->className != className) continue;
+    Ref<Control> control = candidate->create();
     control->BindObject(widget);
     control->SetParentForm(on.owner);
     control->SetName(userName);

@@ -128,7 +128,7 @@ TEST(COptionButton, IsLockedOutOfTheOthersOnlyInItsOwnContainer) {
   InputForm on;
   const auto frame = on.Add(u"CFrame", u"fra", u"object_1");
   const auto outside = on.Add(u"COptionButton", u"a", u"object_2");
-  const auto inside = FindControlClass(u"vb.optionbutton")->create();
+  const auto inside = FindControlClass(u"OptionButton")->create();
   inside->BindObject(on.surface.Add(u"vb.optionbutton", u"object_3", &WidgetOf(*frame)));
   outside->SetPropertyValue(u"Selected", true);
   inside->SetPropertyValue(u"Selected", true);

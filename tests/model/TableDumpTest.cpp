@@ -46,8 +46,7 @@ void WriteRow(std::ostream& out, std::size_t number, const PropertyRow& row) {
     out << (i == 0 ? " choices: " : ", ") << Utf8(row.choices[i]);
   if (row.filter) out << " filter: " << Message(row.filter);
   if (row.argument) out << " with " << Message(row.argument);
-  if (const ControlClass* linked = FindControlClass(row.links))
-    out << " links: " << Utf8(linked->table->className);
+  if (const ClassTable* linked = FindControlClass(row.links)) out << " links: " << Utf8(linked->className);
   out << "\n";
 }
 
@@ -76,7 +75,7 @@ std::string Dump(const ClassTable& table) {
 
 std::vector<const ClassTable*> AllTables() {
   std::vector<const ClassTable*> tables = {&CForm::kTable};
-  for (const ControlClass& entry : ControlClasses()) tables.push_back(entry.table);
+  for (const ClassTable* entry : ControlClasses()) tables.push_back(entry);
   return tables;
 }
 

@@ -33,7 +33,7 @@ void Move(IControl& control) {
 
 const std::vector<Text> kAllClasses = [] {
   std::vector<Text> names;
-  for (const ControlClass& entry : ControlClasses()) names.emplace_back(entry.table->className);
+  for (const ClassTable* entry : ControlClasses()) names.emplace_back(entry->className);
   return names;
 }();
 

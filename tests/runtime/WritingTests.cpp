@@ -22,7 +22,7 @@ class Writing : public FormTest {
   }
 };
 
-const std::string kItems =
+const std::string kEntries =
     "ItemsNumber=2\r\nValue_Item_1=1\r\nText_Item_1=One\r\nValue_Item_2=2\r\n"
     "Text_Item_2=Two\r\n";
 
@@ -58,17 +58,17 @@ TEST_F(Writing, WritesTheStateOfACheckBox) {
 }
 
 TEST_F(Writing, WritesTheValueOfTheChosenEntryAndElseTheTypedText) {
-  Read({{"ComboBox", "chosen", "Attribute=a\r\nText=Two\r\n" + kItems},
-        {"ComboBox", "typed", "Attribute=b\r\nEditable=True\r\nText=None of them\r\n" + kItems},
-        {"ComboBox", "empty", "Attribute=c\r\n" + kItems}});
+  Read({{"ComboBox", "chosen", "Attribute=a\r\nText=Two\r\n" + kEntries},
+        {"ComboBox", "typed", "Attribute=b\r\nEditable=True\r\nText=None of them\r\n" + kEntries},
+        {"ComboBox", "empty", "Attribute=c\r\n" + kEntries}});
   EXPECT_EQ(Written(), (Lines{Set("a", "|2|"), Set("b", "|None of them|"), Set("c", "| |")}));
 }
 
 TEST_F(Writing, RepeatsTheValueBeforeForAListBoxWithoutASelection) {
-  Read({{"ListBox", "first", "Attribute=a\r\n" + kItems},
+  Read({{"ListBox", "first", "Attribute=a\r\n" + kEntries},
         {"TextBox", "text", "Attribute=b\r\nText=kept\r\n"},
-        {"ListBox", "second", "Attribute=c\r\n" + kItems},
-        {"ListBox", "selected", "Attribute=a\r\nText=Two\r\n" + kItems}});
+        {"ListBox", "second", "Attribute=c\r\n" + kEntries},
+        {"ListBox", "selected", "Attribute=a\r\nText=Two\r\n" + kEntries}});
   EXPECT_EQ(Written(), (Lines{Set("a", "| |"), Set("b", "|kept|"), Set("c", "|kept|"), Set("a", "|2|")}));
 }
 

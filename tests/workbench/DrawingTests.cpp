@@ -13,14 +13,14 @@ TEST_F(DrawingTest, DrawsEveryKindWhereTheMouseGoes) {
   bench->Action(QStringLiteral("mnuSnap"))->trigger();
   bench->Stage().Designer().resize(900, 700);
   int made = 0;
-  for (const Kind& kind : Kinds()) {
+  for (const ClassTable* kind : ControlClasses()) {
     const QPoint at(20 + (made % 3) * 130, 20 + (made / 3) * 52);
-    const Ref<IControl> control = Draw(kind.type, QRect(at, QSize(112, 32)));
-    ASSERT_EQ(KindOf(*control), kind.type) << kind.name;
-    EXPECT_EQ(control->Left(), at.x()) << kind.name;
-    EXPECT_EQ(control->Top(), at.y()) << kind.name;
-    EXPECT_EQ(control->Width(), 112) << kind.name;
-    EXPECT_EQ(bench->Tools().Kind(), ControlTypeEnum::ctDefault) << kind.name;
+    const Ref<IControl> control = Draw(kind->type, QRect(at, QSize(112, 32)));
+    ASSERT_EQ(ClassOf(*control).type, kind->type) << kind->design.displayName;
+    EXPECT_EQ(control->Left(), at.x()) << kind->design.displayName;
+    EXPECT_EQ(control->Top(), at.y()) << kind->design.displayName;
+    EXPECT_EQ(control->Width(), 112) << kind->design.displayName;
+    EXPECT_EQ(bench->Tools().Kind(), ControlTypeEnum::ctDefault) << kind->design.displayName;
     ++made;
   }
   EXPECT_EQ(Designer().Controls().Count(), made + 1);

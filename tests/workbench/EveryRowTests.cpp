@@ -252,7 +252,7 @@ TEST_P(EveryRowTest, IsPassedByTabFromEditorToEditor) {
 
 std::vector<ControlTypeEnum> EveryKind() {
   std::vector<ControlTypeEnum> kinds{ControlTypeEnum::ctDefault};
-  for (const Kind& kind : Kinds()) kinds.push_back(kind.type);
+  for (const ClassTable* kind : ControlClasses()) kinds.push_back(kind->type);
   return kinds;
 }
 

@@ -80,9 +80,10 @@ void PropertyGrid::Show(const Ref<IControl>& control) {
 void PropertyGrid::ShowTitle() {
   const Ref<IControl>& control = m_Model->Control();
   if (!control) return m_Title->clear();
-  const QString kind = KindName(KindOf(*control));
+  const QString kind = KindName(ClassOf(*control).type);
   const QString name = qt::ToQString(control->UserName());
-  m_Title->setText(KindOf(*control) == ControlTypeEnum::ctDefault ? kind : tr("%1 – %2").arg(name, kind));
+  m_Title->setText(ClassOf(*control).type == ControlTypeEnum::ctDefault ? kind
+                                                                        : tr("%1 – %2").arg(name, kind));
 }
 
 void PropertyGrid::FinishEditing() { FinishCell(*m_View); }

@@ -39,8 +39,8 @@ std::vector<ControlList::Row> ControlList::RowsOf(cardwright::FormDesigner& desi
   std::unordered_map<const Object*, std::size_t> places;
   const auto add = [&](const Ref<IControl>& control) {
     places.emplace(control->BoundObject().get(), rows.size());
-    rows.push_back(
-        {control, qt::ToQString(control->Name()), qt::ToQString(control->UserName()), KindOf(*control), 0});
+    rows.push_back({control, qt::ToQString(control->Name()), qt::ToQString(control->UserName()),
+                    ClassOf(*control).type, 0});
   };
   add(Ref<IControl>(AsControl(designer.Controls().Item(Variant(1)))));
   for (const Ref<IControl>& control : FrontToBack(designer)) add(control);

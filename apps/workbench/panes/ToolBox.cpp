@@ -25,8 +25,8 @@ ToolBox::ToolBox(QWidget* parent) : QListWidget(parent) {
     item->setToolTip(tip);
   };
   add(ControlTypeEnum::ctDefault, tr("Pointer"), tr("Selects, moves and sizes controls"));
-  for (const workbench::Kind& kind : Kinds())
-    add(kind.type, KindName(kind.type),
+  for (const ClassTable* kind : ControlClasses())
+    add(kind->type, KindName(kind->type),
         tr("Draw it on the form with the mouse; Enter or a double click puts one there at once"));
   setCurrentRow(0);
   connect(this, &QListWidget::currentItemChanged, this,

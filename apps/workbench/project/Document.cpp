@@ -187,11 +187,10 @@ QString Document::Save(const QString& path) {
 
 void Document::Insert(ControlTypeEnum type) {
   const Ref<IControl> current = m_Designer->CurrentControl();
-  const bool intoFrame = current && KindOf(*current) == ControlTypeEnum::ctFrame;
-  QSize size;
-  for (const Kind& kind : Kinds())
-    if (kind.type == type) size = kind.size;
-  if (size.isEmpty()) return;
+  const bool intoFrame = current && ClassOf(*current).design.isContainer;
+  const ClassTable* const known = FindControlClass(type);
+  if (!known) return;
+  const QSize size(known->design.defaultWidth, known->design.defaultHeight);
   const ScaleMode scale = m_Designer->GetSurface()->Scale();
   m_Designer->SetIntoFrame(intoFrame);
   m_Designer->SetControlTypeToAdd(type);
@@ -202,7 +201,7 @@ void Document::Insert(ControlTypeEnum type) {
   if (!made || made == current) return;
   // Below the control that was selected, so that one after the other forms a column.
   const auto pixels = [&](float count) { return PixelsToScale(count, scale); };
-  const bool beside = current && !intoFrame && KindOf(*current) != ControlTypeEnum::ctDefault;
+  const bool beside = current && !intoFrame && ClassOf(*current).type != ControlTypeEnum::ctDefault;
   const float height = pixels(static_cast<float>(size.height()));
   const float below = beside ? current->Top() + current->Height() + pixels(8) : 0;
   const bool hasRoom = beside && below + height <= m_Designer->GetSurface()->Height();

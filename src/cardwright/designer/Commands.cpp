@@ -1,6 +1,7 @@
 // The commands on the selected control.
 
 #include "cardwright/designer/FormDesigner.h"
+#include "cardwright/model/ControlClasses.h"
 
 namespace cardwright {
 
@@ -26,7 +27,7 @@ void FormDesigner::Paste() {
   if (m_Clipboard.IsEmpty()) return;
   const Ref<FormDesigner> keepAlive(this);
   m_IntoFrame = true;
-  m_Tag = WordForWidget(m_Clipboard.Type());
+  m_TypeToAdd = m_Clipboard.Type();
   m_MouseDownX = 0;
   m_MouseDownY = 0;
   m_PasteMode = true;
@@ -49,7 +50,7 @@ void FormDesigner::Delete() {
   const Ref<IControl> form = Form();
   if (form && form->Name() == ToLower(name)) return;
   const Ref<Widget> widget(dynamic_cast<Widget*>(control->BoundObject().get()));
-  if (widget && EqualsNoCase(widget->TypeName(), u"Frame")) RemoveChildren(*widget);
+  if (widget && ClassOf(*control).design.isContainer) RemoveChildren(*widget);
   RemoveFromLists(*control);
   ShowHandles(false);
   Attempt([&] { Handles().PutInto(nullptr); });  // a frame would take them with it
@@ -137,7 +138,7 @@ float FormDesigner::RoomFor(const IControl& control, float (Widget::*ofWidget)()
 void FormDesigner::CenterLeft() {
   const Ref<FormDesigner> keepAlive(this);
   const Ref<IControl> control = m_Current;
-  if (!control || EqualsNoCase(control->TypeName(), u"CForm")) return;
+  if (!dynamic_cast<Control*>(control.get())) return;
   control->SetLeft((RoomFor(*control, &Widget::Width, &Surface::Width) - control->Width()) / 2);
   ShowHandles(m_Handles && m_Handles->IsShown());
 }
@@ -145,7 +146,7 @@ void FormDesigner::CenterLeft() {
 void FormDesigner::CenterTop() {
   const Ref<FormDesigner> keepAlive(this);
   const Ref<IControl> control = m_Current;
-  if (!control || EqualsNoCase(control->TypeName(), u"CForm")) return;
+  if (!dynamic_cast<Control*>(control.get())) return;
   control->SetTop((RoomFor(*control, &Widget::Height, &Surface::Height) - control->Height()) / 2);
   ShowHandles(m_Handles && m_Handles->IsShown());
 }

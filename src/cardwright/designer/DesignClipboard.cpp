@@ -4,12 +4,13 @@
 #include <utility>
 
 #include "cardwright/model/CItems.h"
+#include "cardwright/model/ControlClasses.h"
 
 namespace cardwright {
 
 void DesignClipboard::Copy(const IControl& control, const Widget& widget) {
   DesignClipboard copied;
-  copied.m_Type = widget.TypeName();
+  copied.m_Type = ClassOf(control).type;
   copied.m_Width = widget.Width();
   copied.m_Height = widget.Height();
   copied.m_Font = widget.GetFont();

@@ -10,9 +10,9 @@ namespace cardwright {
 /// is an object in the control (font, items) stays shared with it.
 class DesignClipboard {
  public:
-  bool IsEmpty() const noexcept { return m_Type.IsEmpty(); }
-  /// Run-time type name of the copied widget; "" where nothing was copied.
-  const Text& Type() const noexcept { return m_Type; }
+  bool IsEmpty() const noexcept { return m_Type == ControlTypeEnum::ctDefault; }
+  /// Kind of the copied control; ctDefault where nothing was copied.
+  ControlTypeEnum Type() const noexcept { return m_Type; }
   float Width() const noexcept { return m_Width; }
   float Height() const noexcept { return m_Height; }
 
@@ -26,7 +26,7 @@ class DesignClipboard {
  private:
   void PutProperty(Control& control, std::int32_t row) const;
 
-  Text m_Type;
+  ControlTypeEnum m_Type = ControlTypeEnum::ctDefault;
   float m_Width = 0;
   float m_Height = 0;
   Ref<Font> m_Font;

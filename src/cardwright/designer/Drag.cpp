@@ -4,16 +4,13 @@
 #include <cmath>
 #include <utility>
 
+#include "cardwright/model/ControlClasses.h"
+
 namespace cardwright {
 namespace {
 
-constexpr int kLeastWidth = 7;  // pixels
-constexpr int kLeastHeight = 19;
+constexpr int kMinimumDraggedWidth = 7;  // pixels
 constexpr int kPenWidth = 2;
-
-bool IsType(const Widget& widget, std::u16string_view typeName) {
-  return EqualsNoCase(widget.TypeName(), typeName);
-}
 
 int WholePixels(float value, ScaleMode scale) { return ToLong(Variant(ScaleToPixels(value, scale))); }
 
@@ -72,9 +69,8 @@ void FormDesigner::Drag::SetUp(DragMode mode) {
                                        .least = Least()});
 }
 
-// A label has no window of its own.
 ScreenRect FormDesigner::Drag::StartOfControl(const ScreenRect& container) const {
-  if (!IsType(*m_Widget, u"Label")) return Canvas().WindowRect(m_Widget.get());
+  if (ClassOf(*m_Control).design.hasWindow) return Canvas().WindowRect(m_Widget.get());
   const int left = PlaceAt(container.left, m_Left, m_Scale);
   const int top = PlaceAt(container.top, m_Top, m_Scale);
   return {left, top, PlaceAt(left, m_Width, m_Scale), PlaceAt(top, m_Height, m_Scale)};
@@ -83,18 +79,17 @@ ScreenRect FormDesigner::Drag::StartOfControl(const ScreenRect& container) const
 Ref<Widget> FormDesigner::Drag::ContainerOfNew() const {
   if (!m_Designer.m_IntoFrame || !m_Designer.m_Current) return nullptr;
   const Ref<Widget> selected(dynamic_cast<Widget*>(m_Designer.m_Current->BoundObject().get()));
-  return selected && !IsType(*selected, u"Frame") ? selected->Container() : selected;
+  const bool isContainer = ClassOf(*m_Designer.m_Current).design.isContainer;
+  return selected && !isContainer ? selected->Container() : selected;
 }
 
 LeastSize FormDesigner::Drag::Least() const {
   if (!m_Control) return {};
-  const bool anyHeight = IsType(*m_Widget, u"Frame") || EqualsNoCase(m_Control->TypeName(), u"CListBox");
-  return {kLeastWidth, anyHeight ? 0 : kLeastHeight};
+  return {kMinimumDraggedWidth, ClassOf(*m_Control).design.minimumDraggedHeight};
 }
 
 bool FormDesigner::Drag::HasFixedHeight() const {
-  return m_Widget && (IsType(*m_Widget, u"AttributeSelector") || IsType(*m_Widget, u"ThemeSelector") ||
-                      IsType(*m_Widget, u"ComboBox"));
+  return m_Control && ClassOf(*m_Control).design.hasFixedHeight;
 }
 
 bool FormDesigner::Drag::Run() {

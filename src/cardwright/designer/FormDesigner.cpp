@@ -91,8 +91,7 @@ void FormDesigner::DetachSurface() {
   for (const Ref<IControl>& control : ControlsOf(*m_Controls)) {
     auto* table = dynamic_cast<TableControl*>(control.get());
     if (!table) continue;
-    if (m_Surface && !EqualsNoCase(control->TypeName(), u"CForm"))
-      Attempt([&] { m_Surface->Remove(control->Name()); });
+    if (m_Surface && dynamic_cast<Control*>(table)) Attempt([&] { m_Surface->Remove(control->Name()); });
     table->ForgetOwner();
   }
   m_Handles.reset();
@@ -122,22 +121,12 @@ Ref<IControl> FormDesigner::Form() const {
 
 std::int32_t FormDesigner::WindowHandle() const { return m_Surface ? m_Surface->WindowHandle() : 0; }
 
-ControlTypeEnum FormDesigner::ControlTypeToAdd() const {
-  const ControlKind* kind = FindKindExactly(m_Tag);
-  return kind ? kind->type : ControlTypeEnum::ctDefault;
-}
-
 void FormDesigner::SetControlTypeToAdd(ControlTypeEnum type) {
-  if (const ControlKind* kind = FindKind(type)) m_Tag = kind->word;
+  if (type == ControlTypeEnum::ctDefault || FindDrawable(type)) m_TypeToAdd = type;
 }
 
 std::vector<Ref<IControl>> FormDesigner::FilterControls(ControlTypeEnum type) const {
-  std::vector<Ref<IControl>> found;
-  const ControlClass* wanted = FindControlClass(type);
-  if (!wanted) return found;
-  for (const Ref<IControl>& control : ControlsOf(*m_Controls))
-    if (EqualsNoCase(control->TypeName(), wanted->table->className)) found.push_back(control);
-  return found;
+  return ControlsOfType(*m_Controls, type);
 }
 
 void FormDesigner::ChangeControlName(Ref<Object> control, const Text& newName) {

@@ -2,13 +2,13 @@
 
 #include <optional>
 
-#include "cardwright/designer/ControlKinds.h"
 #include "cardwright/designer/DesignClipboard.h"
 #include "cardwright/designer/DesignGrid.h"
 #include "cardwright/designer/DesignMenu.h"
 #include "cardwright/designer/GrabHandles.h"
 #include "cardwright/designer/OutlineDrag.h"
 #include "cardwright/model/CForm.h"
+#include "cardwright/model/Control.h"
 #include "cardwright/model/FormOwner.h"
 #include "cardwright/platform/PropertyBag.h"
 
@@ -79,7 +79,7 @@ class FormDesigner final : public TableObject,
   Ref<Collection> ControlCollection() const { return m_Controls; }
   Ref<IControl> CurrentControl() const override { return m_Current; }
   /// The kind that the next press on the surface draws; a number that names none is ignored.
-  ControlTypeEnum ControlTypeToAdd() const override;
+  ControlTypeEnum ControlTypeToAdd() const override { return m_TypeToAdd; }
   void SetControlTypeToAdd(ControlTypeEnum type);
   std::int32_t WindowHandle() const;
   Ref<HostWindow> Parent() const { return m_Surface ? m_Surface->Host() : nullptr; }
@@ -141,7 +141,7 @@ class FormDesigner final : public TableObject,
   class Drag;
   class Tracking;
   struct NewControl {
-    const ControlKind* kind = nullptr;
+    const ClassTable* kind = nullptr;
     Ref<Widget> container;
     Ref<Widget> widget;
     Ref<Control> control;  ///< null for a kind without a class
@@ -156,7 +156,7 @@ class FormDesigner final : public TableObject,
   /// Whether the control's widget stands on the surface.
   bool IsAlive(const IControl& control) const;
   /// Whether the next press draws a new control.
-  bool IsAdding() const noexcept { return m_Tag != Text(u"Default"); }
+  bool IsAdding() const noexcept { return m_TypeToAdd != ControlTypeEnum::ctDefault; }
   void ParkFocus();
   /// Lets the controls that follow others find them again.
   void AttachLinks();
@@ -212,7 +212,7 @@ class FormDesigner final : public TableObject,
   DesignGrid m_Grid;
   std::optional<GrabHandles> m_Handles;  // none once the surface has ended
 
-  Text m_Tag;  // word of the kind to add; a pasted type that has no kind stands here too
+  ControlTypeEnum m_TypeToAdd = ControlTypeEnum::ctDefault;
   float m_MouseDownX = 0;
   float m_MouseDownY = 0;
   std::int16_t m_NameCounter = 0;

@@ -12,29 +12,7 @@ namespace cardwright {
 namespace {
 
 constexpr std::u16string_view kObject = u"object_";
-constexpr float kColumnMargin = 4;  // pixels that a list view's edges take from its column
-
-template <std::size_t Count>
-bool IsOneOf(const IControl& control, const std::u16string_view (&classNames)[Count]) {
-  return std::ranges::any_of(
-      classNames, [&](std::u16string_view name) { return EqualsNoCase(control.TypeName(), name); });
-}
-
-constexpr std::u16string_view kOnGround[] = {u"CLabel",        u"CFrame",         u"CCheckBox",
-                                             u"COptionButton", u"CColorSelector", u"CResourceSelector",
-                                             u"CFontSelector"};
-constexpr std::u16string_view kInkOnGround[] = {u"CLabel", u"CFrame", u"CCheckBox", u"COptionButton"};
-
-bool KeepsHeight(ControlTypeEnum type) {
-  return type == ControlTypeEnum::ctComboBox || type == ControlTypeEnum::ctThemeSelector ||
-         type == ControlTypeEnum::ctAttributeSelector;
-}
-
-// The list view's only column fills it.
-void FitColumn(Widget& widget, ScaleMode scale) {
-  if (auto* list = dynamic_cast<ListViewWidget*>(&widget))
-    list->SetColumnWidth(list->Width() - PixelsToScale(kColumnMargin, scale));
-}
+constexpr std::u16string_view kSelectionState = u"Default";  // as StateChanged tells it
 
 }  // namespace
 
@@ -67,7 +45,7 @@ void FormDesigner::PlaceControl(int button, float x, float y) {
   }
   if (IsAdding()) {
     SetControlTypeToAdd(ControlTypeEnum::ctDefault);
-    Variant args[] = {Variant(m_Tag)};
+    Variant args[] = {Variant(kSelectionState)};
     Attempt([&] { RaiseEvent(u"StateChanged", args); });
   }
   if (m_Surface) m_Surface->SetPointer(PointerShape::Arrow);
@@ -77,23 +55,23 @@ void FormDesigner::PlaceControl(int button, float x, float y) {
 Ref<Widget> FormDesigner::FrameForNew() const {
   if (!m_Current || !m_IntoFrame) return nullptr;
   Ref<Widget> selected(dynamic_cast<Widget*>(m_Current->BoundObject().get()));
-  return selected && EqualsNoCase(selected->TypeName(), u"Frame") ? selected : nullptr;
+  return ClassOf(*m_Current).design.isContainer ? selected : nullptr;
 }
 
 FormDesigner::NewControl FormDesigner::CreateControl() {
-  NewControl made{.kind = FindKind(m_Tag.View()), .container = FrameForNew(), .widget = {}, .control = {}};
+  NewControl made{.kind = FindDrawable(m_TypeToAdd), .container = FrameForNew(), .widget = {}, .control = {}};
   if (!made.kind) return made;
-  made.widget = AddWidget(made.kind->identifier, made.container.get());
+  made.widget = AddWidget(made.kind->design.identifier, made.container.get());
   if (!made.widget) return made;
-  if (const ControlClass* controlClass = FindControlClass(made.kind->type)) {
-    made.control = controlClass->create();
+  if (made.kind->create) {
+    made.control = made.kind->create();
     // The number in the text is that of the object, not a count by kind.
-    if (made.kind->prefix)
-      made.widget->SetDisplayText(Text(made.kind->prefix) +
+    if (made.kind->design.captionPrefix)
+      made.widget->SetDisplayText(Text(made.kind->design.captionPrefix) +
                                   made.widget->Name().View().substr(kObject.size()));
     BindNew(made);
   }
-  if (made.kind->type != ControlTypeEnum::ctThemeSelector) made.widget->Refresh();
+  if (made.kind->design.refreshesWhenNew) made.widget->Refresh();
   return made;
 }
 
@@ -114,8 +92,9 @@ void FormDesigner::BindNew(const NewControl& made) {
   control.BindObject(made.widget);
   control.SetParentForm(Ref<Object>(this));
   control.SetName(made.widget->Name());
-  if (IsOneOf(control, kOnGround)) control.SetBackColor(Canvas().BackColor());
-  if (IsOneOf(control, kInkOnGround)) control.SetForeColor(Canvas().ForeColor());
+  const SurfaceColors colors = made.kind->design.surfaceColors;
+  if (colors != SurfaceColors::None) control.SetBackColor(Canvas().BackColor());
+  if (colors == SurfaceColors::BackAndFore) control.SetForeColor(Canvas().ForeColor());
 }
 
 void FormDesigner::SizeDrawn(const NewControl& made, float x, float y) {
@@ -128,15 +107,15 @@ void FormDesigner::SizeDrawn(const NewControl& made, float x, float y) {
   const float width = std::max(std::min(x - left, roomX - left), 0.0F);
   const float height = std::max(std::min(y - top, roomY - top), 0.0F);
   Widget& widget = *made.widget;
-  widget.Move(left, top, width, KeepsHeight(made.kind->type) ? widget.Height() : height);
-  if (made.kind->type == ControlTypeEnum::ctListBox) FitColumn(widget, Canvas().Scale());
+  widget.Move(left, top, width, made.kind->design.hasFixedHeight ? widget.Height() : height);
+  if (made.control) made.control->FinishDrawing();
 }
 
 void FormDesigner::FillPasted(const NewControl& made) {
   Attempt([&] { Canvas().SetScreenPointer(PointerShape::Hourglass); });
   m_Clipboard.PutAppearance(*made.widget);
   if (made.control) {
-    Attempt([&] { FitColumn(*made.widget, Canvas().Scale()); });
+    Attempt([&] { made.control->FinishDrawing(); });
     m_Clipboard.PutProperties(*made.control);
     Attempt([&] { made.widget->Move(0, 0, made.widget->Width(), made.widget->Height()); });
     Attempt([&] { HoldPastedSize(made); });

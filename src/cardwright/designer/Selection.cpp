@@ -9,10 +9,8 @@ constexpr int kDeleteKey = 46;
 
 }  // namespace
 
-bool FormDesigner::IsForm(const IControl& control) {
-  const Ref<Object> object = control.BoundObject();
-  return object && EqualsNoCase(object->TypeName(), u"FormDesigner");
-}
+bool FormDesigner::IsForm(const IControl& control) { const Ref<Object> object = control.BoundObject();
+  return dynamic_cast<const FormDesigner*>(object.get()); }
 
 bool FormDesigner::IsAlive(const IControl& control) const {
   const Ref<Object> widget = control.BoundObject();

@@ -1,13 +1,13 @@
 // The two ends of a drag: the designer's state around it, and what comes of it.
 
 #include "cardwright/designer/Drag.h"
+#include "cardwright/model/ControlClasses.h"
 #include "cardwright/shared/ModuleState.h"
 
 namespace cardwright {
 namespace {
 
-constexpr float kLeastWidth = 7;  // pixels of a control that was drawn by a mere click
-constexpr float kLeastHeight = 19;
+constexpr float kMinimumWidth = 7;  // pixels of a control that was drawn by a mere click
 
 }  // namespace
 
@@ -71,9 +71,10 @@ void FormDesigner::PlaceDrawn(const Drag& drag) {
   const ScaleMode scale = Canvas().Scale();
   float width = drag.Width();
   float height = drag.Height();
-  if (ScaleToPixels(width, scale) < kLeastWidth) width = PixelsToScale(kLeastWidth, scale);
-  if (ScaleToPixels(height, scale) < kLeastHeight && !EqualsNoCase(m_Tag, u"frame"))
-    height = PixelsToScale(kLeastHeight, scale);
+  if (ScaleToPixels(width, scale) < kMinimumWidth) width = PixelsToScale(kMinimumWidth, scale);
+  const ClassTable* kind = FindDrawable(m_TypeToAdd);
+  const auto minimumHeight = static_cast<float>(kind ? kind->design.minimumDrawnHeight : 0);
+  if (ScaleToPixels(height, scale) < minimumHeight) height = PixelsToScale(minimumHeight, scale);
   m_MouseDownX = drag.Left();
   m_MouseDownY = drag.Top();
   m_Tracking = false;

@@ -68,7 +68,16 @@ struct CAttributeSelector::Tables {
 
 constinit const ClassTable CAttributeSelector::kTable =
     DefineClass<Tables::kRows, kNoRows, Tables::kKeys, Tables::kEvents>(
-        u"CAttributeSelector", u"CardwrightCtrl.AttributeSelector", u"attributeselector");
+        {.className = u"CAttributeSelector",
+         .type = ControlTypeEnum::ctAttributeSelector,
+         .typeText = u"attributeselector",
+         .widgetIdentifier = u"CardwrightCtrl.AttributeSelector",
+         .create = MakeControl<CAttributeSelector>,
+         .design = {.displayName = "Attribute selector",
+                    .defaultWidth = 144,
+                    .defaultHeight = 24,
+                    .hasFixedHeight = true},
+         .value = {.row = u"Text", .requiredRow = u"Text", .followsOthers = true}});
 
 // Without a theme selector the feature selector is left alone too: a type of features says nothing without a
 // theme. The text of the project was read before there were links, and so before there was a list.

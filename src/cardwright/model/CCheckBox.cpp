@@ -22,8 +22,19 @@ struct CCheckBox::Tables {
 };
 
 constinit const ClassTable CCheckBox::kTable =
-    DefineClass<Tables::kRows, Tables::kHidden, Tables::kKeys, Tables::kEvents>(u"CCheckBox", u"vb.checkbox",
-                                                                                u"CheckBox");
+    DefineClass<Tables::kRows, Tables::kHidden, Tables::kKeys, Tables::kEvents>(
+        {.className = u"CCheckBox",
+         .type = ControlTypeEnum::ctCheckBox,
+         .typeText = u"CheckBox",
+         .widgetIdentifier = u"vb.checkbox",
+         .create = MakeControl<CCheckBox>,
+         .design = {.identifier = u"VB.CheckBox",
+                    .displayName = "Check box",
+                    .captionPrefix = u"CheckBox",
+                    .surfaceColors = SurfaceColors::BackAndFore,
+                    .defaultWidth = 128,
+                    .defaultHeight = 24},
+         .value = {.row = u"Selected"}});
 
 bool CCheckBox::Accepts(const Widget& widget) const {
   const auto* state = dynamic_cast<const StateWidget*>(&widget);

@@ -27,7 +27,15 @@ struct CColorSelector::Tables {
 
 constinit const ClassTable CColorSelector::kTable =
     DefineClass<Tables::kRows, kNoRows, Tables::kKeys, Tables::kEvents>(
-        u"CColorSelector", u"CardwrightCtrl.ColorSelector", u"colorselector");
+        {.className = u"CColorSelector",
+         .type = ControlTypeEnum::ctColorSelector,
+         .typeText = u"colorselector",
+         .widgetIdentifier = u"CardwrightCtrl.ColorSelector",
+         .create = MakeControl<CColorSelector>,
+         .design = {.displayName = "Colour selector",
+                    .surfaceColors = SurfaceColors::Back,
+                    .defaultWidth = 64,
+                    .defaultHeight = 24}});
 
 Text CColorSelector::Value(std::optional<Variant> params) const {
   return BoundAs<ColorSelectorWidget>(*this).Value(TemplateOf(params, m_MaskValue));

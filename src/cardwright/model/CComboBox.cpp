@@ -30,8 +30,18 @@ struct CComboBox::Tables {
 };
 
 constinit const ClassTable CComboBox::kTable =
-    DefineClass<Tables::kRows, kNoRows, Tables::kKeys, Tables::kEvents>(u"CComboBox", u"vb.combobox",
-                                                                        u"ComboBox");
+    DefineClass<Tables::kRows, kNoRows, Tables::kKeys, Tables::kEvents>(
+        {.className = u"CComboBox",
+         .type = ControlTypeEnum::ctComboBox,
+         .typeText = u"ComboBox",
+         .widgetIdentifier = u"vb.combobox",
+         .create = MakeControl<CComboBox>,
+         .design = {.identifier = u"VB.ComboBox",
+                    .displayName = "Combo box",
+                    .captionPrefix = u"ComboBox",
+                    .defaultWidth = 144,
+                    .defaultHeight = 24,
+                    .hasFixedHeight = true}});
 
 ComboWidget& CComboBox::Box() const {
   if (!Bound()) Raise(ErrorNumber::ObjectNotSet);
@@ -39,8 +49,25 @@ ComboWidget& CComboBox::Box() const {
 }
 
 Text CComboBox::Value(std::optional<Variant>) const {
-  const Ref<CItem> item = m_Items->Item(Variant(Box().ListIndex() + 1));
+  const Ref<CItem> item = CurrentItem();
   return item ? item->m_Value : Text();
+}
+
+void CComboBox::ShowValue(const Text&, const Text& value) {
+  const std::int32_t position = m_Items->FindValue(value);
+  if (position > 0) Box().SetListIndex(position - 1);
+  if (TakesTyping() && Box().DisplayText() != value) SelectText(value);
+}
+
+bool CComboBox::TakeValue(Text& value) const {
+  const Ref<CItem> item = CurrentItem();
+  value = item ? item->m_Value : Box().DisplayText();
+  return true;
+}
+
+void CComboBox::TakeRequiredValue(Text& value) const {
+  value = Box().DisplayText();
+  if (m_Items->Count() > 0 && Box().ListIndex() < 0) value = Text();
 }
 
 void CComboBox::FillWidget() {

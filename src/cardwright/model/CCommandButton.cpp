@@ -13,6 +13,15 @@ struct CCommandButton::Tables {
 
 constinit const ClassTable CCommandButton::kTable =
     DefineClass<Tables::kRows, kNoRows, Tables::kKeys, Tables::kEvents>(
-        u"CCommandButton", u"vb.commandbutton", u"CommandButton");
+        {.className = u"CCommandButton",
+         .type = ControlTypeEnum::ctCommandButton,
+         .typeText = u"CommandButton",
+         .widgetIdentifier = u"vb.commandbutton",
+         .create = MakeControl<CCommandButton>,
+         .design = {.identifier = u"VB.CommandButton",
+                    .displayName = "Button",
+                    .captionPrefix = u"CommandButton",
+                    .defaultWidth = 96,
+                    .defaultHeight = 32}});
 
 }  // namespace cardwright

@@ -17,6 +17,7 @@ class CCommandButton final : public Control {
   void SetForeColor(OleColor) override {}
   /// Always "": a button feeds no attribute.
   Text Value(std::optional<Variant> = {}) const override { return {}; }
+  bool TakeValue(Text&) const override { return false; }
 
  protected:
   bool Accepts(const Widget& widget) const override { return widget.TypeName() == kTable.typeText; }

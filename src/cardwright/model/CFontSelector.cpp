@@ -35,7 +35,15 @@ struct CFontSelector::Tables {
 
 constinit const ClassTable CFontSelector::kTable =
     DefineClass<Tables::kRows, Tables::kHidden, Tables::kKeys, Tables::kEvents>(
-        u"CFontSelector", u"CardwrightCtrl.FontSelector", u"fontselector");
+        {.className = u"CFontSelector",
+         .type = ControlTypeEnum::ctFontSelector,
+         .typeText = u"fontselector",
+         .widgetIdentifier = u"CardwrightCtrl.FontSelector",
+         .create = MakeControl<CFontSelector>,
+         .design = {.displayName = "Font selector",
+                    .surfaceColors = SurfaceColors::Back,
+                    .defaultWidth = 144,
+                    .defaultHeight = 32}});
 
 Text CFontSelector::Value(std::optional<Variant> params) const {
   return BoundAs<FontSelectorWidget>(*this).Value(TemplateOf(params, m_MaskValue));

@@ -66,7 +66,7 @@ struct CForm::Tables {
 };
 
 constinit const ClassTable CForm::kTable =
-    DefineClass<Tables::kRows, Tables::kHidden, Tables::kKeys, Tables::kEvents>(u"CForm", u"", u"");
+    DefineClass<Tables::kRows, Tables::kHidden, Tables::kKeys, Tables::kEvents>({.className = u"CForm"});
 
 // A new form begins without a script: the last form made or read on a thread owns the script that it runs.
 CForm::CForm() : TableControl(kTable) {

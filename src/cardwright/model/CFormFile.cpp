@@ -122,13 +122,12 @@ void CForm::ReadTheme(const CIni& ini) {
 
 void CForm::ReadControl(const Text& filePath, const CIni& ini, int number) {
   const Text section = ControlSection(number);
-  const Text identifier = WidgetIdentifier(ToText(ini.GetValue(section, u"Type", Variant(u""))));
-  const ControlClass* controlClass = FindControlClass(identifier);
+  const ClassTable* controlClass = FindControlClass(ToText(ini.GetValue(section, u"Type", Variant(u""))));
   if (!controlClass) return;
   const Text containerName = ToText(ini.GetValue(section, u"Container", Variant(u"")));
   const Text defaultName = Text(u"object_") + ToText(Variant(number + 1));
   const Text name = ToText(ini.GetValue(section, u"Name", Variant(defaultName)));
-  const Ref<Widget> widget = AddWidget(Canvas(), identifier, name, containerName);
+  const Ref<Widget> widget = AddWidget(Canvas(), controlClass->widgetIdentifier, name, containerName);
   if (!widget) return;
 
   const Ref<Control> control = controlClass->create();

@@ -13,7 +13,21 @@ struct CFrame::Tables {
 };
 
 constinit const ClassTable CFrame::kTable =
-    DefineClass<Tables::kRows, kNoRows, Tables::kKeys, Tables::kEvents>(u"CFrame", u"vb.frame", u"Frame");
+    DefineClass<Tables::kRows, kNoRows, Tables::kKeys, Tables::kEvents>(
+        {.className = u"CFrame",
+         .type = ControlTypeEnum::ctFrame,
+         .typeText = u"Frame",
+         .widgetIdentifier = u"vb.frame",
+         .create = MakeControl<CFrame>,
+         .design = {.identifier = u"VB.Frame",
+                    .displayName = "Frame",
+                    .captionPrefix = u"Frame",
+                    .surfaceColors = SurfaceColors::BackAndFore,
+                    .defaultWidth = 240,
+                    .defaultHeight = 120,
+                    .minimumDrawnHeight = 0,
+                    .minimumDraggedHeight = 0,
+                    .isContainer = true}});
 
 bool CFrame::IsDrawing() const {
   return Designer() && Designer()->ControlTypeToAdd() != ControlTypeEnum::ctDefault;

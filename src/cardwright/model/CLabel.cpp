@@ -13,6 +13,18 @@ struct CLabel::Tables {
 };
 
 constinit const ClassTable CLabel::kTable =
-    DefineClass<Tables::kRows, kNoRows, Tables::kKeys, Tables::kEvents>(u"CLabel", u"vb.label", u"Label");
+    DefineClass<Tables::kRows, kNoRows, Tables::kKeys, Tables::kEvents>(
+        {.className = u"CLabel",
+         .type = ControlTypeEnum::ctLabel,
+         .typeText = u"Label",
+         .widgetIdentifier = u"vb.label",
+         .create = MakeControl<CLabel>,
+         .design = {.identifier = u"VB.Label",
+                    .displayName = "Label",
+                    .captionPrefix = u"Label",
+                    .surfaceColors = SurfaceColors::BackAndFore,
+                    .defaultWidth = 96,
+                    .defaultHeight = 20,
+                    .hasWindow = false}});
 
 }  // namespace cardwright

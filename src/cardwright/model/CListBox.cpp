@@ -40,7 +40,16 @@ struct CListBox::Tables {
 
 constinit const ClassTable CListBox::kTable =
     DefineClass<Tables::kRows, Tables::kHidden, Tables::kKeys, Tables::kEvents>(
-        u"CListBox", u"MSComctlLib.ListViewCtrl.2", u"ListBox");
+        {.className = u"CListBox",
+         .type = ControlTypeEnum::ctListBox,
+         .typeText = u"ListBox",
+         .widgetIdentifier = u"MSComctlLib.ListViewCtrl.2",
+         .create = MakeControl<CListBox>,
+         .design = {.identifier = u"MsComCtlLib.ListViewCtrl.2",
+                    .displayName = "List box",
+                    .defaultWidth = 144,
+                    .defaultHeight = 96,
+                    .minimumDraggedHeight = 0}});
 
 ListViewWidget& CListBox::View() const {
   if (!Bound()) Raise(ErrorNumber::ObjectNotSet);
@@ -67,6 +76,16 @@ Ref<CItem> CListBox::CurrentItem() const {
 Text CListBox::Value(std::optional<Variant>) const {
   const Ref<CItem> item = CurrentItem();
   return item ? item->m_Value : Text();
+}
+
+void CListBox::ShowValue(const Text&, const Text& value) {
+  const std::int32_t position = m_Items->FindValue(value);
+  if (position > 0) View().SelectRow(position);
+}
+
+bool CListBox::TakeValue(Text& value) const {
+  if (const Ref<CItem> item = CurrentItem()) value = item->m_Value;
+  return true;
 }
 
 void CListBox::FillWidget() {
@@ -100,9 +119,12 @@ void CListBox::SetMultiSelect(const Variant& value) {
   View().Refresh();
 }
 
-void CListBox::FitColumn() {
-  const float margin = Input() ? PixelsToScale(kColumnMargin, Module().formScaleMode) : 0;
-  View().SetColumnWidth(View().Width() - margin);
+void CListBox::FitColumn(float margin, ScaleMode scale) {
+  View().SetColumnWidth(View().Width() - PixelsToScale(margin, scale));
+}
+
+void CListBox::FinishDrawing() {
+  if (Surface* surface = OwnerSurface()) FitColumn(kColumnMargin, surface->Scale());
 }
 
 void CListBox::FinishRead(const CIni& ini, const Text& sectionName) {
@@ -112,7 +134,9 @@ void CListBox::FinishRead(const CIni& ini, const Text& sectionName) {
   } else {
     FillWidget();
   }
-  Attempt([&] { FitColumn(); });  // a list narrower than the margin keeps its column
+  Attempt([&] {
+    FitColumn(Input() ? kColumnMargin : 0, Module().formScaleMode);
+  });  // a list narrower than the margin keeps its column
   if (!Input() || m_Text.IsEmpty()) return;
   SelectStoredText();
   const int selected = View().SelectedRow();

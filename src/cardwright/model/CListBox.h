@@ -17,6 +17,10 @@ class CListBox final : public Control {
   Text Value(std::optional<Variant> params = {}) const override;
   /// Fills the widget from the items, as a grid asks for after it edited them.
   void Refresh() override;
+  void ShowValue(const Text& attribute, const Text& value) override;
+  /// Without a selected entry `value` stays, as forms have always written it.
+  bool TakeValue(Text& value) const override;
+  void FinishDrawing() override;
 
   Ref<CItems> m_Items = MakeRef<CItems>();
 
@@ -34,7 +38,8 @@ class CListBox final : public Control {
   void ShowName();
   void SelectStoredText();
   void SetMultiSelect(const Variant& value);
-  void FitColumn();
+  /// The only column fills the view, less a margin in pixels.
+  void FitColumn(float margin, ScaleMode scale);
 
   Text m_Text;
 };

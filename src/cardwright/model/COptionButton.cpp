@@ -19,8 +19,18 @@ struct COptionButton::Tables {
 };
 
 constinit const ClassTable COptionButton::kTable =
-    DefineClass<Tables::kRows, kNoRows, Tables::kKeys, Tables::kEvents>(u"COptionButton", u"vb.optionbutton",
-                                                                        u"OptionButton");
+    DefineClass<Tables::kRows, kNoRows, Tables::kKeys, Tables::kEvents>(
+        {.className = u"COptionButton",
+         .type = ControlTypeEnum::ctOptionButton,
+         .typeText = u"OptionButton",
+         .widgetIdentifier = u"vb.optionbutton",
+         .create = MakeControl<COptionButton>,
+         .design = {.identifier = u"VB.OptionButton",
+                    .displayName = "Option button",
+                    .captionPrefix = u"OptionButton",
+                    .surfaceColors = SurfaceColors::BackAndFore,
+                    .defaultWidth = 128,
+                    .defaultHeight = 24}});
 
 bool COptionButton::Accepts(const Widget& widget) const {
   const auto* state = dynamic_cast<const StateWidget*>(&widget);
@@ -29,6 +39,23 @@ bool COptionButton::Accepts(const Widget& widget) const {
 
 Text COptionButton::Value(std::optional<Variant>) const {
   return FlagIsSet(ReadSelected()) ? m_Value : Text();
+}
+
+void COptionButton::ShowValue(const Text& attribute, const Text& value) {
+  const Ref<Widget> container = Box().Container();
+  if (!Owner()) return;
+  for (const Ref<IControl>& each : ControlsOf(Owner()->Controls())) {
+    auto* button = dynamic_cast<COptionButton*>(each.get());
+    if (!button || !button->Bound() || button->Bound()->Container() != container) continue;
+    if (button->m_Attribute != attribute || button->m_Value != value) continue;
+    return button->SetRow(u"Selected", Variant(true));
+  }
+}
+
+bool COptionButton::TakeValue(Text& value) const {
+  if (Box().State() == 0) return false;
+  value = m_Value;
+  return true;
 }
 
 }  // namespace cardwright

@@ -12,6 +12,10 @@ class COptionButton final : public StateControl {
 
   /// The button's text while it is selected, else "".
   Text Value(std::optional<Variant> params = {}) const override;
+  /// Selects the button of the group that stands for the value.
+  void ShowValue(const Text& attribute, const Text& value) override;
+  /// Only the selected button of a group writes.
+  bool TakeValue(Text& value) const override;
 
  protected:
   bool Accepts(const Widget& widget) const override;

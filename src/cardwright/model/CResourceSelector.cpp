@@ -51,7 +51,16 @@ struct CResourceSelector::Tables {
 
 constinit const ClassTable CResourceSelector::kTable =
     DefineClass<Tables::kRows, kNoRows, Tables::kKeys, Tables::kEvents>(
-        u"CResourceSelector", u"CardwrightCtrl.ResourceSelector", u"resourceselector");
+        {.className = u"CResourceSelector",
+         .type = ControlTypeEnum::ctResourceSelector,
+         .typeText = u"resourceselector",
+         .widgetIdentifier = u"CardwrightCtrl.ResourceSelector",
+         .create = MakeControl<CResourceSelector>,
+         .design = {.displayName = "File selector",
+                    .surfaceColors = SurfaceColors::Back,
+                    .defaultWidth = 208,
+                    .defaultHeight = 24},
+         .value = {.row = u"Path", .requiredRow = u"Path"}});
 
 ResourceSelectorWidget& CResourceSelector::Selector() const { return BoundAs<ResourceSelectorWidget>(*this); }
 

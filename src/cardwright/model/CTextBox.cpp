@@ -22,8 +22,18 @@ struct CTextBox::Tables {
 };
 
 constinit const ClassTable CTextBox::kTable =
-    DefineClass<Tables::kRows, kNoRows, Tables::kKeys, Tables::kEvents>(u"CTextBox", u"vb.textbox",
-                                                                        u"TextBox");
+    DefineClass<Tables::kRows, kNoRows, Tables::kKeys, Tables::kEvents>(
+        {.className = u"CTextBox",
+         .type = ControlTypeEnum::ctTextBox,
+         .typeText = u"TextBox",
+         .widgetIdentifier = u"vb.textbox",
+         .create = MakeControl<CTextBox>,
+         .design = {.identifier = u"VB.TextBox",
+                    .displayName = "Text box",
+                    .captionPrefix = u"Text",
+                    .defaultWidth = 144,
+                    .defaultHeight = 24},
+         .value = {.row = u"Text", .requiredRow = u"Text"}});
 
 bool CTextBox::Accepts(const Widget& widget) const { return EqualsNoCase(widget.TypeName(), u"TextBox"); }
 

@@ -19,7 +19,16 @@ struct CTextBoxMultiline::Tables {
 
 constinit const ClassTable CTextBoxMultiline::kTable =
     DefineClass<Tables::kRows, kNoRows, Tables::kKeys, Tables::kEvents>(
-        u"CTextBoxMultiline", u"CardwrightCtrl.MultilineTextBox", u"textboxmultiline");
+        {.className = u"CTextBoxMultiline",
+         .type = ControlTypeEnum::ctTextBoxMultiline,
+         .typeText = u"textboxmultiline",
+         .widgetIdentifier = u"CardwrightCtrl.MultilineTextBox",
+         .create = MakeControl<CTextBoxMultiline>,
+         .design = {.displayName = "Text box, lines",
+                    .captionPrefix = u"Text",
+                    .defaultWidth = 192,
+                    .defaultHeight = 72},
+         .value = {.row = u"Text", .requiredRow = u"Text"}});
 
 bool CTextBoxMultiline::Accepts(const Widget& widget) const {
   return EqualsNoCase(widget.TypeName(), u"MultilineTextBox");

@@ -25,7 +25,17 @@ struct CThemeSelector::Tables {
 
 constinit const ClassTable CThemeSelector::kTable =
     DefineClass<Tables::kRows, kNoRows, Tables::kKeys, Tables::kEvents>(
-        u"CThemeSelector", u"CardwrightCtrl.ThemeSelector", u"themeselector");
+        {.className = u"CThemeSelector",
+         .type = ControlTypeEnum::ctThemeSelector,
+         .typeText = u"themeselector",
+         .widgetIdentifier = u"CardwrightCtrl.ThemeSelector",
+         .create = MakeControl<CThemeSelector>,
+         .design = {.displayName = "Theme selector",
+                    .defaultWidth = 144,
+                    .defaultHeight = 24,
+                    .hasFixedHeight = true,
+                    .refreshesWhenNew = false},
+         .value = {.row = u"Text", .requiredRow = u"Text"}});
 
 void CThemeSelector::FillList() {
   HandOverConnection();

@@ -5,11 +5,13 @@
 #include <span>
 #include <string_view>
 
+#include "cardwright/automation/Ref.h"
 #include "cardwright/automation/Variant.h"
 #include "cardwright/model/Enums.h"
 
 namespace cardwright {
 
+class Control;
 class TableControl;
 
 /// How a value of a control is got and set. A null `set` ignores the value.
@@ -47,17 +49,54 @@ struct FileKey {
   const char16_t* fallback = nullptr;  ///< for a missing key; the current value where null
 };
 
+/// Colours that a new control takes from the surface on which it is drawn.
+enum class SurfaceColors { None, Back, BackAndFore };
+
+/// How a control of a class is drawn and dragged on the design surface. Lengths are in pixels.
+struct DesignTraits {
+  static constexpr int kMinimumHeight = 19;
+
+  /// Passed to the widget factory for a new control; by default the one of reading. Hosts with a factory of
+  /// their own have seen both spellings where they differ.
+  std::u16string_view identifier = {};
+  const char* displayName = "";             ///< what a person calls the kind, for translation by the program
+  const char16_t* captionPrefix = nullptr;  ///< of a new control's caption, before its number; null for none
+  SurfaceColors surfaceColors = SurfaceColors::None;
+  int defaultWidth = 0;  ///< of a control that is added without being drawn
+  int defaultHeight = 0;
+  int minimumDrawnHeight = kMinimumHeight;    ///< of a new control
+  int minimumDraggedHeight = kMinimumHeight;  ///< of a control that is resized by its handles
+  bool hasFixedHeight = false;                ///< the widget's font decides the height
+  bool hasWindow = true;     ///< false: its place on the screen is computed from its place in the container
+  bool isContainer = false;  ///< other controls can be drawn inside
+  bool refreshesWhenNew = true;  ///< false where a refresh would ask the host
+};
+
+/// How the value of a feature attribute enters a control of the class and is checked before it leaves.
+struct ValueTraits {
+  /// Row that shows the value; "" where the class overrides ShowValue or has no value.
+  std::u16string_view row = {};
+  /// Row that must not be empty in a needed control; "" where the class is not checked.
+  std::u16string_view requiredRow = {};
+  bool followsOthers = false;  ///< the choices depend on what other controls show
+};
+
 /// Everything that one control class is, as the reference page of the class tells it.
 struct ClassTable {
-  std::u16string_view className;         ///< "CLabel"
-  std::u16string_view widgetIdentifier;  ///< what the owner passes to its widget factory
-  std::u16string_view typeText;          ///< `Type` as written to a project
-  std::span<const PropertyRow> rows;     ///< in grid order
-  std::span<const PropertyRow> hidden;   ///< answered, but shown in no grid
-  std::span<const FileKey> keys;         ///< between `UserName` and `Container`, in writing order
-  std::span<const std::u16string_view> events;
-  std::span<const std::u16string_view> rowNames;  ///< of `rows`
-  std::u16string_view hiddenNames;                ///< of `hidden`, separated by ";"
+  std::u16string_view className = {};                 ///< "CLabel"
+  ControlTypeEnum type = ControlTypeEnum::ctDefault;  ///< ctDefault for the form itself
+  std::u16string_view typeText = {};                  ///< `Type` as written to a project
+  std::u16string_view widgetIdentifier = {};          ///< passed to the widget factory by the reader
+  Ref<Control> (*create)() = nullptr;                 ///< null where there is no control to create
+  DesignTraits design = {};
+  ValueTraits value = {};
+
+  std::span<const PropertyRow> rows = {};    ///< in grid order
+  std::span<const PropertyRow> hidden = {};  ///< answered, but shown in no grid
+  std::span<const FileKey> keys = {};        ///< between `UserName` and `Container`, in writing order
+  std::span<const std::u16string_view> events = {};
+  std::span<const std::u16string_view> rowNames = {};  ///< of `rows`
+  std::u16string_view hiddenNames = {};                ///< of `hidden`, separated by ";"
 };
 
 namespace detail {
@@ -131,10 +170,9 @@ constexpr auto Keys(std::array<FileKey, Sizes>... groups) {
 using KeyGroup = std::array<FileKey, 1>;
 /// @}
 
-/// Puts the lists of a class together; a row, key or event that stands twice does not compile.
+/// Completes the table of a class with its lists; a row, key or event that is listed twice does not compile.
 template <const auto& Rows, const auto& Hidden, const auto& Keys, const auto& Events>
-consteval ClassTable DefineClass(std::u16string_view className, std::u16string_view widgetIdentifier,
-                                 std::u16string_view typeText) {
+consteval ClassTable DefineClass(ClassTable table) {
   detail::RequireUnique(Rows);
   detail::RequireUnique(Keys);
   detail::RequireUnique(Events);
@@ -142,15 +180,14 @@ consteval ClassTable DefineClass(std::u16string_view className, std::u16string_v
     for (const PropertyRow& row : Rows)
       if (detail::SameName(hidden.name, row.name)) throw "a hidden row stands in the grid as well";
   constexpr const auto& joined = detail::kJoinedNames<Hidden>;
-  return {.className = className,
-          .widgetIdentifier = widgetIdentifier,
-          .typeText = typeText,
-          .rows = Rows,
-          .hidden = Hidden,
-          .keys = Keys,
-          .events = Events,
-          .rowNames = detail::kNames<Rows>,
-          .hiddenNames = {joined.data(), joined.empty() ? 0 : joined.size() - 1}};
+  if (table.design.identifier.empty()) table.design.identifier = table.widgetIdentifier;
+  table.rows = Rows;
+  table.hidden = Hidden;
+  table.keys = Keys;
+  table.events = Events;
+  table.rowNames = detail::kNames<Rows>;
+  table.hiddenNames = {joined.data(), joined.empty() ? 0 : joined.size() - 1};
+  return table;
 }
 
 }  // namespace cardwright

@@ -25,6 +25,12 @@ const C& As(const TableControl& control) noexcept {
   return static_cast<const C&>(control);
 }
 
+/// How the table of a class creates its objects.
+template <class C>
+Ref<Control> MakeControl() {
+  return MakeRef<C>();
+}
+
 /// A text that is stored as it is handed in.
 template <auto Member>
 inline constexpr Field Stored{

@@ -112,6 +112,19 @@ void Control::Refresh() {
   if (m_Obj) m_Obj->Refresh();
 }
 
+void Control::ShowValue(const Text&, const Text& value) {
+  if (!Table().value.row.empty()) SetRow(Table().value.row, value);
+}
+
+bool Control::TakeValue(Text& value) const {
+  value = Value();
+  return true;
+}
+
+void Control::TakeRequiredValue(Text& value) const {
+  if (!Table().value.requiredRow.empty()) value = RowText(Table().value.requiredRow);
+}
+
 void Control::OnClick() {
   if (!Designer()) return RunScriptEvent(u"OnClick");
   if (ClickSelects() && !Module().designDragging) SelectInDesigner();

@@ -37,6 +37,22 @@ class Control : public TableControl, protected WidgetListener {
   /// What the row `Attribute` holds; a class without that row never has one.
   Text AttributeName() const override { return m_Attribute; }
 
+  /// @name The value of the bound feature attribute.
+  /// @{
+  /// Limits what can be typed to the attribute's length and type, in classes that take typed text.
+  virtual void LimitInput(std::int32_t /*maxLength*/, InputTypeEnum /*type*/) {}
+  /// Shows a value that was read from `attribute`: in the class's row, unless the class has a way of its own.
+  virtual void ShowValue(const Text& attribute, const Text& value);
+  /// Puts what is to be written to the attribute into `value`. False where nothing is to be written. A class
+  /// may leave `value` unchanged, and then the value of the control before it is written again.
+  virtual bool TakeValue(Text& value) const;
+  /// Puts what a needed control must have into `value`; "" is a missing value. A class without a check leaves
+  /// `value` unchanged, so it is judged by the needed control before it.
+  virtual void TakeRequiredValue(Text& value) const;
+  /// @}
+  /// The last step of drawing or pasting a new control, when its widget has its size.
+  virtual void FinishDrawing() {}
+
   /// The bound widget, or null.
   Widget* Bound() const noexcept { return m_Obj.get(); }
 

@@ -1,5 +1,7 @@
 #include "cardwright/model/ControlClasses.h"
 
+#include <algorithm>
+
 #include "cardwright/model/CAttributeSelector.h"
 #include "cardwright/model/CCheckBox.h"
 #include "cardwright/model/CColorSelector.h"
@@ -18,64 +20,66 @@
 namespace cardwright {
 namespace {
 
-template <class C>
-constexpr ControlClass Class(ControlTypeEnum type) {
-  return {type, &C::kTable, [] { return Ref<Control>(MakeRef<C>()); }};
+std::vector<const ClassTable*>& Registry() {
+  static std::vector<const ClassTable*> classes = {
+      &CLabel::kTable,
+      &CTextBox::kTable,
+      &CTextBoxMultiline::kTable,
+      &CCheckBox::kTable,
+      &COptionButton::kTable,
+      &CComboBox::kTable,
+      &CListBox::kTable,
+      &CFrame::kTable,
+      &CCommandButton::kTable,
+      &CResourceSelector::kTable,
+      &CThemeSelector::kTable,
+      &CAttributeSelector::kTable,
+      &CFontSelector::kTable,
+      &CColorSelector::kTable,
+  };
+  return classes;
 }
 
-using enum ControlTypeEnum;
-constexpr ControlClass kClasses[] = {
-    Class<CLabel>(ctLabel),
-    Class<CTextBox>(ctTextBox),
-    Class<CFrame>(ctFrame),
-    Class<CCheckBox>(ctCheckBox),
-    Class<COptionButton>(ctOptionButton),
-    Class<CComboBox>(ctComboBox),
-    Class<CCommandButton>(ctCommandButton),
-    Class<CTextBoxMultiline>(ctTextBoxMultiline),
-    Class<CResourceSelector>(ctResourceSelector),
-    Class<CThemeSelector>(ctThemeSelector),
-    Class<CAttributeSelector>(ctAttributeSelector),
-    Class<CFontSelector>(ctFontSelector),
-    Class<CColorSelector>(ctColorSelector),
-    Class<CListBox>(ctListBox),
-};
+constexpr ClassTable kDbTableViewer = {.type = ControlTypeEnum::ctDbTableViewer,
+                                       .design = {.identifier = u"CardwrightCtrl.DbTableViewer"}};
 
-struct FixedType {
-  std::u16string_view type;
-  std::u16string_view identifier;
-};
-constexpr FixedType kFixedTypes[] = {
-    {u"textboxmultiline", u"CardwrightCtrl.MultilineTextBox"},
-    {u"resourceselector", u"CardwrightCtrl.ResourceSelector"},
-    {u"themeselector", u"CardwrightCtrl.ThemeSelector"},
-    {u"dbtableviewer", u"CardwrightCtrl.DbTableViewer"},
-    {u"attributeselector", u"CardwrightCtrl.AttributeSelector"},
-    {u"fontselector", u"CardwrightCtrl.FontSelector"},
-    {u"colorselector", u"CardwrightCtrl.ColorSelector"},
-    {u"listbox", u"MSComctlLib.ListViewCtrl.2"},
-};
+template <class Matches>
+const ClassTable* FindClass(Matches&& matches) {
+  const auto classes = ControlClasses();
+  const auto found = std::ranges::find_if(classes, [&](const ClassTable* table) { return matches(*table); });
+  return found == classes.end() ? nullptr : *found;
+}
 
 }  // namespace
 
-std::span<const ControlClass> ControlClasses() noexcept { return kClasses; }
+std::span<const ClassTable* const> ControlClasses() { return Registry(); }
 
-Text WidgetIdentifier(std::u16string_view type) {
-  for (const FixedType& fixed : kFixedTypes)
-    if (EqualsNoCase(fixed.type, type)) return fixed.identifier;
-  return Text(u"vb.") + ToLower(type);
+void AddControlClass(const ClassTable& table) { Registry().push_back(&table); }
+
+const ClassTable* FindControlClass(ControlTypeEnum type) {
+  return FindClass([&](const ClassTable& table) { return table.type == type; });
 }
 
-const ControlClass* FindControlClass(std::u16string_view widgetIdentifier) noexcept {
-  for (const ControlClass& candidate : kClasses)
-    if (candidate.table->widgetIdentifier == widgetIdentifier) return &candidate;
-  return nullptr;
+const ClassTable* FindControlClass(std::u16string_view typeText) {
+  return FindClass([&](const ClassTable& table) { return EqualsNoCase(table.typeText, typeText); });
 }
 
-const ControlClass* FindControlClass(ControlTypeEnum type) noexcept {
-  for (const ControlClass& candidate : kClasses)
-    if (candidate.type == type) return &candidate;
-  return nullptr;
+const ClassTable* FindDrawable(ControlTypeEnum type) {
+  return type == kDbTableViewer.type ? &kDbTableViewer : FindControlClass(type);
+}
+
+const ClassTable& ClassOf(const IControl& control) noexcept {
+  static constexpr ClassTable kNoClass{};
+  const auto* element = dynamic_cast<const TableControl*>(&control);
+  return element ? element->Table() : kNoClass;
+}
+
+std::vector<Ref<IControl>> ControlsOfType(const Collection& controls, ControlTypeEnum type) {
+  std::vector<Ref<IControl>> found;
+  if (type == ControlTypeEnum::ctDefault) return found;
+  for (const Ref<IControl>& control : ControlsOf(controls))
+    if (ClassOf(*control).type == type) found.push_back(control);
+  return found;
 }
 
 }  // namespace cardwright

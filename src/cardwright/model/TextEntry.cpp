@@ -11,6 +11,12 @@ void TextEntry::OnGotFocus() {
   Control::OnGotFocus();
 }
 
+void TextEntry::LimitInput(std::int32_t maxLength, InputTypeEnum type) {
+  if (!Bound()) return;
+  if (LimitsLength()) Attempt([&] { static_cast<TextWidget*>(Bound())->SetMaxLength(maxLength); });
+  Bound()->SetTag(ToText(Variant(static_cast<std::int32_t>(type))));
+}
+
 // The Tag picks the filter: "1" lets an integer through, "2" a number with the system's decimal separator.
 // Once a mode stands there it stays, whatever is set on the control later.
 void TextEntry::OnKeyPress(char16_t& key) {

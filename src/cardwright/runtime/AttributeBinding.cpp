@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "cardwright/runtime/ControlValues.h"
+#include "cardwright/model/Control.h"
 #include "cardwright/runtime/FormInput.h"
 #include "cardwright/runtime/RedrawPause.h"
 #include "cardwright/shared/HostExecutor.h"
@@ -27,6 +27,11 @@ double SelectFeature(const FeaturePlace& place, const Text& id) {
   return RequestNumber(commands::CurrentIsValid(place)) == 0 ? 0 : count;
 }
 
+InputTypeEnum InputTypeOf(const CAttrib& attrib) {
+  if (attrib.m_AttribType == AttributeTypeEnum::atCharacter) return InputTypeEnum::itString;
+  return attrib.m_Decs < 1 ? InputTypeEnum::itInteger : InputTypeEnum::itFloat;
+}
+
 // Each control whose attribute the theme has, as it is bound when its turn comes.
 template <class Use>
 void ForEachBound(FormInput& form, const CAttribs& attribs, Use&& use) {
@@ -42,7 +47,7 @@ void ForEachBound(FormInput& form, const CAttribs& attribs, Use&& use) {
 class LateValues {
  public:
   void Note(Control& control, const Text& reply) {
-    if (FollowsOthers(control)) m_Values.push_back({Ref<Control>(&control), reply});
+    if (control.Table().value.followsOthers) m_Values.push_back({Ref<Control>(&control), reply});
   }
   void Show() const {
     for (const Value& late : m_Values)
@@ -64,10 +69,10 @@ void LoadControls(FormInput& form, const FeaturePlace& place, const CAttribs& at
   const bool limitsOnly = IsBlank(form.FeatureID()) || form.NewFeature();
   LateValues late;
   ForEachBound(form, attribs, [&](Control& control, const CAttrib& attrib) {
-    Attempt([&] { LimitInput(control, attrib); });
+    Attempt([&] { control.LimitInput(attrib.m_Length, InputTypeOf(attrib)); });
     if (limitsOnly) return;
     const Text reply = SharedHost().ORVRequest(commands::GetAttribute(place, attrib.m_Name));
-    Attempt([&] { ShowReply(form.Controls(), control, attrib, reply); });
+    Attempt([&] { control.ShowValue(attrib.m_Name, reply); });
     late.Note(control, reply);
   });
   late.Show();
@@ -107,7 +112,7 @@ void WriteControls(FormInput& form, const FeaturePlace& place, const CAttribs& a
   Text value;  // kept from control to control: a list box without a selection writes its predecessor's value
                // again
   ForEachBound(form, attribs, [&](Control& control, const CAttrib& attrib) {
-    if (!AttemptOr(false, [&] { return TakeValue(control, value); })) return;
+    if (!AttemptOr(false, [&] { return control.TakeValue(value); })) return;
     const Text command = commands::SetAttribute(place, attrib.m_Name, CommandValue(attrib, value));
     if (form.DebugMode()) {
       Print(Text(u"     ") + command + u"\r\n");

@@ -1,8 +1,8 @@
 #include "cardwright/runtime/FormInput.h"
 
+#include "cardwright/model/Control.h"
 #include "cardwright/model/Rename.h"
 #include "cardwright/runtime/AttributeBinding.h"
-#include "cardwright/runtime/ControlValues.h"
 #include "cardwright/runtime/RedrawPause.h"
 #include "cardwright/runtime/ScriptRun.h"
 #include "cardwright/shared/HostExecutor.h"
@@ -64,8 +64,7 @@ void FormInput::DetachSurface() {
   for (const Ref<IControl>& control : ControlsOf(*m_Controls)) {
     auto* table = dynamic_cast<TableControl*>(control.get());
     if (!table) continue;
-    if (m_Surface && !EqualsNoCase(control->TypeName(), u"CForm"))
-      Attempt([&] { m_Surface->Remove(control->Name()); });
+    if (m_Surface && dynamic_cast<Control*>(table)) Attempt([&] { m_Surface->Remove(control->Name()); });
     table->ForgetOwner();
   }
   m_OkButton.reset();
@@ -147,7 +146,7 @@ Ref<IControl> FormInput::FirstMissing() const {
         AttemptOr(false, [&] { return ToText(control->PropertyValue(u"IsNeeded")) == u"True"; });
     if (!needed) continue;
     if (auto* bound = dynamic_cast<Control*>(control.get()))
-      Attempt([&] { TakeRequiredValue(*bound, value); });
+      Attempt([&] { bound->TakeRequiredValue(value); });
     if (value.IsEmpty()) return control;
   }
   return nullptr;
