@@ -1,14 +1,15 @@
 # The map of the house, in one place: each room and the rooms it may link.
 # CMakeLists.txt builds the rooms from it and cmake/CheckRooms.cmake holds the includes against it.
-set(CARDWRIGHT_ROOMS automation platform storage shared vbscript jscript hosting orv model designer runtime qt robot)
+set(CARDWRIGHT_ROOMS automation platform scripting storage shared vbscript jscript hosting orv model designer runtime qt robot)
 
 set(CARDWRIGHT_USES_automation)
 set(CARDWRIGHT_USES_platform automation)
+set(CARDWRIGHT_USES_scripting platform)
 set(CARDWRIGHT_USES_storage platform)
 set(CARDWRIGHT_USES_shared storage)
-set(CARDWRIGHT_USES_vbscript platform)
+set(CARDWRIGHT_USES_vbscript scripting)
 set(CARDWRIGHT_USES_jscript platform)
-set(CARDWRIGHT_USES_hosting shared vbscript)
+set(CARDWRIGHT_USES_hosting shared scripting)
 set(CARDWRIGHT_USES_orv platform)
 set(CARDWRIGHT_USES_model shared)
 set(CARDWRIGHT_USES_designer model)
@@ -17,19 +18,20 @@ set(CARDWRIGHT_USES_qt runtime designer)
 set(CARDWRIGHT_USES_robot qt hosting orv)
 
 # Those that the program holds itself; the others come with its module when they are needed.
-set(CARDWRIGHT_LIGHT_ROOMS automation platform storage shared vbscript hosting)
+set(CARDWRIGHT_PROGRAM_ROOMS automation platform scripting storage shared vbscript hosting)
 
 # Foreign libraries that only the named rooms may see: in their headers too, or hidden in their sources.
 set(CARDWRIGHT_EXTERNAL_qt Qt6::Widgets)
 set(CARDWRIGHT_EXTERNAL_robot Qt6::Widgets)
 set(CARDWRIGHT_HIDDEN_orv GDAL::GDAL)
-set(CARDWRIGHT_HIDDEN_vbscript PkgConfig::PCRE2)
+set(CARDWRIGHT_HIDDEN_scripting PkgConfig::PCRE2)
 set(CARDWRIGHT_HIDDEN_jscript PkgConfig::MOZJS)
 
 # The headers that a room with hidden libraries shows to the others; its further ones are its own affair.
 set(CARDWRIGHT_SHOWN_orv EmbeddedHost.h)
 set(CARDWRIGHT_SHOWN_jscript Engine.h)
-set(CARDWRIGHT_SHOWN_vbscript Engine.h objects/Dictionary.h objects/KeyTable.h objects/RegExp.h)
+set(CARDWRIGHT_SHOWN_scripting Dictionary.h KeyTable.h RegExp.h)
+set(CARDWRIGHT_SHOWN_vbscript Engine.h)
 
 # GCC 12 takes the library's list of roots on the stack for pointers left dangling.
 set(CARDWRIGHT_OPTIONS_jscript $<$<CXX_COMPILER_ID:GNU>:-Wno-dangling-pointer>)

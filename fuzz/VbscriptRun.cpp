@@ -5,8 +5,8 @@
 
 #include "cardwright/automation/Errors.h"
 #include "cardwright/automation/MemoryBudget.h"
+#include "cardwright/scripting/Dictionary.h"
 #include "cardwright/vbscript/Engine.h"
-#include "cardwright/vbscript/objects/Dictionary.h"
 
 namespace cardwright::vbscript {
 
@@ -21,15 +21,15 @@ constexpr int kMostStatements = 20000;  // of an observed run
 class Host final : public ScriptHost {
  public:
   ~Host() override {
-    for (const Ref<Dictionary>& dictionary : m_Dictionaries) dictionary->RemoveAll();
+    for (const Ref<scripting::Dictionary>& dictionary : m_Dictionaries) dictionary->RemoveAll();
   }
   Ref<Object> CreateObject(std::u16string_view progid, std::u16string_view server) override {
     if (!EqualsNoCase(progid, u"Scripting.Dictionary")) return ScriptHost::CreateObject(progid, server);
-    return m_Dictionaries.emplace_back(MakeRef<Dictionary>());
+    return m_Dictionaries.emplace_back(MakeRef<scripting::Dictionary>());
   }
 
  private:
-  std::vector<Ref<Dictionary>> m_Dictionaries;
+  std::vector<Ref<scripting::Dictionary>> m_Dictionaries;
 };
 
 /// Ends runs at a number of statements, so that they end at the same place each time.

@@ -8,13 +8,13 @@
 #include <string_view>
 
 #include "cardwright/automation/Errors.h"
-#include "cardwright/vbscript/objects/RegExp.h"
-#include "cardwright/vbscript/objects/RegExpMatches.h"
+#include "cardwright/scripting/RegExp.h"
+#include "cardwright/scripting/RegExpMatches.h"
 
 namespace {
 
 using namespace cardwright;
-using namespace cardwright::vbscript;
+using namespace cardwright::scripting;
 
 // Beyond it inputs that match everywhere make long texts and say no more than short ones.
 constexpr std::size_t kMostUnits = 1 << 16;

@@ -35,7 +35,7 @@ void AddDesktopClasses(ClassRegistry& classes) {
 
 ClassRegistry ClassesOnLeave() {
   ClassRegistry classes;
-  AddLightClasses(classes);
+  AddCoreClasses(classes);
   AddDataClasses(classes);
   return classes;
 }

@@ -51,7 +51,7 @@ int RunScriptCommand(std::span<const std::string> words) {
   ScriptSurroundings surroundings{.languages = Languages(), .classes = {}};
   surroundings.program = Text::FromUtf8(ProgramPath());
   surroundings.hasDisplay = hasDisplay;
-  AddLightClasses(surroundings.classes);
+  AddCoreClasses(surroundings.classes);
   const ScriptDisplay display = line.Has("display") ? ScriptDisplay::Required : ScriptDisplay::IfThere;
   surroundings.classes.SetLoader(u"Cardwright.", [&surroundings, display](ClassRegistry&) {
     surroundings.desktop = LoadDesktopModule().startForScript(display, surroundings);

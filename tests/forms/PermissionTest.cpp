@@ -61,7 +61,7 @@ class ClassesOnLeave : private OwnSettings,
  protected:
   ClassesOnLeave() : FormScripts(GetParam().name) {
     ClassRegistry classes;
-    AddLightClasses(classes);
+    AddCoreClasses(classes);
     ProvideFormScripts(BothLanguages(), std::move(classes));
     Module().scriptControl = Module().makeScriptControl();
   }

@@ -18,14 +18,14 @@ TEST(ClassRegistryCreate, FindsAClassWhateverTheCaseOfItsIdentifier) {
 
 TEST(ClassRegistryCreate, RefusesAnUnknownClass) {
   ClassRegistry classes;
-  AddLightClasses(classes);
+  AddCoreClasses(classes);
   for (const char16_t* progid : {u"Other.Thing", u"", u"Scripting", u"Cardwright.CItems"})
     EXPECT_EQ(ErrorOf([&] { classes.Create(progid); }), 429);
 }
 
 TEST(ClassRegistryCreate, KnowsTheClassesThatNeedNoToolkit) {
   ClassRegistry classes;
-  AddLightClasses(classes);
+  AddCoreClasses(classes);
   EXPECT_EQ(classes.Create(u"Scripting.Dictionary")->TypeName(), u"Dictionary");
   EXPECT_EQ(classes.Create(u"Scripting.FileSystemObject")->TypeName(), u"FileSystemObject");
   EXPECT_EQ(classes.Create(u"VBScript.RegExp")->TypeName(), u"IRegExp2");

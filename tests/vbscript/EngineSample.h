@@ -10,8 +10,8 @@
 #include "cardwright/automation/Conversions.h"
 #include "cardwright/automation/Errors.h"
 #include "cardwright/automation/MemberTable.h"
+#include "cardwright/scripting/Dictionary.h"
 #include "cardwright/vbscript/Engine.h"
-#include "cardwright/vbscript/objects/Dictionary.h"
 
 namespace cardwright::vbscript {
 
@@ -83,7 +83,7 @@ class EngineTest : public ::testing::Test {
   class Host final : public ScriptHost {
    public:
     Ref<Object> CreateObject(std::u16string_view, std::u16string_view) override {
-      return MakeRef<Dictionary>();
+      return MakeRef<scripting::Dictionary>();
     }
     int ShowMessage(const Text&, int, const Text&) override {
       ++boxes;

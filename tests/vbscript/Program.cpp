@@ -1,8 +1,8 @@
 #include "vbscript/Program.h"
 
 #include "cardwright/automation/Errors.h"
-#include "cardwright/vbscript/objects/Dictionary.h"
-#include "cardwright/vbscript/objects/RegExp.h"
+#include "cardwright/scripting/Dictionary.h"
+#include "cardwright/scripting/RegExp.h"
 
 namespace cardwright::vbscript {
 namespace {
@@ -10,8 +10,8 @@ namespace {
 class Host final : public ScriptHost {
  public:
   Ref<Object> CreateObject(std::u16string_view progid, std::u16string_view) override {
-    if (EqualsNoCase(progid, u"Scripting.Dictionary")) return MakeRef<Dictionary>();
-    if (EqualsNoCase(progid, u"VBScript.RegExp")) return MakeRef<RegExp>();
+    if (EqualsNoCase(progid, u"Scripting.Dictionary")) return MakeRef<scripting::Dictionary>();
+    if (EqualsNoCase(progid, u"VBScript.RegExp")) return MakeRef<scripting::RegExp>();
     Raise(ErrorNumber::CannotCreateObject);
   }
 };

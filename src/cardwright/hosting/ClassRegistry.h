@@ -48,9 +48,9 @@ class ClassRegistry {
 
 /// Adds the classes that reach nothing of the machine, which every script may use: Scripting.Dictionary and
 /// VBScript.RegExp.
-void AddHarmlessClasses(ClassRegistry& classes);
+void AddSafeClasses(ClassRegistry& classes);
 /// Adds the classes that need no toolkit: Scripting.Dictionary, Scripting.FileSystemObject, VBScript.RegExp
 /// and Cardwright.CIni.
-void AddLightClasses(ClassRegistry& classes);
+void AddCoreClasses(ClassRegistry& classes);
 
 }  // namespace cardwright

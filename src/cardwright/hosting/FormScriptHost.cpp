@@ -7,7 +7,7 @@ namespace cardwright {
 
 FormScriptHost::FormScriptHost(std::shared_ptr<ClassRegistry> onLeave)
     : m_OnLeave(std::move(onLeave)), m_Permissions(Module().programFile, Module().program) {
-  AddHarmlessClasses(m_Classes);
+  AddSafeClasses(m_Classes);
 }
 
 Ref<Object> FormScriptHost::CreateObject(std::u16string_view progid, std::u16string_view server) {

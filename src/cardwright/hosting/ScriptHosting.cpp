@@ -2,7 +2,7 @@
 
 #include "cardwright/hosting/ErrorLine.h"
 #include "cardwright/hosting/FilePaths.h"
-#include "cardwright/hosting/ScriptRun.h"
+#include "cardwright/hosting/FileScriptHost.h"
 #include "cardwright/hosting/TextCoding.h"
 #include "cardwright/platform/Files.h"
 
@@ -64,7 +64,7 @@ int RunScript(const ScriptJob& job, ScriptSurroundings& surroundings) {
   if (job.task == ScriptJob::Task::Compile) return Compile(job, *language, source, streams);
   if (job.task == ScriptJob::Task::Disassemble)
     return Finish(job, List(job, *language, source, streams), streams);
-  return Finish(job, ScriptRun(job, *language, surroundings, streams).Run(source), streams);
+  return Finish(job, FileScriptHost(job, *language, surroundings, streams).Run(source), streams);
 }
 
 }  // namespace cardwright

@@ -1,26 +1,26 @@
 #pragma once
 
-#include "cardwright/hosting/Arguments.h"
+#include "cardwright/hosting/WScriptArguments.h"
 
 namespace cardwright {
 
-class ScriptRun;
+class FileScriptHost;
 
 /// The object through which a script meets its host.
 class WScript final : public TableObject {
  public:
   /// `run` outlives every call.
-  explicit WScript(ScriptRun& run);
+  explicit WScript(FileScriptHost& host);
   Text TypeName() const override { return u"Object"; }
-  ScriptRun& Run() const noexcept { return m_Run; }
-  Ref<Arguments> Words() const { return m_Words; }
+  FileScriptHost& Host() const noexcept { return m_Host; }
+  Ref<WScriptArguments> Words() const { return m_Words; }
 
  protected:
   const MemberTable& Members() const override;
 
  private:
-  ScriptRun& m_Run;
-  const Ref<Arguments> m_Words;
+  FileScriptHost& m_Host;
+  const Ref<WScriptArguments> m_Words;
 };
 
 }  // namespace cardwright

@@ -13,7 +13,7 @@ constexpr std::u16string_view kSetAttributesEnabled = u"SetAttributesEnabled";
 /// A container's bag that leaves nothing out, so that a script sees all of it.
 class DictionaryBag final : public PropertyBag {
  public:
-  explicit DictionaryBag(vbscript::Dictionary& values) : m_Values(values) {}
+  explicit DictionaryBag(scripting::Dictionary& values) : m_Values(values) {}
 
   Variant ReadProperty(std::u16string_view name, const Variant& fallback) const override {
     const Variant key(name);
@@ -24,13 +24,13 @@ class DictionaryBag final : public PropertyBag {
   }
 
  private:
-  vbscript::Dictionary& m_Values;
+  scripting::Dictionary& m_Values;
 };
 
 }  // namespace
 
-Ref<vbscript::Dictionary> WriteBag(qt::VisualControl& control) {
-  auto values = MakeRef<vbscript::Dictionary>();
+Ref<scripting::Dictionary> WriteBag(qt::VisualControl& control) {
+  auto values = MakeRef<scripting::Dictionary>();
   DictionaryBag bag(*values);
   if (const auto* designer = qobject_cast<qt::FormDesigner*>(&control)) {
     designer->Object()->WriteProperties(bag);
@@ -40,7 +40,7 @@ Ref<vbscript::Dictionary> WriteBag(qt::VisualControl& control) {
   return values;
 }
 
-void ReadBag(qt::VisualControl& control, vbscript::Dictionary& values) {
+void ReadBag(qt::VisualControl& control, scripting::Dictionary& values) {
   const DictionaryBag bag(values);
   if (const auto* designer = qobject_cast<qt::FormDesigner*>(&control)) {
     designer->Object()->ReadProperties(bag);

@@ -18,8 +18,8 @@
 #include "cardwright/robot/Sight.h"
 #include "cardwright/robot/Targets.h"
 #include "cardwright/robot/WidgetPart.h"
+#include "cardwright/scripting/Dictionary.h"
 #include "cardwright/shared/ModuleState.h"
-#include "cardwright/vbscript/objects/Dictionary.h"
 
 namespace cardwright::robot {
 namespace {
@@ -191,11 +191,11 @@ void LetDesignMode(Robot&, const Variant& control, bool designing) {
   ContainedControl(control).SetDesignMode(designing);
 }
 
-Ref<vbscript::Dictionary> GetBag(Robot&, const Variant& control) {
+Ref<scripting::Dictionary> GetBag(Robot&, const Variant& control) {
   return WriteBag(ContainedControl(control));
 }
 
-void LetBag(Robot&, const Variant& control, Ref<vbscript::Dictionary> bag) {
+void LetBag(Robot&, const Variant& control, Ref<scripting::Dictionary> bag) {
   if (!bag) Raise(ErrorNumber::ObjectNotSet);
   ReadBag(ContainedControl(control), *bag);
 }

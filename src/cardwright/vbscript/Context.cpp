@@ -1,7 +1,7 @@
 #include "cardwright/vbscript/Context.h"
 
 #include "cardwright/automation/Errors.h"
-#include "cardwright/vbscript/StopSignal.h"
+#include "cardwright/platform/StopSignal.h"
 
 namespace cardwright::vbscript {
 

@@ -4,8 +4,8 @@
 #include <unordered_map>
 #include <vector>
 
+#include "cardwright/automation/MemoryShare.h"
 #include "cardwright/vbscript/code/Symbol.h"
-#include "cardwright/vbscript/objects/MemoryShare.h"
 
 namespace cardwright::vbscript {
 

@@ -6,8 +6,8 @@
 #include <unordered_map>
 #include <vector>
 
+#include "cardwright/automation/MemoryShare.h"
 #include "cardwright/automation/Text.h"
-#include "cardwright/vbscript/objects/MemoryShare.h"
 
 namespace cardwright::vbscript {
 

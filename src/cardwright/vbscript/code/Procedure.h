@@ -4,9 +4,9 @@
 #include <vector>
 
 #include "cardwright/automation/Array.h"
+#include "cardwright/automation/MemoryShare.h"
 #include "cardwright/vbscript/code/Instruction.h"
 #include "cardwright/vbscript/code/Names.h"
-#include "cardwright/vbscript/objects/MemoryShare.h"
 #include "cardwright/vbscript/syntax/Position.h"
 
 namespace cardwright::vbscript {

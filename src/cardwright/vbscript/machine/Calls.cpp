@@ -1,9 +1,9 @@
+#include "cardwright/scripting/RegExp.h"
 #include "cardwright/vbscript/builtins/Builtin.h"
 #include "cardwright/vbscript/machine/Elements.h"
 #include "cardwright/vbscript/machine/FunctionReference.h"
 #include "cardwright/vbscript/machine/Machine.h"
 #include "cardwright/vbscript/machine/SlowPaths.h"
-#include "cardwright/vbscript/objects/RegExp.h"
 
 namespace cardwright::vbscript {
 
@@ -185,7 +185,7 @@ bool Machine::NewObject(SymbolUse& use, Variant& target) {
   if (use.epoch != m_Epoch) Resolve(use);
   // The one class that the language brings along; a script's own of that name comes first.
   if (!use.symbol && EqualsNoCase(names.Spelling(use.name).View(), u"RegExp")) {
-    target = MakeRef<RegExp>(maxTextUnits);
+    target = MakeRef<scripting::RegExp>(maxTextUnits);
     return false;
   }
   if (!use.symbol || use.symbol->kind != SymbolKind::Class) RaiseAbout(ErrorNumber::UndefinedClass, use.name);

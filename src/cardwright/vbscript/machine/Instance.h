@@ -2,9 +2,9 @@
 
 #include <memory>
 
+#include "cardwright/automation/MemoryShare.h"
 #include "cardwright/automation/Object.h"
 #include "cardwright/vbscript/code/ClassInfo.h"
-#include "cardwright/vbscript/objects/MemoryShare.h"
 
 namespace cardwright::vbscript {
 

@@ -4,8 +4,8 @@
 #include <memory>
 #include <vector>
 
+#include "cardwright/automation/MemoryShare.h"
 #include "cardwright/automation/Variant.h"
-#include "cardwright/vbscript/objects/MemoryShare.h"
 
 namespace cardwright::vbscript {
 

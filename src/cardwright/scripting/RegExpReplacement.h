@@ -1,0 +1,45 @@
+#pragma once
+
+#include <cstddef>
+#include <span>
+#include <string_view>
+#include <vector>
+
+#include "cardwright/automation/Text.h"
+
+namespace cardwright::scripting {
+
+/// What stands in place of a match: characters, and parts of the text by a sign: $1 to $99 a group, $& the
+/// match,
+/// $` what precedes it, $' what follows it, $$ a dollar. A dollar in front of anything else, and the number
+/// of a group that the pattern does not have, are characters like others.
+class RegExpReplacement {
+ public:
+  /// `notation` must outlive the replacement.
+  RegExpReplacement(std::u16string_view notation, std::size_t groups);
+
+  /// Appends the replacement of the match at `spans`, as RegExpProgram::Search gives them. Error 14 where
+  /// `result` would have more than `maxUnits` units.
+  void AppendTo(Text& result, std::u16string_view text, std::span<const std::size_t> spans,
+                std::size_t maxUnits) const;
+
+ private:
+  enum class Kind { Characters, Group, Before, After };
+  struct Piece {
+    Kind kind = Kind::Characters;
+    std::u16string_view characters = {};
+    std::size_t group = 0;
+  };
+  static constexpr std::size_t kWholeMatch = 0;
+
+  static std::u16string_view PartOf(const Piece& piece, std::u16string_view text,
+                                    std::span<const std::size_t> spans);
+  static Piece ReadSign(std::u16string_view rest, std::size_t groups, std::size_t& length);
+
+  std::vector<Piece> m_Pieces;
+};
+
+/// Appends, with error 14 where `result` would have more than `maxUnits` units.
+void AppendChecked(Text& result, std::u16string_view part, std::size_t maxUnits);
+
+}  // namespace cardwright::scripting

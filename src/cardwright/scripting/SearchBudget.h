@@ -1,0 +1,29 @@
+#pragma once
+
+#include <chrono>
+#include <cstddef>
+
+namespace cardwright::scripting {
+
+/// The time that one call of a regular expression's method may take, asked for at every checkpoint of the
+/// pattern.
+class SearchBudget {
+ public:
+  /// A second, and more for texts of many millions of units, which take that long with a harmless pattern
+  /// too.
+  explicit SearchBudget(std::size_t textUnits) noexcept;
+
+  /// False once the time is over or the script is to stop. Looks at the clock only now and then: more often
+  /// the longer the text, as the work between two checkpoints grows with it.
+  bool Spend() noexcept { return --m_Left > 0 || LookAtClock(); }
+
+ private:
+  using Clock = std::chrono::steady_clock;
+  bool LookAtClock() noexcept;
+
+  const Clock::time_point m_End;
+  const int m_Interval;
+  int m_Left;
+};
+
+}  // namespace cardwright::scripting
