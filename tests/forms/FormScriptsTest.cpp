@@ -23,7 +23,7 @@ TEST_F(FormScripts, RunAtWidgetEvents) {
   EXPECT_EQ(Depth(), u"++");
 }
 
-TEST_F(FormScripts, RefuseTheOkWithTheirResponse) {
+TEST_F(FormScripts, CanCancelOk) {
   ASSERT_TRUE(ReadScript(
       "Dim clicks\nSub Form_BeforeOkClick()\nclicks = clicks + 1\nResponse = clicks > 1\nEnd Sub\n"));
   TakeEvents();
@@ -59,7 +59,7 @@ TEST_F(FormScripts, OpenTheMenuThatAControlHas) {
 
 class FormScriptFailures : public FormScripts, public testing::WithParamInterface<ScriptFailure> {};
 
-TEST_P(FormScriptFailures, AreToldInTheAuthorsLines) {
+TEST_P(FormScriptFailures, ReportTheAuthorsLines) {
   EXPECT_TRUE(ReadScript(GetParam().script));
   EXPECT_EQ(OnlyBox(), std::string("Run-time tests|") + GetParam().box + "|exclamation");
 }
@@ -82,7 +82,7 @@ INSTANTIATE_TEST_SUITE_P(
                                   "Error N. 1024 - Expected statement \r\n(Line: 2    Column:0)"}),
     [](const auto& one) { return one.param.title; });
 
-TEST_F(FormScripts, MayUseClassesThatOnlyCompute) {
+TEST_F(FormScripts, CanUseSafeClasses) {
   ASSERT_TRUE(
       ReadScript("Sub Form_Initialize()\nSet d = CreateObject(\"Scripting.Dictionary\")\nd(\"a\") = 1\n"
                  "Set r = CreateObject(\"VBScript.RegExp\")\nr.Pattern = \"^\\d+$\"\ntxtDepth.Text = d.Count "
@@ -91,7 +91,7 @@ TEST_F(FormScripts, MayUseClassesThatOnlyCompute) {
   EXPECT_EQ(Depth(), u"1True");
 }
 
-TEST(ScriptControlLanguages, AreFoundWhateverTheCase) {
+TEST(ScriptControlLanguages, AreFoundInAnyCase) {
   ProvideFormScripts(BothLanguages());
   const Ref<ScriptControl> control = Module().makeScriptControl();
   control->SetLanguage(u"vBsCrIpT");

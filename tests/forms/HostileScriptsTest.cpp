@@ -89,7 +89,7 @@ TEST_P(HostileScripts, RemoveEveryObjectOfTheForm) {
   EXPECT_EQ(Numbers(), Numbered{});
 }
 
-TEST_P(HostileScripts, PutStrangersAmongTheControls) {
+TEST_P(HostileScripts, AddForeignObjectsToTheControls) {
   ASSERT_TRUE(
       ReadEither("Sub cmdToday_OnClick()\nControls.Add 5, \"five\"\nControls.Add Nothing, \"none\"\n"
                  "Controls.Add OrvExecutor, \"host\", 1\nControls.Add Controls, \"all\"\nControls.Add "
@@ -178,7 +178,7 @@ TEST_P(HostileScripts, RunWhileTheLibraryIsShutDown) {
   library.emplace();
 }
 
-TEST_P(HostileScripts, KeepTheLastFormAliveOnlyAsLongAsItsScript) {
+TEST_P(HostileScripts, KeepAFormAliveOnlyAsLongAsItsScript) {
   ASSERT_TRUE(
       ReadEither("Set all = Nothing\nSub Form_Initialize()\nSet all = Controls\nSet all2 = "
                  "txtDepth.Object.Font\nEnd Sub\n",

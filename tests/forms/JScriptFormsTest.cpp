@@ -37,7 +37,7 @@ TEST_F(JScriptForms, RunAtWidgetEvents) {
   EXPECT_EQ(Depth(), u"2");
 }
 
-TEST_F(JScriptForms, FailWhereAProcedureIsSpelledInAnotherCaseThanItsEvent) {
+TEST_F(JScriptForms, MatchProceduresByCase) {
   ASSERT_TRUE(ReadScript("function cmdtoday_onclick(){\ntxtDepth.Text = 'no';\n}\n"));
   ClickToday();
   EXPECT_EQ(Depth(), u"");
@@ -45,7 +45,7 @@ TEST_F(JScriptForms, FailWhereAProcedureIsSpelledInAnotherCaseThanItsEvent) {
       << "the form finds the procedure whatever its case, the language does not";
 }
 
-TEST_F(JScriptForms, RefuseTheOkWithTheirResponse) {
+TEST_F(JScriptForms, CanCancelOk) {
   ASSERT_TRUE(ReadScript(
       "var clicks = 0;\nfunction Form_BeforeOkClick(){\nclicks++;\nif (clicks < 2) Response = false;\n}\n"));
   TakeEvents();
@@ -66,7 +66,7 @@ TEST_F(JScriptForms, SendCommandsToTheHost) {
 
 class JScriptFormFailures : public JScriptForms, public testing::WithParamInterface<ScriptFailure> {};
 
-TEST_P(JScriptFormFailures, AreToldInTheAuthorsLines) {
+TEST_P(JScriptFormFailures, ReportTheAuthorsLines) {
   EXPECT_TRUE(ReadScript(GetParam().script));
   EXPECT_EQ(OnlyBox(), std::string("Run-time tests|") + GetParam().box + "|exclamation");
 }
@@ -91,7 +91,7 @@ INSTANTIATE_TEST_SUITE_P(
                       "Error N. 429 - ActiveX component can't create object \r\n(Line: 1    Column:17)"}),
     [](const auto& one) { return one.param.title; });
 
-TEST_F(JScriptForms, MayUseClassesThatOnlyCompute) {
+TEST_F(JScriptForms, CanUseSafeClasses) {
   ASSERT_TRUE(
       ReadScript("function Form_Initialize(){\nvar d = new ActiveXObject('Scripting.Dictionary');\n"
                  "d.Add('a', 1);\nvar r = new ActiveXObject('VBScript.RegExp');\nr.Pattern = '^\\\\d+$';\n"

@@ -7,7 +7,7 @@ namespace {
 
 using NestedScripts = EitherLanguage;
 
-TEST_P(NestedScripts, AreReplacedByThoseOfAFormReadInAnEvent) {
+TEST_P(NestedScripts, AreReplacedWhenAFormIsReadInAnEvent) {
   const std::string script =
       InJScript() ? "jScRiPt\r\nfunction Form_Initialize(){\r\ntxtOther.Text = 'new';\r\n}\r\n"
                   : "VBScript\r\nSub Form_Initialize()\r\ntxtOther.Text = \"new\"\r\nEnd Sub\r\n";
@@ -30,7 +30,7 @@ TEST_P(NestedScripts, AreReplacedByThoseOfAFormReadInAnEvent) {
   EXPECT_EQ(Depth(), u"!") << "the first form's procedures are gone";
 }
 
-TEST_P(NestedScripts, MayPressOkInsideTheOk) {
+TEST_P(NestedScripts, CanPressOkInsideOk) {
   ASSERT_TRUE(
       ReadEither("Sub Form_BeforeOkClick()\nOk\nEnd Sub\n", "function Form_BeforeOkClick(){\nOk();\n}\n"));
   ClickOk();

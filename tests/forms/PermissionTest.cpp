@@ -91,14 +91,14 @@ class ClassesOnLeave : private OwnSettings,
   std::optional<robot::AttendedDesktop> person{std::in_place};
 };
 
-TEST_P(ClassesOnLeave, AreRefusedUnlessTheUserSaysYes) {
+TEST_P(ClassesOnLeave, AreRefusedUnlessTheUserAgrees) {
   EXPECT_EQ(DepthAfterClick(GetParam().twice), "429 429 Empty");
   EXPECT_EQ(boxes.Take(), Lines{Question(kClass)}) << "asked once in a run of the form";
   EXPECT_EQ(DepthAfterClick(GetParam().twice), "429 429 Empty");
   EXPECT_EQ(boxes.Take(), Lines{Question(kClass)}) << "a refusal is not kept";
 }
 
-TEST_P(ClassesOnLeave, StayAllowedToTheSameScript) {
+TEST_P(ClassesOnLeave, StayAllowedForTheSameScript) {
   AnswerYes();
   EXPECT_EQ(DepthAfterClick(GetParam().twice), "0 0 FileSystemObject");
   EXPECT_EQ(boxes.Take(), Lines{Question(kClass)});
@@ -109,7 +109,7 @@ TEST_P(ClassesOnLeave, StayAllowedToTheSameScript) {
   EXPECT_EQ(boxes.Take(), Lines{});
 }
 
-TEST_P(ClassesOnLeave, AreAskedForAgainByAScriptThatChanged) {
+TEST_P(ClassesOnLeave, NeedANewPermissionAfterAChangeOfTheScript) {
   AnswerYes();
   EXPECT_EQ(DepthAfterClick(GetParam().twice), "0 0 FileSystemObject");
   boxes.Take();
@@ -120,7 +120,7 @@ TEST_P(ClassesOnLeave, AreAskedForAgainByAScriptThatChanged) {
   EXPECT_EQ(boxes.Take(), Lines{});
 }
 
-TEST_P(ClassesOnLeave, AreAskedForAgainByTheSameScriptInAnotherFile) {
+TEST_P(ClassesOnLeave, NeedANewPermissionInAnotherFile) {
   AnswerYes();
   EXPECT_EQ(DepthAfterClick(GetParam().twice), "0 0 FileSystemObject");
   boxes.Take();
@@ -139,7 +139,7 @@ TEST_P(ClassesOnLeave, AreAskedForAgainByTheSameScriptInAnotherFile) {
   EXPECT_EQ(Depth(), u"0 0 FileSystemObject") << "the same file by another name";
 }
 
-TEST_P(ClassesOnLeave, AreTakenBackInTheSettings) {
+TEST_P(ClassesOnLeave, CanBeRevokedInTheSettings) {
   AnswerYes();
   EXPECT_EQ(DepthAfterClick(GetParam().twice), "0 0 FileSystemObject");
   boxes.Take();
@@ -153,7 +153,7 @@ TEST_P(ClassesOnLeave, AreTakenBackInTheSettings) {
   EXPECT_EQ(boxes.Take(), Lines{Question(kClass)});
 }
 
-TEST_P(ClassesOnLeave, AreRefusedWithoutAWordWhereNobodyCanAnswer) {
+TEST_P(ClassesOnLeave, AreRefusedSilentlyWhereNobodyCanAnswer) {
   AnswerYes();
   Module().programFile = folder.Put("form.cwf", "x");
   Module().scriptControl->SetLanguage(Text::FromUtf8(GetParam().name));
@@ -178,14 +178,14 @@ TEST_P(ClassesOnLeave, AreRefusedWithoutAWordWhereNobodyCanAnswer) {
   EXPECT_EQ(error([&] { Module().scriptControl->AddCode(code); }), 0);
 }
 
-TEST_P(ClassesOnLeave, AreNoOthers) {
+TEST_P(ClassesOnLeave, AreTheOnlyOnesOffered) {
   AnswerYes();
   EXPECT_EQ(DepthAfterClick(GetParam().unknown), "429 429 429 429");
   EXPECT_EQ(boxes.Take(), Lines{});
 }
 
 // A script that goes on in the engine that another form's took the place of is still the first form's.
-TEST_P(ClassesOnLeave, AreNotAllowedToWhoeverReadsAnAllowedForm) {
+TEST_P(ClassesOnLeave, AreNotInheritedByFormsThatReadAnAllowedOne) {
   AnswerYes();
   ASSERT_TRUE(ReadScript(GetParam().twice));
   std::filesystem::copy_file(folder.File("form.cwf"), folder.File("trusted.cwf"));

@@ -11,7 +11,7 @@ class RunawayScripts : public EitherLanguage {};
 INSTANTIATE_TEST_SUITE_P(Languages, RunawayScripts, kBothLanguages,
                          [](const auto& one) { return one.param; });
 
-TEST_P(RunawayScripts, PressEitherButtonInTheEventOfEither) {
+TEST_P(RunawayScripts, PressOkAndCancelInEachOthersEvents) {
   ASSERT_TRUE(
       ReadEither("Sub Form_BeforeOkClick()\nORVExecute \"ok\"\nOk\nCancel\nEnd Sub\n"
                  "Sub Form_BeforeCancelClick()\nORVExecute \"cancel\"\nCancel\nOk\nEnd Sub\n",
@@ -26,7 +26,7 @@ TEST_P(RunawayScripts, PressEitherButtonInTheEventOfEither) {
   EXPECT_EQ(TakeEvents(), (Lines{"OkClick", "CancelClick"}));
 }
 
-TEST_P(RunawayScripts, ChangeAFieldInTheEventOfItsChange) {
+TEST_P(RunawayScripts, ChangeAFieldInItsOwnChangeEvent) {
   ASSERT_TRUE(
       ReadEither("Sub txtDepth_OnChange()\ntxtDepth.Object.Text = txtDepth.Object.Text & \"x\"\nEnd Sub\n",
                  "function txtDepth_OnChange(){\ntxtDepth.Object.Text = txtDepth.Object.Text + 'x';\n}\n"));
@@ -35,7 +35,7 @@ TEST_P(RunawayScripts, ChangeAFieldInTheEventOfItsChange) {
   EXPECT_GT(Depth().Size(), 50U);
 }
 
-TEST_P(RunawayScripts, SetOffTheirOwnEventsThroughTheHost) {
+TEST_P(RunawayScripts, RaiseTheirOwnEventsThroughTheHost) {
   ASSERT_TRUE(ReadEither("Sub cmdToday_OnClick()\nORVExecute \"NOW\"\nEnd Sub\n",
                          "function cmdToday_OnClick(){\nORVExecute('NOW');\n}\n"));
   OnNow([this] { form->Object()->RunEvent(u"cmdToday_OnClick"); });
@@ -43,7 +43,7 @@ TEST_P(RunawayScripts, SetOffTheirOwnEventsThroughTheHost) {
   EXPECT_EQ(Numbers(), Numbered{"28"}) << "what the innermost calls goes on";
 }
 
-TEST_P(RunawayScripts, LoadTheFeatureInTheEventOfItsLoad) {
+TEST_P(RunawayScripts, LoadTheFeatureInItsOwnLoadEvent) {
   host->SetTheme({{"DEPTH", 0, 0, 0, "12"}});
   ASSERT_TRUE(ReadEither(
       "Sub txtDepth_OnChange()\ntxtDepth.ParentForm.FeatureID = txtDepth.ParentForm.FeatureID + 1\nEnd Sub\n",
@@ -56,7 +56,7 @@ TEST_P(RunawayScripts, LoadTheFeatureInTheEventOfItsLoad) {
   EXPECT_EQ(Numbers(), Numbered{});
 }
 
-TEST_P(RunawayScripts, HearNoEventsWhileTheirProjectIsRead) {
+TEST_P(RunawayScripts, ReceiveNoEventsWhileTheProjectIsRead) {
   ASSERT_TRUE(ReadEither("Sub txtDepth_OnChange()\nORVExecute \"CHANGED\"\nEnd Sub\n",
                          "function txtDepth_OnChange(){\nORVExecute('CHANGED');\n}\n"));
   const Ref<Widget> widget(&WidgetOf(u"txtDepth"));
@@ -71,7 +71,7 @@ TEST_P(RunawayScripts, HearNoEventsWhileTheirProjectIsRead) {
   EXPECT_EQ(Numbers(), Numbered{});
 }
 
-TEST_P(RunawayScripts, HearEventsBeforeTheControlsHaveTheirNames) {
+TEST_P(RunawayScripts, ReceiveEventsBeforeControlsHaveNames) {
   OnNow([this] { SetRow(u"txtDepth", u"Text", u"early"); });
   ASSERT_TRUE(
       ReadEither("ORVExecute \"NOW\"\nSub txtDepth_OnChange()\nORVExecute txtDepth.UserName\nEnd Sub\n",
@@ -81,7 +81,7 @@ TEST_P(RunawayScripts, HearEventsBeforeTheControlsHaveTheirNames) {
   EXPECT_EQ(host->Take(), Lines{"X txtDepth"});
 }
 
-TEST_P(RunawayScripts, MakeMoreThanThereIsRoomFor) {
+TEST_P(RunawayScripts, ExceedTheirMemory) {
   ASSERT_TRUE(
       ReadEither("Sub cmdToday_OnClick()\nReDim a(2000000000)\nEnd Sub\n"
                  "Sub txtDepth_OnChange()\ns = String(300000000, \"x\")\nEnd Sub\n",
@@ -96,7 +96,7 @@ TEST_P(RunawayScripts, MakeMoreThanThereIsRoomFor) {
   EXPECT_EQ(Depth(), u"5");
 }
 
-TEST_P(RunawayScripts, MayBeAnyBytes) {
+TEST_P(RunawayScripts, CanBeAnyBytes) {
   std::string bytes;
   for (int k = 255; k >= 0; --k) bytes += static_cast<char>(k);
   const Lines sources = {bytes,
@@ -118,7 +118,7 @@ TEST_P(RunawayScripts, MayBeAnyBytes) {
   }
 }
 
-TEST_P(RunawayScripts, AnswerWithWhatIsNoAnswer) {
+TEST_P(RunawayScripts, ReturnInvalidResponses) {
   ASSERT_TRUE(
       ReadEither("Sub Form_BeforeOkClick()\nResponse = \"perhaps\"\nEnd Sub\nSub "
                  "Form_BeforeCancelClick()\nResponse = 0\nEnd Sub\n",
@@ -131,7 +131,7 @@ TEST_P(RunawayScripts, AnswerWithWhatIsNoAnswer) {
   EXPECT_EQ(TakeEvents(), Lines{});
 }
 
-TEST_P(RunawayScripts, RefuseNothingOnceAnotherEventHasRunInside) {
+TEST_P(RunawayScripts, CannotCancelAfterANestedEvent) {
   ASSERT_TRUE(
       ReadEither("Sub Form_BeforeOkClick()\nResponse = False\ntxtDepth.Object.Text = \"x\"\nEnd Sub\nSub "
                  "txtDepth_OnChange()\nEnd Sub\n",

@@ -64,14 +64,14 @@ class MeddledControl : public testing::Test {
   const Ref<Meddler> m_Meddler = MakeRef<Meddler>();
 };
 
-TEST_F(MeddledControl, EndsWhatRunsInTheEngineThatItBeganIn) {
+TEST_F(MeddledControl, EndsACallInTheEngineThatItStartedIn) {
   m_Control->AddCode(u"Function F\nReset\nF = G + 1\nEnd Function\nFunction G\nG = 41\nEnd Function");
   EXPECT_EQ(ToLong(m_Control->Run(u"F", {})), 42);
   EXPECT_EQ(ErrorOfRun(u"F"), 5);
   EXPECT_EQ(m_Control->LastError().number, 0) << "a procedure that there is none of is the caller's mistake";
 }
 
-TEST_F(MeddledControl, ForgetsAnErrorThatTheScriptPassedOver) {
+TEST_F(MeddledControl, ClearsAnErrorThatTheScriptIgnored) {
   m_Control->AddCode(
       u"Sub Outer\nOn Error Resume Next\nMeddler.Call \"Inner\"\nEnd Sub\nSub Inner\n\nx = 1 \\ 0\nEnd Sub");
   EXPECT_EQ(ErrorOfRun(u"Inner"), 11);
@@ -80,7 +80,7 @@ TEST_F(MeddledControl, ForgetsAnErrorThatTheScriptPassedOver) {
   EXPECT_EQ(m_Control->LastError().number, 0);
 }
 
-TEST_F(MeddledControl, HasOneGlobalModuleAfterItWasStartedByWhatItEnded) {
+TEST_F(MeddledControl, HasOneGlobalModuleAfterARestartFromInside) {
   m_Control->AddCode(
       u"Class Last\nPrivate Sub Class_Terminate\nMeddler.Start\nEnd Sub\nEnd Class\nSet held = New Last");
   m_Control->AddModule(u"more");
@@ -90,7 +90,7 @@ TEST_F(MeddledControl, HasOneGlobalModuleAfterItWasStartedByWhatItEnded) {
   EXPECT_EQ(ErrorOfRun(u"Late"), 5);
 }
 
-TEST_F(MeddledControl, ChangesItsLanguageUnderARunningScript) {
+TEST_F(MeddledControl, ChangesLanguageDuringACall) {
   m_Control->AddCode(u"Function F\nSpeak \"JScript\"\nF = 1\nEnd Function");
   EXPECT_EQ(ToLong(m_Control->Run(u"F", {})), 1);
   EXPECT_EQ(m_Control->Language(), u"JScript");
@@ -101,7 +101,7 @@ TEST_F(MeddledControl, ChangesItsLanguageUnderARunningScript) {
   EXPECT_EQ(ErrorOfRun(u"Main"), 0);
 }
 
-TEST_F(MeddledControl, LeavesModulesWithoutCodeBehind) {
+TEST_F(MeddledControl, KeepsModulesWithoutCode) {
   const Ref<ScriptModule> module = m_Control->AddModule(u"init");
   module->AddCode(u"Sub Main\nReset\nEnd Sub");
   module->Run(u"Main");

@@ -59,7 +59,7 @@ class EndlessScripts : public FormScripts, public testing::WithParamInterface<En
   }
 };
 
-TEST_P(EndlessScripts, EndWithoutAWordWhereTheUserWantsIt) {
+TEST_P(EndlessScripts, EndSilentlyWhenTheUserAgrees) {
   ASSERT_TRUE(ReadScript(GetParam().endless));
   PressBreak(window);
   boxes.beforeAnswer = ChooseYes;
@@ -74,7 +74,7 @@ TEST_P(EndlessScripts, EndWithoutAWordWhereTheUserWantsIt) {
   EXPECT_EQ(boxes.Take(), Lines{});
 }
 
-TEST_P(EndlessScripts, GoOnWhereTheUserDoesNotWantItAfterAll) {
+TEST_P(EndlessScripts, ContinueWhenTheUserDeclines) {
   ASSERT_TRUE(ReadScript(GetParam().calls));
   bool breaks = true;
   int callsAfterNo = -1;
@@ -97,7 +97,7 @@ TEST_P(EndlessScripts, GoOnWhereTheUserDoesNotWantItAfterAll) {
   EXPECT_GT(callsAfterNo, 0);
 }
 
-TEST_P(EndlessScripts, StopInTheMiddleOfSearches) {
+TEST_P(EndlessScripts, StopDuringARegularExpressionSearch) {
   ASSERT_TRUE(ReadScript(GetParam().search));
   PressBreak(window);
   boxes.beforeAnswer = ChooseYes;
@@ -108,7 +108,7 @@ TEST_P(EndlessScripts, StopInTheMiddleOfSearches) {
   EXPECT_EQ(Depth(), u"alive");
 }
 
-TEST_P(EndlessScripts, TakeThoseAlongThatWaitForThem) {
+TEST_P(EndlessScripts, StopTheirCallersToo) {
   ASSERT_TRUE(ReadScript(GetParam().nested));
   PressBreak(window);
   boxes.beforeAnswer = ChooseYes;
@@ -119,7 +119,7 @@ TEST_P(EndlessScripts, TakeThoseAlongThatWaitForThem) {
   EXPECT_EQ(host->Take(), Lines{});
 }
 
-TEST_P(EndlessScripts, StopBeforeTheFormHasBegun) {
+TEST_P(EndlessScripts, StopBeforeTheFirstEvent) {
   PressBreak(window);
   boxes.beforeAnswer = ChooseYes;
   EXPECT_TRUE(ReadScript(GetParam().start));
@@ -129,7 +129,7 @@ TEST_P(EndlessScripts, StopBeforeTheFormHasBegun) {
   EXPECT_EQ(TakeEvents(), Lines{"OkClick"});
 }
 
-TEST_P(EndlessScripts, OutliveTheirFormUntilTheyAreStopped) {
+TEST_P(EndlessScripts, OutliveTheirFormUntilStopped) {
   ASSERT_TRUE(ReadScript(GetParam().endless));
   PressBreak(window);
   boxes.beforeAnswer = [&] {
@@ -156,7 +156,7 @@ TEST_P(EndlessScripts, StopAtCtrlCInTheTerminal) {
 INSTANTIATE_TEST_SUITE_P(, EndlessScripts, testing::ValuesIn(kEndlessScripts),
                          [](const auto& one) { return one.param.name; });
 
-TEST_F(FormScripts, AreNotAskedAboutWhileTheyWaitInABox) {
+TEST_F(FormScripts, AreNotInterruptedWhileABoxIsOpen) {
   ASSERT_TRUE(ReadScript(kEndlessScripts[0].box));
   boxes.beforeAnswer = [&] {
     QTest::qWait(1200);

@@ -10,7 +10,7 @@ class EmbeddedHostCommands : public TestStore {
   Ref<EmbeddedHost> m_Host = Open(m_Path);
 };
 
-TEST_F(EmbeddedHostCommands, AreRefusedInWordsWhereTheyAreMalformed) {
+TEST_F(EmbeddedHostCommands, FailWithAReasonWhereMalformed) {
   const char* const commands[] = {
       "",
       " ",
@@ -66,7 +66,7 @@ TEST_F(EmbeddedHostCommands, AreRefusedInWordsWhereTheyAreMalformed) {
   }
 }
 
-TEST_F(EmbeddedHostCommands, RefuseAMalformedValueAndAllCollectedWithIt) {
+TEST_F(EmbeddedHostCommands, DiscardAllPendingValuesWithAMalformedOne) {
   const char* const tails[] = {"",         "NAME |x|",     "|NAME",      "|NAME| |x",
                                "|NAME| |", "|NAME| |x| y", "|NOPE| |x|", "|OVTARVOUNIQUEID| 4",
                                "|A,B| |x|"};
@@ -82,7 +82,7 @@ TEST_F(EmbeddedHostCommands, RefuseAMalformedValueAndAllCollectedWithIt) {
   }
 }
 
-TEST_F(EmbeddedHostCommands, AreCarriedOutFromEitherCall) {
+TEST_F(EmbeddedHostCommands, RunFromExecuteAndRequest) {
   Request(*m_Host, "THEME_SELECTION_BYVALUE |wells| |POINT| OVTARVOUNIQUEID = 3 NEW");
   Request(*m_Host, "THEME_MOVEFIRST |wells| |POINT|");
   EXPECT_EQ(Execute(*m_Host, "THEME_GET_ATTRIBUTE |wells| |POINT| |NAME|"), "Chiesa");
@@ -90,21 +90,21 @@ TEST_F(EmbeddedHostCommands, AreCarriedOutFromEitherCall) {
   EXPECT_EQ(m_Told.size(), 1u) << "a refused change is told, however it was sent";
 }
 
-TEST_F(EmbeddedHostCommands, MayBeSentByWhoeverIsToldOfARefusal) {
+TEST_F(EmbeddedHostCommands, CanBeSentFromTheErrorHandler) {
   std::string nested;
   m_Host->onRefusal = [&](const Text&) { nested = Request(*m_Host, "THEME_ACTIVE"); };
   EXPECT_NE(Execute(*m_Host, "NONSENSE"), "");
   EXPECT_EQ(nested, "wells");
 }
 
-TEST_F(EmbeddedHostCommands, OutliveTheReleaseOfTheHostByWhoeverIsTold) {
+TEST_F(EmbeddedHostCommands, SurviveReleaseOfTheHostInTheErrorHandler) {
   m_Host->onRefusal = [&](const Text&) { m_Host = nullptr; };
   EmbeddedHost* const host = m_Host.get();
   EXPECT_EQ(host->Execute(u"NONSENSE"), u"ERROR: This host has no command \"NONSENSE\".");
   EXPECT_FALSE(m_Host);
 }
 
-TEST_F(EmbeddedHostCommands, NeverCrashTheHostWhateverTheirBytes) {
+TEST_F(EmbeddedHostCommands, NeverCrashOnAnyBytes) {
   const char16_t* const pieces[] = {
       u"THEME_SELECTION_BYVALUE",
       u"THEME_SET_ATTRIBUTE",

@@ -12,7 +12,7 @@ class NewTheme : public TestStore {
   }
 };
 
-TEST_F(NewTheme, IsALayerOfTheTypeAskedFor) {
+TEST_F(NewTheme, HasTheRequestedFeatureType) {
   struct Row {
     const char *name, *type, *kind;
     OGRwkbGeometryType geometry;
@@ -37,7 +37,7 @@ TEST_F(NewTheme, IsALayerOfTheTypeAskedFor) {
   EXPECT_TRUE(m_Told.empty());
 }
 
-TEST_F(NewTheme, TakesFeaturesOfOtherPrograms) {
+TEST_F(NewTheme, AcceptsFeaturesOfOtherPrograms) {
   EXPECT_EQ(Create("springs", "POINT"), "");
   m_Host = nullptr;
   RunSql(m_Path, "ALTER TABLE springs ADD COLUMN NAME TEXT(20)");
@@ -47,7 +47,7 @@ TEST_F(NewTheme, TakesFeaturesOfOtherPrograms) {
   EXPECT_EQ(Get(*m_Host, "springs", "NAME"), "Alta");
 }
 
-TEST_F(NewTheme, LiesWhereTheOthersLie) {
+TEST_F(NewTheme, TakesTheReferenceSystemOfTheStore) {
   RunSql(m_Path, "UPDATE gpkg_geometry_columns SET srs_id = 4326 WHERE table_name = 'areas'");
   m_Host = Open(m_Path);
   EXPECT_EQ(Create("springs", "POINT"), "");
@@ -57,12 +57,12 @@ TEST_F(NewTheme, LiesWhereTheOthersLie) {
   EXPECT_TRUE(reference->IsGeographic());
 }
 
-TEST_F(NewTheme, IsNamedWithoutTheBlanksAround) {
+TEST_F(NewTheme, TrimsItsName) {
   EXPECT_EQ(Create("  springs ", " point "), "");
   EXPECT_EQ(Request(*m_Host, "THEME_NUMBER |springs|"), "1");
 }
 
-TEST_F(NewTheme, IsRefusedUnderAnImpossibleNameOrType) {
+TEST_F(NewTheme, FailsForAnInvalidNameOrType) {
   struct Row {
     std::string name, type, reason;
   };
@@ -89,12 +89,12 @@ TEST_F(NewTheme, IsRefusedUnderAnImpossibleNameOrType) {
   EXPECT_EQ(m_Told.size(), std::size(rows));
 }
 
-TEST_F(NewTheme, IsRefusedWhereTheStoreIsOnlyRead) {
+TEST_F(NewTheme, FailsInAReadOnlyStore) {
   m_Host = Open(m_Path, EmbeddedHost::Access::ReadOnly);
   EXPECT_EQ(Create("springs", "POINT"), "ERROR: The store is open for reading only.");
 }
 
-TEST_F(NewTheme, IsRefusedWhileAnotherProgramHasTheStoreLocked) {
+TEST_F(NewTheme, FailsWhileTheStoreIsLocked) {
   {
     const auto other = OpenRaw(m_Path, true);
     other->ExecuteSQL("BEGIN IMMEDIATE", nullptr, nullptr);
@@ -105,14 +105,14 @@ TEST_F(NewTheme, IsRefusedWhileAnotherProgramHasTheStoreLocked) {
   EXPECT_EQ(Create("springs", "POINT"), "");
 }
 
-TEST_F(NewTheme, ComesAfterTheValuesThatWait) {
+TEST_F(NewTheme, FlushesPendingValuesFirst) {
   Select(*m_Host, "wells", "3");
   EXPECT_EQ(Set(*m_Host, "wells", "DIAMETER", "301"), "");
   EXPECT_EQ(Create("springs", "POINT"), "");
   EXPECT_EQ(Stored(m_Path, "wells", 3, "DIAMETER"), "301");
 }
 
-TEST_F(NewTheme, KeepsItsNameInOtherStores) {
+TEST_F(NewTheme, KeepsItsNameInOtherFormats) {
   for (const char* driver : {"SQLite", "ESRI Shapefile"}) {
     const std::string path =
         MakeSimple(driver, std::string("other ") + driver,
@@ -125,7 +125,7 @@ TEST_F(NewTheme, KeepsItsNameInOtherStores) {
   }
 }
 
-TEST_F(NewTheme, FeatureTypesCountNamesThatAreNotListedAsLittleAsTheList) {
+TEST_F(NewTheme, FeatureTypesLeaveOutUnlistedThemes) {
   RunSql(m_Path, "CREATE TABLE \"a,b\"(word TEXT)");
   m_Host = Open(m_Path);
   EXPECT_EQ(Request(*m_Host, "THEME_NAMES"), "wells,areas,pipes,mixed,notes");

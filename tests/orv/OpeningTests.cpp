@@ -18,24 +18,24 @@ Text DescriptionOfOpening(const std::string& path) {
   return {};
 }
 
-TEST_F(EmbeddedHostOpen, NamesAMissingStoreInAnErrorOfNumber53) {
+TEST_F(EmbeddedHostOpen, RaisesError53ForAMissingStore) {
   const std::string path = m_Folder.File("è qui.gpkg");
   const std::string text = DescriptionOfOpening(path).ToUtf8();
   EXPECT_NE(text.find(path), std::string::npos) << text;
   EXPECT_NE(text.find("No such file"), std::string::npos) << text;
 }
 
-TEST_F(EmbeddedHostOpen, RefusesAFileThatIsNoStore) {
+TEST_F(EmbeddedHostOpen, RaisesError53ForAFileThatIsNoStore) {
   const std::string path = m_Folder.File("text.gpkg");
   std::ofstream(path) << "not a store at all";
   EXPECT_FALSE(DescriptionOfOpening(path).IsEmpty());
 }
 
-TEST_F(EmbeddedHostOpen, RefusesANameWithNul) {
+TEST_F(EmbeddedHostOpen, RaisesError53ForANameWithNul) {
   EXPECT_THROW(EmbeddedHost::Open(Text(std::u16string_view(u"a\0b.gpkg", 8))), Error);
 }
 
-TEST_F(EmbeddedHostOpen, TakesAReadOnlySourceForReadingAndRefusesWritesInWords) {
+TEST_F(EmbeddedHostOpen, OpensAReadOnlyStoreAndRejectsWrites) {
   const std::string path = MakeGeoPackage();
   const auto host = Open(path, EmbeddedHost::Access::ReadOnly);
   EXPECT_TRUE(host->IsReadOnly());
@@ -50,7 +50,7 @@ TEST_F(EmbeddedHostOpen, TakesAReadOnlySourceForReadingAndRefusesWritesInWords) 
   EXPECT_EQ(Stored(path, "wells", 3, "NAME"), "Chiesa");
 }
 
-TEST_F(EmbeddedHostOpen, LetsAFormOverAReadOnlyStoreWriteBackWhatItHasRead) {
+TEST_F(EmbeddedHostOpen, AcceptsUnchangedValuesInAReadOnlyStore) {
   const auto host = Open(MakeGeoPackage(), EmbeddedHost::Access::ReadOnly);
   Select(*host, "wells", "3");
   EXPECT_EQ(Set(*host, "wells", "NAME", "|Chiesa|"), "");
@@ -58,7 +58,7 @@ TEST_F(EmbeddedHostOpen, LetsAFormOverAReadOnlyStoreWriteBackWhatItHasRead) {
   EXPECT_TRUE(m_Told.empty());
 }
 
-TEST_F(EmbeddedHostOpen, FallsBackToReadingWhereTheFormatCannotBeWritten) {
+TEST_F(EmbeddedHostOpen, OpensFormatsThatCannotBeWrittenReadOnly) {
   const std::string path = m_Folder.File("track.gpx");
   std::ofstream(path) << "<?xml version=\"1.0\"?><gpx version=\"1.1\" creator=\"t\" "
                          "xmlns=\"http://www.topografix.com/GPX/1/1\"><wpt lat=\"45\" lon=\"9\">"

@@ -30,7 +30,7 @@ TEST_F(EmbeddedHostOverOtherFormats, ReadsAndWritesAShapefile) {
   EXPECT_EQ(Geometry(path, "wells", 1), "POINT (3 4)");
 }
 
-TEST_F(EmbeddedHostOverOtherFormats, RefusesWhatAShapefileWouldRoundOrCut) {
+TEST_F(EmbeddedHostOverOtherFormats, RejectsValuesThatAShapefileWouldRoundOrCut) {
   const std::string path = MakeSimple("ESRI Shapefile", "pozzi", kColumns);
   auto host = Open(path);
   const char* const rows[][2] = {
@@ -69,7 +69,7 @@ TEST_F(EmbeddedHostOverOtherFormats, ReadsAndWritesGeoJson) {
   EXPECT_EQ(Geometry(path, "wells", std::stoll(id)), "POINT (3 4)");
 }
 
-TEST_F(EmbeddedHostOverOtherFormats, FindsTheWholeTextInItsOwnCaseOnly) {
+TEST_F(EmbeddedHostOverOtherFormats, MatchesWholeTextsByCase) {
   const std::string path = MakeSimple("ESRI Shapefile", "pozzi", kColumns);
   auto host = Open(path);
   const char* const rows[][2] = {{"NAME = Bruna NEW", "1"},
@@ -83,7 +83,7 @@ TEST_F(EmbeddedHostOverOtherFormats, FindsTheWholeTextInItsOwnCaseOnly) {
   }
 }
 
-TEST_F(EmbeddedHostOverOtherFormats, WritesAPlainSqliteDatabaseWithTheZoneAsGiven) {
+TEST_F(EmbeddedHostOverOtherFormats, KeepsTheTimeZoneInPlainSqlite) {
   const std::string path = MakeSimple("SQLite", "pozzi.sqlite",
                                       {{"NAME", OFTString, 20},
                                        {"DEPTH", OFTReal},

@@ -8,25 +8,25 @@ class EmbeddedHostQuestions : public TestStore {
   Ref<EmbeddedHost> m_Host = Open(m_Path);
 };
 
-TEST_F(EmbeddedHostQuestions, NameAllThemes) {
+TEST_F(EmbeddedHostQuestions, ListAllThemes) {
   EXPECT_EQ(Request(*m_Host, "THEME_NAMES"), "wells,areas,pipes,mixed,notes");
   EXPECT_EQ(Request(*m_Host, "THEME_ACTIVE"), "wells");
 }
 
-TEST_F(EmbeddedHostQuestions, CountThemesByNameInAnyCase) {
+TEST_F(EmbeddedHostQuestions, FindThemesInAnyCase) {
   EXPECT_EQ(Request(*m_Host, "THEME_NUMBER |wells|"), "1");
   EXPECT_EQ(Request(*m_Host, "THEME_NUMBER |WELLS|"), "1");
   EXPECT_EQ(Request(*m_Host, "THEME_NUMBER |well|"), "0");
   EXPECT_EQ(Request(*m_Host, "THEME_NUMBER ||"), "0");
 }
 
-TEST_F(EmbeddedHostQuestions, TakeKeywordsInAnyCaseAndBlanksBetweenTheParts) {
+TEST_F(EmbeddedHostQuestions, AcceptKeywordsInAnyCaseAndBlanksBetweenParts) {
   EXPECT_EQ(Request(*m_Host, "  theme_number|wells|  "), "1");
   EXPECT_EQ(Request(*m_Host, "Theme_Attribute   |wells|\t|point|   1 "), "NAME,0,20,0");
   EXPECT_EQ(Request(*m_Host, "THEME_ATTRIBUTE_NUMBER |wells||POINT|\r\n"), "12");
 }
 
-TEST_F(EmbeddedHostQuestions, AnswerForTheThemesOwnFeatureTypeOnly) {
+TEST_F(EmbeddedHostQuestions, MatchTheFeatureTypeOfTheTheme) {
   struct Row {
     const char *theme, *type, *count;
   };
@@ -55,19 +55,19 @@ TEST_F(EmbeddedHostQuestions, DescribeEachAttributeInFourFields) {
     EXPECT_EQ(Request(*m_Host, std::string("THEME_ATTRIBUTE |wells| |POINT| ") + beyond), "") << beyond;
 }
 
-TEST_F(EmbeddedHostQuestions, LeaveOutNamesThatTheLanguageCannotTell) {
+TEST_F(EmbeddedHostQuestions, LeaveOutNamesThatTheCommandLanguageCannotExpress) {
   EXPECT_EQ(Request(*m_Host, "THEME_ATTRIBUTE_NAMES |wells| |POINT|"),
             "NAME,DEPTH,LEVEL,DIAMETER,FLOORS,SERIAL,OPEN,INSPECTED,SEEN,NOTES,CODE,say \"so\"");
   EXPECT_EQ(Request(*m_Host, "THEME_ATTRIBUTE_NAMES |wells| |ARC|"), "");
 }
 
-TEST_F(EmbeddedHostQuestions, AnswerTheHandleThatTheHostWasGiven) {
+TEST_F(EmbeddedHostQuestions, ReturnTheHandleOfTheHost) {
   EXPECT_EQ(Execute(*m_Host, "HWND_CONTROL"), "0");
   m_Host->SetHandle(-70000);
   EXPECT_EQ(Execute(*m_Host, "hwnd_control"), "-70000");
 }
 
-TEST_F(EmbeddedHostQuestions, AnswerEveryTypeOfValueAsText) {
+TEST_F(EmbeddedHostQuestions, ReturnEveryTypeOfValueAsText) {
   struct Row {
     const char *name, *value;
   };
@@ -92,13 +92,13 @@ TEST_F(EmbeddedHostQuestions, AnswerEveryTypeOfValueAsText) {
   for (const Row& row : rows) EXPECT_EQ(Get(*m_Host, "wells", row.name), row.value) << row.name;
 }
 
-TEST_F(EmbeddedHostQuestions, AnswerNothingForAnAttributeWithoutValue) {
+TEST_F(EmbeddedHostQuestions, ReturnAnEmptyTextForNull) {
   Select(*m_Host, "wells", "2");
   for (const char* name : {"DEPTH", "DIAMETER", "INSPECTED", "SEEN", "NOTES"})
     EXPECT_EQ(Get(*m_Host, "wells", name), "") << name;
 }
 
-TEST_F(EmbeddedHostQuestions, WriteSinglePrecisionAsAPersonWould) {
+TEST_F(EmbeddedHostQuestions, FormatSinglePrecisionWithoutNoise) {
   RunSql(m_Path,
          "UPDATE wells SET LEVEL = 0.100000001490116119384765625, DEPTH = 0.30000000000000004 WHERE fid = 3");
   Select(*m_Host, "wells", "3");
@@ -106,7 +106,7 @@ TEST_F(EmbeddedHostQuestions, WriteSinglePrecisionAsAPersonWould) {
   EXPECT_EQ(Get(*m_Host, "wells", "DEPTH"), "0.30000000000000004");
 }
 
-TEST_F(EmbeddedHostQuestions, AreNotTellingAnybodyWhenTheyFail) {
+TEST_F(EmbeddedHostQuestions, DoNotCallTheErrorHandler) {
   EXPECT_EQ(Request(*m_Host, "THEME_SELECTED_NUMBER |nowhere| |POINT|"), "");
   EXPECT_EQ(m_Host->LastError(), u"There is no theme \"nowhere\".");
   EXPECT_TRUE(m_Told.empty());
@@ -115,7 +115,7 @@ TEST_F(EmbeddedHostQuestions, AreNotTellingAnybodyWhenTheyFail) {
 }
 
 // A table of all features shows the same whether it asks for one or reads them all.
-TEST_F(EmbeddedHostQuestions, AreAnsweredAlikeForAllFeaturesAtOnce) {
+TEST_F(EmbeddedHostQuestions, ReturnTheSameForAllFeaturesAtOnce) {
   const std::vector<Text> attributes = {u"NAME", u"DEPTH", u"none", u"SEEN", u"OPEN"};
   std::vector<std::int64_t> ids;
   m_Host->ReadFeatures(u"wells", attributes, [&](std::int64_t id, const std::vector<Text>& values) {
@@ -129,7 +129,7 @@ TEST_F(EmbeddedHostQuestions, AreAnsweredAlikeForAllFeaturesAtOnce) {
   m_Host->ReadFeatures(u"nowhere", attributes, [](std::int64_t, const std::vector<Text>&) { FAIL(); });
 }
 
-TEST_F(EmbeddedHostQuestions, ReadViewsAndTablesThatNobodyRegistered) {
+TEST_F(EmbeddedHostQuestions, ReadUnregisteredViewsAndTables) {
   RunSql(m_Path, "CREATE VIEW deep AS SELECT fid AS OGC_FID, NAME FROM wells WHERE DEPTH > 50");
   RunSql(m_Path, "CREATE TABLE loose(word TEXT(4), amount REAL)");
   RunSql(m_Path, "INSERT INTO loose VALUES ('one', 1.5)");

@@ -69,7 +69,7 @@ TEST_F(EmbeddedHostSelection, FindsFeaturesByAnyAttribute) {
   EXPECT_TRUE(m_Told.empty());
 }
 
-TEST_F(EmbeddedHostSelection, MakesTheFirstOfSeveralCurrent) {
+TEST_F(EmbeddedHostSelection, MoveFirstMakesTheFirstFeatureCurrent) {
   EXPECT_EQ(Count("OPEN = NEW"), "2");
   EXPECT_EQ(Get(*m_Host, "wells", "NAME"), "") << "nothing is current before THEME_MOVEFIRST";
   EXPECT_EQ(Request(*m_Host, "THEME_CURRENT_ISVALID |wells| |POINT|"), "0");
@@ -78,7 +78,7 @@ TEST_F(EmbeddedHostSelection, MakesTheFirstOfSeveralCurrent) {
   EXPECT_EQ(Get(*m_Host, "wells", "NAME"), "Bruna");
 }
 
-TEST_F(EmbeddedHostSelection, EndsWithNone) {
+TEST_F(EmbeddedHostSelection, IsClearedBySelectionNone) {
   Select(*m_Host, "wells", "3");
   Finish(*m_Host, "wells");
   EXPECT_EQ(Request(*m_Host, "THEME_SELECTED_NUMBER |wells| |POINT|"), "0");
@@ -95,7 +95,7 @@ TEST_F(EmbeddedHostSelection, IsEmptyAfterASearchThatFindsNothing) {
   EXPECT_EQ(Request(*m_Host, "THEME_CURRENT_ISVALID |wells| |POINT|"), "0");
 }
 
-TEST_F(EmbeddedHostSelection, IsKeptForEachThemeByItself) {
+TEST_F(EmbeddedHostSelection, IsSeparateForEachTheme) {
   Select(*m_Host, "wells", "3");
   Select(*m_Host, "areas", "1");
   EXPECT_EQ(Get(*m_Host, "wells", "NAME"), "Chiesa");
@@ -108,7 +108,7 @@ TEST_F(EmbeddedHostSelection, SelectsNothingOfAnotherFeatureType) {
   EXPECT_EQ(Request(*m_Host, "THEME_SELECTED_NUMBER |wells| |POINT|"), "0");
 }
 
-TEST_F(EmbeddedHostSelection, ReadsTheFeatureAnewEachTime) {
+TEST_F(EmbeddedHostSelection, ReadsTheFeatureAgainEachTime) {
   Select(*m_Host, "wells", "3");
   EXPECT_EQ(Get(*m_Host, "wells", "NAME"), "Chiesa");
   RunSql(m_Path, "UPDATE wells SET NAME = 'Altra' WHERE fid = 3");
@@ -122,7 +122,7 @@ TEST_F(EmbeddedHostSelection, ReadsTheFeatureAnewEachTime) {
   EXPECT_EQ(Request(*m_Host, "THEME_CURRENT_ISVALID |wells| |POINT|"), "0");
 }
 
-TEST_F(EmbeddedHostSelection, LeavesTheStoreFreeForOtherWriters) {
+TEST_F(EmbeddedHostSelection, KeepsNoLock) {
   Count("OPEN = NEW");
   Select(*m_Host, "wells", "3");
   Get(*m_Host, "wells", "NAME");

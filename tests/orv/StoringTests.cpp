@@ -21,7 +21,7 @@ struct Taken {
   const char *name, *value, *stored;
 };
 
-TEST_F(EmbeddedHostStoring, TakesWhatTheColumnHolds) {
+TEST_F(EmbeddedHostStoring, AcceptsValuesThatTheColumnHolds) {
   const Taken rows[] = {
       {"NAME", "|Nuovo pozzo|", "Nuovo pozzo"},
       {"NAME", "|12345678901234567890|", "12345678901234567890"},
@@ -75,7 +75,7 @@ TEST_F(EmbeddedHostStoring, TakesWhatTheColumnHolds) {
   EXPECT_TRUE(m_Told.empty());
 }
 
-TEST_F(EmbeddedHostStoring, RefusesWhatTheColumnCannotHoldExactly) {
+TEST_F(EmbeddedHostStoring, RejectsValuesThatTheColumnCannotHoldExactly) {
   const char* const rows[][3] = {
       {"NAME", "|1234567890123456789012345678901234567890|", "longer than the 20 characters"},
       {"NAME", "|😀😀😀😀😀😀😀😀😀😀😀😀😀😀😀😀😀😀😀😀x|", "longer than"},
@@ -132,7 +132,7 @@ TEST_F(EmbeddedHostStoring, RefusesWhatTheColumnCannotHoldExactly) {
   }
 }
 
-TEST_F(EmbeddedHostStoring, RefusesWhatIsNoText) {
+TEST_F(EmbeddedHostStoring, RejectsInvalidText) {
   Select(*m_Host, "wells", "3");
   const auto set = [&](std::u16string_view value) {
     return m_Host->Execute(Text(u"THEME_SET_ATTRIBUTE |wells| |POINT| |NAME| |") + value + u"|").ToUtf8();
@@ -144,7 +144,7 @@ TEST_F(EmbeddedHostStoring, RefusesWhatIsNoText) {
   EXPECT_EQ(Stored(m_Path, "wells", 3, "NAME"), "Chiesa");
 }
 
-TEST_F(EmbeddedHostStoring, TakesATextOfAMillionCharacters) {
+TEST_F(EmbeddedHostStoring, AcceptsATextOfAMillionCharacters) {
   std::string text(1'000'000, '\'');
   text.replace(500'000, 3, "\nè");
   EXPECT_EQ(Store("NOTES", "|" + text + "|"), "");
@@ -153,7 +153,7 @@ TEST_F(EmbeddedHostStoring, TakesATextOfAMillionCharacters) {
   EXPECT_EQ(Get(*m_Host, "wells", "NOTES"), text);
 }
 
-TEST_F(EmbeddedHostStoring, StoresTheValuesOfOneOkTogether) {
+TEST_F(EmbeddedHostStoring, FlushesValuesInOneTransaction) {
   Execute(*m_Host, "APPLICATION_FLAGREDRAW OFF");
   Select(*m_Host, "wells", "3");
   EXPECT_EQ(Set(*m_Host, "wells", "NAME", "|Nuova|"), "");
@@ -172,7 +172,7 @@ TEST_F(EmbeddedHostStoring, StoresTheValuesOfOneOkTogether) {
   EXPECT_EQ(Geometry(m_Path, "wells", 3), "POINT (5 6)");
 }
 
-TEST_F(EmbeddedHostStoring, StoresNoneWhereOneIsRefusedAndTellsOnce) {
+TEST_F(EmbeddedHostStoring, FlushesNothingAfterOneInvalidValueAndReportsOnce) {
   for (const bool badFirst : {true, false}) {
     m_Told.clear();
     Select(*m_Host, "wells", "3");
@@ -191,7 +191,7 @@ TEST_F(EmbeddedHostStoring, StoresNoneWhereOneIsRefusedAndTellsOnce) {
   }
 }
 
-TEST_F(EmbeddedHostStoring, HappensAtWhateverEndsTheCollecting) {
+TEST_F(EmbeddedHostStoring, FlushesOnEveryCommandThatEndsEditing) {
   const char* const ends[] = {
       "THEME_SELECTION_NONE |wells| |POINT|",
       "THEME_MOVEFIRST |wells| |POINT|",
@@ -210,7 +210,7 @@ TEST_F(EmbeddedHostStoring, HappensAtWhateverEndsTheCollecting) {
   }
 }
 
-TEST_F(EmbeddedHostStoring, KeepsValuesOfTwoFeaturesApart) {
+TEST_F(EmbeddedHostStoring, FlushesWhenTheFeatureChanges) {
   Select(*m_Host, "areas", "1");
   Select(*m_Host, "wells", "3");
   Set(*m_Host, "wells", "DIAMETER", "12abc");
@@ -221,7 +221,7 @@ TEST_F(EmbeddedHostStoring, KeepsValuesOfTwoFeaturesApart) {
   EXPECT_EQ(Stored(m_Path, "areas", 1, "NAME"), "Sud");
 }
 
-TEST_F(EmbeddedHostStoring, HappensAtTheReleaseOfTheHostToo) {
+TEST_F(EmbeddedHostStoring, FlushesOnDestruction) {
   Select(*m_Host, "wells", "3");
   Set(*m_Host, "wells", "DIAMETER", "555");
   m_Host = nullptr;
@@ -238,7 +238,7 @@ TEST_F(EmbeddedHostStoring, NeedsACurrentFeature) {
   EXPECT_EQ(m_Told.size(), 1u);
 }
 
-TEST_F(EmbeddedHostStoring, TakesTheLastOfSeveralValuesForOneAttribute) {
+TEST_F(EmbeddedHostStoring, KeepsTheLastValueOfAnAttribute) {
   Select(*m_Host, "wells", "3");
   Set(*m_Host, "wells", "NAME", "|first|");
   Set(*m_Host, "wells", "name", "|second|");
@@ -251,7 +251,7 @@ TEST_F(EmbeddedHostStoring, TakesTheLastOfSeveralValuesForOneAttribute) {
   EXPECT_EQ(Stored(m_Path, "wells", 3, "NAME"), "second");
 }
 
-TEST_F(EmbeddedHostStoring, LeavesAnUntouchedValueAloneThoughTheColumnWouldRefuseIt) {
+TEST_F(EmbeddedHostStoring, SkipsUnchangedValuesThatTheColumnWouldReject) {
   RunSql(m_Path, "UPDATE wells SET NAME = 'longer than twenty characters', CODE = '' WHERE fid = 3");
   Select(*m_Host, "wells", "3");
   EXPECT_EQ(Set(*m_Host, "wells", "NAME", "|longer than twenty characters|"), "");
@@ -263,7 +263,7 @@ TEST_F(EmbeddedHostStoring, LeavesAnUntouchedValueAloneThoughTheColumnWouldRefus
   EXPECT_EQ(Stored(m_Path, "wells", 3, "DEPTH"), "62");
 }
 
-TEST_F(EmbeddedHostStoring, TouchesNoColumnThatAnotherProgramHasChangedMeanwhile) {
+TEST_F(EmbeddedHostStoring, KeepsConcurrentChangesOfOtherColumns) {
   Select(*m_Host, "wells", "3");
   EXPECT_EQ(Get(*m_Host, "wells", "NAME"), "Chiesa");
   RunSql(m_Path,
@@ -275,14 +275,14 @@ TEST_F(EmbeddedHostStoring, TouchesNoColumnThatAnotherProgramHasChangedMeanwhile
   EXPECT_EQ(Geometry(m_Path, "wells", 3), "POINT (1 2)");
 }
 
-TEST_F(EmbeddedHostStoring, TellsThatTheFeatureIsGone) {
+TEST_F(EmbeddedHostStoring, ReportsADeletedFeature) {
   Select(*m_Host, "wells", "3");
   Set(*m_Host, "wells", "DEPTH", "62");
   RunSql(m_Path, "DELETE FROM wells WHERE fid = 3");
   EXPECT_NE(Finish(*m_Host, "wells").find("no such feature any more"), std::string::npos);
 }
 
-TEST_F(EmbeddedHostStoring, PassesOnWhatTheDatabaseHasAgainstAValue) {
+TEST_F(EmbeddedHostStoring, ReportsConstraintsOfTheDatabase) {
   RunSql(m_Path, "CREATE UNIQUE INDEX code ON wells(CODE)");
   Select(*m_Host, "wells", "3");
   Set(*m_Host, "wells", "DEPTH", "62");
@@ -293,7 +293,7 @@ TEST_F(EmbeddedHostStoring, PassesOnWhatTheDatabaseHasAgainstAValue) {
   EXPECT_EQ(Stored(m_Path, "wells", 3, "DEPTH"), "63");
 }
 
-TEST_F(EmbeddedHostStoring, IsRefusedWithinSecondsWhileAnotherProgramHoldsTheLock) {
+TEST_F(EmbeddedHostStoring, FailsSoonWhileTheStoreIsLocked) {
   const auto other = OpenRaw(m_Path, true);
   other->ExecuteSQL("BEGIN IMMEDIATE", nullptr, nullptr);
   Select(*m_Host, "wells", "3");
@@ -309,7 +309,7 @@ TEST_F(EmbeddedHostStoring, IsRefusedWithinSecondsWhileAnotherProgramHoldsTheLoc
   EXPECT_EQ(Stored(m_Path, "wells", 3, "NAME"), "Nuova");
 }
 
-TEST_F(EmbeddedHostStoring, IsUndoneWhereAReaderKeepsItFromBeingCommitted) {
+TEST_F(EmbeddedHostStoring, RollsBackWhenAReaderBlocksTheCommit) {
   const auto other = OpenRaw(m_Path, true);
   OGRLayer* const cursor = other->ExecuteSQL("SELECT * FROM wells", nullptr, nullptr);
   ASSERT_NE(OGRFeatureUniquePtr(cursor->GetNextFeature()), nullptr);
@@ -320,7 +320,7 @@ TEST_F(EmbeddedHostStoring, IsUndoneWhereAReaderKeepsItFromBeingCommitted) {
   EXPECT_EQ(Stored(m_Path, "wells", 3, "NAME"), "Nuova");
 }
 
-TEST_F(EmbeddedHostStoring, KeepsBytesThatAreNoTextWhereNobodyTouchedThem) {
+TEST_F(EmbeddedHostStoring, KeepsInvalidBytesOfUnchangedValues) {
   RunSql(m_Path, "UPDATE wells SET NOTES = CAST(x'4dfc6c6c' AS TEXT) WHERE fid = 3");
   Select(*m_Host, "wells", "3");
   const std::string shown = Get(*m_Host, "wells", "NOTES");
@@ -331,7 +331,7 @@ TEST_F(EmbeddedHostStoring, KeepsBytesThatAreNoTextWhereNobodyTouchedThem) {
   EXPECT_EQ(Stored(m_Path, "wells", 3, "NOTES"), "M\xFCll");
 }
 
-TEST_F(EmbeddedHostStoring, SaysSoWhereALockKeepsItFromReading) {
+TEST_F(EmbeddedHostStoring, ReportsALockThatBlocksReading) {
   const auto other = OpenRaw(m_Path, true);
   other->ExecuteSQL("BEGIN EXCLUSIVE", nullptr, nullptr);
   EXPECT_NE(Execute(*m_Host, "THEME_SELECTION_BYVALUE |wells| |POINT| OVTARVOUNIQUEID = 3 NEW")
@@ -343,7 +343,7 @@ TEST_F(EmbeddedHostStoring, SaysSoWhereALockKeepsItFromReading) {
   EXPECT_EQ(Get(*m_Host, "wells", "NAME"), "Chiesa");
 }
 
-TEST_F(EmbeddedHostStoring, TellsTheGeoPackageThatTheTableHasChanged) {
+TEST_F(EmbeddedHostStoring, UpdatesLastChangeOfTheGeoPackage) {
   RunSql(m_Path, "UPDATE gpkg_contents SET last_change = '2001-01-01T00:00:00.000Z'");
   EXPECT_EQ(Store("DEPTH", "62"), "");
   const auto data = OpenRaw(m_Path);

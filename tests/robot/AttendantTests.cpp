@@ -26,7 +26,7 @@ class AttendantTest : public testing::Test {
   Answers& answers = attendant.Queues();
 };
 
-TEST_F(AttendantTest, PressesTheButtonOrTheDefaultOne) {
+TEST_F(AttendantTest, PressesTheQueuedOrTheDefaultButton) {
   const auto ask = [] {
     return QMessageBox::question(nullptr, {}, QStringLiteral("?"), QMessageBox::Yes | QMessageBox::No,
                                  QMessageBox::No);
@@ -77,7 +77,7 @@ TEST_F(AttendantTest, ChoosesSeveralFilesOfAFolder) {
   std::filesystem::remove_all(folder);
 }
 
-TEST_F(AttendantTest, ChoosesInAMenuThatAPressHasOpened) {
+TEST_F(AttendantTest, ChoosesInAMenuThatAPressOpened) {
   Recorder window;
   QStringList chosen;
   window.onPress = [&] {
@@ -91,7 +91,7 @@ TEST_F(AttendantTest, ChoosesInAMenuThatAPressHasOpened) {
   EXPECT_EQ(chosen.join(u' ').toStdString(), "mnuC none mnuA none");
 }
 
-TEST_F(AttendantTest, RemembersTheTooltipOfADrag) {
+TEST_F(AttendantTest, KeepsTheTooltipOfADrag) {
   QWidget tip;
   tip.setObjectName(QStringLiteral("frmTooltip"));
   tip.setWindowTitle(QStringLiteral(" 8, 16 "));
@@ -100,7 +100,7 @@ TEST_F(AttendantTest, RemembersTheTooltipOfADrag) {
   EXPECT_EQ(attendant.LastTooltip(), u" 8, 16 ");
 }
 
-TEST_F(AttendantTest, LeavesNoFileDialogOpenThatDoesNotTakeItsAnswer) {
+TEST_F(AttendantTest, ClosesAFileDialogThatRejectsItsAnswer) {
   answers.files = {u"/no/such/file"};
   EXPECT_EQ(QFileDialog::getOpenFileName(), QString());
   const auto path = std::filesystem::temp_directory_path() / "cardwright-attendant-old.txt";
@@ -146,14 +146,14 @@ class AttendedDialog : public AttendantTest {
   QLineEdit* edit = new QLineEdit(&dialog);
 };
 
-TEST_F(AttendedDialog, IsDismissedUnlessAProcedureIsSetForItsName) {
+TEST_F(AttendedDialog, IsDismissedWithoutAProcedure) {
   EXPECT_EQ(dialog.exec(), QDialog::Rejected);
   OnDialog(u"frmOther", [](WidgetPart&) { FAIL(); });
   EXPECT_EQ(dialog.exec(), QDialog::Rejected);
   attendant.RaiseFailure();
 }
 
-TEST_F(AttendedDialog, IsHandedToItsProcedureAtEveryOpening) {
+TEST_F(AttendedDialog, IsPassedToItsProcedureEachTime) {
   int calls = 0;
   OnDialog(u"FRMPLAN", [&](WidgetPart& part) {
     ++calls;
@@ -171,7 +171,7 @@ TEST_F(AttendedDialog, IsHandedToItsProcedureAtEveryOpening) {
   EXPECT_EQ(calls, 2);
 }
 
-TEST_F(AttendedDialog, DoesNotStayOpenBehindItsProcedureWhoseErrorIsKept) {
+TEST_F(AttendedDialog, ClosesAfterItsProcedureAndKeepsTheError) {
   Ref<WidgetPart> kept;
   OnDialog(u"frmPlan", [&](WidgetPart& part) {
     kept = &part;
@@ -205,7 +205,7 @@ class AttendedMenu : public AttendantTest {
   QMenu menu{&window};
 };
 
-TEST_F(AttendedMenu, IsDismissedUnlessSomethingIsQueued) {
+TEST_F(AttendedMenu, IsDismissedWithoutAnAnswer) {
   EXPECT_EQ(Chosen(), "");
   EXPECT_EQ(attendant.LastMenu(), u"mnuCut=Cu&t;!mnuPaste=&Paste;-;=&Lock");
   answers.menus = {u"MNUCUT", u"", u"mnuPaste", u"mnuHidden", u"lock"};
@@ -216,7 +216,7 @@ TEST_F(AttendedMenu, IsDismissedUnlessSomethingIsQueued) {
   EXPECT_EQ(Chosen(), "&Lock");
 }
 
-TEST_F(AttendedMenu, MayOpenInTheMiddleOfAPress) {
+TEST_F(AttendedMenu, CanOpenDuringAPress) {
   answers.menus = {u"mnuCut"};
   std::string chosen;
   window.onPress = [&] { chosen = Chosen(); };

@@ -15,7 +15,7 @@ struct Named {
   const char* text;
 };
 
-TEST(KeyStrokes, AreNamedAsPeopleNameThem) {
+TEST(KeyStrokes, ParseCommonNames) {
   const Named named[] = {
       {u"F3", Qt::Key_F3, Qt::NoModifier, ""},
       {u"Shift+F3", Qt::Key_F3, Qt::ShiftModifier, ""},
@@ -43,7 +43,7 @@ TEST(KeyStrokes, AreNamedAsPeopleNameThem) {
   }
 }
 
-TEST(KeyStrokes, AreRefusedWhereThereIsNoSuchKey) {
+TEST(KeyStrokes, FailForUnknownKeys) {
   for (const char16_t* name : {u"", u"F0", u"F25", u"F1x", u"Entre", u"Hyper+X", u"Ctrl+", u"+a", u"Ctrl"})
     EXPECT_THROW(ParseStroke(name), Error) << Text(name).ToUtf8();
 }
@@ -54,7 +54,7 @@ TEST(KeyboardTest, TypesEveryCharacter) {
   EXPECT_EQ(window.Take(), "key65[a] key200[È] key16777220[\r] key33554431[\U0001F600] ");
 }
 
-TEST(KeyboardTest, CannotTypeWhereNothingTakesTheFocus) {
+TEST(KeyboardTest, FailsWhereNothingTakesTheFocus) {
   Recorder window;
   window.setFocusPolicy(Qt::NoFocus);
   window.clearFocus();

@@ -29,19 +29,19 @@ TEST(MouseTest, ClicksTwiceForADoubleClick) {
   EXPECT_EQ(window.Take(), "press1/1@5,6 release1/0@5,6 double1/1@5,6 release1/0@5,6 ");
 }
 
-TEST(MouseTest, AsksForTheMenuWithTheRightButton) {
+TEST(MouseTest, OpensTheContextMenuWithTheRightButton) {
   Recorder window;
   Mouse().Click(window, {5, 6}, {Qt::RightButton, Qt::NoModifier});
   EXPECT_EQ(window.Take(), "press2/2@5,6 menu release2/0@5,6 ");
 }
 
-TEST(MouseTest, DragsInEvenMoves) {
+TEST(MouseTest, DragsInEqualSteps) {
   Recorder window;
   Mouse().Drag(window, {10, 10}, {30, 20}, {}, 2);
   EXPECT_EQ(window.Take(), "press1/1@10,10 move0/1@20,15 move0/1@30,20 release1/0@30,20 ");
 }
 
-TEST(MouseTest, GoesOnInALoopThatWaitsForTheRelease) {
+TEST(MouseTest, ContinuesInsideALoopThatWaitsForTheRelease) {
   Recorder window;
   window.onPress = [] {
     QElapsedTimer waiting;
@@ -54,7 +54,7 @@ TEST(MouseTest, GoesOnInALoopThatWaitsForTheRelease) {
   EXPECT_EQ(window.Take(), "press1/1@0,0 move0/1@8,0 release1/0@8,0 ");
 }
 
-TEST(MouseTest, ShowsALoopThatPollsItOneMoveATurn) {
+TEST(MouseTest, SendsAPollingLoopOneMoveATurn) {
   Recorder window;
   std::vector<std::size_t> turns;
   window.onPress = [&] {
@@ -70,7 +70,7 @@ TEST(MouseTest, ShowsALoopThatPollsItOneMoveATurn) {
   EXPECT_LE(*std::max_element(turns.begin(), turns.end()), 1U);
 }
 
-TEST(MouseTest, CannotReachWhatIsNotOnTheScreen) {
+TEST(MouseTest, FailsForHiddenTargets) {
   Recorder window;
   EXPECT_THROW(Mouse().Click(window, {5, 500}), Error);
   window.hide();
@@ -78,7 +78,7 @@ TEST(MouseTest, CannotReachWhatIsNotOnTheScreen) {
   EXPECT_EQ(window.Take(), "");
 }
 
-TEST(MouseTest, MayCloseTheWindowThatItPresses) {
+TEST(MouseTest, CanCloseTheWindowThatItPresses) {
   auto* window = new Recorder;
   const QPointer<QWidget> watch = window;
   window->onPress = [window] { window->deleteLater(); };

@@ -5,7 +5,7 @@
 namespace cardwright::robot {
 namespace {
 
-TEST(PointerNumbers, AreThePlatforms) {
+TEST(PointerNumbers, MatchThePlatform) {
   QWidget widget;
   EXPECT_EQ(PointerNumber(widget), 0);
   for (const auto& [shape, number] :

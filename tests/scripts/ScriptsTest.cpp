@@ -53,7 +53,7 @@ Outcome RunBesideTheExample(const fs::path& script) {
   return Cardwright({"script", script.string(), fs::path(folder.File("")).parent_path().string()});
 }
 
-TEST_P(Scripts, PrintWhatTheyPromise) {
+TEST_P(Scripts, PrintTheExpectedOutput) {
   const std::string expected = Expected(ReadAll(GetParam().string()));
   ASSERT_NE(expected, "") << "the script promises nothing";
   Outcome outcome = RunBesideTheExample(GetParam());

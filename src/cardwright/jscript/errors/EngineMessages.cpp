@@ -8,7 +8,7 @@ namespace cardwright::jscript {
 namespace {
 
 struct MessageRow {
-  std::string_view name;  // without the prefix that all have
+  std::string_view name;  // without the common prefix
   int number;
 };
 

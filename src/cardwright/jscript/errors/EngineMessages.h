@@ -5,8 +5,8 @@
 
 namespace cardwright::jscript {
 
-/// Number of the language's error for a message of the JavaScript library, by the message's name; none where
-/// the language has no such error.
+/// The number of the JScript error for a message of the JavaScript library, by the message's name; none where
+/// JScript has no such error.
 std::optional<int> NumberOfMessage(std::string_view name) noexcept;
 
 }  // namespace cardwright::jscript

@@ -8,7 +8,7 @@ namespace cardwright::jscript {
 inline constexpr char16_t kRuntimeErrorSource[] = u"Microsoft JScript runtime error";
 inline constexpr char16_t kCompilationErrorSource[] = u"Microsoft JScript compilation error";
 
-/// Text of an error of the language; "Unknown runtime error" where it has none.
+/// The text of an error; "Unknown runtime error" for a number that has none.
 Text ErrorText(int number);
 
 }  // namespace cardwright::jscript

@@ -6,8 +6,8 @@
 
 namespace cardwright::jscript {
 
-/// The object between the global one and `behind`: in it the script finds, after its own names, what the host
-/// added: objects by their names and members of those that share them, whatever the case.
-JSObject* NewGlobalNames(JSContext* cx, JS::HandleObject behind);
+/// Makes the prototype of the global object. Names that the script does not define itself are resolved in it:
+/// first the host's objects and the members that they share, in any case, then the names of `prototype`.
+JSObject* NewGlobalNames(JSContext* cx, JS::HandleObject prototype);
 
 }  // namespace cardwright::jscript

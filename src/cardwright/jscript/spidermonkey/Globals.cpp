@@ -22,21 +22,22 @@
 #include "cardwright/automation/Array.h"
 #include "cardwright/automation/Conversions.h"
 #include "cardwright/automation/MemberTable.h"
-#include "cardwright/jscript/spidermonkey/Boxes.h"
-#include "cardwright/jscript/spidermonkey/Calls.h"
+#include "cardwright/jscript/spidermonkey/ErrorMapping.h"
 #include "cardwright/jscript/spidermonkey/GlobalNames.h"
+#include "cardwright/jscript/spidermonkey/HostCalls.h"
+#include "cardwright/jscript/spidermonkey/IndexedAssignment.h"
 #include "cardwright/jscript/spidermonkey/Prelude.h"
-#include "cardwright/jscript/spidermonkey/Puts.h"
-#include "cardwright/jscript/spidermonkey/Values.h"
-#include "cardwright/jscript/syntax/SyntaxFault.h"
+#include "cardwright/jscript/spidermonkey/ValueConversion.h"
+#include "cardwright/jscript/spidermonkey/ValueWrappers.h"
+#include "cardwright/jscript/syntax/SyntaxError.h"
 
 namespace cardwright::jscript {
 namespace {
 
-/// Goes through a collection or an array for the language's Enumerator.
-class Walk final : public TableObject {
+/// Enumerates a collection or an array for the prelude's class Enumerator.
+class CollectionEnumerator final : public TableObject {
  public:
-  explicit Walk(const Variant& collection) : m_Collection(collection) {
+  explicit CollectionEnumerator(const Variant& collection) : m_Collection(collection) {
     if (!collection.IsArray()) m_Enumerator = RequireObject(collection).Enumerate();
   }
   Text TypeName() const override { return u"Enumerator"; }
@@ -51,7 +52,8 @@ class Walk final : public TableObject {
 
  protected:
   const MemberTable& Members() const override {
-    static constexpr Member kMembers[] = {Method<&Walk::Next>(u"Next"), Property<&Walk::Item>(u"Item")};
+    static constexpr Member kMembers[] = {Method<&CollectionEnumerator::Next>(u"Next"),
+                                          Property<&CollectionEnumerator::Item>(u"Item")};
     static const MemberTable table(kMembers);
     return table;
   }
@@ -62,23 +64,23 @@ class Walk final : public TableObject {
   std::size_t m_Position = 0;
 };
 
-bool MakeWalk(JSContext* cx, unsigned count, JS::Value* vp) {
+bool EnumeratorNative(JSContext* cx, unsigned count, JS::Value* vp) {
   const JS::CallArgs args = JS::CallArgsFromVp(count, vp);
-  Session* session = Session::Required(cx);
+  ScriptSession* session = ScriptSession::Required(cx);
   if (!session) return false;
   return CallHost(*session, [&] {
     Variant collection;
     if (!FromScript(*session, args.get(0), collection)) return false;
     if (!collection.IsArray() && (!collection.IsObject() || !collection.ObjectPtr()))
       Raise(kNotACollection, ErrorText(kNotACollection));
-    return ToScript(*session, Variant(MakeRef<Walk>(collection)), args.rval());
+    return ToScript(*session, Variant(MakeRef<CollectionEnumerator>(collection)), args.rval());
   });
 }
 
-// Where the language's own forms of dates do not fit: those of the locale.
+// Parses a date in the forms of the locale, which the prelude tries after those of the language.
 bool ParseLocal(JSContext* cx, unsigned count, JS::Value* vp) {
   const JS::CallArgs args = JS::CallArgsFromVp(count, vp);
-  Session* session = Session::Required(cx);
+  ScriptSession* session = ScriptSession::Required(cx);
   if (!session) return false;
   args.rval().setNaN();
   return CallHost(*session, [&] {
@@ -95,19 +97,19 @@ bool ParseLocal(JSContext* cx, unsigned count, JS::Value* vp) {
   });
 }
 
-// Number and description of an error that the library made, or undefined.
-bool FaceOfError(JSContext* cx, unsigned count, JS::Value* vp) {
+// [number, description] of an error that the library raised, or undefined.
+bool MapErrorNative(JSContext* cx, unsigned count, JS::Value* vp) {
   const JS::CallArgs args = JS::CallArgsFromVp(count, vp);
-  Session* session = Session::Required(cx);
+  ScriptSession* session = ScriptSession::Required(cx);
   if (!session) return false;
   args.rval().setUndefined();
   if (!args.get(0).isObject()) return true;
   JS::RootedObject error(cx, &args[0].toObject());
-  ErrorFace face;
-  if (!FaceOf(*session, error, face)) return true;
+  MappedError mapped;
+  if (!MapError(*session, error, mapped)) return true;
   JS::RootedValueArray<2> pair(cx);
-  pair[0].setInt32(ScriptNumber(face.number));
-  JSString* text = JS_NewUCStringCopyN(cx, face.text.View().data(), face.text.Size());
+  pair[0].setInt32(ToScriptNumber(mapped.number));
+  JSString* text = JS_NewUCStringCopyN(cx, mapped.text.View().data(), mapped.text.Size());
   if (!text) return false;
   pair[1].setString(text);
   JSObject* list = JS::NewArrayObject(cx, pair);
@@ -115,7 +117,7 @@ bool FaceOfError(JSContext* cx, unsigned count, JS::Value* vp) {
   return list != nullptr;
 }
 
-bool TextArgument(Session& session, const JS::CallArgs& args, unsigned index, Text& text) {
+bool TextArgument(ScriptSession& session, const JS::CallArgs& args, unsigned index, Text& text) {
   if (args.get(index).isUndefined()) return true;
   JS::RootedString string(session.Context(), JS::ToString(session.Context(), args[index]));
   if (!string) return false;
@@ -125,7 +127,7 @@ bool TextArgument(Session& session, const JS::CallArgs& args, unsigned index, Te
 
 bool NewActiveXObject(JSContext* cx, unsigned count, JS::Value* vp) {
   const JS::CallArgs args = JS::CallArgsFromVp(count, vp);
-  Session* session = Session::Required(cx);
+  ScriptSession* session = ScriptSession::Required(cx);
   if (!session) return false;
   return CallHost(*session, [&] {
     Text progid, server;
@@ -133,7 +135,7 @@ bool NewActiveXObject(JSContext* cx, unsigned count, JS::Value* vp) {
     try {
       return ToScript(*session, Variant(session->Host().CreateObject(progid, server)), args.rval());
     } catch (const Error& error) {
-      // The platform's own text of this error is another one.
+      // JScript has a text of its own for this error. A host's own text is kept.
       const bool isPlain = error.Description() == StandardErrorText(error.Number());
       if (error.Number() != kCannotCreateObject || !isPlain) throw;
       Raise(kCannotCreateObject, ErrorText(kCannotCreateObject));
@@ -143,7 +145,7 @@ bool NewActiveXObject(JSContext* cx, unsigned count, JS::Value* vp) {
 
 bool GetObject(JSContext* cx, unsigned count, JS::Value* vp) {
   const JS::CallArgs args = JS::CallArgsFromVp(count, vp);
-  Session* session = Session::Required(cx);
+  ScriptSession* session = ScriptSession::Required(cx);
   if (!session) return false;
   return CallHost(*session, [&] {
     Text path, progid;
@@ -155,22 +157,22 @@ bool GetObject(JSContext* cx, unsigned count, JS::Value* vp) {
 bool CollectGarbage(JSContext* cx, unsigned count, JS::Value* vp) {
   const JS::CallArgs args = JS::CallArgsFromVp(count, vp);
   JS_GC(cx);
-  Runtime::Of(cx).ReleaseDead();
+  Runtime::Of(cx).ReleaseDeferred();
   args.rval().setUndefined();
   return true;
 }
 
-bool Caught(JSContext* cx, unsigned count, JS::Value* vp) {
+bool CaughtNative(JSContext* cx, unsigned count, JS::Value* vp) {
   const JS::CallArgs args = JS::CallArgsFromVp(count, vp);
-  Session* session = Session::Required(cx);
+  ScriptSession* session = ScriptSession::Required(cx);
   args.rval().setUndefined();
-  return session && DressError(*session, args.get(0));
+  return session && AddErrorProperties(*session, args.get(0));
 }
 
-// A text that `eval` is given is rewritten as every source.
-bool Source(JSContext* cx, unsigned count, JS::Value* vp) {
+// A text for `eval` is rewritten like any source.
+bool RewriteNative(JSContext* cx, unsigned count, JS::Value* vp) {
   const JS::CallArgs args = JS::CallArgsFromVp(count, vp);
-  Session* session = Session::Required(cx);
+  ScriptSession* session = ScriptSession::Required(cx);
   if (!session) return false;
   args.rval().set(args.get(0));
   if (!args.get(0).isString()) return true;
@@ -182,7 +184,7 @@ bool Source(JSContext* cx, unsigned count, JS::Value* vp) {
       JSString* string = JS_NewUCStringCopyN(cx, source.text.data(), source.text.size());
       if (string) args.rval().setString(string);
       return string != nullptr;
-    } catch (const SyntaxFault& fault) {
+    } catch (const SyntaxError& fault) {
       Raise(fault.number, ErrorText(fault.number));
     }
   });
@@ -197,11 +199,11 @@ bool DefineFunctions(JSContext* cx, JS::HandleObject global) {
   return JS_DefineFunction(cx, global, "ActiveXObject", &NewActiveXObject, 1, JSFUN_CONSTRUCTOR) &&
          JS_DefineFunction(cx, global, "GetObject", &GetObject, 2, 0) &&
          JS_DefineFunction(cx, global, "CollectGarbage", &CollectGarbage, 0, 0) &&
-         DefineHidden(cx, global, hidden::kCaught, &Caught) &&
-         DefineHidden(cx, global, hidden::kSource, &Source);
+         DefineHidden(cx, global, hidden::kCaught, &CaughtNative) &&
+         DefineHidden(cx, global, hidden::kSource, &RewriteNative);
 }
 
-// Compiled for the first session of a thread and kept for the others.
+// Compiled for the first session of a thread and reused for the others.
 JSScript* PreludeScript(JSContext* cx) {
   RefPtr<JS::Stencil>& stencil = Runtime::Of(cx).Prelude();
   if (!stencil) {
@@ -222,7 +224,7 @@ bool RunPrelude(JSContext* cx, JS::HandleObject global) {
   if (!script || !JS_ExecuteScript(cx, script, &prelude)) return false;
   JS::RootedValueArray<4> arguments(cx);
   arguments[0].setObject(*global);
-  const JSNative helpers[] = {&MakeWalk, &ParseLocal, &FaceOfError};
+  const JSNative helpers[] = {&EnumeratorNative, &ParseLocal, &MapErrorNative};
   for (std::size_t k = 0; k < std::size(helpers); ++k) {
     JSFunction* function = JS_NewFunction(cx, helpers[k], 1, 0, "helper");
     if (!function) return false;
@@ -244,15 +246,15 @@ bool KeepOriginals(JSContext* cx, JS::HandleObject global, JS::MutableHandleObje
 
 }  // namespace
 
-bool DefineGlobals(Session& session) {
+bool DefineGlobals(ScriptSession& session) {
   JSContext* cx = session.Context();
   JS::HandleObject global = session.Global();
-  if (!JS::InitRealmStandardClasses(cx) || !session.GetRuntime().MakeKeys()) return false;
-  JS::RootedObject behind(cx, JS::GetRealmObjectPrototype(cx));
-  JS::RootedObject names(cx, behind ? NewGlobalNames(cx, behind) : nullptr);
+  if (!JS::InitRealmStandardClasses(cx) || !session.GetRuntime().MakeHiddenKeys()) return false;
+  JS::RootedObject prototype(cx, JS::GetRealmObjectPrototype(cx));
+  JS::RootedObject names(cx, prototype ? NewGlobalNames(cx, prototype) : nullptr);
   return names && JS_SetPrototype(cx, global, names) &&
-         DefineBoxes(cx, global, &session.m_ArrayPrototype, &session.m_ExactPrototype) &&
-         DefinePuts(cx, global, &session.m_PutPrototype) && DefineFunctions(cx, global) &&
+         DefineValueWrappers(cx, global, &session.m_ArrayPrototype, &session.m_ExactPrototype) &&
+         DefineIndexedAssignment(cx, global, &session.m_TargetPrototype) && DefineFunctions(cx, global) &&
          KeepOriginals(cx, global, &session.m_TimezoneOffset) && RunPrelude(cx, global);
 }
 

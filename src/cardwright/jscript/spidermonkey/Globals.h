@@ -2,10 +2,10 @@
 
 namespace cardwright::jscript {
 
-class Session;
+class ScriptSession;
 
-/// Fills the global object of a new session: the standard classes, what the language has beyond them, and
-/// what rewritten sources call. False where the library failed.
-bool DefineGlobals(Session& session);
+/// Fills the global object of a new session with the standard classes, the built-ins that JScript adds to
+/// them, and the functions that rewritten sources call. False where the library failed.
+bool DefineGlobals(ScriptSession& session);
 
 }  // namespace cardwright::jscript

@@ -9,8 +9,8 @@
 namespace cardwright::jscript {
 namespace {
 
-// Objects with a table say of each member whether it can be read. One that can only be called must not be
-// touched by naming it. Others are read and answer themselves.
+// A table says of each member whether it can be read; naming a method must not call it. Objects without a
+// table are simply read, and refuse what cannot be.
 bool IsMethod(const Object& object, MemberId id) {
   if (!dynamic_cast<const TableObject*>(&object)) return false;
   const auto& table = *static_cast<const MemberTable*>(object.Shape());
@@ -21,7 +21,7 @@ bool IsMethod(const Object& object, MemberId id) {
 HostMember LookUp(const Object& object, JS::PropertyKey name) {
   HostMember member;
   member.id = object.FindMember(SpellingOf(name));
-  member.isMethod = member.IsThere() && IsMethod(object, member.id);
+  member.isMethod = member.Exists() && IsMethod(object, member.id);
   return member;
 }
 
@@ -57,7 +57,7 @@ MemberCache::Slot& MemberCache::SlotOf(const void* shape, JS::PropertyKey name) 
   return m_Slots[(hash ^ (hash >> 8)) % m_Slots.size()];
 }
 
-void MemberCache::NoteNeedsArguments(const Object& object, JS::PropertyKey name) {
+void MemberCache::SetNeedsArguments(const Object& object, JS::PropertyKey name) {
   const void* shape = object.Shape();
   if (!shape || !(name.isString() || name.isInt())) return;
   Slot& slot = SlotOf(shape, name);

@@ -10,15 +10,16 @@
 
 namespace cardwright::jscript {
 
-/// What is known of a member of a host object.
+/// A member of a host object as the script uses it.
 struct HostMember {
   MemberId id = kNoMember;
-  /// It is to be called, not read: `o.m` is a function.
+  /// `o.m` is a function: the member can be called but not read.
   bool isMethod = false;
-  bool IsThere() const noexcept { return id != kNoMember; }
+  bool Exists() const noexcept { return id != kNoMember; }
 };
 
-/// Members by shape and name, so that a name is looked up once for all objects of a class.
+/// Members by shape and name, so that a name is looked up once for all objects of a class. Entries that map
+/// to the same slot replace each other.
 class MemberCache {
  public:
   explicit MemberCache(JSContext* cx);
@@ -26,10 +27,10 @@ class MemberCache {
   MemberCache(const MemberCache&) = delete;
   MemberCache& operator=(const MemberCache&) = delete;
 
-  /// The member of that name; none for a name that is no text.
+  /// The member of that name; none where the name is a symbol.
   HostMember Find(const Object& object, JS::PropertyKey name);
-  /// Notes that a member cannot be read without arguments, so that nobody tries it again.
-  void NoteNeedsArguments(const Object& object, JS::PropertyKey name);
+  /// Marks a member that cannot be read without arguments, so that reading it is not tried again.
+  void SetNeedsArguments(const Object& object, JS::PropertyKey name);
 
  private:
   struct Slot;
@@ -45,7 +46,7 @@ class MemberCache {
   std::array<Slot, 256> m_Slots;
 };
 
-/// The characters of a name that is a text or a number.
+/// The text of a property name, or the digits of an index; empty for a symbol.
 std::u16string SpellingOf(JS::PropertyKey name);
 
 }  // namespace cardwright::jscript

@@ -3,13 +3,13 @@
 namespace cardwright::jscript {
 
 const char16_t kPrelude[] =
-    uR"js((function (global, walk, parseLocal, faceOf) {
+    uR"js((function (global, makeEnumerator, parseLocal, mapError) {
 'use strict';
 const hide = (object, name, value) =>
   Object.defineProperty(object, name, {value: value, writable: true, configurable: true, enumerable: false});
 const OldDate = Date, OldError = Error, getTime = Date.prototype.getTime, oldSubstr = String.prototype.substr;
 
-// Nothing of the language, and outside of the memory that is watched.
+// JScript has none of these, and their memory lies outside the heap whose limit is checked.
 for (const name of ['ArrayBuffer', 'SharedArrayBuffer', 'Atomics', 'DataView', 'WebAssembly', 'Int8Array',
     'Uint8Array', 'Uint8ClampedArray', 'Int16Array', 'Uint16Array', 'Int32Array', 'Uint32Array', 'Float32Array',
     'Float64Array', 'BigInt64Array', 'BigUint64Array'])
@@ -24,16 +24,16 @@ const functions = {
 for (const name in functions) hide(global, name, functions[name]);
 
 class Enumerator {
-  #collection; #walk; #isAtEnd = true;
+  #collection; #enumerator; #isAtEnd = true;
   constructor(collection) { this.#collection = collection; this.moveFirst(); }
   atEnd() { return this.#isAtEnd; }
-  item() { return this.#isAtEnd ? undefined : this.#walk.Item; }
+  item() { return this.#isAtEnd ? undefined : this.#enumerator.Item; }
   moveFirst() {
     if (this.#collection === undefined) return;
-    this.#walk = walk(this.#collection);
-    this.#isAtEnd = !this.#walk.Next();
+    this.#enumerator = makeEnumerator(this.#collection);
+    this.#isAtEnd = !this.#enumerator.Next();
   }
-  moveNext() { if (!this.#isAtEnd) this.#isAtEnd = !this.#walk.Next(); }
+  moveNext() { if (!this.#isAtEnd) this.#isAtEnd = !this.#enumerator.Next(); }
 }
 hide(global, 'Enumerator', Enumerator);
 
@@ -85,10 +85,10 @@ hide(OldError.prototype, 'constructor', NewError);
 hide(global, 'Error', NewError);
 for (const kind of [EvalError, RangeError, ReferenceError, SyntaxError, TypeError, URIError])
   Object.setPrototypeOf(kind, NewError);
-const face = (name, get) => Object.defineProperty(OldError.prototype, name, {
+const defineFallback = (name, get) => Object.defineProperty(OldError.prototype, name, {
   get: get, set(value) { hide(this, name, value); }, configurable: true, enumerable: false});
-face('number', function () { const known = faceOf(this); return known ? known[0] : 0; });
-face('description', function () { const known = faceOf(this); return known ? known[1] : this.message; });
+defineFallback('number', function () { const known = mapError(this); return known ? known[0] : 0; });
+defineFallback('description', function () { const known = mapError(this); return known ? known[1] : this.message; });
 }))js";
 
 }  // namespace cardwright::jscript

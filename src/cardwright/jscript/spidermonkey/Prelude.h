@@ -2,8 +2,8 @@
 
 namespace cardwright::jscript {
 
-/// What the language has beyond the library's JavaScript, as far as that says it best. A function of the
-/// global object and of native helpers.
+/// The built-ins of JScript that are best written in JavaScript: the source of a function that takes the
+/// global object and native helpers.
 extern const char16_t kPrelude[];
 
 }  // namespace cardwright::jscript

@@ -1,10 +1,10 @@
-// Debian builds the library without type information, so a class that derives from one of its own must do
-// without too: this file is compiled so. It therefore knows no polymorphic class but the handlers.
+// Debian builds the library without RTTI, so classes that derive from the library's must be compiled without
+// it too. This file is, and therefore has no polymorphic classes but the handlers.
 #include "cardwright/jscript/spidermonkey/ProxyTraps.h"
 
 #include <js/PropertyDescriptor.h>
 
-// Handlers are constants of the program and never deleted.
+// Handlers are constants and never deleted.
 #pragma GCC diagnostic ignored "-Wnon-virtual-dtor"
 
 namespace cardwright::jscript {
@@ -14,7 +14,7 @@ using Descriptor = JS::MutableHandle<mozilla::Maybe<JS::PropertyDescriptor>>;
 
 constexpr char kHostFamily = 0, kNameFamily = 0;
 
-// No prototype, nothing of its own that could be defined or deleted.
+// A proxy on which no property can be defined or deleted.
 class ClosedHandler : public js::BaseProxyHandler {
  public:
   explicit constexpr ClosedHandler(const void* family) : BaseProxyHandler(family) {}
@@ -42,7 +42,7 @@ class HostObjectHandler final : public ClosedHandler {
  public:
   constexpr HostObjectHandler() : ClosedHandler(&kHostFamily) {}
 
-  // The members are as the host has them; telling of one must not read it.
+  // Describing a member must not read it: a getter of the host may do anything.
   bool getOwnPropertyDescriptor(JSContext* cx, JS::HandleObject proxy, JS::HandleId id,
                                 Descriptor descriptor) const override {
     bool has = false;
@@ -91,7 +91,7 @@ class HostObjectHandler final : public ClosedHandler {
   bool isCallable(JSObject* proxy) const override { return traps::HostIsCallable(proxy); }
   const char* className(JSContext*, JS::HandleObject) const override { return "Object"; }
 
-  // Releasing a host object may run anything, so it is this thread's affair.
+  // Releasing a host object may run any code, so it must happen on this thread.
   bool finalizeInBackground(const JS::Value&) const override { return false; }
   void finalize(JS::GCContext*, JSObject* proxy) const override { traps::HostFinalize(proxy); }
   size_t objectMoved(JSObject* proxy, JSObject*) const override {

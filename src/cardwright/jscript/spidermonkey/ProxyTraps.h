@@ -4,7 +4,8 @@
 
 namespace cardwright::jscript {
 
-/// @name What the proxies do: the library's traps end here, in HostObjects.cpp and GlobalNames.cpp.
+/// @name What the proxies do. The handlers' traps call these functions of HostProxies.cpp and
+/// GlobalNames.cpp.
 /// @{
 namespace traps {
 bool HostGet(JSContext* cx, JS::HandleObject proxy, JS::HandleId name, JS::MutableHandleValue value);
@@ -24,9 +25,9 @@ bool NameHas(JSContext* cx, JS::HandleObject proxy, JS::HandleId name, bool& has
 }  // namespace traps
 /// @}
 
-/// Handler of host objects.
+/// The handler of the host objects' proxies.
 const js::BaseProxyHandler* HostHandler() noexcept;
-/// Handler of the object behind the global one, in which the names are found that the host gave.
+/// The handler of the global object's prototype, which resolves the names that the host added.
 const js::BaseProxyHandler* NameHandler() noexcept;
 
 }  // namespace cardwright::jscript

@@ -18,19 +18,19 @@
 #include <mutex>
 
 #include "cardwright/automation/Errors.h"
-#include "cardwright/jscript/spidermonkey/Session.h"
+#include "cardwright/jscript/spidermonkey/ScriptSession.h"
 
 namespace cardwright::jscript {
 namespace {
 
 constexpr int kLibraryNotLoaded = 48;
-// No bound of the library's own: near it the collector would work without end. The session's is looked at
-// several times a second.
+// The library gets no limit of its own, because near it the collector would work without end. The session's
+// limit is checked many times a second instead.
 constexpr std::uint32_t kHeapBound = 0xFFFFFFFF;
-// Of each thread's stack, for what the host does in a call from a script.
+// The part of each thread's stack that is left for what the host does in a call from a script.
 constexpr std::size_t kStackReserve = std::size_t{512} << 10;
 
-/// The library may be started once only, and is ended after the last thread left it.
+/// The library can be started only once. It is shut down after the last thread has left it.
 class Library {
  public:
   static std::shared_ptr<void> Start() {
@@ -44,7 +44,7 @@ class Library {
     return library.m_Users;
   }
   ~Library() {
-    // With a thread still in it the process's end must do.
+    // While a thread still uses it, shutting down would crash; the process ends anyway.
     if (m_Users && m_Users.use_count() == 1) JS_ShutDown();
   }
 
@@ -62,7 +62,7 @@ std::size_t StackOfThread() noexcept {
   return size;
 }
 
-// The memory of the process that is resident, in bytes.
+// The resident memory of the process, in bytes.
 std::size_t ProcessMemory() noexcept {
   std::size_t pages = 0, resident = 0;
   if (std::FILE* file = std::fopen("/proc/self/statm", "r")) {
@@ -75,7 +75,7 @@ std::size_t ProcessMemory() noexcept {
 }  // namespace
 
 std::shared_ptr<Runtime> Runtime::OfThread() {
-  // Sessions hold it too, so that one that outlives its thread's end finds it alive.
+  // Sessions hold it too, because one may outlive the end of its thread.
   static thread_local std::shared_ptr<Runtime> runtime;
   if (!runtime) runtime = std::make_shared<Runtime>(Library::Start());
   return runtime;
@@ -100,38 +100,40 @@ Runtime::Runtime(std::shared_ptr<void> library)
 
 Runtime::~Runtime() {
   m_Prelude = nullptr;
-  m_Notes.clear();
+  m_HiddenKeys.clear();
   JS_DestroyContext(m_Context);
-  ReleaseDead();
+  ReleaseDeferred();
 }
 
-void Runtime::ReleaseDead() {
-  while (!m_Dead.empty()) {
-    // What is released may bury more.
-    const std::vector<Variant> dead = std::move(m_Dead);
-    m_Dead.clear();
+void Runtime::ReleaseDeferred() {
+  while (!m_Deferred.empty()) {
+    // A release may defer more.
+    const std::vector<Variant> dead = std::move(m_Deferred);
+    m_Deferred.clear();
   }
 }
 
-bool Runtime::MakeKeys() {
-  while (m_Notes.size() < static_cast<std::size_t>(Note::Count)) {
+bool Runtime::MakeHiddenKeys() {
+  while (m_HiddenKeys.size() < static_cast<std::size_t>(HiddenProperty::Count)) {
     JS::Symbol* symbol = JS::NewSymbol(m_Context, nullptr);
     if (!symbol) return false;
-    m_Notes.push_back(std::make_unique<JS::PersistentRooted<JS::Symbol*>>(m_Context, symbol));
+    m_HiddenKeys.push_back(std::make_unique<JS::PersistentRooted<JS::Symbol*>>(m_Context, symbol));
   }
   return true;
 }
 
-JS::PropertyKey Runtime::Key(Note note) const {
-  return JS::PropertyKey::Symbol(m_Notes[static_cast<std::size_t>(note)]->get());
+JS::PropertyKey Runtime::Key(HiddenProperty property) const {
+  return JS::PropertyKey::Symbol(m_HiddenKeys[static_cast<std::size_t>(property)]->get());
 }
 
-void Runtime::Nudge(void* context) noexcept { JS_RequestInterruptCallback(static_cast<JSContext*>(context)); }
+void Runtime::RequestInterrupt(void* context) noexcept {
+  JS_RequestInterruptCallback(static_cast<JSContext*>(context));
+}
 
 bool Runtime::OnInterrupt(JSContext* cx) {
   Runtime& runtime = Of(cx);
   if (!runtime.m_Running.empty()) runtime.m_Running.back()->PollHost();
-  if (runtime.LooksGood()) return true;
+  if (runtime.MayContinue()) return true;
   if (runtime.m_IsDraining) js::StopDrainingJobQueue(cx);
   return false;
 }
@@ -149,13 +151,13 @@ void Runtime::RunJobs() {
   m_IsDraining = false;
 }
 
-// An outer call that is to stop ends those within it too.
-bool Runtime::LooksGood() {
-  return std::ranges::all_of(m_Running, [](Session* session) { return !session->IsStopping(); }) &&
+// An outer call that has to stop ends the calls within it too.
+bool Runtime::MayContinue() {
+  return std::ranges::all_of(m_Running, [](ScriptSession* session) { return !session->IsStopping(); }) &&
          (m_Running.empty() || HasMemory(*m_Running.back()));
 }
 
-bool Runtime::HasMemory(Session& session) {
+bool Runtime::HasMemory(ScriptSession& session) {
   const std::size_t bound = session.GetLimits().memoryBytes;
   const auto isOver = [&] {
     const std::size_t now = ProcessMemory();

@@ -15,9 +15,10 @@
 
 namespace cardwright::jscript {
 
-class Session;
+class ScriptSession;
 
-/// The JavaScript library on one thread: made with the first engine there, gone with the thread.
+/// The JavaScript library's context on one thread. It is made with the first engine there and ends with the
+/// thread.
 class Runtime {
  public:
   /// Error 48 where the library cannot be started.
@@ -30,49 +31,49 @@ class Runtime {
 
   JSContext* Context() const noexcept { return m_Context; }
 
-  /// @name Sessions with a call under way, the innermost last
+  /// @name Sessions with a running call, the innermost last
   /// @{
-  void Enter(Session& session) { m_Running.push_back(&session); }
+  void Enter(ScriptSession& session) { m_Running.push_back(&session); }
   void Leave() noexcept { m_Running.pop_back(); }
   bool IsBusy() const noexcept { return !m_Running.empty(); }
-  /// Allows scripts that many bytes of the thread's stack, or as many as it has to spare.
+  /// Limits scripts to that many bytes of the thread's stack, or to what is left of it.
   void UseStack(std::size_t bytes);
   /// @}
 
-  /// What every session runs first, once compiled.
+  /// The compiled prelude, which every session runs first; null until it was compiled.
   RefPtr<JS::Stencil>& Prelude() noexcept { return m_Prelude; }
 
-  /// Runs what the scripts' promises wait for.
+  /// Runs the pending reactions of the scripts' promises.
   void RunJobs();
 
-  /// Keeps what a collected script object held: it must not be released while the collector works, as that
-  /// may run anything.
-  void Bury(Variant value) { m_Dead.push_back(std::move(value)); }
-  /// Releases what was buried. To be called where anything may run.
-  void ReleaseDead();
+  /// Defers the release of a value whose script object was collected: releasing it may run any code, which
+  /// must not happen during a collection.
+  void DeferRelease(Variant value) { m_Deferred.push_back(std::move(value)); }
+  /// Releases the deferred values. Call it where any code may run.
+  void ReleaseDeferred();
 
-  /// The keys under which the engine notes things in script objects, unseen by scripts.
-  enum class Note { Number, Source, Line, Column, Days, Instant, Count };
-  JS::PropertyKey Key(Note note) const;
-  /// Makes the keys, within some realm; false where memory is short.
-  bool MakeKeys();
+  /// Properties that the engine keeps in script objects under symbols that scripts cannot get hold of.
+  enum class HiddenProperty { Number, Source, Line, Column, Days, Instant, Count };
+  JS::PropertyKey Key(HiddenProperty property) const;
+  /// Makes the symbols; a realm must be entered. False where memory is short.
+  bool MakeHiddenKeys();
 
-  /// Asks the running script to look at its flags; from any thread.
-  static void Nudge(void* context) noexcept;
+  /// Has the running script check its flags soon. May be called from any thread.
+  static void RequestInterrupt(void* context) noexcept;
 
  private:
   static bool OnInterrupt(JSContext* cx);
-  bool LooksGood();
-  bool HasMemory(Session& session);
+  bool MayContinue();
+  bool HasMemory(ScriptSession& session);
 
   std::shared_ptr<void> m_Library;
   JSContext* m_Context = nullptr;
-  std::vector<Session*> m_Running;
+  std::vector<ScriptSession*> m_Running;
   RefPtr<JS::Stencil> m_Prelude;
-  std::vector<Variant> m_Dead;
+  std::vector<Variant> m_Deferred;
   bool m_IsDraining = false;
   std::size_t m_StackRoom = 0, m_StackUsed = 0;
-  std::vector<std::unique_ptr<JS::PersistentRooted<JS::Symbol*>>> m_Notes;
+  std::vector<std::unique_ptr<JS::PersistentRooted<JS::Symbol*>>> m_HiddenKeys;
 };
 
 }  // namespace cardwright::jscript

@@ -11,9 +11,9 @@
 
 #include "cardwright/automation/Errors.h"
 #include "cardwright/jscript/errors/ErrorTexts.h"
-#include "cardwright/jscript/spidermonkey/Faults.h"
-#include "cardwright/jscript/spidermonkey/Session.h"
-#include "cardwright/jscript/spidermonkey/Values.h"
+#include "cardwright/jscript/spidermonkey/ScriptErrors.h"
+#include "cardwright/jscript/spidermonkey/ScriptSession.h"
+#include "cardwright/jscript/spidermonkey/ValueConversion.h"
 
 namespace cardwright::jscript {
 namespace {
@@ -22,10 +22,10 @@ constexpr char kFamily = 0;
 constexpr JSClass kHolderClass = {"host side", JSCLASS_HAS_RESERVED_SLOTS(1), nullptr, nullptr, nullptr,
                                   nullptr};
 
-// Runs steps in the script's realm; what fails there is thrown.
+// Runs a step in the script's realm. A script that is stopped there ends with an error like any other.
 template <class Step>
-auto InScript(Session& session, Step&& step) {
-  const Session::Entry entry(session);
+auto InScript(ScriptSession& session, Step&& step) {
+  const ScriptSession::Entry entry(session);
   try {
     return step();
   } catch (const Interrupted&) {
@@ -33,7 +33,7 @@ auto InScript(Session& session, Step&& step) {
   }
 }
 
-bool ArgumentsToScript(Session& session, Args args, JS::MutableHandleValueVector values) {
+bool ArgumentsToScript(ScriptSession& session, Args args, JS::MutableHandleValueVector values) {
   for (const Variant& one : args) {
     JS::RootedValue value(session.Context());
     if (!ToScript(session, one, &value) || !values.append(value)) return false;
@@ -41,7 +41,7 @@ bool ArgumentsToScript(Session& session, Args args, JS::MutableHandleValueVector
   return true;
 }
 
-Variant Call(Session& session, JS::HandleValue thisValue, JS::HandleValue function, Args args) {
+Variant Call(ScriptSession& session, JS::HandleValue thisValue, JS::HandleValue function, Args args) {
   JSContext* cx = session.Context();
   JS::RootedValueVector values(cx);
   JS::RootedValue result(cx);
@@ -52,7 +52,7 @@ Variant Call(Session& session, JS::HandleValue thisValue, JS::HandleValue functi
   return answer;
 }
 
-std::u16string NameIn(Session& session, JS::HandleObject object, std::u16string_view name) {
+std::u16string NameIn(ScriptSession& session, JS::HandleObject object, std::u16string_view name) {
   JSContext* cx = session.Context();
   bool has = false;
   if (!JS_HasUCProperty(cx, object, name.data(), name.size(), &has)) ThrowPending(session);
@@ -74,12 +74,12 @@ std::u16string NameIn(Session& session, JS::HandleObject object, std::u16string_
 
 }  // namespace
 
-/// The elements of a script's array.
-class ElementWalk final : public Enumerator {
+/// Enumerates the elements of a script's array.
+class ArrayEnumerator final : public Enumerator {
  public:
-  explicit ElementWalk(Ref<ScriptObject> array) : m_Array(std::move(array)) {}
+  explicit ArrayEnumerator(Ref<ScriptObject> array) : m_Array(std::move(array)) {}
   bool Next(Variant& value) override {
-    Session& session = m_Array->Required();
+    ScriptSession& session = m_Array->Required();
     return InScript(session, [&] {
       JSContext* cx = session.Context();
       std::uint32_t length = 0;
@@ -98,7 +98,7 @@ class ElementWalk final : public Enumerator {
   std::uint32_t m_Next = 0;
 };
 
-ScriptObject::ScriptObject(Session& session, JS::HandleObject object, JS::HandleObject holder)
+ScriptObject::ScriptObject(ScriptSession& session, JS::HandleObject object, JS::HandleObject holder)
     : Object(&kFamily),
       m_Session(&session),
       m_Object(session.Context(), object),
@@ -113,14 +113,14 @@ ScriptObject::~ScriptObject() {
   JS::SetReservedSlot(m_Holder, 0, JS::UndefinedValue());
 }
 
-void ScriptObject::Forget() noexcept {
+void ScriptObject::Detach() noexcept {
   JS::SetReservedSlot(m_Holder, 0, JS::UndefinedValue());
   m_Session = nullptr;
   m_Object.reset();
   m_Holder.reset();
 }
 
-Ref<ScriptObject> ScriptObject::Of(Session& session, JS::HandleObject object) {
+Ref<ScriptObject> ScriptObject::Of(ScriptSession& session, JS::HandleObject object) {
   JSContext* cx = session.Context();
   JS::RootedValue known(cx);
   if (!JS::GetWeakMapEntry(cx, session.ScriptObjectTable(), object, &known)) return nullptr;
@@ -136,19 +136,19 @@ Ref<ScriptObject> ScriptObject::Of(Session& session, JS::HandleObject object) {
   return MakeRef<ScriptObject>(session, object, holder);
 }
 
-JSObject* ScriptObject::Unwrap(const Object& object, const Session& session) noexcept {
+JSObject* ScriptObject::Unwrap(const Object& object, const ScriptSession& session) noexcept {
   if (object.Family() != &kFamily) return nullptr;
   const auto& own = static_cast<const ScriptObject&>(object);
   return own.m_Session == &session ? own.m_Object.get() : nullptr;
 }
 
-Session& ScriptObject::Required() const {
+ScriptSession& ScriptObject::Required() const {
   if (!m_Session) Raise(kFreedScript, ErrorText(kFreedScript), kRuntimeErrorSource);
   return *m_Session;
 }
 
 MemberId ScriptObject::FindMember(std::u16string_view name) const {
-  Session& session = Required();
+  ScriptSession& session = Required();
   return InScript(session, [&] {
     JS::RootedObject object(session.Context(), m_Object);
     const std::u16string found = NameIn(session, object, name);
@@ -157,7 +157,7 @@ MemberId ScriptObject::FindMember(std::u16string_view name) const {
 }
 
 Variant ScriptObject::Invoke(MemberId member, CallKind kind, Args args) {
-  Session& session = Required();
+  ScriptSession& session = Required();
   const Ref<ScriptObject> alive(this);
   if (member == kDefault) return InScript(session, [&] { return InvokeDefault(session, kind, args); });
   return InScript(session, [&] {
@@ -185,7 +185,7 @@ Variant ScriptObject::Invoke(MemberId member, CallKind kind, Args args) {
   });
 }
 
-Variant ScriptObject::InvokeDefault(Session& session, CallKind kind, Args args) {
+Variant ScriptObject::InvokeDefault(ScriptSession& session, CallKind kind, Args args) {
   JSContext* cx = session.Context();
   if (!Allows(kind, CallKind::MethodOrGet)) Raise(ErrorNumber::NotSupported);
   JS::RootedObject object(cx, m_Object);
@@ -200,7 +200,7 @@ Variant ScriptObject::InvokeDefault(Session& session, CallKind kind, Args args) 
 }
 
 std::vector<Text> ScriptObject::MemberNames() const {
-  Session& session = Required();
+  ScriptSession& session = Required();
   return InScript(session, [&] {
     JSContext* cx = session.Context();
     JS::RootedObject object(cx, m_Object);
@@ -213,13 +213,13 @@ std::vector<Text> ScriptObject::MemberNames() const {
 }
 
 std::unique_ptr<Enumerator> ScriptObject::Enumerate() {
-  Session& session = Required();
+  ScriptSession& session = Required();
   return InScript(session, [&]() -> std::unique_ptr<Enumerator> {
     JS::RootedObject object(session.Context(), m_Object);
     bool isArray = false;
     if (!JS::IsArrayObject(session.Context(), object, &isArray)) ThrowPending(session);
     if (!isArray) return Object::Enumerate();
-    return std::make_unique<ElementWalk>(Ref<ScriptObject>(this));
+    return std::make_unique<ArrayEnumerator>(Ref<ScriptObject>(this));
   });
 }
 

@@ -8,21 +8,21 @@
 
 namespace cardwright::jscript {
 
-class Session;
+class ScriptSession;
 
-/// An object or function of a script, as the host has it. Members are found by their exact name, else
-/// whatever the case; a function's default member calls it, another object's is its plain value.
+/// An object or function of a script as the host sees it. Members are found by their exact name first, then
+/// in any case. The default member of a function calls it; that of another object is its primitive value.
 class ScriptObject final : public Object {
  public:
-  /// The one for a script's object, as long as the host holds it.
-  static Ref<ScriptObject> Of(Session& session, JS::HandleObject object);
-  /// The script's object where `object` is one of the session's; else null.
-  static JSObject* Unwrap(const Object& object, const Session& session) noexcept;
+  /// The host's view of a script object, the same one for as long as the host holds it.
+  static Ref<ScriptObject> Of(ScriptSession& session, JS::HandleObject object);
+  /// The script object where `object` belongs to the session; else null.
+  static JSObject* Unwrap(const Object& object, const ScriptSession& session) noexcept;
 
-  ScriptObject(Session& session, JS::HandleObject object, JS::HandleObject holder);
+  ScriptObject(ScriptSession& session, JS::HandleObject object, JS::HandleObject holder);
   ~ScriptObject() override;
-  /// The session ends: every call is error 5011 from then on.
-  void Forget() noexcept;
+  /// Called when the session ends. Every later call is error 5011.
+  void Detach() noexcept;
 
   Text TypeName() const override { return u"JScriptTypeInfo"; }
   MemberId FindMember(std::u16string_view name) const override;
@@ -32,15 +32,15 @@ class ScriptObject final : public Object {
   std::unique_ptr<Enumerator> Enumerate() override;
 
  private:
-  friend class ElementWalk;
+  friend class ArrayEnumerator;
   static constexpr MemberId kDefault = 0;
 
-  Session& Required() const;
-  Variant InvokeDefault(Session& session, CallKind kind, Args args);
+  ScriptSession& Required() const;
+  Variant InvokeDefault(ScriptSession& session, CallKind kind, Args args);
 
-  Session* m_Session;
+  ScriptSession* m_Session;
   JS::PersistentRooted<JSObject*> m_Object;
-  JS::PersistentRooted<JSObject*> m_Holder;  // which the script's object leads to
+  JS::PersistentRooted<JSObject*> m_Holder;  // points back here; found through the session's weak map
 };
 
 }  // namespace cardwright::jscript

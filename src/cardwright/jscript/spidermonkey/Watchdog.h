@@ -9,47 +9,47 @@
 
 namespace cardwright::jscript {
 
-/// A call that a script may not get to the end of: the watchdog raises the flag at the deadline, and nudges
-/// the running thread several times a second so that it looks at its flags and at its memory.
-class Watched {
+/// A call into scripts under the watchdog's eyes. The watchdog sets the stop flag at the deadline, and
+/// interrupts the script many times a second so that it checks its flags and its memory.
+class WatchedCall {
  public:
   using Clock = std::chrono::steady_clock;
-  using Nudge = void (*)(void* who);
+  using Interrupt = void (*)(void* context);
 
-  /// `who` and `stop` must outlive the object. Nudge comes from another thread.
-  Watched(Nudge nudge, void* who, std::atomic<bool>& stop, Clock::time_point deadline);
-  ~Watched();
-  Watched(const Watched&) = delete;
-  Watched& operator=(const Watched&) = delete;
+  /// `context` and `stop` must outlive the object. The watchdog's thread calls `interrupt` with the context.
+  WatchedCall(Interrupt interrupt, void* context, std::atomic<bool>& stop, Clock::time_point deadline);
+  ~WatchedCall();
+  WatchedCall(const WatchedCall&) = delete;
+  WatchedCall& operator=(const WatchedCall&) = delete;
 
  private:
   friend class Watchdog;
-  Nudge m_Nudge;
-  void* m_Who;
+  Interrupt m_Interrupt;
+  void* m_Context;
   std::atomic<bool>& m_Stop;
   Clock::time_point m_Deadline;
 };
 
-/// One thread for all engines of the process. It sleeps while no script runs.
+/// One thread for all engines of the process. It sleeps while no script runs, and touches nothing but flags.
 class Watchdog {
  public:
   static Watchdog& OfProcess();
   ~Watchdog();
 
-  void Add(Watched& call);
-  void Remove(Watched& call) noexcept;
+  void Add(WatchedCall& call);
+  void Remove(WatchedCall& call) noexcept;
 
  private:
   Watchdog();
   void Work();
-  void Look(Watched::Clock::time_point now);
-  Watched::Clock::time_point NextLook(Watched::Clock::time_point now) const;
+  void CheckCalls(WatchedCall::Clock::time_point now);
+  WatchedCall::Clock::time_point NextCheck(WatchedCall::Clock::time_point now) const;
 
   std::mutex m_Mutex;
   std::condition_variable m_Wake;
-  std::vector<Watched*> m_Calls;
-  int m_IdleLooks = 0;
-  bool m_Sleeps = false, m_Ends = false;
+  std::vector<WatchedCall*> m_Calls;
+  int m_IdleChecks = 0;
+  bool m_IsAsleep = false, m_IsEnding = false;
   std::thread m_Thread;
 };
 

@@ -5,9 +5,9 @@
 
 #include "cardwright/automation/Conversions.h"
 #include "cardwright/jscript/errors/ErrorNumbers.h"
-#include "cardwright/jscript/syntax/Characters.h"
+#include "cardwright/jscript/syntax/CharacterClasses.h"
 #include "cardwright/jscript/syntax/ConditionalExpression.h"
-#include "cardwright/jscript/syntax/SyntaxFault.h"
+#include "cardwright/jscript/syntax/SyntaxError.h"
 
 namespace cardwright::jscript {
 namespace {
@@ -18,43 +18,43 @@ std::u16string Literal(double value) {
   return value < 0 ? u"(" + std::u16string(digits.View()) + u")" : std::u16string(digits.View());
 }
 
-/// One pass over the source, which blanks out as it goes.
-class Runner {
+/// Runs the statements in one pass and replaces what is not compiled by blanks.
+class Preprocessor {
  public:
-  explicit Runner(std::u16string_view source) : m_Source(source) { m_Result.text = source; }
+  explicit Preprocessor(std::u16string_view source) : m_Source(source) { m_Result.text = source; }
 
   ConditionalResult Run() {
     while (m_At < m_Source.size()) Step();
-    if (!m_Ifs.empty()) throw SyntaxFault{kExpectedConditionalEnd, m_Source.size()};
+    if (!m_OpenIfs.empty()) throw SyntaxError{kExpectedConditionalEnd, m_Source.size()};
     return std::move(m_Result);
   }
 
  private:
-  /// An `@if` that is not closed yet.
+  /// An open `@if`.
   struct If {
-    bool isTaken = false;   // code is kept now
-    bool wasTaken = false;  // one branch was
-    bool isInside = false;  // of a branch that is kept
+    bool isTaken = false;   // the current branch is compiled
+    bool wasTaken = false;  // a branch was compiled, so later ones are not
+    bool isInside = false;  // the code around the `@if` is compiled
   };
 
-  bool IsKept() const noexcept { return m_Ifs.empty() || m_Ifs.back().isTaken; }
+  bool IsKept() const noexcept { return m_OpenIfs.empty() || m_OpenIfs.back().isTaken; }
   bool Has(std::u16string_view words) const noexcept { return m_Source.substr(m_At).starts_with(words); }
   void Blank(std::size_t from, std::size_t to) {
     for (std::size_t k = from; k < to; ++k)
       if (!IsLineEnd(m_Result.text[k])) m_Result.text[k] = u' ';
   }
-  /// Moves on over code, which stays only where it is kept.
-  void Pass(std::size_t to) {
+  /// Advances to a position and blanks what is not compiled.
+  void Advance(std::size_t to) {
     to = std::min(to, m_Source.size());
     if (!IsKept()) Blank(m_At, to);
     m_At = to;
   }
   bool OpensConditionalComment() const noexcept;
   void Step();
-  void PassText(char16_t quote);
-  void PassComment();
-  void PassPattern();
-  bool MayBePattern() const noexcept;
+  void SkipString(char16_t quote);
+  void SkipComment();
+  void SkipRegExp();
+  bool MayBeRegExp() const noexcept;
   void RunStatement();
   void RunSet();
   void RunIf(std::size_t start);
@@ -76,20 +76,20 @@ class Runner {
   std::size_t m_At = 0;
   bool m_IsOn = false;
   bool m_IsInLine = false;   // within a `//@` comment
-  char16_t m_Before = u';';  // the last character that is no blank
-  std::vector<If> m_Ifs;
+  char16_t m_Before = u';';  // the latest character that is no blank
+  std::vector<If> m_OpenIfs;
   ConditionalVariables m_Variables = PredefinedVariables();
   ConditionalResult m_Result;
 };
 
-bool Runner::OpensConditionalComment() const noexcept {
+bool Preprocessor::OpensConditionalComment() const noexcept {
   if (!Has(u"/*@") && !Has(u"//@")) return false;
   if (m_IsOn) return true;
   const std::u16string_view rest = m_Source.substr(m_At + 3);
   return rest.starts_with(u"cc_on") || rest.starts_with(u"if") || rest.starts_with(u"set");
 }
 
-void Runner::Step() {
+void Preprocessor::Step() {
   const char16_t c = m_Source[m_At];
   if (OpensConditionalComment()) {
     m_IsInLine |= Has(u"//");
@@ -98,9 +98,9 @@ void Runner::Step() {
     m_IsOn = true;
     return;
   }
-  if (Has(u"//") || Has(u"/*")) return PassComment();
-  if (c == u'"' || c == u'\'' || c == u'`') return PassText(c);
-  if (c == u'/' && MayBePattern()) return PassPattern();
+  if (Has(u"//") || Has(u"/*")) return SkipComment();
+  if (c == u'"' || c == u'\'' || c == u'`') return SkipString(c);
+  if (c == u'/' && MayBeRegExp()) return SkipRegExp();
   if (m_IsOn && Has(u"@*/")) {
     Blank(m_At, m_At + 3);
     m_At += 3;
@@ -109,32 +109,32 @@ void Runner::Step() {
   if (c == u'@') return RunStatement();
   if (IsLineEnd(c)) m_IsInLine = false;
   if (!IsBlank(c)) m_Before = c;
-  Pass(m_At + 1);
+  Advance(m_At + 1);
 }
 
-void Runner::PassText(char16_t quote) {
+void Preprocessor::SkipString(char16_t quote) {
   std::size_t end = m_At + 1;
   while (end < m_Source.size() && m_Source[end] != quote && (quote == u'`' || !IsLineEnd(m_Source[end])))
     end += m_Source[end] == u'\\' ? 2 : 1;
   m_Before = quote;
-  Pass(end + 1);
+  Advance(end + 1);
 }
 
-void Runner::PassComment() {
+void Preprocessor::SkipComment() {
   if (Has(u"//")) {
     std::size_t end = m_At;
     while (end < m_Source.size() && !IsLineEnd(m_Source[end])) ++end;
-    return Pass(end);
+    return Advance(end);
   }
   const std::size_t end = m_Source.find(u"*/", m_At + 2);
-  Pass(end == std::u16string_view::npos ? m_Source.size() : end + 2);
+  Advance(end == std::u16string_view::npos ? m_Source.size() : end + 2);
 }
 
-bool Runner::MayBePattern() const noexcept {
+bool Preprocessor::MayBeRegExp() const noexcept {
   return std::u16string_view(u"(,=:[!&|?{};+-*%<>~^").find(m_Before) != std::u16string_view::npos;
 }
 
-void Runner::PassPattern() {
+void Preprocessor::SkipRegExp() {
   bool isInClass = false;
   std::size_t end = m_At + 1;
   for (; end < m_Source.size() && !IsLineEnd(m_Source[end]); ++end) {
@@ -145,14 +145,14 @@ void Runner::PassPattern() {
     if (c == u'/' && !isInClass) break;
   }
   m_Before = u'/';
-  Pass(end + 1);
+  Advance(end + 1);
 }
 
-void Runner::RunStatement() {
+void Preprocessor::RunStatement() {
   const std::size_t start = m_At++;
   const std::u16string name = Name();
   if (name.empty()) {
-    // Not ours to judge: the compiler says where it stands.
+    // The compiler reports a lone `@`.
     m_Before = u'@';
     return;
   }
@@ -171,44 +171,44 @@ void Runner::RunStatement() {
   Blank(start, m_At);
 }
 
-void Runner::RunSet() {
-  const auto passBlanks = [&] {
+void Preprocessor::RunSet() {
+  const auto skipBlanks = [&] {
     while (m_At < m_Source.size() && IsBlank(m_Source[m_At]) && !IsLineEnd(m_Source[m_At])) ++m_At;
   };
-  passBlanks();
-  if (m_At >= m_Source.size() || m_Source[m_At] != u'@') throw SyntaxFault{kExpectedAtSign, m_At};
+  skipBlanks();
+  if (m_At >= m_Source.size() || m_Source[m_At] != u'@') throw SyntaxError{kExpectedAtSign, m_At};
   ++m_At;
   const std::u16string name = Name();
-  passBlanks();
-  if (m_At >= m_Source.size() || m_Source[m_At] != u'=') throw SyntaxFault{kExpectedEquals, m_At};
+  skipBlanks();
+  if (m_At >= m_Source.size() || m_Source[m_At] != u'=') throw SyntaxError{kExpectedEquals, m_At};
   ++m_At;
   const double value = Calculate(&ConditionalExpression::Value);
   if (IsKept()) m_Variables[name] = value;
 }
 
-void Runner::RunIf(std::size_t start) {
+void Preprocessor::RunIf(std::size_t start) {
   ++m_At;
   const std::u16string name = Name();
   const bool isFirst = name == u"if";
-  if (!isFirst && m_Ifs.empty()) throw SyntaxFault{kSyntaxError, start};
+  if (!isFirst && m_OpenIfs.empty()) throw SyntaxError{kSyntaxError, start};
   const bool isKept = IsKept();
-  if (isFirst) m_Ifs.push_back({.isInside = isKept});
+  if (isFirst) m_OpenIfs.push_back({.isInside = isKept});
   if (isFirst || name == u"elif") {
     const double value = Calculate(&ConditionalExpression::Condition);
-    If& own = m_Ifs.back();
+    If& own = m_OpenIfs.back();
     own.isTaken = own.isInside && !own.wasTaken && value != 0 && !std::isnan(value);
     own.wasTaken |= own.isTaken;
   } else if (name == u"else") {
-    If& own = m_Ifs.back();
+    If& own = m_OpenIfs.back();
     own.isTaken = own.isInside && !own.wasTaken;
     own.wasTaken = true;
   } else {
-    m_Ifs.pop_back();
+    m_OpenIfs.pop_back();
   }
   Blank(start, m_At);
 }
 
-void Runner::PutVariable(std::size_t start, const std::u16string& name) {
+void Preprocessor::PutVariable(std::size_t start, const std::u16string& name) {
   Blank(start, m_At);
   m_Before = u'0';
   if (!IsKept()) return;
@@ -220,9 +220,9 @@ void Runner::PutVariable(std::size_t start, const std::u16string& name) {
 }  // namespace
 
 ConditionalResult RunConditionalCode(std::u16string_view source) {
-  // Hardly any source has some.
+  // Few sources have any, and finding that out is cheap.
   if (source.find(u'@') == std::u16string_view::npos) return {std::u16string(source), {}};
-  return Runner(source).Run();
+  return Preprocessor(source).Run();
 }
 
 }  // namespace cardwright::jscript

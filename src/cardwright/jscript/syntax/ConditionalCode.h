@@ -4,20 +4,20 @@
 #include <string_view>
 #include <vector>
 
-#include "cardwright/jscript/syntax/Edits.h"
+#include "cardwright/jscript/syntax/SourceMap.h"
 
 namespace cardwright::jscript {
 
-/// A source after conditional compilation: every character stands where it stood, what is left out and the
-/// statements themselves are blanks. A variable has a `0` in its place, and an edit that puts its value
-/// there.
+/// A source after conditional compilation. Every character keeps its position: the statements and the code
+/// that they leave out become blanks. A variable becomes `0`, and `values` has an edit that inserts its
+/// value.
 struct ConditionalResult {
   std::u16string text;
-  std::vector<Edit> values;
+  std::vector<TextEdit> values;
 };
 
-/// Runs the statements `@cc_on`, `@set`, `@if`, `@elif`, `@else` and `@end`, within comments that begin with
-/// `/*@` or `//@` too. Throws a SyntaxFault.
+/// Runs the statements `@cc_on`, `@set`, `@if`, `@elif`, `@else` and `@end`, also in comments that begin with
+/// `/*@` or `//@`. Throws a SyntaxError.
 ConditionalResult RunConditionalCode(std::u16string_view source);
 
 }  // namespace cardwright::jscript

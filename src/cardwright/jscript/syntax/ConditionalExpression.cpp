@@ -5,8 +5,8 @@
 
 #include "cardwright/automation/Conversions.h"
 #include "cardwright/jscript/errors/ErrorNumbers.h"
-#include "cardwright/jscript/syntax/Characters.h"
-#include "cardwright/jscript/syntax/SyntaxFault.h"
+#include "cardwright/jscript/syntax/CharacterClasses.h"
+#include "cardwright/jscript/syntax/SyntaxError.h"
 
 namespace cardwright::jscript {
 namespace {
@@ -23,7 +23,7 @@ std::int32_t Bits(double value) noexcept {
 
 struct Operator {
   std::u16string_view sign;
-  int level;  // the higher, the tighter
+  int level;  // operators of a higher level bind tighter
   double (*apply)(double, double);
 };
 
@@ -33,7 +33,7 @@ std::int32_t Shifted(double a, double b, bool left) noexcept {
   return left ? static_cast<std::int32_t>(static_cast<std::uint32_t>(bits) << count) : bits >> count;
 }
 
-// Longer signs before those that they begin with.
+// Of signs with the same first characters the longer comes first.
 constexpr Operator kOperators[] = {
     {u"||", 1, [](double a, double b) { return IsTrue(a) ? a : b; }},
     {u"&&", 2, [](double a, double b) { return IsTrue(a) ? b : a; }},
@@ -60,30 +60,29 @@ constexpr Operator kOperators[] = {
 }  // namespace
 
 ConditionalVariables PredefinedVariables() {
-  // What scripts ask for is whether the language is there and which version; the platform is the one that
-  // they were written for.
+  // Scripts test for the language and its version. The platform is the one that they were written for.
   return {
       {u"_win32", 1}, {u"_x86", 1}, {u"_jscript", 1}, {u"_jscript_version", 5.8}, {u"_jscript_build", 16384}};
 }
 
-void ConditionalExpression::PassBlanks() noexcept {
+void ConditionalExpression::SkipBlanks() noexcept {
   while (m_At < m_Source.size() && IsBlank(m_Source[m_At]) && !IsLineEnd(m_Source[m_At])) ++m_At;
 }
 
 double ConditionalExpression::Condition() {
-  PassBlanks();
+  SkipBlanks();
   return m_At < m_Source.size() && m_Source[m_At] == u'(' ? Primary() : Binary(0);
 }
 
 double ConditionalExpression::Binary(int lowest) {
   double left = Unary();
   for (;;) {
-    PassBlanks();
+    SkipBlanks();
     const std::u16string_view rest = m_Source.substr(m_At);
     const Operator* found = nullptr;
     for (const Operator& one : kOperators)
       if (!found && rest.starts_with(one.sign)) found = &one;
-    // The end of a comment is no product.
+    // `*/` ends a comment; it is no product.
     if (!found || found->level <= lowest || rest.starts_with(u"*/") || rest.starts_with(u"//") ||
         rest.starts_with(u"/*"))
       return left;
@@ -93,8 +92,8 @@ double ConditionalExpression::Binary(int lowest) {
 }
 
 double ConditionalExpression::Unary() {
-  if (++m_Depth > kDeepest) throw SyntaxFault{kSyntaxError, m_At};
-  PassBlanks();
+  if (++m_Depth > kDeepest) throw SyntaxError{kSyntaxError, m_At};
+  SkipBlanks();
   const char16_t c = m_At < m_Source.size() ? m_Source[m_At] : u'\0';
   double value = 0;
   if (c == u'!' || c == u'-' || c == u'+' || c == u'~') {
@@ -109,13 +108,13 @@ double ConditionalExpression::Unary() {
 }
 
 double ConditionalExpression::Primary() {
-  if (m_At >= m_Source.size()) throw SyntaxFault{kExpectedConstant, m_At};
+  if (m_At >= m_Source.size()) throw SyntaxError{kExpectedConstant, m_At};
   const char16_t c = m_Source[m_At];
   if (c == u'(') {
     ++m_At;
     const double value = Binary(0);
-    PassBlanks();
-    if (m_At >= m_Source.size() || m_Source[m_At] != u')') throw SyntaxFault{kExpectedCloseParenthesis, m_At};
+    SkipBlanks();
+    if (m_At >= m_Source.size() || m_Source[m_At] != u')') throw SyntaxError{kExpectedCloseParenthesis, m_At};
     ++m_At;
     return value;
   }
@@ -137,7 +136,7 @@ double ConditionalExpression::Word() {
   while (m_At < m_Source.size() && ContinuesName(m_Source[m_At])) ++m_At;
   const std::u16string_view word = m_Source.substr(name, m_At - name);
   if (word.empty() || (!isVariable && word != u"true" && word != u"false"))
-    throw SyntaxFault{kExpectedConstant, start};
+    throw SyntaxError{kExpectedConstant, start};
   if (!isVariable) return word == u"true";
   const auto known = m_Variables.find(word);
   return known == m_Variables.end() ? std::nan("") : known->second;

@@ -8,20 +8,20 @@
 
 namespace cardwright::jscript {
 
-/// Variables of conditional compilation by their names without the `@`; truth is 1.
+/// Variables of conditional compilation by their names without the `@`; true is 1.
 using ConditionalVariables = std::map<std::u16string, double, std::less<>>;
-/// Those that every source finds.
+/// The variables that every source starts with.
 ConditionalVariables PredefinedVariables();
 
-/// The expression of an `@if` or `@set`: numbers, `true`, `false`, variables, and operators as in the
-/// language.
+/// Evaluates the expression of an `@if` or `@set`: numbers, `true`, `false`, variables and the operators of
+/// the language.
 class ConditionalExpression {
  public:
   ConditionalExpression(std::u16string_view source, std::size_t start, const ConditionalVariables& variables)
       : m_Source(source), m_At(start), m_Variables(variables) {}
-  /// Throws a SyntaxFault.
+  /// Throws a SyntaxError.
   double Value() { return Binary(0); }
-  /// A condition, of which nothing follows its bracket.
+  /// The value of a condition, which ends with its closing parenthesis if it begins with one.
   double Condition();
   /// Where the expression ended.
   std::size_t End() const noexcept { return m_At; }
@@ -32,7 +32,7 @@ class ConditionalExpression {
   double Primary();
   double Number();
   double Word();
-  void PassBlanks() noexcept;
+  void SkipBlanks() noexcept;
 
   std::u16string_view m_Source;
   std::size_t m_At;

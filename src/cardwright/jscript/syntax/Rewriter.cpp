@@ -4,7 +4,7 @@
 #include <unordered_map>
 
 #include "cardwright/jscript/syntax/ConditionalCode.h"
-#include "cardwright/jscript/syntax/Reader.h"
+#include "cardwright/jscript/syntax/Tokenizer.h"
 
 namespace cardwright::jscript {
 namespace {
@@ -12,10 +12,10 @@ namespace {
 constexpr std::u16string_view kAssignments[] = {u"=",  u"+=", u"-=", u"*=",  u"/=",  u"%=",
                                                 u"&=", u"|=", u"^=", u"<<=", u">>=", u">>>="};
 
-class Writer {
+class SourceRewriter {
  public:
-  explicit Writer(std::u16string_view source) : m_Conditional(RunConditionalCode(source)) {
-    m_Tokens = ReadTokens(m_Conditional.text);
+  explicit SourceRewriter(std::u16string_view source) : m_Conditional(RunConditionalCode(source)) {
+    m_Tokens = Tokenize(m_Conditional.text);
     m_Edits = std::move(m_Conditional.values);
     for (std::size_t k = 0; k < m_Tokens.size(); ++k) {
       if (m_Tokens[k].kind == TokenKind::Name) m_Names[Spelling(k)].push_back(k);
@@ -25,10 +25,10 @@ class Writer {
 
   Rewritten Write() {
     for (std::size_t k = 0; k < m_Tokens.size(); ++k) Visit(k);
-    std::ranges::stable_sort(m_Edits, {}, &Edit::position);
+    std::ranges::stable_sort(m_Edits, {}, &TextEdit::position);
     Rewritten result;
-    result.text = Apply(m_Conditional.text, m_Edits);
-    result.places = PlaceMap(m_Conditional.text, m_Edits);
+    result.text = ApplyEdits(m_Conditional.text, m_Edits);
+    result.sourceMap = SourceMap(m_Conditional.text, m_Edits);
     result.functions = std::move(m_Functions);
     return result;
   }
@@ -54,7 +54,7 @@ class Writer {
   void Visit(std::size_t at);
   void VisitFunction(std::size_t at);
   void WriteMemberFunction(std::size_t at, std::size_t lastName, std::size_t body);
-  void LeakName(std::size_t at, std::size_t body);
+  void ExportName(std::size_t at, std::size_t body);
   bool IsKnownElsewhere(std::size_t name, std::size_t body);
   bool IsMemberName(std::size_t at) const;
   bool IsDeclared(std::size_t at) const;
@@ -65,14 +65,14 @@ class Writer {
   static constexpr std::size_t kNone = static_cast<std::size_t>(-1);
   ConditionalResult m_Conditional;
   std::vector<Token> m_Tokens;
-  std::vector<Edit> m_Edits;
+  std::vector<TextEdit> m_Edits;
   std::vector<std::u16string> m_Functions;
   int m_Depth = 0;  // of curly brackets
   std::unordered_map<std::u16string_view, std::vector<std::size_t>> m_Names;
   bool m_IsStrict = false;
 };
 
-void Writer::Visit(std::size_t at) {
+void SourceRewriter::Visit(std::size_t at) {
   const Token& token = m_Tokens[at];
   const std::u16string_view word = Spelling(at);
   if (word == u"{") ++m_Depth;
@@ -83,7 +83,7 @@ void Writer::Visit(std::size_t at) {
     if (word == u"catch" && head != kNone && Spelling(head + 1) == u"{" && head == at + 3)
       Insert(m_Tokens[head + 1].end,
              std::u16string(hidden::kCaught) + u"(" + std::u16string(Spelling(at + 2)) + u");");
-    // An empty statement between a block and its else.
+    // JScript allows an empty statement between a block and its `else`.
     if (word == u"else" && at >= 2 && Spelling(at - 1) == u";" && Spelling(at - 2) == u"}") Put(at - 1, u" ");
     return;
   }
@@ -93,11 +93,11 @@ void Writer::Visit(std::size_t at) {
     Insert(token.begin, u",");
 }
 
-void Writer::VisitFunction(std::size_t at) {
+void SourceRewriter::VisitFunction(std::size_t at) {
   std::size_t name = at + 1;
   if (name >= m_Tokens.size()) return;
   if (Spelling(name) == u"(") {
-    // A function without a name that is a statement does nothing.
+    // JScript ignores a function statement without a name, which JavaScript refuses.
     if (m_Tokens[at].role == Role::Declaration) Insert(m_Tokens[at].begin, u"void ");
     return;
   }
@@ -108,28 +108,28 @@ void Writer::VisitFunction(std::size_t at) {
   const std::size_t body = close != kNone && Spelling(close + 1) == u"{" ? close + 1 : kNone;
   if (body == kNone || Partner(body) == kNone) return;
   if (last != name) return WriteMemberFunction(at, last, body);
-  if (m_Tokens[at].role == Role::Value) return LeakName(at, body);
+  if (m_Tokens[at].role == Role::Value) return ExportName(at, body);
   if (m_Tokens[at].role != Role::Declaration) return;
   if (m_Depth == 0 && std::ranges::find(m_Functions, Spelling(name)) == m_Functions.end())
     m_Functions.emplace_back(Spelling(name));
 }
 
 // `function a.b(x) {…}` is `a.b = function(x) {…};`.
-void Writer::WriteMemberFunction(std::size_t at, std::size_t lastName, std::size_t body) {
+void SourceRewriter::WriteMemberFunction(std::size_t at, std::size_t lastName, std::size_t body) {
   m_Edits.push_back({m_Tokens[at].begin, 8, {}});
   Insert(m_Tokens[lastName].end, u"=function");
   if (m_Tokens[at].role == Role::Declaration) Insert(m_Tokens[Partner(body)].end, u";");
 }
 
-void Writer::LeakName(std::size_t at, std::size_t body) {
+void SourceRewriter::ExportName(std::size_t at, std::size_t body) {
   const std::u16string name(Spelling(at + 1));
   if (IsKnownElsewhere(at + 1, body)) return;
   Insert(m_Tokens[at].begin, u"(" + name + u"=");
   Insert(m_Tokens[Partner(body)].end, u")");
 }
 
-// Whether leaking the name would hurt, or nobody would see it.
-bool Writer::IsKnownElsewhere(std::size_t name, std::size_t body) {
+// Whether the name must stay inside: something else has it already, or nothing outside uses it.
+bool SourceRewriter::IsKnownElsewhere(std::size_t name, std::size_t body) {
   if (m_IsStrict) return true;
   const std::size_t end = Partner(body);
   bool isUsed = false;
@@ -141,14 +141,14 @@ bool Writer::IsKnownElsewhere(std::size_t name, std::size_t body) {
   return !isUsed;
 }
 
-bool Writer::IsMemberName(std::size_t at) const {
+bool SourceRewriter::IsMemberName(std::size_t at) const {
   const std::u16string_view before = at > 0 ? Spelling(at - 1) : std::u16string_view();
   return before == u"." || before == u"?." ||
          (Spelling(at + 1) == u":" && before != u"?" && before != u"case");
 }
 
-// Declared, a parameter or assigned: the name means something of its own there.
-bool Writer::IsDeclared(std::size_t at) const {
+// Whether the name is declared, assigned or a parameter there, and so means something else.
+bool SourceRewriter::IsDeclared(std::size_t at) const {
   if (IsAssignment(at + 1)) return true;
   for (std::size_t open = at; open > 0; --open) {
     const std::u16string_view before = Spelling(open - 1);
@@ -160,14 +160,14 @@ bool Writer::IsDeclared(std::size_t at) const {
   return false;
 }
 
-bool Writer::IsAssignment(std::size_t at) const {
-  return at < m_Tokens.size() && m_Tokens[at].kind == TokenKind::Sign &&
+bool SourceRewriter::IsAssignment(std::size_t at) const {
+  return at < m_Tokens.size() && m_Tokens[at].kind == TokenKind::Punctuator &&
          std::ranges::find(kAssignments, Spelling(at)) != std::end(kAssignments);
 }
 
-// The first token of the operand that ends with one, as `a` of `a.b[1](2).c`; none for what cannot be
-// assigned to.
-std::size_t Writer::ChainStart(std::size_t last) const {
+// The first token of the operand that ends with `last`, as `a` of `a.b[1](2).c`; kNone where the operand
+// cannot be assigned to.
+std::size_t SourceRewriter::ChainStart(std::size_t last) const {
   for (std::size_t at = last;;) {
     const std::u16string_view word = Spelling(at);
     if (word == u")" || word == u"]") {
@@ -186,7 +186,7 @@ std::size_t Writer::ChainStart(std::size_t last) const {
   }
 }
 
-void Writer::VisitCall(std::size_t open, std::size_t close) {
+void SourceRewriter::VisitCall(std::size_t open, std::size_t close) {
   const std::size_t callee = open - 1;
   const bool isMember = callee > 0 && Spelling(callee - 1) == u".";
   if (Spelling(callee) == u"eval" && !isMember && close > open + 1) {
@@ -200,17 +200,17 @@ void Writer::VisitCall(std::size_t open, std::size_t close) {
   if (start == kNone || (start > 0 && Spelling(start - 1) == u"new")) return;
   const std::u16string_view separator = close == open + 1 ? u"" : u",";
   if (isMember) {
-    Insert(m_Tokens[start].begin, std::u16string(hidden::kPutMember) + u"(");
+    Insert(m_Tokens[start].begin, std::u16string(hidden::kIndexedMember) + u"(");
     Put(callee - 1, u",");
     Put(callee, u"\"" + std::u16string(Spelling(callee)) + u"\"");
     Put(open, std::u16string(separator));
   } else if (Spelling(callee) == u"]" && m_Tokens[callee].role == Role::Index) {
-    Insert(m_Tokens[start].begin, std::u16string(hidden::kPutMember) + u"(");
+    Insert(m_Tokens[start].begin, std::u16string(hidden::kIndexedMember) + u"(");
     Put(Partner(callee), u",");
     Put(callee, u"");
     Put(open, std::u16string(separator));
   } else {
-    Insert(m_Tokens[start].begin, std::u16string(hidden::kPut) + u"(");
+    Insert(m_Tokens[start].begin, std::u16string(hidden::kIndexedTarget) + u"(");
     Put(open, std::u16string(separator));
   }
   Insert(m_Tokens[close].end, u".v");
@@ -218,6 +218,6 @@ void Writer::VisitCall(std::size_t open, std::size_t close) {
 
 }  // namespace
 
-Rewritten Rewrite(std::u16string_view source) { return Writer(source).Write(); }
+Rewritten Rewrite(std::u16string_view source) { return SourceRewriter(source).Write(); }
 
 }  // namespace cardwright::jscript

@@ -4,32 +4,40 @@
 #include <string_view>
 #include <vector>
 
-#include "cardwright/jscript/syntax/Edits.h"
+#include "cardwright/jscript/syntax/SourceMap.h"
 
 namespace cardwright::jscript {
 
-/// Names by which rewritten sources call what the engine put into its global object for them. No script hits
-/// on them by chance.
+/// Names of the functions that rewritten sources call. The first letter keeps them apart from the scripts'
+/// own names.
 namespace hidden {
-inline constexpr char16_t kPut[] = u"\u02ACput";  ///< (target, arguments…).v is the assigned place
-inline constexpr char16_t kPutMember[] = u"\u02ACputMember";  ///< (object, name, arguments…).v likewise
-inline constexpr char16_t kCaught[] = u"\u02ACcaught";  ///< (error): what a script sees of a caught error
-inline constexpr char16_t kSource[] = u"\u02ACsource";  ///< (text): what `eval` is to compile
+/// (object, arguments…).v is the assigned default member.
+inline constexpr char16_t kIndexedTarget[] = u"\u02ACput";
+/// (object, name, arguments…).v is the assigned member.
+inline constexpr char16_t kIndexedMember[] = u"\u02ACputMember";
+/// (error) gives a caught error the properties that JScript has.
+inline constexpr char16_t kCaught[] = u"\u02ACcaught";
+/// (text) rewrites a text for `eval`.
+inline constexpr char16_t kSource[] = u"\u02ACsource";
 }  // namespace hidden
 
-/// A source in the JavaScript that the library compiles.
+/// A JScript source rewritten to JavaScript.
 struct Rewritten {
   std::u16string text;
-  PlaceMap places;
-  /// Functions that the source declares outside of all others, in order.
+  SourceMap sourceMap;
+  /// The names of the functions that the source declares at the top level, in order.
   std::vector<std::u16string> functions;
 };
 
-/// Writes JScript as JavaScript, line by line:
-/// conditional compilation is run; `o(i) = v` and `o.p(i) = v` become assignments to a place of the object's;
-/// `function o.m() {}` becomes an assignment; the name of a function that is a value is known outside of it
-/// where nothing else has the name; `[1, ]` has two elements; a caught error gets its JScript form.
-/// Throws a SyntaxFault.
+/// Rewrites JScript to JavaScript without changing the lines:
+/// - conditional compilation is run
+/// - `o(i) = v` and `o.p(i) = v` assign to the property `v` of a target object
+/// - `function o.m() {}` becomes an assignment
+/// - the name of a function expression is a variable of the enclosing scope, unless that has the name already
+/// - `[1, ]` has two elements
+/// - a caught error gets the properties of a JScript error
+///
+/// Throws a SyntaxError.
 Rewritten Rewrite(std::u16string_view source);
 
 }  // namespace cardwright::jscript
