@@ -1,4 +1,4 @@
-# Holds the includes of the sources against the map of the house (Rooms.cmake). Run it as
+# Holds the includes of the sources against the map of the rooms (Rooms.cmake). Run it as
 #   cmake -P cmake/CheckRooms.cmake
 # A room may include what it may link: the rooms that the map gives it and those that these use in turn.
 cmake_minimum_required(VERSION 3.25)
@@ -68,6 +68,14 @@ file(GLOB_RECURSE files RELATIVE "${root}" "${root}/src/*.h" "${root}/src/*.cpp"
      "${root}/bench/*.cpp" "${root}/fuzz/*.h" "${root}/fuzz/*.cpp")
 set(folders)
 
+# What a control is, its class tells in the room model. Whoever uses that room asks the class and compares no names.
+file(GLOB classFiles RELATIVE "${root}/src/cardwright/model" "${root}/src/cardwright/model/C[A-Z]*.h")
+string(REGEX REPLACE "C([A-Za-z]+)\\.h" "\\1" kinds "${classFiles}")
+string(REPLACE ";" "|" kinds "${kinds}|MultilineTextBox|ListView")
+set(typeName "(TypeName\\(\\)|className|typeName)")
+set(compared "(==|!=|EqualsNoCase\\()")
+set(namesCompared "${compared}.*${typeName}|${typeName}\\)*[ \t]*${compared}|${compared}.*\"(${kinds})\"|\"(${kinds})\"[^\"]*(==|!=)|\"C(${kinds})\"")
+
 foreach(file IN LISTS files)
   set(room)
   if(file MATCHES "^src/cardwright/(.*)$")
@@ -79,6 +87,14 @@ foreach(file IN LISTS files)
   endif()
   get_filename_component(folder "${file}" DIRECTORY)
   foreign_rights(${file} maySeeQt maySeeGdal maySeePcre)
+
+  if(file MATCHES "^(src|apps)/" AND NOT room STREQUAL "model" AND (NOT room OR "model" IN_LIST reach_${room}))
+    file(STRINGS "${root}/${file}" lines REGEX "${namesCompared}")
+    foreach(line IN LISTS lines)
+      string(STRIP "${line}" line)
+      list(APPEND faults "${file}: compares names of classes or widgets, ask the class (ClassOf): ${line}")
+    endforeach()
+  endif()
 
   file(STRINGS "${root}/${file}" lines REGEX "^[ \t]*#[ \t]*include")
   foreach(line IN LISTS lines)
@@ -169,6 +185,6 @@ endforeach()
 list(LENGTH faults count)
 list(LENGTH files fileCount)
 if(count GREATER 0)
-  message(FATAL_ERROR "${count} include(s) against the map of the rooms")
+  message(FATAL_ERROR "${count} fault(s) against the map of the rooms")
 endif()
 message(STATUS "${fileCount} files keep to the map of the rooms")
