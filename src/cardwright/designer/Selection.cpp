@@ -9,8 +9,10 @@ constexpr int kDeleteKey = 46;
 
 }  // namespace
 
-bool FormDesigner::IsForm(const IControl& control) { const Ref<Object> object = control.BoundObject();
-  return dynamic_cast<const FormDesigner*>(object.get()); }
+bool FormDesigner::IsForm(const IControl& control) {
+  const Ref<Object> object = control.BoundObject();
+  return dynamic_cast<const FormDesigner*>(object.get());
+}
 
 bool FormDesigner::IsAlive(const IControl& control) const {
   const Ref<Object> widget = control.BoundObject();

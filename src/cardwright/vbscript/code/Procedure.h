@@ -77,7 +77,7 @@ class Procedure final : public RefCounted {
   bool hasByValue = false;
   bool returnsValue = false;
   bool isExplicit = false;   ///< names have to be declared
-  bool isMade = false;       ///< of a text that a script made
+  bool isGenerated = false;  ///< of a text that a script made
   bool isExecuted = false;   ///< works on the variables of the frame below
   bool isOutermost = false;  ///< stands outside procedures: its variables stay when it has run
   std::uint16_t parameters = 0;

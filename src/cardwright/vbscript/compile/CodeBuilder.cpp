@@ -25,9 +25,10 @@ std::uint32_t CodeBuilder::EmitWide(Op op, std::uint16_t a, std::uint32_t wide) 
   return Here() - 1;
 }
 
+// The opcode of a second word means nothing.
 void CodeBuilder::EmitWord(std::uint32_t wide, std::uint16_t a) { EmitWide(Op::Jump, a, wide); }
 
-// An offset counts from the word behind the one that holds it.
+// An offset counts from the word after the one that holds it.
 void CodeBuilder::Bind(Label& label) {
   for (const std::uint32_t at : label.m_Jumps) m_Procedure.code[at].SetWide(Here() - (at + 1));
   label.m_Jumps.clear();
@@ -78,7 +79,7 @@ void CodeBuilder::SetFirstTemporary(std::uint32_t first) {
   Reserve(0);
 }
 
-std::uint16_t CodeBuilder::Temporary() {
+std::uint16_t CodeBuilder::AllocateTemporary() {
   Reserve(1);
   return static_cast<std::uint16_t>(m_Next++);
 }

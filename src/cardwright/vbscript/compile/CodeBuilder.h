@@ -8,7 +8,7 @@
 
 namespace cardwright::vbscript {
 
-/// Jumps to a place that is not known yet.
+/// A place in the code that jumps may lead to before it is known.
 class Label {
  public:
   bool IsUsed() const noexcept { return !m_Jumps.empty(); }
@@ -18,10 +18,10 @@ class Label {
   std::vector<std::uint32_t> m_Jumps;
 };
 
-/// Writes a procedure's code: words, constants, jumps, marks, registers for values on the way.
+/// Writes a procedure's code: instructions, constants, jumps and marks, and allocates temporaries.
 class CodeBuilder {
  public:
-  /// `start` is the place of the body, for errors before its first statement.
+  /// `start` is the position of the body, for errors before its first statement.
   CodeBuilder(Procedure& procedure, Position start) : m_Procedure(procedure), m_Start(start) {}
 
   std::uint32_t Here() const noexcept { return static_cast<std::uint32_t>(m_Procedure.code.size()); }
@@ -31,8 +31,7 @@ class CodeBuilder {
   /// The word after an instruction.
   void EmitWord(std::uint32_t wide, std::uint16_t a = 0);
 
-  /// @name Jumps. The offset stands in the instruction itself, or in the word after for comparisons and
-  /// loops.
+  /// @name Jumps. The offset is in the instruction itself; for comparisons and loops in the word after it.
   /// @{
   void Jump(Label& label) { Refer(label, EmitWide(Op::Jump, 0, 0)); }
   void JumpIf(Op op, std::uint16_t a, Label& label) { Refer(label, EmitWide(op, a, 0)); }
@@ -45,25 +44,26 @@ class CodeBuilder {
   void Bind(Label& label);
   /// @}
 
-  /// Error 1001 about the statement at hand: the machine cannot address what it needs.
+  /// Error 1001 about the current statement: it needs more than the machine can address.
   [[noreturn]] void FailTooLarge() const;
   /// Starts a statement, or a part of one that resumes by itself.
   std::size_t Mark(Position position);
-  /// Where the code goes on after an error in the part that the mark starts: here.
+  /// After an error in the part that the mark starts, the code continues here.
   void ResumeHere(std::size_t mark) { m_Procedure.marks[mark].resume = Here(); }
 
   std::uint32_t Constant(const Variant& value);
   std::uint32_t Shape(std::span<const std::int32_t> bounds);
   std::uint32_t Member(NameId name, NameId object);
 
-  /// @name Registers for values on the way, taken and given back like a stack
+  /// @name Temporaries, allocated and freed like a stack
   /// @{
   void SetFirstTemporary(std::uint32_t first);
-  std::uint16_t Temporary();
-  std::uint32_t TemporariesUsed() const noexcept { return m_Next; }
-  void FreeTo(std::uint32_t mark) noexcept { m_Next = mark; }
+  std::uint16_t AllocateTemporary();
+  /// The number of the next one; FreeTemporaries frees all that were allocated since.
+  std::uint32_t NextTemporary() const noexcept { return m_Next; }
+  void FreeTemporaries(std::uint32_t first) noexcept { m_Next = first; }
   bool IsTemporary(std::uint32_t r) const noexcept { return r >= m_Procedure.firstTemporary; }
-  /// A further register beyond those in use, without taking it.
+  /// Room for that many registers beyond those allocated, without allocating them.
   void Reserve(std::uint32_t count);
   /// @}
 

@@ -78,7 +78,7 @@ Ref<Procedure> BlockCompiler::Compile(const ProcedureDecl& declaration, ClassInf
   procedure->module = &m_Context.module;
   procedure->owner = owner;
   procedure->isExplicit = m_Context.isExplicit;
-  procedure->isMade = m_Linkage.IsRunning();
+  procedure->isGenerated = m_Linkage.IsRunning();
   BodyCompiler compiler(m_Context, *procedure, owner, declaration.position);
   for (const Parameter& parameter : declaration.parameters)
     compiler.AddParameter(Name(parameter.name), parameter.byValue);
@@ -117,7 +117,7 @@ void BlockCompiler::CompileOutermost() {
   code->module = &m_Context.module;
   code->isOutermost = true;
   code->isExplicit = m_Context.isExplicit;
-  code->isMade = m_Linkage.IsRunning();
+  code->isGenerated = m_Linkage.IsRunning();
   BodyCompiler compiler(m_Context, *code, nullptr);
   const NamesOfBody names = CollectNames(m_Tree.body, m_Linkage.names);
   for (const auto& [name, value] : names.constants)
@@ -155,7 +155,7 @@ CompiledInScope CompileInScope(const SyntaxTree& tree, Linkage& linkage, const P
   compiled.code->module = outer.module;
   compiled.code->owner = outer.owner;
   compiled.code->isExplicit = tree.optionExplicit;
-  compiled.code->isMade = true;
+  compiled.code->isGenerated = true;
   BodyCompiler body(definitions.Context(), *compiled.code, outer.owner);
   const NamesOfBody names = tree.expression ? CollectNames(*tree.expression, linkage.names)
                                             : CollectNames(tree.body, linkage.names);

@@ -53,7 +53,7 @@ void BodyCompiler::LoadConstant(const Variant& value, std::uint16_t target) {
 // A literal, perhaps with a sign, or a named constant.
 const Variant* BodyCompiler::FoldedConstant(const Expr& expression, Variant& storage) {
   if (expression.kind == ExprKind::Literal) return static_cast<const LiteralExpr&>(expression).value;
-  if (expression.kind == ExprKind::Name) return Find(expression).constant;
+  if (expression.kind == ExprKind::Name) return Resolve(expression).constant;
   if (expression.kind == ExprKind::Unary) {
     const auto& unary = static_cast<const UnaryExpr&>(expression);
     if (unary.op != UnaryOperator::Negate || unary.operand->kind != ExprKind::Literal) return nullptr;
@@ -66,76 +66,84 @@ const Variant* BodyCompiler::FoldedConstant(const Expr& expression, Variant& sto
   return nullptr;
 }
 
-BodyCompiler::Operand BodyCompiler::Evaluate(const Expr& expression) {
+// A constant operand needs no instruction, and neither does a variable: it is used in its register.
+BodyCompiler::Operand BodyCompiler::CompileOperand(const Expr& expression) {
   Variant storage;
   if (const Variant* constant = FoldedConstant(expression, storage)) {
     const std::uint32_t index = m_Code.Constant(*constant);
     if (index <= kMaxOperandConstant) return {static_cast<std::uint16_t>(index), true};
   }
-  return {EvaluateToRegister(expression), false};
+  return {CompileToRegister(expression), false};
 }
 
-std::uint16_t BodyCompiler::EvaluateToRegister(const Expr& expression) {
+std::uint16_t BodyCompiler::CompileToRegister(const Expr& expression) {
   if (expression.kind == ExprKind::Name) {
-    const Place place = Find(expression);
-    if (place.kind == PlaceKind::Register) return place.r;
+    const Binding binding = Resolve(expression);
+    if (binding.kind == BindingKind::Register) return binding.r;
   }
-  const std::uint16_t target = m_Code.Temporary();
-  EvaluateInto(expression, target);
+  const std::uint16_t target = m_Code.AllocateTemporary();
+  CompileInto(expression, target);
   return target;
 }
 
-void BodyCompiler::EvaluateInto(const Expr& expression, std::uint16_t target) {
-  const std::uint32_t mark = m_Code.TemporariesUsed();
+// Emits code that puts the expression's value into the register. Temporaries that it takes are free
+// afterwards.
+void BodyCompiler::CompileInto(const Expr& expression, std::uint16_t target) {
+  const std::uint32_t used = m_Code.NextTemporary();
   switch (expression.kind) {
     case ExprKind::Literal: LoadConstant(*static_cast<const LiteralExpr&>(expression).value, target); break;
     case ExprKind::Missing: LoadConstant(Variant::Missing(), target); break;
-    case ExprKind::Name: EvaluateName(Find(expression), target); break;
-    case ExprKind::Paren: EvaluateInto(*static_cast<const ParenExpr&>(expression).inner, target); break;
+    case ExprKind::Name: LoadBinding(Resolve(expression), target); break;
+    case ExprKind::Paren: CompileInto(*static_cast<const ParenExpr&>(expression).inner, target); break;
     case ExprKind::Me: m_Code.Emit(Op::LoadMe, target); break;
     case ExprKind::New: {
       const NameId name = m_Context.linkage.names.Add(static_cast<const NewExpr&>(expression).className);
       m_Code.EmitWide(Op::New, target, SymbolIndex(name));
       break;
     }
-    case ExprKind::Unary: EvaluateUnary(static_cast<const UnaryExpr&>(expression), target); break;
-    case ExprKind::Binary: EvaluateChain(static_cast<const BinaryExpr&>(expression), target); break;
-    case ExprKind::Member: EvaluateMember(static_cast<const MemberExpr&>(expression), {}, target); break;
-    case ExprKind::Call: EvaluateCall(static_cast<const CallExpr&>(expression), target); break;
+    case ExprKind::Unary: CompileUnary(static_cast<const UnaryExpr&>(expression), target); break;
+    case ExprKind::Binary: CompileBinaryChain(static_cast<const BinaryExpr&>(expression), target); break;
+    case ExprKind::Member: {
+      const std::uint16_t result = EmitMemberCall(static_cast<const MemberExpr&>(expression), {}, 0);
+      if (result != target) m_Code.Emit(Op::Move, target, result);
+      break;
+    }
+    case ExprKind::Call: CompileCall(static_cast<const CallExpr&>(expression), target); break;
   }
-  m_Code.FreeTo(mark);
+  m_Code.FreeTemporaries(used);
 }
 
-void BodyCompiler::EvaluateName(const Place& place, std::uint16_t target) {
-  switch (place.kind) {
-    case PlaceKind::Register: m_Code.Emit(Op::Copy, target, place.r); break;
-    case PlaceKind::Constant: LoadConstant(*place.constant, target); break;
-    case PlaceKind::Field: m_Code.EmitWide(Op::LoadField, target, place.index); break;
-    case PlaceKind::Symbol: m_Code.EmitWide(Op::LoadSymbol, target, place.index); break;
-    case PlaceKind::Member: {
+void BodyCompiler::LoadBinding(const Binding& binding, std::uint16_t target) {
+  switch (binding.kind) {
+    case BindingKind::Register: m_Code.Emit(Op::Copy, target, binding.r); break;
+    case BindingKind::Constant: LoadConstant(*binding.constant, target); break;
+    case BindingKind::Field: m_Code.EmitWide(Op::LoadField, target, binding.index); break;
+    case BindingKind::Symbol: m_Code.EmitWide(Op::LoadSymbol, target, binding.index); break;
+    case BindingKind::Member: {
       std::uint16_t result = kNoRegister;
-      CallPlace(place, {}, 0, &result);
-      m_Code.Emit(Op::Take, target, result);
+      EmitCall(binding, {}, 0, &result);
+      m_Code.Emit(Op::Move, target, result);
       break;
     }
   }
 }
 
-void BodyCompiler::EvaluateUnary(const UnaryExpr& expression, std::uint16_t target) {
+void BodyCompiler::CompileUnary(const UnaryExpr& expression, std::uint16_t target) {
   Variant storage;
   if (const Variant* constant = FoldedConstant(expression, storage)) {
     LoadConstant(*constant, target);
     return;
   }
-  const std::uint16_t operand = EvaluateToRegister(*expression.operand);
+  const std::uint16_t operand = CompileToRegister(*expression.operand);
   constexpr Op kOperations[] = {Op::Negate, Op::Plus, Op::Not};
   m_Code.Emit(kOperations[static_cast<std::size_t>(expression.op)], target, operand);
 }
 
-// A variable is read when its turn comes, not when the operator works: what is evaluated later may change it.
+// An operand is read in its turn. One that is a variable is read by the operator itself, unless evaluating
+// what comes `later` may run code that changes it: then its value is copied to a temporary.
 BodyCompiler::Operand BodyCompiler::KeepAcross(Operand operand, const Expr& later) {
   if (operand.isConstant || m_Code.IsTemporary(operand.index) || !MayRunScript(&later)) return operand;
-  const std::uint16_t kept = m_Code.Temporary();
+  const std::uint16_t kept = m_Code.AllocateTemporary();
   m_Code.Emit(Op::Copy, kept, operand.index);
   return {kept, false};
 }
@@ -148,42 +156,43 @@ void BodyCompiler::EmitBinary(BinaryOperator op, std::uint16_t target, Operand l
   if (operation == Op::Binary) m_Code.EmitWord(static_cast<std::uint32_t>(op));
 }
 
-// a + b + c … is a chain to the left, which may be too long for recursion.
-void BodyCompiler::EvaluateChain(const BinaryExpr& expression, std::uint16_t target) {
+// `a + b + c …` nests to the left and may be too long for recursion, so its links are collected first. Each
+// result goes to the first temporary, the last one straight to the target.
+void BodyCompiler::CompileBinaryChain(const BinaryExpr& expression, std::uint16_t target) {
   std::vector<const BinaryExpr*> chain;
   const Expr* first = &expression;
   while (first->kind == ExprKind::Binary) {
     chain.push_back(static_cast<const BinaryExpr*>(first));
     first = chain.back()->left;
   }
-  const std::uint32_t mark = m_Code.TemporariesUsed();
-  Operand left = Evaluate(*first);
+  const std::uint32_t used = m_Code.NextTemporary();
+  Operand left = CompileOperand(*first);
   for (std::size_t k = chain.size(); k-- > 0;) {
     const BinaryExpr& link = *chain[k];
     left = KeepAcross(left, *link.right);
-    const Operand right = Evaluate(*link.right);
-    m_Code.FreeTo(mark);
-    const std::uint16_t result = k == 0 ? target : m_Code.Temporary();
+    const Operand right = CompileOperand(*link.right);
+    m_Code.FreeTemporaries(used);
+    const std::uint16_t result = k == 0 ? target : m_Code.AllocateTemporary();
     EmitBinary(link.op, result, left, right);
     left = {result, false};
   }
 }
 
-void BodyCompiler::JumpOn(const Expr& condition, bool when, Label& label) {
-  const std::uint32_t mark = m_Code.TemporariesUsed();
+void BodyCompiler::CompileCondition(const Expr& condition, bool when, Label& label) {
+  const std::uint32_t used = m_Code.NextTemporary();
   const auto* binary =
       condition.kind == ExprKind::Binary ? static_cast<const BinaryExpr*>(&condition) : nullptr;
   if (const Comparison* comparison = binary ? ComparisonOf(binary->op) : nullptr) {
-    const Operand left = KeepAcross(Evaluate(*binary->left), *binary->right);
-    const Operand right = Evaluate(*binary->right);
+    const Operand left = KeepAcross(CompileOperand(*binary->left), *binary->right);
+    const Operand right = CompileOperand(*binary->right);
     const auto flags =
         static_cast<std::uint8_t>((left.isConstant ? kConstantB : 0) | (right.isConstant ? kConstantC : 0));
     m_Code.Emit(when ? comparison->jumpIf : comparison->jumpUnless, 0, left.index, right.index, flags);
     m_Code.EmitTarget(label);
   } else {
-    m_Code.JumpIf(when ? Op::JumpIfTrue : Op::JumpIfFalse, EvaluateToRegister(condition), label);
+    m_Code.JumpIf(when ? Op::JumpIfTrue : Op::JumpIfFalse, CompileToRegister(condition), label);
   }
-  m_Code.FreeTo(mark);
+  m_Code.FreeTemporaries(used);
 }
 
 }  // namespace cardwright::vbscript

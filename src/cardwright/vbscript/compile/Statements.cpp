@@ -8,8 +8,8 @@ std::size_t BodyCompiler::Mark(Position position) {
   return mark;
 }
 
-// Hidden registers lie between the variables and the values on the way; nested statements take them like a
-// stack.
+// Hidden registers lie between the variables and the temporaries. They keep what a loop, With or Select needs
+// as long as it runs; nested statements allocate them like a stack.
 std::uint16_t BodyCompiler::TakeHidden(std::uint16_t count) {
   const auto first = static_cast<std::uint16_t>(m_FirstHidden + m_Hidden);
   m_Hidden += count;
@@ -34,9 +34,9 @@ void BodyCompiler::EmitReturn() {
 
 void BodyCompiler::CompileResult(const Expr& expression, std::uint16_t result) {
   m_Code.Mark({});
-  const std::uint16_t value = m_Code.Temporary();
-  EvaluateInto(expression, value);
-  m_Code.Emit(Op::Take, result, value);
+  const std::uint16_t value = m_Code.AllocateTemporary();
+  CompileInto(expression, value);
+  m_Code.Emit(Op::Move, result, value);
   m_Code.Emit(Op::Return);
   m_Procedure.Complete();
 }
@@ -48,19 +48,22 @@ void BodyCompiler::CompileBlock(Block body) {
 void BodyCompiler::CompileStatement(const Stmt& statement) {
   switch (statement.kind) {
     case StmtKind::Dim:
-    case StmtKind::Const: return;  // in force from the start
+    case StmtKind::Const: return;  // they apply from the start
     case StmtKind::If: return CompileIf(static_cast<const IfStmt&>(statement));
     case StmtKind::Select: return CompileSelect(static_cast<const SelectStmt&>(statement));
     case StmtKind::For: return CompileFor(static_cast<const ForStmt&>(statement));
     case StmtKind::ForEach: return CompileForEach(static_cast<const ForEachStmt&>(statement));
     case StmtKind::Loop: return CompileLoop(static_cast<const LoopStmt&>(statement));
     case StmtKind::With: return CompileWith(static_cast<const WithStmt&>(statement));
-    default: break;
+    default: CompileSimpleStatement(statement);
   }
+}
+
+void BodyCompiler::CompileSimpleStatement(const Stmt& statement) {
   const std::size_t mark = Mark(statement.position);
   switch (statement.kind) {
     case StmtKind::Assign: CompileAssign(static_cast<const AssignStmt&>(statement)); break;
-    case StmtKind::Call: CompileCall(static_cast<const CallStmt&>(statement)); break;
+    case StmtKind::Call: CompileCallStatement(static_cast<const CallStmt&>(statement)); break;
     case StmtKind::ReDim: CompileReDim(static_cast<const ReDimStmt&>(statement)); break;
     case StmtKind::Erase: CompileErase(static_cast<const EraseStmt&>(statement)); break;
     case StmtKind::Exit: CompileExit(static_cast<const ExitStmt&>(statement)); break;
@@ -73,14 +76,14 @@ void BodyCompiler::CompileStatement(const Stmt& statement) {
   m_Code.ResumeHere(mark);
 }
 
-// A condition that fails counts as true where errors are passed over: the branch is entered.
+// Where errors are passed over, a condition that fails counts as true: its branch is entered.
 void BodyCompiler::CompileIf(const IfStmt& statement) {
   Label end;
   for (std::size_t k = 0; k < statement.branches.size(); ++k) {
     const IfBranch& branch = statement.branches[k];
     Label next;
     const std::size_t mark = Mark(branch.position);
-    JumpOn(*branch.condition, false, next);
+    CompileCondition(*branch.condition, false, next);
     m_Code.ResumeHere(mark);
     CompileBlock(branch.body);
     if (k + 1 < statement.branches.size() || statement.hasElse) m_Code.Jump(end);
@@ -90,139 +93,51 @@ void BodyCompiler::CompileIf(const IfStmt& statement) {
   m_Code.Bind(end);
 }
 
-// A subject that fails skips the whole statement; a value that fails counts as a match.
+// Where errors are passed over, a subject that fails skips the whole statement; a value of a Case that fails
+// counts as a match.
 void BodyCompiler::CompileSelect(const SelectStmt& statement) {
   const std::size_t subjectMark = Mark(statement.position);
   const std::uint16_t subject = TakeHidden(kSelectRegisters);
-  const std::uint32_t used = m_Code.TemporariesUsed();
-  const std::uint16_t value = m_Code.Temporary();
-  EvaluateInto(*statement.subject, value);
+  const std::uint32_t used = m_Code.NextTemporary();
+  const std::uint16_t value = m_Code.AllocateTemporary();
+  CompileInto(*statement.subject, value);
   m_Code.Emit(Op::Let, subject, value);
-  m_Code.FreeTo(used);
+  m_Code.FreeTemporaries(used);
   Label end;
-  for (const SelectCase& part : statement.cases) {
-    Label body, next;
-    std::vector<std::size_t> marks;
-    for (const Expr* candidate : part.values) {
-      marks.push_back(m_Code.Mark(statement.position));
-      const Operand operand = Evaluate(*candidate);
-      m_Code.Emit(Op::JumpIfEqual, 0, subject, operand.index, operand.isConstant ? kConstantC : 0);
-      m_Code.EmitTarget(body);
-      m_Code.FreeTo(used);
-    }
-    m_Code.Jump(next);
-    m_Code.Bind(body);
-    for (const std::size_t mark : marks) m_Code.ResumeHere(mark);
-    CompileBlock(part.body);
-    m_Code.Jump(end);
-    m_Code.Bind(next);
-  }
+  for (const SelectCase& part : statement.cases) CompileCase(part, statement, subject, end);
   CompileBlock(statement.otherwise);
   m_Code.Bind(end);
   m_Code.ResumeHere(subjectMark);
   ReleaseHidden(subject, kSelectRegisters);
 }
 
-// The variable that a loop goes by: its own register, or the given one, which comes to refer to it.
-std::uint16_t BodyCompiler::EmitControlVariable(const Place& place, std::uint16_t holder) {
-  if (place.kind == PlaceKind::Register) return place.r;
-  const bool isFunction = place.symbol == SymbolKind::Procedure || place.symbol == SymbolKind::Builtin;
-  isFunction ? EmitIllegalAssignment(place) : EmitHolder(place, holder);
-  return holder;
-}
-
-// Limits that fail leave a loop that was never prepared: its body runs once and Next is an error.
-void BodyCompiler::CompileFor(const ForStmt& statement) {
-  const Place place = Find(*statement.variable);
-  const std::size_t mark = Mark(statement.position);
-  const std::size_t outside = m_Hidden;
-  const std::uint16_t bounds = TakeHidden(kForRegisters);
-  const std::uint32_t used = m_Code.TemporariesUsed();
-  m_Code.Emit(Op::Clear, bounds, 0, 0, kForRegisters);
-  const std::uint16_t variable = EmitControlVariable(place, static_cast<std::uint16_t>(bounds + 3));
-  const Expr* const parts[] = {statement.from, statement.to, statement.step};
-  std::uint16_t values[3];
-  for (std::size_t k = 0; k < 3; ++k) {
-    values[k] = m_Code.Temporary();
-    parts[k] ? EvaluateInto(*parts[k], values[k]) : LoadConstant(Variant(std::int16_t{1}), values[k]);
+void BodyCompiler::CompileCase(const SelectCase& part, const SelectStmt& statement, std::uint16_t subject,
+                               Label& end) {
+  const std::uint32_t used = m_Code.NextTemporary();
+  Label body, next;
+  std::vector<std::size_t> marks;
+  for (const Expr* candidate : part.values) {
+    marks.push_back(m_Code.Mark(statement.position));
+    const Operand operand = CompileOperand(*candidate);
+    m_Code.Emit(Op::JumpIfEqual, 0, subject, operand.index, operand.isConstant ? kConstantC : 0);
+    m_Code.EmitTarget(body);
+    m_Code.FreeTemporaries(used);
   }
-  for (std::uint16_t k = 0; k < 3; ++k)
-    m_Code.Emit(Op::Take, static_cast<std::uint16_t>(bounds + k), values[k]);
-  m_Code.FreeTo(used);
-  Label end;
-  m_Code.Emit(Op::ForPrepare, variable, bounds);
-  m_Code.EmitTarget(end);
-  m_Code.ResumeHere(mark);
-  const std::uint32_t body = m_Code.Here();
-  m_Loops.push_back({ExitKind::For, &end, outside});
-  CompileBlock(statement.body);
-  m_Loops.pop_back();
-  const std::size_t nextMark = m_Code.Mark(statement.nextPosition);
-  m_Code.Emit(Op::ForNext, variable, bounds);
-  m_Code.EmitTargetBack(body);
-  m_Code.ResumeHere(nextMark);
-  m_Code.Bind(end);
-  ReleaseHidden(bounds, kForRegisters);
-}
-
-void BodyCompiler::CompileForEach(const ForEachStmt& statement) {
-  const Place place = Find(*statement.variable);
-  const std::size_t mark = Mark(statement.position);
-  const std::size_t outside = m_Hidden;
-  const std::uint16_t state = TakeHidden(kEachRegisters);
-  const std::uint32_t used = m_Code.TemporariesUsed();
-  m_Code.Emit(Op::Clear, state, 0, 0, kEachRegisters);
-  const std::uint16_t variable = EmitControlVariable(place, static_cast<std::uint16_t>(state + 1));
-  m_Code.Emit(Op::EachPrepare, state, EvaluateToRegister(*statement.collection));
-  m_Code.FreeTo(used);
-  Label next, end;
   m_Code.Jump(next);
-  // What cannot be enumerated runs the body once where errors are passed over.
-  m_Code.ResumeHere(mark);
-  const std::uint32_t body = m_Code.Here();
-  m_Loops.push_back({ExitKind::For, &end, outside});
-  CompileBlock(statement.body);
-  m_Loops.pop_back();
+  m_Code.Bind(body);
+  for (const std::size_t mark : marks) m_Code.ResumeHere(mark);
+  CompileBlock(part.body);
+  m_Code.Jump(end);
   m_Code.Bind(next);
-  const std::size_t nextMark = m_Code.Mark(statement.position);
-  m_Code.Emit(Op::EachNext, variable, state);
-  m_Code.EmitTarget(end);
-  m_Code.JumpBack(body);
-  m_Code.ResumeHere(nextMark);
-  m_Code.Bind(end);
-  ReleaseHidden(state, kEachRegisters);
-}
-
-void BodyCompiler::CompileLoop(const LoopStmt& statement) {
-  const bool first = statement.loop == LoopKind::DoWhile || statement.loop == LoopKind::DoUntil ||
-                     statement.loop == LoopKind::WhileWend;
-  const bool until = statement.loop == LoopKind::DoUntil || statement.loop == LoopKind::LoopUntil;
-  Label end;
-  const std::uint32_t start = m_Code.Here();
-  if (first) {
-    const std::size_t mark = Mark(statement.position);
-    JumpOn(*statement.condition, until, end);
-    m_Code.ResumeHere(mark);
-  } else if (m_Context.isObserved) {
-    m_Code.ResumeHere(Mark(statement.position));
-  }
-  if (statement.loop != LoopKind::WhileWend) m_Loops.push_back({ExitKind::Do, &end, m_Hidden});
-  CompileBlock(statement.body);
-  if (statement.loop != LoopKind::WhileWend) m_Loops.pop_back();
-  const std::size_t mark = m_Code.Mark(statement.endPosition);
-  if (!first && statement.condition) JumpOn(*statement.condition, until, end);
-  m_Code.JumpBack(start);
-  m_Code.Bind(end);
-  m_Code.ResumeHere(mark);  // a condition at the end that fails leaves the loop
 }
 
 void BodyCompiler::CompileWith(const WithStmt& statement) {
   const std::size_t mark = Mark(statement.position);
   const std::uint16_t object = TakeHidden(kWithRegisters);
-  const std::uint32_t used = m_Code.TemporariesUsed();
+  const std::uint32_t used = m_Code.NextTemporary();
   m_Code.Emit(Op::Clear, object, 0, 0, kWithRegisters);
-  m_Code.Emit(Op::RequireObject, object, EvaluateToRegister(*statement.object));
-  m_Code.FreeTo(used);
+  m_Code.Emit(Op::RequireObject, object, CompileToRegister(*statement.object));
+  m_Code.FreeTemporaries(used);
   m_Code.ResumeHere(mark);
   m_Withs.push_back(object);
   CompileBlock(statement.body);
@@ -237,7 +152,7 @@ void BodyCompiler::CompileExit(const ExitStmt& statement) {
   }
   for (auto loop = m_Loops.rbegin(); loop != m_Loops.rend(); ++loop) {
     if (loop->exit != statement.exit) continue;
-    // What statements inside the loop hold goes now, not when their registers are used again.
+    // Objects held by statements inside the loop are released now, not when their registers are reused.
     const std::size_t held = m_Hidden - loop->hidden;
     if (held)
       m_Code.Emit(Op::Clear, static_cast<std::uint16_t>(m_FirstHidden + loop->hidden), 0, 0,
@@ -249,38 +164,48 @@ void BodyCompiler::CompileExit(const ExitStmt& statement) {
 
 void BodyCompiler::CompileReDim(const ReDimStmt& statement) {
   for (const ReDimTarget& target : statement.targets) {
-    const std::uint32_t used = m_Code.TemporariesUsed();
-    const std::uint16_t base = EmitArguments(target.bounds, Passing::ByValue);
-    const std::uint16_t holder = m_Code.Temporary();
+    const std::uint32_t used = m_Code.NextTemporary();
+    const std::uint16_t bounds = EmitArguments(target.bounds, Passing::ByValue);
+    const std::uint8_t count = Count(target.bounds.size());
     if (target.array->kind == ExprKind::Name) {
-      EmitHolder(Find(*target.array), holder);
-      m_Code.Emit(Op::ReDim, holder, base, 0, Count(target.bounds.size()));
-      m_Code.EmitWord(statement.preserve);
+      const std::uint16_t reference = m_Code.AllocateTemporary();
+      EmitReferenceTo(Resolve(*target.array), reference);
+      EmitReDim(reference, bounds, count, statement.preserve);
     } else {
-      // The array of another object is taken, changed and put back.
-      const auto& member = static_cast<const MemberExpr&>(*target.array);
-      const std::uint16_t value = m_Code.Temporary();
-      EvaluateInto(member, value);
-      m_Code.Emit(Op::RefRegister, holder, value);
-      m_Code.Emit(Op::ReDim, holder, base, 0, Count(target.bounds.size()));
-      m_Code.EmitWord(statement.preserve);
-      const std::uint16_t object = ObjectOf(member);
-      const std::uint16_t argument = m_Code.Temporary();
-      m_Code.Emit(Op::Take, argument, value);
-      m_Code.Emit(Op::PutMember, argument, object, 0, 1);
-      m_Code.EmitWord(m_Code.Member(m_Context.linkage.names.Add(member.name), kNoName));
+      ReDimMember(static_cast<const MemberExpr&>(*target.array), bounds, count, statement.preserve);
     }
-    m_Code.FreeTo(used);
+    m_Code.FreeTemporaries(used);
   }
+}
+
+// The array of another object is read, changed and assigned back.
+void BodyCompiler::ReDimMember(const MemberExpr& member, std::uint16_t bounds, std::uint8_t count,
+                               bool preserve) {
+  const std::uint16_t reference = m_Code.AllocateTemporary();
+  const std::uint16_t value = m_Code.AllocateTemporary();
+  CompileInto(member, value);
+  m_Code.Emit(Op::RefRegister, reference, value);
+  EmitReDim(reference, bounds, count, preserve);
+  const std::uint16_t object = ObjectOf(member);
+  const std::uint16_t argument = m_Code.AllocateTemporary();
+  m_Code.Emit(Op::Move, argument, value);
+  m_Code.Emit(Op::AssignMember, argument, object, 0, 1);
+  m_Code.EmitWord(m_Code.Member(m_Context.linkage.names.Add(member.name), kNoName));
+}
+
+void BodyCompiler::EmitReDim(std::uint16_t reference, std::uint16_t bounds, std::uint8_t count,
+                             bool preserve) {
+  m_Code.Emit(Op::ReDim, reference, bounds, 0, count);
+  m_Code.EmitWord(preserve);
 }
 
 void BodyCompiler::CompileErase(const EraseStmt& statement) {
   for (const Expr* array : statement.arrays) {
-    const std::uint32_t used = m_Code.TemporariesUsed();
-    const std::uint16_t holder = m_Code.Temporary();
-    EmitReference(*array, holder);
-    m_Code.Emit(Op::Erase, holder);
-    m_Code.FreeTo(used);
+    const std::uint32_t used = m_Code.NextTemporary();
+    const std::uint16_t reference = m_Code.AllocateTemporary();
+    EmitReference(*array, reference);
+    m_Code.Emit(Op::Erase, reference);
+    m_Code.FreeTemporaries(used);
   }
 }
 

@@ -52,7 +52,7 @@ bool Machine::CallSymbol(SymbolUse& use, Variant* arguments, std::size_t count, 
 void Machine::CallBuiltin(const Builtin& builtin, Variant* arguments, std::size_t count, Variant* result) {
   if (count < builtin.minArguments || (count > builtin.maxArguments && builtin.maxArguments != kAnyCount))
     throw NamedError(ErrorNumber::WrongArgumentCount, builtin.name);
-  StopIfAsked();
+  ThrowIfStopping();
   for (std::size_t k = 0; k < count; ++k) {
     Variant& argument = arguments[k];
     if (argument.IsByRef()) {
@@ -79,9 +79,9 @@ void Machine::CallBuiltin(const Builtin& builtin, Variant* arguments, std::size_
 // A stop may have ended a Class_Terminate, which lets nothing out; then it ends the code that let go of the
 // object here, before that reaches the outside again. Library functions can do that, too.
 Variant Machine::InvokeHost(Object& object, MemberId member, CallKind kind, Args args) {
-  StopIfAsked();
+  ThrowIfStopping();
   Variant outcome = object.Invoke(member, kind, args);
-  StopIfAsked();
+  ThrowIfStopping();
   return outcome;
 }
 
@@ -107,21 +107,21 @@ MemberId Machine::FindMember(MemberUse& use, const Object& object) const {
 
 bool Machine::CallMember(RegisterView view, Instruction i, MemberUse& use) {
   Variant& place = view.R[i.b];
-  const bool spend = view.IsTemporary(i.b);
+  const bool isTemporary = view.IsTemporary(i.b);
   Variant* const arguments = view.R + i.a;
-  Variant* const result = (i.c & kDropResult) ? nullptr : spend ? &place : arguments;
+  Variant* const result = (i.c & kDropResult) ? nullptr : isTemporary ? &place : arguments;
   const Variant& held = static_cast<const Variant&>(place).Deref();
   if (!held.IsObject()) RaiseAbout(ErrorNumber::ObjectRequired, use.object);
   if (!held.ObjectPtr()) RaiseAbout(ErrorNumber::ObjectNotSet, use.object);
   if (Instance* instance = Instance::From(held.ObjectPtr(), *m_Link)) {
     const Ref<Instance> object(instance);
-    if (spend) place.Reset();
+    if (isTemporary) place.Reset();
     return CallInstance(use, *instance, arguments, i.n, result);
   }
   const Ref<Object> object(held.ObjectPtr());
   const MemberId member = FindMember(use, *object);
   Variant outcome = InvokeHost(*object, member, CallKind::MethodOrGet, {arguments, i.n});
-  if (spend) place.Reset();
+  if (isTemporary) place.Reset();
   FinishCall(arguments, i.n, result, std::move(outcome));
   return false;
 }
@@ -145,10 +145,10 @@ bool Machine::CallInstance(MemberUse& use, Instance& object, Variant* arguments,
 
 bool Machine::CallRegister(RegisterView view, Instruction i, const Procedure& procedure) {
   const Variant callee = static_cast<const Variant&>(view.R[i.b]).Deref();
-  const bool spend = view.IsTemporary(i.b);
+  const bool isTemporary = view.IsTemporary(i.b);
   Variant* const arguments = view.R + i.a;
-  Variant* const result = (i.c & kDropResult) ? nullptr : spend ? &view.R[i.b] : arguments;
-  view.Spend(i.b);
+  Variant* const result = (i.c & kDropResult) ? nullptr : isTemporary ? &view.R[i.b] : arguments;
+  view.ClearTemporary(i.b);
   return CallValue(callee, arguments, i.n, result, LocalName(procedure, i.b));
 }
 

@@ -9,38 +9,27 @@ namespace cardwright::vbscript {
 
 namespace {
 
-// The indices of an element operation, at most two, taken out of their registers.
-struct Indices {
+// The indices of an element operation, one or two, moved out of their registers.
+struct TakenIndices {
   Variant values[3];  // room for the value of an assignment
   std::size_t count = 1;
 
-  /// Of GetElement and SetElement: the second index is in the word after.
-  Indices(RegisterView view, Instruction i, Instruction word, bool isElement2) {
-    values[0] = static_cast<const Variant&>(view.C(i)).Deref();
-    if (isElement2) {
-      const bool constant = (i.n & kConstantSecond) != 0;
-      values[count++] = constant ? view.K[word.a] : static_cast<const Variant&>(view.R[word.a]).Deref();
-      if (!constant) view.Spend(word.a);
-    }
-    view.SpendC(i);
-  }
-  /// Of the operations on symbols and fields: it is operand b.
-  Indices(RegisterView view, Instruction i) {
+  TakenIndices(RegisterView view, Instruction i, Instruction word) {
     values[0] = static_cast<const Variant&>(view.C(i)).Deref();
     if (i.n & kTwoIndices) {
-      values[count++] = static_cast<const Variant&>(view.B(i)).Deref();
-      view.SpendB(i);
+      values[count++] = static_cast<const Variant&>(view.Second(i, word)).Deref();
+      if (!(i.n & kConstantSecond)) view.ClearTemporary(word.a);
     }
-    view.SpendC(i);
+    view.ClearTemporaryC(i);
   }
-  /// Places them as arguments from a register on.
-  void Place(Variant* arguments) {
+  /// Makes them the arguments of a call, from a register on.
+  void MoveTo(Variant* arguments) {
     for (std::size_t k = 0; k < count; ++k) arguments[k] = std::move(values[k]);
   }
-  /// With the value to assign behind them.
-  Args With(RegisterView view, std::uint16_t r) {
+  /// The indices, and after them the value to assign, from register r.
+  Args WithValue(RegisterView view, std::uint16_t r) {
     values[count] = static_cast<const Variant&>(view.R[r]).Deref();
-    view.Spend(r);
+    view.ClearTemporary(r);
     return {values, count + 1};
   }
 };
@@ -61,39 +50,40 @@ std::size_t PositionOf(Variant& holder, Args indices) {
 bool Machine::GetElementSlowly(RegisterView view, Instruction i, Instruction word,
                                const Procedure& procedure) {
   const Variant holder = static_cast<const Variant&>(view.R[i.b]).Deref();
-  Indices indices(view, i, word, i.op == Op::GetElement2);
-  indices.Place(view.R + i.a);
+  TakenIndices indices(view, i, word);
+  indices.MoveTo(view.R + i.a);
   return CallValue(holder, view.R + i.a, indices.count, view.R + i.a, LocalName(procedure, i.b));
 }
 
 void Machine::SetElementSlowly(RegisterView view, Instruction i, Instruction word,
                                const Procedure& procedure) {
-  Indices indices(view, i, word, i.op == Op::SetElement2);
-  const Args arguments = indices.With(view, i.a);
-  PutElement(view.R[i.b], arguments, false, LocalName(procedure, i.b));
+  TakenIndices indices(view, i, word);
+  const Args arguments = indices.WithValue(view, i.a);
+  AssignElement(view.R[i.b], arguments, false, LocalName(procedure, i.b));
 }
 
-bool Machine::GetSymbolElementSlowly(RegisterView view, Instruction i, SymbolUse& use) {
-  Indices indices(view, i);
-  indices.Place(view.R + i.a);
+bool Machine::GetSymbolElementSlowly(RegisterView view, Instruction i, Instruction word, SymbolUse& use) {
+  TakenIndices indices(view, i, word);
+  indices.MoveTo(view.R + i.a);
   return CallSymbol(use, view.R + i.a, indices.count, 0);
 }
 
-void Machine::SetSymbolElementSlowly(RegisterView view, Instruction i, SymbolUse& use) {
-  Indices indices(view, i);
-  PutSymbol(use, indices.With(view, i.a), 0);
+void Machine::SetSymbolElementSlowly(RegisterView view, Instruction i, Instruction word, SymbolUse& use) {
+  TakenIndices indices(view, i, word);
+  AssignIndexedSymbol(use, indices.WithValue(view, i.a), 0);
 }
 
-bool Machine::GetFieldElementSlowly(RegisterView view, Instruction i, const Variant& holder) {
-  const Variant held = holder;
-  Indices indices(view, i);
-  indices.Place(view.R + i.a);
-  return CallValue(held, view.R + i.a, indices.count, view.R + i.a, {});
+bool Machine::GetFieldElementSlowly(RegisterView view, Instruction i, Instruction word,
+                                    const Variant& field) {
+  const Variant holder = field;
+  TakenIndices indices(view, i, word);
+  indices.MoveTo(view.R + i.a);
+  return CallValue(holder, view.R + i.a, indices.count, view.R + i.a, {});
 }
 
-void Machine::SetFieldElementSlowly(RegisterView view, Instruction i, Variant& holder) {
-  Indices indices(view, i);
-  PutElement(holder, indices.With(view, i.a), false, {});
+void Machine::SetFieldElementSlowly(RegisterView view, Instruction i, Instruction word, Variant& field) {
+  TakenIndices indices(view, i, word);
+  AssignElement(field, indices.WithValue(view, i.a), false, {});
 }
 
 bool Machine::ReferToElement(RegisterView view, Instruction i) {
@@ -102,7 +92,7 @@ bool Machine::ReferToElement(RegisterView view, Instruction i) {
   const Variant& holder = static_cast<const Variant&>(reference).Deref();
   if (!holder.IsArray() || !reference.IsByRef()) {
     const Variant callee = holder;
-    view.Spend(i.b);
+    view.ClearTemporary(i.b);
     return CallValue(callee, indices.data(), indices.size(), indices.data(), {});
   }
   const std::size_t position = PositionOf(reference, indices);
@@ -112,7 +102,7 @@ bool Machine::ReferToElement(RegisterView view, Instruction i) {
     return false;
   }
   indices[0] = Variant::ByRefElement(reference.Deref(), static_cast<std::uint32_t>(position));
-  view.Spend(i.b);
+  view.ClearTemporary(i.b);
   return false;
 }
 

@@ -59,7 +59,7 @@ void ReDimArray(RegisterView view, Instruction i, bool preserve) {
   std::vector<std::int32_t> uppers;
   for (std::uint32_t k = 0; k < i.n; ++k) {
     uppers.push_back(ToLong(view.R[i.b + k]));
-    view.Spend(i.b + k);
+    view.ClearTemporary(i.b + k);
     if (uppers.back() < -1) Raise(ErrorNumber::SubscriptOutOfRange);
   }
   Variant& holder = view.R[i.a].Deref();
@@ -106,7 +106,7 @@ std::size_t ElementPosition(const Variant& holder, Args indices) {
   return whole.In(*held.ArrayPtr());
 }
 
-void PutElement(Variant& place, Args arguments, bool isSet, const Text& name) {
+void AssignElement(Variant& place, Args arguments, bool isSet, const Text& name) {
   Variant& value = arguments.back();
   const Variant& held = std::as_const(place).Deref();
   if (held.IsArray()) {

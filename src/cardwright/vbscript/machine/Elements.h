@@ -15,12 +15,13 @@ void ReDimArray(RegisterView view, Instruction i, bool preserve);
 /// enumerated.
 void EraseArray(Variant& holder);
 
-/// The element of a GetSymbolElement and its like; null where it takes the long way.
-inline Variant* FindElement(Array& array, RegisterView view, Instruction i) noexcept {
+/// The element that an element operation names by whole numbers within the bounds; null where it takes the
+/// slow path.
+inline Variant* FindElement(Array& array, RegisterView view, Instruction i, Instruction word) noexcept {
   const Variant& first = view.C(i);
   if (!first.IsWhole()) return nullptr;
   if (!(i.n & kTwoIndices)) return array.Find(first.Long());
-  const Variant& second = view.B(i);
+  const Variant& second = view.Second(i, word);
   return second.IsWhole() ? array.Find(first.Long(), second.Long()) : nullptr;
 }
 
@@ -33,6 +34,6 @@ Variant ElementOf(const Variant& holder, Args indices);
 std::size_t ElementPosition(const Variant& holder, Args indices);
 /// `place(indices…) = value`, the value last: of the array that the place is or refers to, or by the default
 /// member of an object. Error 13 about `name` for anything else.
-void PutElement(Variant& place, Args arguments, bool isSet, const Text& name);
+void AssignElement(Variant& place, Args arguments, bool isSet, const Text& name);
 
 }  // namespace cardwright::vbscript

@@ -1,6 +1,6 @@
 #include "cardwright/vbscript/Engine.h"
 
-#include "cardwright/vbscript/code/Listing.h"
+#include "cardwright/vbscript/code/Disassembler.h"
 #include "cardwright/vbscript/compile/Compiler.h"
 #include "cardwright/vbscript/machine/Machine.h"
 #include "cardwright/vbscript/syntax/Parser.h"
@@ -130,12 +130,13 @@ Text Disassemble(std::u16string_view source) {
   ScriptHost host;
   Machine machine(host, {});
   const CompiledBlock block = CompileBlock(*Parse(Text(source)), machine, machine.Global());
-  Text list = ListCode(*block.code, machine.names);
-  for (const Ref<Procedure>& procedure : block.procedures) list += ListCode(*procedure, machine.names);
+  Text list = DisassembleProcedure(*block.code, machine.names);
+  for (const Ref<Procedure>& procedure : block.procedures)
+    list += DisassembleProcedure(*procedure, machine.names);
   for (const Ref<ClassInfo>& cls : block.classes)
     for (const ClassMember& member : cls->members)
       for (const ClassProcedure* one : {&member.method, &member.get, &member.let, &member.set})
-        if (one->code) list += ListCode(*one->code, machine.names);
+        if (one->code) list += DisassembleProcedure(*one->code, machine.names);
   return list;
 }
 

@@ -42,7 +42,7 @@ bool Enumeration::Advance(Variant& variable) {
 
 void PrepareEach(RegisterView view, Instruction i) {
   Variant enumeration = Enumeration::Of(view.R[i.b]);
-  view.Spend(i.b);
+  view.ClearTemporary(i.b);
   view.R[i.a] = std::move(enumeration);
 }
 

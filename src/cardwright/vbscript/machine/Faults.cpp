@@ -62,20 +62,20 @@ void Machine::Unwind(std::size_t depth) noexcept {
   }
 }
 
-void Machine::NoteTime() noexcept {
+void Machine::CheckDeadline() noexcept {
   if (m_Deadline != kNoDeadline && std::chrono::steady_clock::now() >= m_Deadline) Interrupt();
 }
 
 // In the middle of work that nothing may come between: the host is asked after it.
 bool Machine::ShouldStop() noexcept {
-  NoteTime();
+  CheckDeadline();
   Order expected = Order::None;
   if (m_HostPoll.IsDue()) m_Order.compare_exchange_strong(expected, Order::Poll, std::memory_order_relaxed);
   return IsStopping();
 }
 
 void Machine::CheckStop() {
-  NoteTime();
+  CheckDeadline();
   if (IsStopping()) throw Interrupted{};
 }
 
@@ -85,13 +85,13 @@ void Machine::PollInterrupts() {
   m_Order.compare_exchange_strong(expected, Order::None, std::memory_order_relaxed);
   CheckStop();
   if (m_HostPoll.IsDue() && m_HostPoll.Poll(Host())) Interrupt();
-  StopIfAsked();
+  ThrowIfStopping();
 }
 
 void Machine::Observe(const Procedure& procedure, std::size_t instruction) {
   const StatementMark* mark = procedure.MarkAt(instruction);
   if (!m_Observer || !mark) return;
-  const Position position = procedure.isMade ? kNowhere : mark->position;
+  const Position position = procedure.isGenerated ? kNowhere : mark->position;
   m_Observer->OnStatement(procedure.module->Name(), position.line, position.column);
 }
 
@@ -102,7 +102,7 @@ void Machine::ObserveReturn() {
   const StatementMark* mark =
       procedure.MarkAt(static_cast<std::size_t>(caller.pc - procedure.code.data()) - 1);
   if (!mark) return;
-  const Position position = procedure.isMade ? kNowhere : mark->position;
+  const Position position = procedure.isGenerated ? kNowhere : mark->position;
   m_Observer->OnReturn(procedure.module->Name(), position.line, position.column);
 }
 

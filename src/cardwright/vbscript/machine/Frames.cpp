@@ -6,10 +6,10 @@ namespace cardwright::vbscript {
 namespace {
 
 constexpr std::size_t kFirstFrames = 32;
-constexpr std::uint32_t kCallsBetweenLooks = 1024;
+constexpr std::uint32_t kCallsBetweenPolls = 1024;
 
 // What is passed by value, or into a parameter by value, is a variable of its own.
-void TakeValues(const Procedure& procedure, Variant* registers) {
+void CopyByValueArguments(const Procedure& procedure, Variant* registers) {
   for (std::size_t k = 0; k < procedure.parameters; ++k) {
     if (!procedure.byValue[k] || !registers[k].IsByRef()) continue;
     Variant value = static_cast<const Variant&>(registers[k]).Deref();
@@ -28,16 +28,16 @@ void Machine::CheckRoomForSource() const {
   if (m_Depth) CheckNesting(kStackForSource);
 }
 
-inline void Machine::NoteCurrent() noexcept { m_Current = m_Depth ? &m_Frames[m_Depth - 1] : nullptr; }
+inline void Machine::UpdateCurrent() noexcept { m_Current = m_Depth ? &m_Frames[m_Depth - 1] : nullptr; }
 
 void Machine::AddFrames() {
   if (m_Depth >= static_cast<std::size_t>(m_Limits.callDepth)) Raise(ErrorNumber::OutOfStackSpace);
   m_Frames.resize(std::min<std::size_t>(std::max(kFirstFrames, 2 * m_Depth), m_Limits.callDepth));
-  NoteCurrent();
+  UpdateCurrent();
 }
 
 // What is in use of the register stack ends here.
-inline RegisterStack::Place Machine::EndOfRegisters() {
+inline RegisterStack::Window Machine::EndOfRegisters() {
   if (m_Depth == 0) return {m_Registers.Bottom(), 0};
   return {Current().top, Current().block};
 }
@@ -60,20 +60,21 @@ inline Frame& Machine::AddFrame(const Procedure& procedure, Instance* me, Varian
 }
 
 void Machine::PushFrame(const Procedure& procedure, Instance* me, Args arguments, Variant* result,
-                        ArgumentPlace where) {
+                        Arguments where) {
   const std::size_t count = arguments.size();
   if (count != procedure.parameters) Raise(ErrorNumber::WrongArgumentCount);
   // Arguments at the end of the caller's registers stay where they are and the new frame starts there. Code
   // outside procedures has its registers elsewhere, so its arguments have to move.
-  const bool stay = where == ArgumentPlace::InRegisters && count && !Current().procedure->isOutermost;
+  const bool stay = where == Arguments::AtTopOfCaller && count && !Current().procedure->isOutermost;
   // Room first: what is a frame has its registers.
-  const RegisterStack::Place end = EndOfRegisters();
-  const auto place = m_Registers.Take(stay ? arguments.data() : end.start, end.block, procedure.registers);
+  const RegisterStack::Window end = EndOfRegisters();
+  const auto place =
+      m_Registers.Allocate(stay ? arguments.data() : end.start, end.block, procedure.registers);
   Frame& frame = AddFrame(procedure, me, result);
   Variant* const registers = place.start;
   if (registers != arguments.data())
     for (std::size_t k = 0; k < count; ++k) registers[k] = std::move(arguments[k]);
-  if (procedure.hasByValue) TakeValues(procedure, registers);
+  if (procedure.hasByValue) CopyByValueArguments(procedure, registers);
   for (std::size_t k = count; k < procedure.firstTemporary; ++k) registers[k].Reset();
   frame.registers = registers;
   frame.top = registers + procedure.registers;
@@ -98,7 +99,7 @@ void Machine::PopFrame(Ending ending) noexcept {
   for (std::size_t k = first; k < end; ++k) registers[k].Reset();
   delete scope;
   --m_Depth;
-  NoteCurrent();
+  UpdateCurrent();
   if (result) *result = std::move(outcome);
   if (me) me->Release();
   procedure.Release();
@@ -109,25 +110,25 @@ Variant Machine::Enter(const Procedure& procedure, Instance* me, Args args) {
   // Whole calls may be too short to look at the clock themselves, or even to come to a place to stop at:
   // objects that make objects at their end would never come to one.
   CheckStop();
-  if (++m_CallsSinceLook % kCallsBetweenLooks == 0) PollInterrupts();
+  if (++m_CallsSincePoll % kCallsBetweenPolls == 0) PollInterrupts();
   Variant outcome;
   std::vector<Variant> copies(args.begin(), args.end());
-  PushFrame(procedure, me, copies, &outcome, ArgumentPlace::Elsewhere);
+  PushFrame(procedure, me, copies, &outcome, Arguments::Elsewhere);
   Run();
-  StopIfAsked();  // a stop that the end of an object has swallowed is for all that runs
+  ThrowIfStopping();  // a stop that the end of an object has swallowed is for all that runs
   return outcome;
 }
 
 void Machine::RunOutermost(const Procedure& code, Variant* variables) {
   CheckNesting();
   CheckStop();
-  const RegisterStack::Place end = EndOfRegisters();
+  const RegisterStack::Window end = EndOfRegisters();
   Frame& frame = AddFrame(code, nullptr, nullptr);
   frame.registers = variables;
   frame.top = end.start;
   frame.block = end.block;
   Run();
-  StopIfAsked();
+  ThrowIfStopping();
 }
 
 }  // namespace cardwright::vbscript

@@ -79,7 +79,7 @@ Variant Instance::Invoke(MemberId member, CallKind kind, Args args) {
   if (args.size() == 1) {
     field = args.back().Deref();
   } else {
-    PutElement(field, args, kind == CallKind::Set, {});
+    AssignElement(field, args, kind == CallKind::Set, {});
   }
   return {};
 }

@@ -42,9 +42,9 @@ bool IsNoObject(const Variant& value) noexcept { return !value.Deref().IsObject(
 // NOLINTBEGIN(readability-function-size): one label an operation, each a few lines; see Opcodes.h for what they do.
 void Machine::Run() {
   static const void* const kLabels[] = {
-#define X(name, operands, effect) &&L_##name,
-      CARDWRIGHT_VBSCRIPT_OPCODES(X)
-#undef X
+#define OPCODE(name, ...) &&L_##name,
+#include "cardwright/vbscript/code/Opcodes.def"
+#undef OPCODE
   };
 
   const std::size_t entry = m_Depth;
@@ -155,7 +155,7 @@ void Machine::Run() {
       OPERATION(Copy)
       CopyValue(R[i.a], R[i.b]);
       NEXT;
-      OPERATION(Take)
+      OPERATION(Move)
       R[i.a] = std::move(R[i.b]);
       NEXT;
       OPERATION(LoadMe)
@@ -424,52 +424,52 @@ void Machine::Run() {
         NEXT;
       }
       OPERATION(GetSymbolElement) {
-        SymbolUse& use = procedure->symbols[pc->Wide()];
-        ++pc;
+        const Instruction word = *pc++;
+        SymbolUse& use = procedure->symbols[word.Wide()];
         if (use.epoch == m_Epoch && use.variable && use.variable->IsArray()) {
-          if (const Variant* element = FindElement(*use.variable->ArrayPtr(), VIEW, i)) {
+          if (const Variant* element = FindElement(*use.variable->ArrayPtr(), VIEW, i, word)) {
             R[i.a] = *element;
             NEXT;
           }
         }
         Current().pc = pc;
-        AFTER_CALL(GetSymbolElementSlowly(VIEW, i, use));
+        AFTER_CALL(GetSymbolElementSlowly(VIEW, i, word, use));
       }
       OPERATION(SetSymbolElement) {
-        SymbolUse& use = procedure->symbols[pc->Wide()];
-        ++pc;
+        const Instruction word = *pc++;
+        SymbolUse& use = procedure->symbols[word.Wide()];
         if (use.epoch == m_Epoch && use.variable && use.variable->IsArray() &&
             use.variable->ArrayPtr()->IsUnshared() && IsNoObject(R[i.a])) {
-          if (Variant* element = FindElement(*use.variable->ArrayPtr(), VIEW, i)) {
+          if (Variant* element = FindElement(*use.variable->ArrayPtr(), VIEW, i, word)) {
             AssignPlain(*element, R[i.a], i.a >= firstTemporary);
             NEXT;
           }
         }
-        SetSymbolElementSlowly(VIEW, i, use);
+        SetSymbolElementSlowly(VIEW, i, word, use);
         NEXT;
       }
       OPERATION(GetFieldElement) {
-        const Variant& holder = Current().me->Field(pc->Wide());
-        ++pc;
-        if (holder.IsArray()) {
-          if (const Variant* element = FindElement(*holder.ArrayPtr(), VIEW, i)) {
+        const Instruction word = *pc++;
+        const Variant& array = Current().me->Field(word.Wide());
+        if (array.IsArray()) {
+          if (const Variant* element = FindElement(*array.ArrayPtr(), VIEW, i, word)) {
             R[i.a] = *element;
             NEXT;
           }
         }
         Current().pc = pc;
-        AFTER_CALL(GetFieldElementSlowly(VIEW, i, holder));
+        AFTER_CALL(GetFieldElementSlowly(VIEW, i, word, array));
       }
       OPERATION(SetFieldElement) {
-        Variant& holder = Current().me->Field(pc->Wide());
-        ++pc;
-        if (holder.IsArray() && holder.ArrayPtr()->IsUnshared() && IsNoObject(R[i.a])) {
-          if (Variant* element = FindElement(*holder.ArrayPtr(), VIEW, i)) {
+        const Instruction word = *pc++;
+        Variant& array = Current().me->Field(word.Wide());
+        if (array.IsArray() && array.ArrayPtr()->IsUnshared() && IsNoObject(R[i.a])) {
+          if (Variant* element = FindElement(*array.ArrayPtr(), VIEW, i, word)) {
             AssignPlain(*element, R[i.a], i.a >= firstTemporary);
             NEXT;
           }
         }
-        SetFieldElementSlowly(VIEW, i, holder);
+        SetFieldElementSlowly(VIEW, i, word, array);
         NEXT;
       }
       OPERATION(DimArray)
@@ -489,11 +489,11 @@ void Machine::Run() {
         ++pc;
         Current().pc = pc;
         if (use.epoch == m_Epoch && use.symbol && use.symbol->kind == SymbolKind::Procedure) {
-          Variant* const result = (i.b & kDropResult) ? nullptr : R + i.a;
-          PushFrame(*use.symbol->procedure, nullptr, {R + i.a, i.c}, result);
+          Variant* const result = (i.c & kDropResult) ? nullptr : R + i.a;
+          PushFrame(*use.symbol->procedure, nullptr, {R + i.a, i.b}, result);
           AFTER_CALL(true);
         }
-        AFTER_CALL(CallSymbol(use, R + i.a, i.c, i.b));
+        AFTER_CALL(CallSymbol(use, R + i.a, i.b, i.c));
       }
       OPERATION(CallMember) {
         MemberUse& use = procedure->members[pc->Wide()];
@@ -510,30 +510,30 @@ void Machine::Run() {
       OPERATION(CallValue)
       Current().pc = pc;
       AFTER_CALL(CallRegister(VIEW, i, *procedure));
-      OPERATION(PutSymbol) {
+      OPERATION(AssignIndexedSymbol) {
         SymbolUse& use = procedure->symbols[pc->Wide()];
         ++pc;
-        PutSymbol(use, Args(R + i.a, i.n), i.b);
+        AssignIndexedSymbol(use, Args(R + i.a, i.n), i.c);
         VIEW.Clear(i.a, i.n);
         NEXT;
       }
-      OPERATION(PutMember) {
+      OPERATION(AssignMember) {
         MemberUse& use = procedure->members[pc->Wide()];
         ++pc;
         Current().pc = pc;
         if (i.n == 1 && i.c == 0 && R[i.a].IsInPlace()) {
           if (Variant* field = OpenField(use, R[i.b])) {
             *field = R[i.a];
-            VIEW.Spend(i.b);
+            VIEW.ClearTemporary(i.b);
             NEXT;
           }
         }
-        AFTER_CALL(PutMember(VIEW, i, use));
+        AFTER_CALL(AssignMember(VIEW, i, use));
       }
-      OPERATION(PutValue)
-      PutElement(R[i.b], Args(R + i.a, i.n), (i.c & kAsSet) != 0, LocalName(*procedure, i.b));
+      OPERATION(AssignIndexed)
+      AssignElement(R[i.b], Args(R + i.a, i.n), (i.c & kAsSet) != 0, LocalName(*procedure, i.b));
       VIEW.Clear(i.a, i.n);
-      VIEW.Spend(i.b);
+      VIEW.ClearTemporary(i.b);
       NEXT;
       OPERATION(New)
       Current().pc = pc;

@@ -118,13 +118,13 @@ class Machine final : public Context, public Linkage, private StopSignal {
   // Frames.cpp
   Variant Enter(const Procedure& procedure, Instance* me, Args args);
   void RunOutermost(const Procedure& code, Variant* variables);
-  enum class ArgumentPlace { InRegisters, Elsewhere };
+  enum class Arguments { AtTopOfCaller, Elsewhere };
   Frame& AddFrame(const Procedure& procedure, Instance* me, Variant* result);
   void PushFrame(const Procedure& procedure, Instance* me, Args arguments, Variant* result,
-                 ArgumentPlace where = ArgumentPlace::InRegisters);
+                 Arguments where = Arguments::AtTopOfCaller);
   void AddFrames();
-  void NoteCurrent() noexcept;
-  RegisterStack::Place EndOfRegisters();
+  void UpdateCurrent() noexcept;
+  RegisterStack::Window EndOfRegisters();
   enum class Ending { ByReturn, ByError };
   void PopFrame(Ending ending) noexcept;
   void CheckNesting(std::size_t stack = 0) const;
@@ -147,17 +147,17 @@ class Machine final : public Context, public Linkage, private StopSignal {
   const ClassMember& FindMember(MemberUse& use, const Instance& object) const;
 
   // Assignments.cpp
-  void PutSymbol(SymbolUse& use, Args arguments, std::uint16_t flags);
-  bool PutMember(RegisterView view, Instruction i, MemberUse& use);
-  bool PutInstance(MemberUse& use, Instance& object, Args arguments, bool isSet);
+  void AssignIndexedSymbol(SymbolUse& use, Args arguments, std::uint16_t flags);
+  bool AssignMember(RegisterView view, Instruction i, MemberUse& use);
+  bool AssignInstanceMember(MemberUse& use, Instance& object, Args arguments, bool isSet);
 
   // ElementPaths.cpp
   bool GetElementSlowly(RegisterView view, Instruction i, Instruction word, const Procedure& procedure);
   void SetElementSlowly(RegisterView view, Instruction i, Instruction word, const Procedure& procedure);
-  bool GetSymbolElementSlowly(RegisterView view, Instruction i, SymbolUse& use);
-  void SetSymbolElementSlowly(RegisterView view, Instruction i, SymbolUse& use);
-  bool GetFieldElementSlowly(RegisterView view, Instruction i, const Variant& holder);
-  void SetFieldElementSlowly(RegisterView view, Instruction i, Variant& holder);
+  bool GetSymbolElementSlowly(RegisterView view, Instruction i, Instruction word, SymbolUse& use);
+  void SetSymbolElementSlowly(RegisterView view, Instruction i, Instruction word, SymbolUse& use);
+  bool GetFieldElementSlowly(RegisterView view, Instruction i, Instruction word, const Variant& field);
+  void SetFieldElementSlowly(RegisterView view, Instruction i, Instruction word, Variant& field);
   bool ReferToElement(RegisterView view, Instruction i);
   bool ReferToSymbolElement(RegisterView view, Instruction i, SymbolUse& use);
 
@@ -166,7 +166,7 @@ class Machine final : public Context, public Linkage, private StopSignal {
   Variant& VariableToWrite(SymbolUse& use);
   bool LoadSymbol(SymbolUse& use, Variant& target);
   bool ReferToSymbol(SymbolUse& use, Variant& target);
-  void AssignSymbol(SymbolUse& use, Variant& value, bool isSet, bool spend);
+  void AssignSymbol(SymbolUse& use, Variant& value, bool isSet, bool isTemporary);
   void AppendToSymbol(RegisterView view, Instruction i, SymbolUse& use);
   [[noreturn]] void RaiseAbout(ErrorNumber number, NameId name) const;
   Text LocalName(const Procedure& procedure, std::uint16_t r) const;
@@ -175,12 +175,12 @@ class Machine final : public Context, public Linkage, private StopSignal {
   Pending Describe(const Error& error) const;
   void Handle(Pending pending, std::size_t entry);
   void Unwind(std::size_t depth) noexcept;
-  void NoteTime() noexcept;
+  void CheckDeadline() noexcept;
   bool ShouldStop() noexcept override;
   bool IsStopping() const noexcept { return m_Order.load(std::memory_order_relaxed) == Order::Stop; }
   void CheckStop();
   void PollInterrupts();
-  void StopIfAsked() {
+  void ThrowIfStopping() {
     if (IsStopping()) CheckStop();
   }
   void Observe(const Procedure& procedure, std::size_t instruction);
@@ -205,7 +205,7 @@ class Machine final : public Context, public Linkage, private StopSignal {
   enum class Order : std::uint8_t { None, Poll, Stop };
   std::atomic<Order> m_Order = Order::None;
   HostPoll m_HostPoll;
-  std::uint32_t m_CallsSinceLook = 0;
+  std::uint32_t m_CallsSincePoll = 0;
   std::int32_t m_Timeout = -1;
   static constexpr auto kNoDeadline = std::chrono::steady_clock::time_point::max();
   std::chrono::steady_clock::time_point m_Deadline = kNoDeadline;

@@ -9,7 +9,7 @@ Variant* RegisterStack::Bottom() {
   return m_Blocks.front().values.get();
 }
 
-RegisterStack::Place RegisterStack::NextBlock(std::uint32_t block, std::size_t count) {
+RegisterStack::Window RegisterStack::NextBlock(std::uint32_t block, std::size_t count) {
   const std::uint32_t next = block + 1;
   // A block left from an earlier call is taken again where it is large enough.
   if (next < m_Blocks.size()) {

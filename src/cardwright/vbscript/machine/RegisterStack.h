@@ -14,7 +14,7 @@ namespace cardwright::vbscript {
 class RegisterStack {
  public:
   /// A frame's place: `registers` from `start` on, in the block of that number.
-  struct Place {
+  struct Window {
     Variant* start;
     std::uint32_t block;
   };
@@ -25,7 +25,7 @@ class RegisterStack {
   Variant* Bottom();
   /// Room for `count` registers at `wanted` in the block, or at the start of a further one where they do not
   /// fit.
-  Place Take(Variant* wanted, std::uint32_t block, std::size_t count) {
+  Window Allocate(Variant* wanted, std::uint32_t block, std::size_t count) {
     if (count <= static_cast<std::size_t>(m_Blocks[block].end - wanted)) return {wanted, block};
     return NextBlock(block, count);
   }
@@ -36,7 +36,7 @@ class RegisterStack {
     std::unique_ptr<Variant[]> values;
     Variant* end;
   };
-  Place NextBlock(std::uint32_t block, std::size_t count);
+  Window NextBlock(std::uint32_t block, std::size_t count);
   std::size_t m_Block;
   std::vector<Block> m_Blocks;
 };

@@ -13,19 +13,23 @@ struct RegisterView {
 
   const Variant& B(Instruction i) const noexcept { return (i.n & kConstantB) ? K[i.b] : R[i.b]; }
   const Variant& C(Instruction i) const noexcept { return (i.n & kConstantC) ? K[i.c] : R[i.c]; }
+  /// The second index of an element operation; `word` is its second word.
+  const Variant& Second(Instruction i, Instruction word) const noexcept {
+    return (i.n & kConstantSecond) ? K[word.a] : R[word.a];
+  }
   bool IsTemporary(std::uint32_t r) const noexcept { return r >= firstTemporary; }
   /// A value on the way is used up when it has been used.
-  void Spend(std::uint32_t r) const noexcept {
+  void ClearTemporary(std::uint32_t r) const noexcept {
     if (IsTemporary(r)) R[r].Reset();
   }
   void Clear(std::uint32_t first, std::uint32_t count) const noexcept {
     for (std::uint32_t k = 0; k < count; ++k) R[first + k].Reset();
   }
-  void SpendB(Instruction i) const noexcept {
-    if (!(i.n & kConstantB)) Spend(i.b);
+  void ClearTemporaryB(Instruction i) const noexcept {
+    if (!(i.n & kConstantB)) ClearTemporary(i.b);
   }
-  void SpendC(Instruction i) const noexcept {
-    if (!(i.n & kConstantC)) Spend(i.c);
+  void ClearTemporaryC(Instruction i) const noexcept {
+    if (!(i.n & kConstantC)) ClearTemporary(i.c);
   }
 };
 

@@ -20,8 +20,8 @@ LiteralSide Literals(std::uint8_t n) noexcept {
 }
 
 void StoreResult(RegisterView view, Instruction i, Variant outcome) {
-  view.SpendB(i);
-  view.SpendC(i);
+  view.ClearTemporaryB(i);
+  view.ClearTemporaryC(i);
   view.R[i.a] = std::move(outcome);
 }
 
@@ -94,7 +94,7 @@ void ApplyBinary(RegisterView view, Instruction i, BinaryOperator op) {
 
 void ApplyUnary(RegisterView view, Instruction i, Variant (*operation)(const Variant&)) {
   Variant outcome = operation(view.R[i.b]);
-  view.Spend(i.b);
+  view.ClearTemporary(i.b);
   view.R[i.a] = std::move(outcome);
 }
 
@@ -110,59 +110,59 @@ Ordering CompareOperands(RegisterView view, Instruction i) {
     const Operands operands(view, i);
     order = Compare(operands.Left(), operands.Right(), Literals(i.n));
   }
-  view.SpendB(i);
-  view.SpendC(i);
+  view.ClearTemporaryB(i);
+  view.ClearTemporaryC(i);
   return order;
 }
 
 bool IsTrueOperand(RegisterView view, std::uint16_t r) {
   const bool holds = IsTrue(view.R[r]);
-  view.Spend(r);
+  view.ClearTemporary(r);
   return holds;
 }
 
-void AssignValue(Variant& to, Variant& from, bool spend) {
+void AssignValue(Variant& to, Variant& from, bool isTemporary) {
   const Variant& value = static_cast<const Variant&>(from).Deref();
   if (value.IsObject()) {
     Variant plain = DefaultValue(value);
-    if (spend) from.Reset();
+    if (isTemporary) from.Reset();
     to = std::move(plain);
   } else if (value.IsArray() && value.ArrayPtr()->IsFixed()) {
     Context::ChargeWork(value.ArrayPtr()->Values().size());
     to = Variant(value.ArrayPtr()->Copy());  // the copy can be dimensioned anew
-    if (spend) from.Reset();
-  } else if (spend && &value == &from) {
+    if (isTemporary) from.Reset();
+  } else if (isTemporary && &value == &from) {
     to = std::move(from);
   } else {
     to = value;
-    if (spend) from.Reset();
+    if (isTemporary) from.Reset();
   }
 }
 
-void AssignPlainThrough(Variant& place, Variant& from, bool spend) {
+void AssignPlainThrough(Variant& place, Variant& from, bool isTemporary) {
   if (static_cast<const Variant&>(from).Deref().IsObject()) {
     Variant plain;
-    AssignPlain(plain, from, spend);
+    AssignPlain(plain, from, isTemporary);
     place.Deref() = std::move(plain);
   } else {
-    AssignPlain(place.Deref(), from, spend);
+    AssignPlain(place.Deref(), from, isTemporary);
   }
 }
 
-void AssignObject(Variant& to, Variant& from, bool spend) {
+void AssignObject(Variant& to, Variant& from, bool isTemporary) {
   const Variant& value = static_cast<const Variant&>(from).Deref();
   if (!value.IsObject()) Raise(ErrorNumber::ObjectRequired);
-  if (spend && &value == &from) {
+  if (isTemporary && &value == &from) {
     to = std::move(from);
   } else {
     to = value;
-    if (spend) from.Reset();
+    if (isTemporary) from.Reset();
   }
 }
 
 void TakeObject(RegisterView view, Instruction i) {
   Variant object = static_cast<const Variant&>(view.R[i.b]).Deref();
-  view.Spend(i.b);
+  view.ClearTemporary(i.b);
   if (!object.IsObject()) Raise(ErrorNumber::ObjectRequired);
   view.R[i.a] = std::move(object);
 }
@@ -191,7 +191,7 @@ void AppendText(const Context& context, Variant& place, const Variant& tail) {
 
 void AppendText(const Context& context, Variant& place, RegisterView view, std::uint16_t r) {
   AppendText(context, place, static_cast<const Variant&>(view.R[r]));
-  view.Spend(r);
+  view.ClearTemporary(r);
 }
 
 void ConcatenateOperands(const Context& context, RegisterView view, Instruction i) {

@@ -106,10 +106,10 @@ bool Machine::ReferToSymbol(SymbolUse& use, Variant& target) {
   return false;
 }
 
-void Machine::AssignSymbol(SymbolUse& use, Variant& value, bool isSet, bool spend) {
+void Machine::AssignSymbol(SymbolUse& use, Variant& value, bool isSet, bool isTemporary) {
   if (use.epoch != m_Epoch) Resolve(use);
   Variant assigned;
-  isSet ? AssignObject(assigned, value, spend) : AssignPlain(assigned, value, spend);
+  isSet ? AssignObject(assigned, value, isTemporary) : AssignPlain(assigned, value, isTemporary);
   if (use.symbol && use.symbol->kind == SymbolKind::HostMember) {
     const Ref<Object> object(&RequireObject(use.symbol->value));
     InvokeHost(*object, use.symbol->member, isSet ? CallKind::Set : CallKind::Let, {&assigned, 1});

@@ -18,7 +18,7 @@ void MakePlain(Variant& value, bool isSet) {
 
 }  // namespace
 
-void Machine::PutSymbol(SymbolUse& use, Args arguments, std::uint16_t flags) {
+void Machine::AssignIndexedSymbol(SymbolUse& use, Args arguments, std::uint16_t flags) {
   if (use.epoch != m_Epoch) Resolve(use);
   const bool isSet = (flags & kAsSet) != 0;
   if (use.symbol && use.symbol->kind == SymbolKind::HostMember) {
@@ -29,13 +29,13 @@ void Machine::PutSymbol(SymbolUse& use, Args arguments, std::uint16_t flags) {
   }
   if (use.symbol && use.symbol->kind == SymbolKind::HostObject) {
     Variant object = use.symbol->value;
-    PutElement(object, arguments, isSet, names.Spelling(use.name));
+    AssignElement(object, arguments, isSet, names.Spelling(use.name));
     return;
   }
-  PutElement(VariableToWrite(use), arguments, isSet, names.Spelling(use.name));
+  AssignElement(VariableToWrite(use), arguments, isSet, names.Spelling(use.name));
 }
 
-bool Machine::PutMember(RegisterView view, Instruction i, MemberUse& use) {
+bool Machine::AssignMember(RegisterView view, Instruction i, MemberUse& use) {
   Variant& place = view.R[i.b];
   const Args arguments(view.R + i.a, i.n);
   const bool isSet = (i.c & kAsSet) != 0;
@@ -43,17 +43,17 @@ bool Machine::PutMember(RegisterView view, Instruction i, MemberUse& use) {
   if (!held.IsObject()) RaiseAbout(ErrorNumber::ObjectRequired, use.object);
   if (!held.ObjectPtr()) RaiseAbout(ErrorNumber::ObjectNotSet, use.object);
   const Ref<Object> object(held.ObjectPtr());
-  view.Spend(i.b);
+  view.ClearTemporary(i.b);
   MakePlain(arguments.back(), isSet);
   if (Instance* instance = Instance::From(object.get(), *m_Link))
-    return PutInstance(use, *instance, arguments, isSet);
+    return AssignInstanceMember(use, *instance, arguments, isSet);
   const MemberId member = FindMember(use, *object);
   InvokeHost(*object, member, isSet ? CallKind::Set : CallKind::Let, arguments);
   for (Variant& argument : arguments) argument.Reset();
   return false;
 }
 
-bool Machine::PutInstance(MemberUse& use, Instance& object, Args arguments, bool isSet) {
+bool Machine::AssignInstanceMember(MemberUse& use, Instance& object, Args arguments, bool isSet) {
   const ClassMember& member = FindMember(use, object);
   const bool isInside = Current().me == &object;
   const ClassProcedure& procedure = isSet ? member.set : member.let;
@@ -65,7 +65,7 @@ bool Machine::PutInstance(MemberUse& use, Instance& object, Args arguments, bool
     RaiseAbout(ErrorNumber::NotSupported, use.name);
   Variant& field = object.Field(static_cast<std::size_t>(member.field));
   if (arguments.size() > 1) {
-    PutElement(field, arguments, isSet, names.Spelling(use.name));
+    AssignElement(field, arguments, isSet, names.Spelling(use.name));
   } else if (isSet) {
     AssignObject(field, arguments.back(), true);
   } else {

@@ -48,8 +48,8 @@ void BodyCompiler::AddNames(const NamesOfBody& names) {
   };
   for (const NameId name : names.redimmed)
     if (isFree(name)) AddVariable(name);
-  // A name that nobody declares is the procedure's own variable, unless it comes to stand for something by
-  // then.
+  // A name that nobody declares is a variable of the procedure, unless it is bound to something else by the
+  // time that the code uses it.
   for (const NameId name : names.mentioned) {
     if (m_Context.isExplicit || !isFree(name)) continue;
     const std::uint16_t r = AddVariable(kNoName);
@@ -69,17 +69,17 @@ void BodyCompiler::AddOutermostNames(const NamesOfBody& names) {
 // Arrays exist from the start, as all variables do.
 void BodyCompiler::DimArrays(const NamesOfBody& names) {
   for (const NamesOfBody::Array& array : names.arrays) {
-    const Place place = Find(array.name);
-    if (place.kind != PlaceKind::Register) continue;
+    const Binding binding = Resolve(array.name);
+    if (binding.kind != BindingKind::Register) continue;
     const std::uint32_t shape = m_Code.Shape(array.bounds);
-    if (!place.isReference) {
-      m_Code.EmitWide(Op::DimArray, place.r, shape);
+    if (!binding.isReference) {
+      m_Code.EmitWide(Op::DimArray, binding.r, shape);
       continue;
     }
-    const std::uint16_t made = m_Code.Temporary();
+    const std::uint16_t made = m_Code.AllocateTemporary();
     m_Code.EmitWide(Op::DimArray, made, shape);
-    m_Code.Emit(Op::LetThrough, place.r, made);
-    m_Code.FreeTo(made);
+    m_Code.Emit(Op::LetThrough, binding.r, made);
+    m_Code.FreeTemporaries(made);
   }
 }
 
@@ -107,12 +107,12 @@ std::uint32_t BodyCompiler::SymbolIndex(NameId name) {
   return found->second;
 }
 
-BodyCompiler::Place BodyCompiler::Find(NameId name) {
+BodyCompiler::Binding BodyCompiler::Resolve(NameId name) {
   const auto local = m_Locals.find(name);
   if (local != m_Locals.end()) {
     const Local& found = local->second;
-    if (found.constant) return {.kind = PlaceKind::Constant, .name = name, .constant = found.constant};
-    return {.kind = PlaceKind::Register,
+    if (found.constant) return {.kind = BindingKind::Constant, .name = name, .constant = found.constant};
+    return {.kind = BindingKind::Register,
             .name = name,
             .r = found.r,
             .isReference = found.isReference,
@@ -120,22 +120,30 @@ BodyCompiler::Place BodyCompiler::Find(NameId name) {
   }
   if (m_Owner) {
     if (const ClassMember* member = m_Owner->Find(name)) {
-      if (member->field < 0) return {.kind = PlaceKind::Member, .name = name};
-      return {.kind = PlaceKind::Field, .name = name, .index = static_cast<std::uint32_t>(member->field)};
+      if (member->field < 0) return {.kind = BindingKind::Member, .name = name};
+      return {.kind = BindingKind::Field, .name = name, .index = static_cast<std::uint32_t>(member->field)};
     }
   }
-  Place place{.kind = PlaceKind::Symbol, .name = name};
+  Binding binding{.kind = BindingKind::Symbol, .name = name};
   const Variant* constant = nullptr;
-  place.symbol = KindOf(name, constant);
-  if (place.symbol == SymbolKind::Constant && constant) {
-    place.kind = PlaceKind::Constant;
-    place.constant = constant;
+  binding.symbol = KindOf(name, constant);
+  if (binding.symbol == SymbolKind::Constant && constant) {
+    binding.kind = BindingKind::Constant;
+    binding.constant = constant;
   } else {
-    place.index = SymbolIndex(name);
+    binding.index = SymbolIndex(name);
   }
-  return place;
+  return binding;
 }
 
+// In a method, the name of that method is a member of the class, called again.
+BodyCompiler::Binding BodyCompiler::ResolveCallee(const Expr& nameExpr) {
+  const Binding binding = Resolve(nameExpr);
+  if (binding.isResult && m_Owner) return {.kind = BindingKind::Member, .name = binding.name};
+  return binding;
+}
+
+// What a report about a failed member calls its object.
 NameId BodyCompiler::ObjectName(const Expr& expression) {
   Names& names = m_Context.linkage.names;
   if (expression.kind == ExprKind::Name) return names.Add(static_cast<const NameExpr&>(expression).name);
@@ -154,11 +162,11 @@ bool BodyCompiler::MayRunScript(const Expr* expression) {
       case ExprKind::New:
       case ExprKind::Member: return true;
       case ExprKind::Name: {
-        const Place place = Find(*expression);
-        if (place.kind != PlaceKind::Symbol) return place.kind == PlaceKind::Member;
-        // A name that is nothing yet becomes a variable where the body assigns it.
-        if (place.symbol == SymbolKind::Unbound) return !m_Assigned.contains(place.name);
-        return place.symbol != SymbolKind::Variable && place.symbol != SymbolKind::Builtin;
+        const Binding binding = Resolve(*expression);
+        if (binding.kind != BindingKind::Symbol) return binding.kind == BindingKind::Member;
+        // An unbound name becomes a variable where the body assigns it.
+        if (binding.symbol == SymbolKind::Unbound) return !m_Assigned.contains(binding.name);
+        return binding.symbol != SymbolKind::Variable && binding.symbol != SymbolKind::Builtin;
       }
       case ExprKind::Paren: expression = static_cast<const ParenExpr*>(expression)->inner; break;
       case ExprKind::Unary: expression = static_cast<const UnaryExpr*>(expression)->operand; break;
@@ -166,21 +174,18 @@ bool BodyCompiler::MayRunScript(const Expr* expression) {
         if (MayRunScript(static_cast<const BinaryExpr*>(expression)->right)) return true;
         expression = static_cast<const BinaryExpr*>(expression)->left;
         break;
-      case ExprKind::Call: {
-        const auto* call = static_cast<const CallExpr*>(expression);
-        if (call->callee->kind != ExprKind::Name) return true;
-        const Place place = Find(*call->callee);
-        const bool isData = (place.kind == PlaceKind::Register && !place.isResult) ||
-                            place.kind == PlaceKind::Field ||
-                            (place.kind == PlaceKind::Symbol &&
-                             (place.symbol == SymbolKind::Variable || place.symbol == SymbolKind::Builtin));
-        if (!isData) return true;
-        for (const Expr* argument : call->arguments)
-          if (MayRunScript(argument)) return true;
-        return false;
-      }
+      case ExprKind::Call: return MayRunScript(*static_cast<const CallExpr*>(expression));
     }
   }
+}
+
+bool BodyCompiler::MayRunScript(const CallExpr& call) {
+  if (call.callee->kind != ExprKind::Name) return true;
+  const Binding binding = Resolve(*call.callee);
+  if (!binding.IsOwnVariable() && !binding.IsModuleVariable() && !binding.IsLibraryFunction()) return true;
+  for (const Expr* argument : call.arguments)
+    if (MayRunScript(argument)) return true;
+  return false;
 }
 
 }  // namespace cardwright::vbscript
