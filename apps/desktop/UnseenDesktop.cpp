@@ -8,12 +8,12 @@
 namespace cardwright::desktop {
 
 UnseenDesktop::UnseenDesktop(std::function<void(const Text& line)> say)
-    : DesktopOver(*Module().desktop), m_Say(std::move(say)) {
+    : ForwardingDesktop(*Module().desktop), m_Say(std::move(say)) {
   Module().desktop = this;
 }
 
 UnseenDesktop::~UnseenDesktop() {
-  if (Module().desktop == this) Module().desktop = &Below();
+  if (Module().desktop == this) Module().desktop = &Next();
 }
 
 void UnseenDesktop::Say(const Text& text) const {
@@ -23,14 +23,14 @@ void UnseenDesktop::Say(const Text& text) const {
 }
 
 int UnseenDesktop::ShowMessage(const Text& text, int style, const Text& title) {
-  if (Module().desktop != this) return DesktopOver::ShowMessage(text, style, title);
+  if (Module().desktop != this) return ForwardingDesktop::ShowMessage(text, style, title);
   Say(text);
   return DefaultButton(style);
 }
 
 Variant UnseenDesktop::AskText(const Text& prompt, const Text& title, const Text& initial, const Variant& x,
                                const Variant& y) {
-  if (Module().desktop != this) return DesktopOver::AskText(prompt, title, initial, x, y);
+  if (Module().desktop != this) return ForwardingDesktop::AskText(prompt, title, initial, x, y);
   Say(prompt);
   return Variant(initial);
 }

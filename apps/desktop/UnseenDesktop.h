@@ -2,14 +2,14 @@
 
 #include <functional>
 
-#include "cardwright/platform/DesktopOver.h"
+#include "cardwright/platform/ForwardingDesktop.h"
 
 namespace cardwright::desktop {
 
 /// The thread's desktop where nobody sees the windows: a box would wait for ever, so its text is said instead
 /// and it answers as it would with its default button. For its life it stands in front of the desktop that
 /// was there; where another one stands in front of it, boxes are shown, as that one answers them.
-class UnseenDesktop final : public DesktopOver {
+class UnseenDesktop final : public ForwardingDesktop {
  public:
   explicit UnseenDesktop(std::function<void(const Text& line)> say);
   ~UnseenDesktop() override;

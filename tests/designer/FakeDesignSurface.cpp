@@ -77,7 +77,7 @@ Ref<Widget> FakeDesignSurface::Add(std::u16string_view identifier, std::u16strin
     const Ref<Widget> widget = maker.make(name);
     if (container) {
       if (!EqualsNoCase(container->TypeName(), u"Frame")) Raise(ErrorNumber::InvalidCall);
-      At(*widget).StandIn(Ref<Widget>(container));
+      At(*widget).Reparent(Ref<Widget>(container));
     }
     m_Widgets[key] = widget;
     return widget;

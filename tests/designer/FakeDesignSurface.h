@@ -16,7 +16,7 @@ namespace cardwright {
 class OnFakeSurface {
  public:
   virtual ~OnFakeSurface() = default;
-  virtual void StandIn(Ref<Widget> container) = 0;
+  virtual void Reparent(Ref<Widget> container) = 0;
   bool isAlive = true;
   WidgetListener* listener = nullptr;
 
@@ -73,7 +73,7 @@ class Placed final : public Fake, public OnFakeSurface {
     Fake::SetVisible(visible);
   }
   void SetListener(WidgetListener* wanted) override { listener = wanted; }
-  void StandIn(Ref<Widget> wanted) override { this->container = std::move(wanted); }
+  void Reparent(Ref<Widget> wanted) override { this->container = std::move(wanted); }
 
  private:
   Text m_Type;
@@ -156,7 +156,7 @@ class FakeDesignSurface final : public DesignSurface {
   void ShowTooltip(const Text& text, ScreenPoint place) override;
   void HideTooltip() override { tooltip.reset(); }
   Text ShowPopupMenu(std::span<const Ref<MenuItem>> items) override;
-  void TellPropertyChanged(std::u16string_view name) override { told.emplace_back(name); }
+  void NotifyPropertyChanged(std::u16string_view name) override { told.emplace_back(name); }
 
   /// Adds a turn of the polling loop. With no turn left, the button is let go.
   void ThenMove(int x, int y) {

@@ -326,7 +326,7 @@ TEST(CListBox, GivesTheValueAndTheItemOfTheSelectedEntry) {
   Fill(*list);
   EXPECT_EQ(list->Value(), u"");
   EXPECT_EQ(list->PropertyValue(u"CurrentItem").ObjectPtr(), nullptr);
-  ViewOf(*list).SelectRow(3);
+  ViewOf(*list).SetSelectedRow(3);
   EXPECT_EQ(list->Value(), u"3");
   EXPECT_EQ(list->PropertyValue(13).ObjectPtr(), ItemsOf(*list).Item(3).get());
   ItemsOf(*list).Remove(3);

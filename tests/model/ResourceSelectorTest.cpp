@@ -28,7 +28,7 @@ TEST(CResourceSelector, ReadsEveryKeyAndSavesTheSameLines) {
   ASSERT_TRUE(ReadLines(*control, kSection));
   EXPECT_EQ(widget->Path(), u"/data/a.csv");
   EXPECT_EQ(widget->Filter(), u"Texts (*.csv)|*.csv");
-  EXPECT_TRUE(widget->TakesSeveral());
+  EXPECT_TRUE(widget->MultiSelect());
   EXPECT_FALSE(widget->IsInputTextEnabled());
   EXPECT_TRUE(widget->IsVisible());
   EXPECT_EQ(control->UserName(), u"path");

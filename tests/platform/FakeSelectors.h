@@ -35,17 +35,17 @@ class FakeResource : public FakeSelector<ResourceSelectorWidget> {
   }
   OleColor BackColorBkg() const override { return m_Ground; }
   void SetBackColorBkg(OleColor color) override { m_Ground = color; }
-  bool BrowsesForFolder() const override { return m_Folders; }
+  bool BrowseForFolder() const override { return m_Folders; }
   void SetBrowseForFolder(bool folder) override { m_Folders = folder; }
   Text Filter() const override { return m_Filter; }
   void SetFilter(const Text& filter) override { m_Filter = filter; }
   bool IsInputTextEnabled() const override { return m_Typing; }
   void SetInputTextEnabled(bool enabled) override { m_Typing = enabled; }
-  bool ShowsSave() const override { return m_Save; }
+  bool ShowSave() const override { return m_Save; }
   void SetShowSave(bool save) override { m_Save = save; }
   Text Title() const override { return m_Title; }
   void SetTitle(const Text& title) override { m_Title = title; }
-  bool TakesSeveral() const override { return m_Several; }
+  bool MultiSelect() const override { return m_Several; }
   void SetMultiSelect(bool several) override { m_Several = several; }
   Text StartFolder() const override { return m_Start; }
   void SetStartFolder(const Text& folder) override { m_Start = folder; }
@@ -140,7 +140,7 @@ class FakeFontSelector : public FakeSelector<FontSelectorWidget> {
   void SetTitle(const Text& title) override { m_Title = title; }
   std::int32_t BorderStyle() const override { return m_Border; }
   void SetBorderStyle(std::int32_t style) override { m_Border = style; }
-  bool AutoSizes() const override { return m_AutoSize; }
+  bool AutoSize() const override { return m_AutoSize; }
   void SetAutoSize(bool on) override { m_AutoSize = on; }
   Text Value(const Text& mask) const override {
     return FillFontTemplate(mask, GetFont()->Values(), ForeColor());

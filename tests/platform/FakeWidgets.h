@@ -131,7 +131,7 @@ class FakeList : public FakeWidget<ListViewWidget> {
   void RemoveRow(int row) override { m_Rows.erase(m_Rows.begin() + row - 1); }
   void Clear() override { m_Rows.clear(); }
   int SelectedRow() const override { return m_Selected; }
-  void SelectRow(int row) override { m_Selected = row; }
+  void SetSelectedRow(int row) override { m_Selected = row; }
   float ColumnWidth() const override { return m_ColumnWidth; }
   void SetColumnWidth(float width) override { m_ColumnWidth = width; }
 

@@ -158,7 +158,7 @@ TEST_F(ListView, ChangesTheRowsThroughTheirItems) {
   EXPECT_EQ(m_List->SelectedRow(), 2);
   LetProperty(item, u"Selected", false);
   EXPECT_EQ(m_List->SelectedRow(), 0);
-  m_List->SelectRow(1);
+  m_List->SetSelectedRow(1);
   LetProperty(item, u"Selected", false);
   EXPECT_EQ(m_List->SelectedRow(), 1);
 }

@@ -51,7 +51,7 @@ class FontSelector : public testing::Test {
 
 TEST_F(FontSelector, StartsWithABorderAndASizeOfItsOwn) {
   EXPECT_EQ(box->BorderStyle(), 1);
-  EXPECT_FALSE(box->AutoSizes());
+  EXPECT_FALSE(box->AutoSize());
   EXPECT_EQ(box->Title(), u"");
   EXPECT_EQ(box->BackColorBkg(), ToOleColor(SystemColor::ButtonFace));
   EXPECT_EQ(ErrorOf([&] { box->SetBorderStyle(2); }), 380);

@@ -334,7 +334,7 @@ TEST(Enter, ReachesTheFormFromAListAndFromAComboThatDropsEveryKey) {
   const Ref<ListViewWidget> list = form.AddAt<ListViewWidget>(0, u"MSComctlLib.ListViewCtrl.2", u"l");
   const Ref<ComboWidget> combo = form.AddAt<ComboWidget>(1, u"vb.combobox", u"c");
   list->AddRow(u"one");
-  list->SelectRow(1);
+  list->SetSelectedRow(1);
   form.Show();
   Listener listener;
   combo->SetListener(&listener);

@@ -41,7 +41,7 @@ TEST_F(ListView, CountsRowsFromOne) {
   EXPECT_EQ(list->RowText(1), u"two");
   EXPECT_EQ(ErrorOf([&] { list->RowText(0); }), 9);
   EXPECT_EQ(ErrorOf([&] { list->RowText(3); }), 9);
-  EXPECT_EQ(ErrorOf([&] { list->SelectRow(-1); }), 9);
+  EXPECT_EQ(ErrorOf([&] { list->SetSelectedRow(-1); }), 9);
   EXPECT_EQ(ErrorOf([&] { list->RemoveRow(3); }), 9);
   EXPECT_EQ(ErrorOf([&] { list->IsRowChecked(9); }), 9);
   list->Clear();
@@ -51,11 +51,11 @@ TEST_F(ListView, CountsRowsFromOne) {
 
 TEST_F(ListView, SelectsOneRowByCodeWithoutAClick) {
   EXPECT_EQ(list->SelectedRow(), 0);
-  list->SelectRow(2);
+  list->SetSelectedRow(2);
   EXPECT_EQ(list->SelectedRow(), 2);
-  list->SelectRow(0);
+  list->SetSelectedRow(0);
   EXPECT_EQ(list->SelectedRow(), 0);
-  list->SelectRow(3);
+  list->SetSelectedRow(3);
   list->RemoveRow(1);
   EXPECT_EQ(list->SelectedRow(), 2);
   list->RemoveRow(2);
@@ -83,7 +83,7 @@ TEST_F(ListView, TellsOfMarksThatAPersonSets) {
   ClickMark(2);
   EXPECT_FALSE(list->IsRowChecked(2));
   EXPECT_EQ(Told(), "check2 click");
-  list->SelectRow(1);
+  list->SetSelectedRow(1);
   Tree().setFocus();
   Told();
   QTest::keyClick(&Tree(), Qt::Key_Space);

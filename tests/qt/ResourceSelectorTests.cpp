@@ -77,9 +77,9 @@ class Resource : public testing::Test {
 
 TEST_F(Resource, StartsEmptyForOneFileToOpen) {
   EXPECT_EQ(box->Path(), u"");
-  EXPECT_FALSE(box->BrowsesForFolder());
-  EXPECT_FALSE(box->ShowsSave());
-  EXPECT_FALSE(box->TakesSeveral());
+  EXPECT_FALSE(box->BrowseForFolder());
+  EXPECT_FALSE(box->ShowSave());
+  EXPECT_FALSE(box->MultiSelect());
   EXPECT_TRUE(box->IsInputTextEnabled());
   EXPECT_FALSE(box->IsLocked());
   EXPECT_EQ(box->Filter() + box->Title() + box->StartFolder(), u"");

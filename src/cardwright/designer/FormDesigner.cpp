@@ -188,7 +188,7 @@ void FormDesigner::SetFeatureType(FeatureTypeEnum type) {
 
 void FormDesigner::SetEnableKeyDelete(bool enable) {
   m_EnableKeyDelete = enable;
-  if (m_Surface) m_Surface->TellPropertyChanged(kEnableKeyDelete);
+  if (m_Surface) m_Surface->NotifyPropertyChanged(kEnableKeyDelete);
 }
 
 // 1 or 0 and never a Boolean: containers have kept a number here ever since.

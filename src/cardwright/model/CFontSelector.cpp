@@ -12,7 +12,7 @@ struct CFontSelector::Tables {
   static constexpr Field kTitle = WidgetText<&W::Title, &W::SetTitle>;
   static constexpr Field kMask = Stored<&CFontSelector::m_MaskValue>;
   static constexpr Field kBorder = WidgetBorder<W>;
-  static constexpr Field kAutoSize = WidgetFlag<&W::AutoSizes, &W::SetAutoSize>;
+  static constexpr Field kAutoSize = WidgetFlag<&W::AutoSize, &W::SetAutoSize>;
 
   static constexpr auto kRows =
       Rows(rows::Name, PropertyRow{u"Font", ptFont, 1063, rows::Font.field},

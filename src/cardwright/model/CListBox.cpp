@@ -65,7 +65,7 @@ void CListBox::ShowName() {
   if (!Bound()) return;
   View().Clear();
   View().AddRow(m_UserName);
-  View().SelectRow(1);
+  View().SetSelectedRow(1);
 }
 
 Ref<CItem> CListBox::CurrentItem() const {
@@ -80,7 +80,7 @@ Text CListBox::Value(std::optional<Variant>) const {
 
 void CListBox::ShowValue(const Text&, const Text& value) {
   const std::int32_t position = m_Items->FindValue(value);
-  if (position > 0) View().SelectRow(position);
+  if (position > 0) View().SetSelectedRow(position);
 }
 
 bool CListBox::TakeValue(Text& value) const {
@@ -101,7 +101,7 @@ void CListBox::FillWidget() {
 void CListBox::SelectStoredText() {
   for (int row = 1; row <= View().RowCount(); ++row) {
     if (!EqualsNoCase(View().RowText(row), m_Text)) continue;
-    View().SelectRow(row);
+    View().SetSelectedRow(row);
     return;
   }
 }
@@ -146,7 +146,7 @@ void CListBox::FinishRead(const CIni& ini, const Text& sectionName) {
 void CListBox::OnItemCheck(int index) {
   if (!Input()) return;
   if (const Ref<CItem> item = m_Items->Item(Variant(index))) item->m_Checked = View().IsRowChecked(index);
-  View().SelectRow(index);
+  View().SetSelectedRow(index);
   RunScriptEvent(u"OnItemCheck");
 }
 

@@ -21,12 +21,12 @@ struct CResourceSelector::Tables {
   static constexpr Field kHeight{rows::GetHeight, [](TableControl& c, const Variant& height) {
                                    As<CResourceSelector>(c).MoveHeight(height);
                                  }};
-  static constexpr Field kFolders = WidgetFlag<&W::BrowsesForFolder, &W::SetBrowseForFolder>;
+  static constexpr Field kFolders = WidgetFlag<&W::BrowseForFolder, &W::SetBrowseForFolder>;
   static constexpr Field kFilter = WidgetText<&W::Filter, &W::SetFilter>;
   static constexpr Field kTyping = WidgetFlag<&W::IsInputTextEnabled, &W::SetInputTextEnabled>;
-  static constexpr Field kSave = WidgetFlag<&W::ShowsSave, &W::SetShowSave>;
+  static constexpr Field kSave = WidgetFlag<&W::ShowSave, &W::SetShowSave>;
   static constexpr Field kTitle = WidgetText<&W::Title, &W::SetTitle>;
-  static constexpr Field kSeveral = WidgetFlag<&W::TakesSeveral, &W::SetMultiSelect>;
+  static constexpr Field kSeveral = WidgetFlag<&W::MultiSelect, &W::SetMultiSelect>;
 
   static constexpr auto kRows =
       Rows(rows::Name, PropertyRow{u"Path", ptString, 1000, kPath},
@@ -92,7 +92,7 @@ void CResourceSelector::OnGotFocus() {
 
 Text CResourceSelector::ChosenFolder() const {
   const Text path = Selector().Path();
-  if (Selector().BrowsesForFolder()) return FolderExists(path) ? path : Text();
+  if (Selector().BrowseForFolder()) return FolderExists(path) ? path : Text();
   const std::size_t end = path.View().find(u'\0');
   const Text folder =
       end == std::u16string_view::npos ? GetParentFolderName(path) : Text(path.View().substr(0, end));

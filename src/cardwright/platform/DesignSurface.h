@@ -111,7 +111,7 @@ class DesignSurface : public Surface {
   /// left without a choice. Either mouse button chooses. Entries that are not visible are left out.
   virtual Text ShowPopupMenu(std::span<const Ref<MenuItem>> items) = 0;
   /// Tells the container that what it keeps in its property bag under this name has changed.
-  virtual void TellPropertyChanged(std::u16string_view name) = 0;
+  virtual void NotifyPropertyChanged(std::u16string_view name) = 0;
 };
 
 }  // namespace cardwright

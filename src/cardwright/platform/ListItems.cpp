@@ -23,7 +23,7 @@ class RowWalk final : public Enumerator {
 }  // namespace
 
 void ListItem::SetSelected(bool selected) {
-  if (selected != IsSelected()) m_List->SelectRow(selected ? m_Row : 0);
+  if (selected != IsSelected()) m_List->SetSelectedRow(selected ? m_Row : 0);
 }
 
 const MemberTable& ListItem::Members() const {

@@ -17,7 +17,7 @@ Ref<ListItem> GetSelectedItem(ListViewWidget& list) {
 
 void SetSelectedItem(ListViewWidget& list, Ref<ListItem> item) {
   if (item && !item->IsOf(list)) Raise(ErrorNumber::InvalidPropertyValue);
-  list.SelectRow(item ? item->Index() : 0);
+  list.SetSelectedRow(item ? item->Index() : 0);
 }
 
 constexpr Member kListView[] = {

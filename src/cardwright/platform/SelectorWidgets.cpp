@@ -14,14 +14,14 @@ constexpr Member kResource[] = {
     Property<&ResourceSelectorWidget::Path, &ResourceSelectorWidget::SetPath>(u"Path"),
     Property<&ResourceSelectorWidget::BackColorBkg, &ResourceSelectorWidget::SetBackColorBkg>(
         u"BackColorBkg"),
-    Property<&ResourceSelectorWidget::BrowsesForFolder, &ResourceSelectorWidget::SetBrowseForFolder>(
+    Property<&ResourceSelectorWidget::BrowseForFolder, &ResourceSelectorWidget::SetBrowseForFolder>(
         u"BrowseForFolder"),
     Property<&ResourceSelectorWidget::Filter, &ResourceSelectorWidget::SetFilter>(u"Filter"),
     Property<&ResourceSelectorWidget::IsInputTextEnabled, &ResourceSelectorWidget::SetInputTextEnabled>(
         u"InputTextEnabled"),
-    Property<&ResourceSelectorWidget::ShowsSave, &ResourceSelectorWidget::SetShowSave>(u"ShowSave"),
+    Property<&ResourceSelectorWidget::ShowSave, &ResourceSelectorWidget::SetShowSave>(u"ShowSave"),
     Property<&ResourceSelectorWidget::Title, &ResourceSelectorWidget::SetTitle>(u"Title"),
-    Property<&ResourceSelectorWidget::TakesSeveral, &ResourceSelectorWidget::SetMultiSelect>(u"MultiSelect"),
+    Property<&ResourceSelectorWidget::MultiSelect, &ResourceSelectorWidget::SetMultiSelect>(u"MultiSelect"),
     Property<&ResourceSelectorWidget::StartFolder, &ResourceSelectorWidget::SetStartFolder>(u"StartFolder"),
 };
 
@@ -58,7 +58,7 @@ constexpr Member kFont[] = {
     Property<&FontSelectorWidget::BackColorBkg, &FontSelectorWidget::SetBackColorBkg>(u"BackColorBkg"),
     Property<&FontSelectorWidget::Title, &FontSelectorWidget::SetTitle>(u"Title"),
     Property<&FontSelectorWidget::BorderStyle, &FontSelectorWidget::SetBorderStyle>(u"BorderStyle"),
-    Property<&FontSelectorWidget::AutoSizes, &FontSelectorWidget::SetAutoSize>(u"AutoSize"),
+    Property<&FontSelectorWidget::AutoSize, &FontSelectorWidget::SetAutoSize>(u"AutoSize"),
     Method<&FontSelectorWidget::Value>(u"Value"),
 };
 

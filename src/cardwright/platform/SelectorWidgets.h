@@ -23,8 +23,8 @@ class ResourceSelectorWidget : public SelectorWidget {
   virtual void SetPath(const Text& path) = 0;
   virtual OleColor BackColorBkg() const = 0;
   virtual void SetBackColorBkg(OleColor color) = 0;
-  virtual bool BrowsesForFolder() const = 0;
-  /// With it a folder is chosen, whatever ShowsSave and TakesSeveral say.
+  virtual bool BrowseForFolder() const = 0;
+  /// With it a folder is chosen, whatever ShowSave and MultiSelect say.
   virtual void SetBrowseForFolder(bool folder) = 0;
   /// Pairs of a description and extensions, as "Texts (*.txt;*.csv)|*.txt;*.csv|All files (*.*)|*.*".
   virtual Text Filter() const = 0;
@@ -33,12 +33,12 @@ class ResourceSelectorWidget : public SelectorWidget {
   virtual bool IsInputTextEnabled() const = 0;
   virtual void SetInputTextEnabled(bool enabled) = 0;
   /// Whether a file to be written is chosen, not one that is there.
-  virtual bool ShowsSave() const = 0;
+  virtual bool ShowSave() const = 0;
   virtual void SetShowSave(bool save) = 0;
   /// Of the selection's window.
   virtual Text Title() const = 0;
   virtual void SetTitle(const Text& title) = 0;
-  virtual bool TakesSeveral() const = 0;
+  virtual bool MultiSelect() const = 0;
   virtual void SetMultiSelect(bool several) = 0;
   /// Where the selection begins as long as there is no path; "" leaves it to the toolkit.
   virtual Text StartFolder() const = 0;
@@ -131,7 +131,7 @@ class FontSelectorWidget : public SelectorWidget {
   virtual std::int32_t BorderStyle() const = 0;
   virtual void SetBorderStyle(std::int32_t style) = 0;
   /// Whether the height follows the font.
-  virtual bool AutoSizes() const = 0;
+  virtual bool AutoSize() const = 0;
   virtual void SetAutoSize(bool on) = 0;
   /// The template with the font's values put in: FillFontTemplate.
   virtual Text Value(const Text& mask) const = 0;

@@ -160,7 +160,7 @@ class ListViewWidget : public Widget {
   virtual void Clear() = 0;
   /// Row that is selected; 0 for none.
   virtual int SelectedRow() const = 0;
-  virtual void SelectRow(int row) = 0;
+  virtual void SetSelectedRow(int row) = 0;
   virtual float ColumnWidth() const = 0;
   virtual void SetColumnWidth(float width) = 0;
 

@@ -34,10 +34,10 @@ class ActiveWindow {
 
 }  // namespace
 
-AttendedDesktop::AttendedDesktop() : DesktopOver(DesktopOfThread()) { Module().desktop = this; }
+AttendedDesktop::AttendedDesktop() : ForwardingDesktop(DesktopOfThread()) { Module().desktop = this; }
 
 AttendedDesktop::~AttendedDesktop() {
-  if (Module().desktop == this) Module().desktop = &Below();
+  if (Module().desktop == this) Module().desktop = &Next();
 }
 
 void AttendedDesktop::Keep(const Text& text, int style, const Text& title) {
@@ -48,19 +48,19 @@ void AttendedDesktop::Keep(const Text& text, int style, const Text& title) {
 int AttendedDesktop::ShowMessage(const Text& text, int style, const Text& title) {
   Keep(text, style, title);
   const ActiveWindow active;
-  return Below().ShowMessage(text, style, title);
+  return Next().ShowMessage(text, style, title);
 }
 
 Variant AttendedDesktop::AskText(const Text& prompt, const Text& title, const Text& initial, const Variant& x,
                                  const Variant& y) {
   Keep(prompt, BoxStyle::OkCancel, title);
   const ActiveWindow active;
-  return Below().AskText(prompt, title, initial, x, y);
+  return Next().AskText(prompt, title, initial, x, y);
 }
 
 void AttendedDesktop::Beep() {
   ++m_Beeps;
-  Below().Beep();
+  Next().Beep();
 }
 
 void AttendedDesktop::Start(const Text& commandLine) { m_Launches->Add(Variant(commandLine)); }

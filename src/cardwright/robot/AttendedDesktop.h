@@ -1,13 +1,13 @@
 #pragma once
 
 #include "cardwright/automation/Collection.h"
-#include "cardwright/platform/DesktopOver.h"
+#include "cardwright/platform/ForwardingDesktop.h"
 
 namespace cardwright::robot {
 
 /// The thread's desktop while a robot sits at it: it keeps what was shown, heard and asked for, and starts no
-/// programs. Everything else is the desktop below's, which it takes the place of for its life.
-class AttendedDesktop final : public DesktopOver {
+/// programs. Everything else is the next desktop's, in whose place it stands while it lives.
+class AttendedDesktop final : public ForwardingDesktop {
  public:
   AttendedDesktop();
   ~AttendedDesktop() override;

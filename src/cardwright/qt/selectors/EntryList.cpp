@@ -57,8 +57,8 @@ QVariant EntryList::data(const QModelIndex& index, int role) const {
     case Qt::EditRole: return isAction ? m_Action : ShownName(m_Entries[static_cast<std::size_t>(row)].name);
     case kDetailRole: return isAction ? QString() : DetailOf(row);
     case kActionRole: return isAction;
-    case kSignRole:
-      if (isAction || !showsSigns) return {};
+    case kFeatureTypeRole:
+      if (isAction || !showsIcons) return {};
       return m_Entries[static_cast<std::size_t>(row)].data;
     case Qt::AccessibleTextRole: {
       const QString detail = isAction ? QString() : DetailOf(row);

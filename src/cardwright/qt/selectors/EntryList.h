@@ -26,7 +26,7 @@ class EntryList final : public QAbstractListModel {
   /// True for the row that is no entry.
   static constexpr int kActionRole = Qt::UserRole + 1;
   /// The number of the entry's feature type, for its sign; invalid for no sign.
-  static constexpr int kSignRole = Qt::UserRole + 2;
+  static constexpr int kFeatureTypeRole = Qt::UserRole + 2;
 
   explicit EntryList(QObject* parent);
 
@@ -47,7 +47,7 @@ class EntryList final : public QAbstractListModel {
   /// The same, but asked for in the background of the user's work, since the answer takes its time: the
   /// details come in one by one.
   bool describesLater = false;
-  bool showsSigns = false;
+  bool showsIcons = false;
 
   int rowCount(const QModelIndex& parent = {}) const override;
   QVariant data(const QModelIndex& index, int role) const override;

@@ -40,10 +40,7 @@ QtAttributeSelector::QtAttributeSelector(WidgetPlace place) : QtHostList(kAttrib
   List().describe = [this](const ListEntry& entry) { return Describe(entry); };
 }
 
-std::int32_t QtAttributeSelector::FeatureType() const {
-  RequireAlive();
-  return m_FeatureType;
-}
+std::int32_t QtAttributeSelector::FeatureType() const { return Live(m_FeatureType); }
 
 void QtAttributeSelector::SetFeatureType(std::int32_t type) {
   RequireAlive();
@@ -53,15 +50,13 @@ void QtAttributeSelector::SetFeatureType(std::int32_t type) {
 }
 
 void QtAttributeSelector::LinkThemeSelector(Ref<ThemeSelectorWidget> themes) {
-  RequireAlive();
-  m_Themes = AdapterOf<QtThemeSelector>(themes);
+  Live(m_Themes) = AdapterOf<QtThemeSelector>(themes);
   QObject::disconnect(m_ThemeLink);
   if (m_Themes) Follow(m_ThemeLink, m_Themes->Choice());
 }
 
 void QtAttributeSelector::LinkFeatureSelector(Ref<ComboWidget> types) {
-  RequireAlive();
-  m_Types = AdapterOf<QtComboBox>(types);
+  Live(m_Types) = AdapterOf<QtComboBox>(types);
   QObject::disconnect(m_TypeLink);
   if (m_Types) Follow(m_TypeLink, m_Types->Choice());
 }
@@ -84,8 +79,7 @@ QtAttributeSelector::Source QtAttributeSelector::CurrentSource() const {
 
 void QtAttributeSelector::RefreshAttributes() {
   RequireAlive();
-  const Ref<Widget> keepAlive(&Self());
-  const SurfaceState::Handling handling(*m_Place.state);
+  const HandlerScope scope(*this);
   const Source source = CurrentSource();
   std::vector<ListEntry> entries;
   for (const ListedAttribute& attribute :

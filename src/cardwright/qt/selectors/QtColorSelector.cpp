@@ -21,7 +21,7 @@ constexpr WidgetKind kColorSelector = {.typeName = u"ColorSelector",
                                        .foreColor = ToOleColor(SystemColor::ButtonText),
                                        .backRole = QPalette::Window,
                                        .foreRole = QPalette::NoRole,
-                                       .isSeeThrough = false,
+                                       .isTransparent = false,
                                        .mouse = MouseUse::LeftButton,
                                        .click = ClickSource::MouseRelease};
 
@@ -38,9 +38,9 @@ QColor ChooseColor(QWidget& owner, const QString& title, const QColor& present) 
 
 /// The swatch, with a narrow edge around it where the back colour is to be seen; the edge belongs to the
 /// button.
-class QtColorSelector::Box final : public Ground {
+class QtColorSelector::Box final : public SelectorBackground {
  public:
-  Box(QWidget* parent) : Ground(parent), swatch(new ColorSwatch(this)) {
+  Box(QWidget* parent) : SelectorBackground(parent), swatch(new ColorSwatch(this)) {
     setFocusPolicy(Qt::StrongFocus);
     setFocusProxy(swatch);
   }
@@ -65,7 +65,7 @@ class QtColorSelector::Box final : public Ground {
 };
 
 QtColorSelector::QtColorSelector(WidgetPlace place)
-    : QtWidget(kColorSelector, place), m_Box(new Box(place.parent)), m_Swatch(m_Box->swatch) {
+    : QtDialogSelector(kColorSelector, place), m_Box(new Box(place.parent)), m_Swatch(m_Box->swatch) {
   Adopt(*m_Box);
   WatchPart(*m_Swatch);
   QObject::connect(m_Swatch, &QAbstractButton::clicked, this, [this] { Choose(); });
@@ -87,51 +87,21 @@ Text QtColorSelector::DisplayText() const {
 
 void QtColorSelector::SetDisplayText(const Text& /*text*/) { RequireAlive(); }
 
-bool QtColorSelector::IsLocked() const {
-  RequireAlive();
-  return m_IsLocked;
-}
-
-void QtColorSelector::SetLocked(bool locked) {
-  RequireAlive();
-  m_IsLocked = locked;
-}
-
 void QtColorSelector::Choose() {
   if (m_IsLocked) return;
   // Whatever runs while the dialog is open may take the widget away.
-  const Ref<Widget> keepAlive(&Self());
-  const SurfaceState::Handling handling(*m_Place.state);
+  const HandlerScope scope(*this);
   const QColor chosen = ChooseColor(*m_Box, ToQString(m_Title), ToQColor(Color(), QApplication::palette()));
   if (!Native()) return;
   if (chosen.isValid()) m_Swatch->SetColor(FromQColor(chosen));
   NotifyClick();
 }
 
-OleColor QtColorSelector::Color() const {
-  RequireAlive();
-  return m_Swatch->Color();
-}
+OleColor QtColorSelector::Color() const { return Live(m_Swatch)->Color(); }
 
-void QtColorSelector::SetColor(OleColor color) {
-  RequireAlive();
-  m_Swatch->SetColor(color);
-}
+void QtColorSelector::SetColor(OleColor color) { Live(m_Swatch)->SetColor(color); }
 
-Text QtColorSelector::Title() const {
-  RequireAlive();
-  return m_Title;
-}
-
-void QtColorSelector::SetTitle(const Text& title) {
-  RequireAlive();
-  m_Title = title;
-}
-
-std::int32_t QtColorSelector::BorderStyle() const {
-  RequireAlive();
-  return m_Swatch->HasBorder() ? 1 : 0;
-}
+std::int32_t QtColorSelector::BorderStyle() const { return Live(m_Swatch)->HasBorder() ? 1 : 0; }
 
 void QtColorSelector::SetBorderStyle(std::int32_t style) {
   RequireAlive();
@@ -140,8 +110,7 @@ void QtColorSelector::SetBorderStyle(std::int32_t style) {
 }
 
 Text QtColorSelector::Value(const Text& mask) const {
-  RequireAlive();
-  return FillColorTemplate(mask, FromQColor(ToQColor(m_Swatch->Color(), QApplication::palette())));
+  return FillColorTemplate(mask, FromQColor(ToQColor(Live(m_Swatch)->Color(), QApplication::palette())));
 }
 
 }  // namespace cardwright::qt

@@ -1,7 +1,6 @@
 #pragma once
 
-#include "cardwright/platform/SelectorWidgets.h"
-#include "cardwright/qt/widgets/QtWidget.h"
+#include "cardwright/qt/selectors/QtSelector.h"
 
 namespace cardwright::qt {
 
@@ -9,7 +8,7 @@ class ColorSwatch;
 
 /// A swatch that opens the desktop's choice of colours. The click is told when the choice is over, so that
 /// the listener finds the new colour.
-class QtColorSelector final : public QtWidget<ColorSelectorWidget> {
+class QtColorSelector final : public QtDialogSelector<ColorSelectorWidget> {
  public:
   explicit QtColorSelector(WidgetPlace place);
 
@@ -17,14 +16,10 @@ class QtColorSelector final : public QtWidget<ColorSelectorWidget> {
   /// A swatch has no text: empty, and one that is set is passed over.
   Text DisplayText() const override;
   void SetDisplayText(const Text& text) override;
-  bool IsLocked() const override;
-  void SetLocked(bool locked) override;
   void SetBackColor(OleColor color) override;
 
   OleColor Color() const override;
   void SetColor(OleColor color) override;
-  Text Title() const override;
-  void SetTitle(const Text& title) override;
   std::int32_t BorderStyle() const override;
   void SetBorderStyle(std::int32_t style) override;
   Text Value(const Text& mask) const override;
@@ -32,7 +27,6 @@ class QtColorSelector final : public QtWidget<ColorSelectorWidget> {
  private:
   class Box;
 
-  bool IsBlocked() const override { return m_IsLocked; }
   bool TakesEnter() const override { return true; }
   /// A locked one has no choice to wait for.
   bool IsClickedBy(const QWidget& /*part*/) const override { return m_IsLocked; }
@@ -41,8 +35,6 @@ class QtColorSelector final : public QtWidget<ColorSelectorWidget> {
 
   Box* m_Box;
   ColorSwatch* m_Swatch;
-  Text m_Title;
-  bool m_IsLocked = false;
 };
 
 }  // namespace cardwright::qt

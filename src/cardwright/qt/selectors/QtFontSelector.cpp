@@ -9,10 +9,9 @@
 #include "cardwright/qt/dialogs/FontChoice.h"
 #include "cardwright/qt/selectors/ChoiceButton.h"
 #include "cardwright/qt/selectors/FontSample.h"
-#include "cardwright/qt/selectors/GroundColor.h"
 #include "cardwright/qt/selectors/SelectorBackground.h"
 #include "cardwright/qt/values/QtText.h"
-#include "cardwright/qt/widgets/FieldKind.h"
+#include "cardwright/qt/widgets/WidgetKind.h"
 
 namespace cardwright::qt {
 
@@ -24,10 +23,10 @@ constexpr WidgetKind kFontSelector =
 }  // namespace
 
 /// Lays out the sample and the button, which keeps a usual height in a tall box.
-class QtFontSelector::Box final : public Ground {
+class QtFontSelector::Box final : public SelectorBackground {
  public:
   Box(QWidget* parent)
-      : Ground(parent), sample(new FontSample(this)), button(new ChoiceButton(*this, *sample)) {
+      : SelectorBackground(parent), sample(new FontSample(this)), button(new ChoiceButton(*this, *sample)) {
     setFocusPolicy(Qt::StrongFocus);
     setFocusProxy(sample);
     button->setToolTip(QToolButton::tr("Choose a font (F4)"));
@@ -49,30 +48,11 @@ class QtFontSelector::Box final : public Ground {
 };
 
 QtFontSelector::QtFontSelector(WidgetPlace place)
-    : QtWidget(kFontSelector, place),
-      m_Box(new Box(place.parent)),
-      m_Sample(m_Box->sample),
-      m_Button(m_Box->button) {
-  Adopt(*m_Box);
-  WatchPart(*m_Sample);
-  WatchPart(*m_Button);
+    : QtButtonSelector(kFontSelector, place), m_Box(new Box(place.parent)), m_Sample(m_Box->sample) {
+  Adopt(*m_Box, *m_Box->sample, *m_Box->button);
   m_Shown = m_Font->Values();
   m_Sample->SetValues(m_Shown);
   m_Sample->onChoose = [this] { Choose(); };
-  QObject::connect(m_Button, &QToolButton::clicked, this, [this] { Choose(); });
-}
-
-QWidget* QtFontSelector::Part(std::u16string_view name) const {
-  if (!Native()) return nullptr;
-  if (EqualsNoCase(name, u"edit")) return m_Sample;
-  return EqualsNoCase(name, u"button") ? m_Button : nullptr;
-}
-
-bool QtFontSelector::IsClickedBy(const QWidget& part) const { return m_IsLocked || &part != m_Button; }
-
-void QtFontSelector::CollectColors(QPalette& own, const QPalette& inherited) const {
-  WidgetCore::CollectColors(own, inherited);
-  CollectGround(own, inherited, m_BackColorBkg);
 }
 
 Text QtFontSelector::DisplayText() const {
@@ -82,19 +62,9 @@ Text QtFontSelector::DisplayText() const {
 
 void QtFontSelector::SetDisplayText(const Text& /*text*/) { RequireAlive(); }
 
-bool QtFontSelector::IsLocked() const {
-  RequireAlive();
-  return m_IsLocked;
-}
-
-void QtFontSelector::SetLocked(bool locked) {
-  RequireAlive();
-  m_IsLocked = locked;
-}
-
 void QtFontSelector::SetFont(Ref<Font> font) {
   const Ref<Widget> keepAlive(&Self());
-  ShareFont(std::move(font));
+  QtWidget::SetFont(std::move(font));
   if (Native()) TellChange();
 }
 
@@ -113,7 +83,7 @@ void QtFontSelector::TellChange() {
 }
 
 float QtFontSelector::HeightFor(float height) const {
-  if (!m_AutoSizes) return height;
+  if (!m_AutoSize) return height;
   return PixelsToScale(static_cast<float>(m_Sample->FittingHeight()), Scale());
 }
 
@@ -126,46 +96,15 @@ void QtFontSelector::FollowFont() {
   Notify([](WidgetListener& listener) { listener.OnResize(); });
 }
 
-void QtFontSelector::Choose() {
-  if (m_IsLocked) return;
-  // Handlers, or whatever runs while the dialog is open, may take the widget away.
-  const Ref<Widget> keepAlive(&Self());
-  const SurfaceState::Handling handling(*m_Place.state);
-  Notify([](WidgetListener& listener) { listener.OnBeforeButtonClick(); });
-  if (!Native()) return;
+void QtFontSelector::RunDialog() {
   Attempt([&] {
     const auto chosen = ChooseFont(*m_Box, ToQString(m_Title), m_Font->Values());
     const Ref<Font> font = m_Font;
     if (Native() && chosen) font->Assign(*chosen);
   });
-  if (Native()) Notify([](WidgetListener& listener) { listener.OnAfterButtonClick(); });
 }
 
-OleColor QtFontSelector::BackColorBkg() const {
-  RequireAlive();
-  return m_BackColorBkg;
-}
-
-void QtFontSelector::SetBackColorBkg(OleColor color) {
-  RequireAlive();
-  m_BackColorBkg = color;
-  ApplyColors();
-}
-
-Text QtFontSelector::Title() const {
-  RequireAlive();
-  return m_Title;
-}
-
-void QtFontSelector::SetTitle(const Text& title) {
-  RequireAlive();
-  m_Title = title;
-}
-
-std::int32_t QtFontSelector::BorderStyle() const {
-  RequireAlive();
-  return m_Sample->HasBorder() ? 1 : 0;
-}
+std::int32_t QtFontSelector::BorderStyle() const { return Live(m_Sample)->HasBorder() ? 1 : 0; }
 
 void QtFontSelector::SetBorderStyle(std::int32_t style) {
   RequireAlive();
@@ -174,20 +113,15 @@ void QtFontSelector::SetBorderStyle(std::int32_t style) {
   FollowFont();
 }
 
-bool QtFontSelector::AutoSizes() const {
-  RequireAlive();
-  return m_AutoSizes;
-}
+bool QtFontSelector::AutoSize() const { return Live(m_AutoSize); }
 
 void QtFontSelector::SetAutoSize(bool on) {
-  RequireAlive();
-  m_AutoSizes = on;
+  Live(m_AutoSize) = on;
   FollowFont();
 }
 
 Text QtFontSelector::Value(const Text& mask) const {
-  RequireAlive();
-  const QColor color = ToQColor(m_State.foreColor, QApplication::palette());
+  const QColor color = ToQColor(Live(m_State).foreColor, QApplication::palette());
   return FillFontTemplate(mask, m_Font->Values(), FromQColor(color));
 }
 

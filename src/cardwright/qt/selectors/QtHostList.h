@@ -2,41 +2,26 @@
 
 #include "cardwright/automation/Errors.h"
 #include "cardwright/qt/selectors/EntryList.h"
+#include "cardwright/qt/selectors/QtSelector.h"
 #include "cardwright/qt/selectors/SelectorCombo.h"
 #include "cardwright/qt/widgets/ChoiceNotice.h"
-#include "cardwright/qt/widgets/FieldKind.h"
-#include "cardwright/qt/widgets/QtWidget.h"
+#include "cardwright/qt/widgets/WidgetKind.h"
 
 namespace cardwright::qt {
 
 /// What theme and attribute selectors have in common: a drop-down list whose entries the host gives. A new
 /// list keeps the chosen name where it has it, and no click tells of it.
-template <class Base>
-class QtHostList : public QtWidget<Base> {
+template <class Interface>
+class QtHostList : public QtSelector<Interface> {
  public:
   QWidget* Part(std::u16string_view name) const override {
     // The list opens wherever the box is pressed.
     return EqualsNoCase(name, u"button") ? this->Native() : nullptr;
   }
-  bool IsLocked() const override {
-    this->RequireAlive();
-    return m_IsLocked;
-  }
-  void SetLocked(bool locked) override {
-    this->RequireAlive();
-    m_IsLocked = locked;
-  }
-
-  int ListCount() const override {
-    this->RequireAlive();
-    return List().Count();
-  }
+  int ListCount() const override { return this->Live(m_Combo)->Entries().Count(); }
   Text ListText(int index) const override { return EntryAt(index).name; }
   std::int32_t ItemData(int index) const override { return EntryAt(index).data; }
-  int ListIndex() const override {
-    this->RequireAlive();
-    return m_ListIndex;
-  }
+  int ListIndex() const override { return this->Live(m_ListIndex); }
   void SetListIndex(int index) override {
     if (index < -1 || index >= ListCount()) Raise(ErrorNumber::InvalidPropertyValue);
     if (index == m_ListIndex) return;
@@ -45,26 +30,19 @@ class QtHostList : public QtWidget<Base> {
     SetChosen(index);
     if (this->Native()) this->NotifyClick();
   }
-  std::int32_t ConnectionHandle() const override {
-    this->RequireAlive();
-    return m_Handle;
-  }
-  void SetConnectionHandle(std::int32_t handle) override {
-    this->RequireAlive();
-    m_Handle = handle;
-  }
+  std::int32_t ConnectionHandle() const override { return this->Live(m_Handle); }
+  void SetConnectionHandle(std::int32_t handle) override { this->Live(m_Handle) = handle; }
 
   /// Tells of another chosen name.
   const ChoiceNotice& Choice() const noexcept { return m_Choice; }
 
  protected:
   QtHostList(const WidgetKind& kind, WidgetPlace place)
-      : QtWidget<Base>(kind, place), m_Combo(new SelectorCombo(place.parent)) {
+      : QtSelector<Interface>(kind, place), m_Combo(new SelectorCombo(place.parent)) {
     this->Adopt(*m_Combo);
     QObject::connect(m_Combo, &QComboBox::activated, this, [this](int row) {
       // Whoever is told may take the widget away.
-      const Ref<Widget> keepAlive(&this->Self());
-      const SurfaceState::Handling handling(*this->m_Place.state);
+      const WidgetCore::HandlerScope scope(*this);
       OnActivated(row);
     });
   }
@@ -100,7 +78,6 @@ class QtHostList : public QtWidget<Base> {
 
   EntryList& List() const { return m_Combo->Entries(); }
   SelectorCombo& Combo() const { return *m_Combo; }
-  bool IsBlocked() const override { return m_IsLocked; }
 
  private:
   const ListEntry& EntryAt(int index) const {
@@ -120,13 +97,12 @@ class QtHostList : public QtWidget<Base> {
     this->m_State.height = HeightFor(0);
     this->ApplyGeometry();
   }
-  bool TakesWheel() const override { return !m_IsLocked && m_Combo->hasFocus(); }
+  bool TakesWheel() const override { return !this->m_IsLocked && m_Combo->hasFocus(); }
 
   SelectorCombo* m_Combo;
   ChoiceNotice m_Choice;
   int m_ListIndex = -1;
   std::int32_t m_Handle = 0;
-  bool m_IsLocked = false;
 };
 
 }  // namespace cardwright::qt

@@ -7,11 +7,10 @@
 
 #include "cardwright/qt/dialogs/PathLists.h"
 #include "cardwright/qt/selectors/ChoiceButton.h"
-#include "cardwright/qt/selectors/GroundColor.h"
 #include "cardwright/qt/selectors/PathEdit.h"
 #include "cardwright/qt/selectors/SelectorBackground.h"
 #include "cardwright/qt/values/QtText.h"
-#include "cardwright/qt/widgets/FieldKind.h"
+#include "cardwright/qt/widgets/WidgetKind.h"
 
 namespace cardwright::qt {
 
@@ -23,9 +22,10 @@ constexpr WidgetKind kResourceSelector =
 }  // namespace
 
 /// Lays out the field and the button.
-class QtResourceSelector::Box final : public Ground {
+class QtResourceSelector::Box final : public SelectorBackground {
  public:
-  Box(QWidget* parent) : Ground(parent), edit(new PathEdit(this)), button(new ChoiceButton(*this, *edit)) {
+  Box(QWidget* parent)
+      : SelectorBackground(parent), edit(new PathEdit(this)), button(new ChoiceButton(*this, *edit)) {
     setFocusPolicy(Qt::StrongFocus);
     setFocusProxy(edit);
   }
@@ -45,48 +45,15 @@ class QtResourceSelector::Box final : public Ground {
 };
 
 QtResourceSelector::QtResourceSelector(WidgetPlace place)
-    : QtWidget(kResourceSelector, place),
-      m_Box(new Box(place.parent)),
-      m_Edit(m_Box->edit),
-      m_Button(m_Box->button) {
-  Adopt(*m_Box);
-  WatchPart(*m_Edit);
-  WatchPart(*m_Button);
-  ApplyWishes();
+    : QtButtonSelector(kResourceSelector, place), m_Box(new Box(place.parent)), m_Edit(m_Box->edit) {
+  Adopt(*m_Box, *m_Box->edit, *m_Box->button);
+  ApplySettings();
   m_Edit->onChoose = [this] { Choose(); };
   m_Edit->onDropped = [this](const QStringList& paths) { Take(FromQString(JoinPathList(paths))); };
   QObject::connect(m_Edit, &QLineEdit::textChanged, this, [this] { OnTyped(); });
-  QObject::connect(m_Button, &QToolButton::clicked, this, [this] { Choose(); });
 }
 
-QWidget* QtResourceSelector::Part(std::u16string_view name) const {
-  if (!Native()) return nullptr;
-  if (EqualsNoCase(name, u"edit")) return m_Edit;
-  return EqualsNoCase(name, u"button") ? m_Button : nullptr;
-}
-
-bool QtResourceSelector::IsClickedBy(const QWidget& part) const { return m_IsLocked || &part != m_Button; }
-
-void QtResourceSelector::CollectColors(QPalette& own, const QPalette& inherited) const {
-  WidgetCore::CollectColors(own, inherited);
-  CollectGround(own, inherited, m_BackColorBkg);
-}
-
-bool QtResourceSelector::IsLocked() const {
-  RequireAlive();
-  return m_IsLocked;
-}
-
-void QtResourceSelector::SetLocked(bool locked) {
-  RequireAlive();
-  m_IsLocked = locked;
-  ApplyWishes();
-}
-
-Text QtResourceSelector::Path() const {
-  RequireAlive();
-  return m_Path;
-}
+Text QtResourceSelector::Path() const { return Live(m_Path); }
 
 void QtResourceSelector::SetPath(const Text& path) {
   RequireAlive();
@@ -112,119 +79,65 @@ void QtResourceSelector::OnTyped() {
   NotifyChange();
 }
 
-void QtResourceSelector::Choose() {
-  if (m_IsLocked) return;
-  // Handlers, or whatever runs while the dialog is open, may take the widget away.
-  const Ref<Widget> keepAlive(&Self());
-  const SurfaceState::Handling handling(*m_Place.state);
-  Notify([](WidgetListener& listener) { listener.OnBeforeButtonClick(); });
-  if (!Native()) return;
+void QtResourceSelector::RunDialog() {
   const auto chosen = ChooseFiles(
       *m_Box, {Mode(), ToQString(m_Title), ToQString(m_Filter), ToQString(m_Path), ToQString(m_StartFolder)});
   if (Native() && chosen) Take(FromQString(*chosen));
-  if (Native()) Notify([](WidgetListener& listener) { listener.OnAfterButtonClick(); });
 }
 
 FileMode QtResourceSelector::Mode() const {
-  if (m_BrowsesForFolder) return FileMode::Folder;
-  if (m_ShowsSave) return FileMode::Save;
-  return m_TakesSeveral ? FileMode::OpenSeveral : FileMode::Open;
+  if (m_BrowseForFolder) return FileMode::Folder;
+  if (m_ShowSave) return FileMode::Save;
+  return m_MultiSelect ? FileMode::OpenSeveral : FileMode::Open;
 }
 
-void QtResourceSelector::ApplyWishes() {
+void QtResourceSelector::ApplySettings() {
   m_Edit->setReadOnly(m_IsLocked || !m_IsInputTextEnabled);
   m_Edit->isLocked = m_IsLocked;
-  m_Edit->SetWanted({m_BrowsesForFolder, Mode() == FileMode::OpenSeveral, NamePatterns(ToQString(m_Filter))});
-  m_Button->setToolTip(m_BrowsesForFolder ? QToolButton::tr("Choose a folder (F4)")
-                                          : QToolButton::tr("Choose a file (F4)"));
-  m_Button->setAccessibleName(m_BrowsesForFolder ? QToolButton::tr("Choose a folder")
-                                                 : QToolButton::tr("Choose a file"));
+  m_Edit->SetWanted({m_BrowseForFolder, Mode() == FileMode::OpenSeveral, NamePatterns(ToQString(m_Filter))});
+  m_Box->button->setToolTip(m_BrowseForFolder ? QToolButton::tr("Choose a folder (F4)")
+                                              : QToolButton::tr("Choose a file (F4)"));
+  m_Box->button->setAccessibleName(m_BrowseForFolder ? QToolButton::tr("Choose a folder")
+                                                     : QToolButton::tr("Choose a file"));
 }
 
-OleColor QtResourceSelector::BackColorBkg() const {
-  RequireAlive();
-  return m_BackColorBkg;
-}
-
-void QtResourceSelector::SetBackColorBkg(OleColor color) {
-  RequireAlive();
-  m_BackColorBkg = color;
-  ApplyColors();
-}
-
-bool QtResourceSelector::BrowsesForFolder() const {
-  RequireAlive();
-  return m_BrowsesForFolder;
-}
+bool QtResourceSelector::BrowseForFolder() const { return Live(m_BrowseForFolder); }
 
 void QtResourceSelector::SetBrowseForFolder(bool folder) {
-  RequireAlive();
-  m_BrowsesForFolder = folder;
-  ApplyWishes();
+  Live(m_BrowseForFolder) = folder;
+  ApplySettings();
 }
 
-Text QtResourceSelector::Filter() const {
-  RequireAlive();
-  return m_Filter;
-}
+Text QtResourceSelector::Filter() const { return Live(m_Filter); }
 
 void QtResourceSelector::SetFilter(const Text& filter) {
-  RequireAlive();
-  m_Filter = filter;
-  ApplyWishes();
+  Live(m_Filter) = filter;
+  ApplySettings();
 }
 
-bool QtResourceSelector::IsInputTextEnabled() const {
-  RequireAlive();
-  return m_IsInputTextEnabled;
-}
+bool QtResourceSelector::IsInputTextEnabled() const { return Live(m_IsInputTextEnabled); }
 
 void QtResourceSelector::SetInputTextEnabled(bool enabled) {
-  RequireAlive();
-  m_IsInputTextEnabled = enabled;
-  ApplyWishes();
+  Live(m_IsInputTextEnabled) = enabled;
+  ApplySettings();
 }
 
-bool QtResourceSelector::ShowsSave() const {
-  RequireAlive();
-  return m_ShowsSave;
-}
+bool QtResourceSelector::ShowSave() const { return Live(m_ShowSave); }
 
 void QtResourceSelector::SetShowSave(bool save) {
-  RequireAlive();
-  m_ShowsSave = save;
-  ApplyWishes();
+  Live(m_ShowSave) = save;
+  ApplySettings();
 }
 
-Text QtResourceSelector::Title() const {
-  RequireAlive();
-  return m_Title;
-}
-
-void QtResourceSelector::SetTitle(const Text& title) {
-  RequireAlive();
-  m_Title = title;
-}
-
-bool QtResourceSelector::TakesSeveral() const {
-  RequireAlive();
-  return m_TakesSeveral;
-}
+bool QtResourceSelector::MultiSelect() const { return Live(m_MultiSelect); }
 
 void QtResourceSelector::SetMultiSelect(bool several) {
-  RequireAlive();
-  m_TakesSeveral = several;
-  ApplyWishes();
+  Live(m_MultiSelect) = several;
+  ApplySettings();
 }
 
-Text QtResourceSelector::StartFolder() const {
-  RequireAlive();
-  return m_StartFolder;
-}
+Text QtResourceSelector::StartFolder() const { return Live(m_StartFolder); }
 
-void QtResourceSelector::SetStartFolder(const Text& folder) {
-  RequireAlive();
-  m_StartFolder = folder;
-}
+void QtResourceSelector::SetStartFolder(const Text& folder) { Live(m_StartFolder) = folder; }
 
 }  // namespace cardwright::qt

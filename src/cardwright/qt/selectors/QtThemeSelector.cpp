@@ -14,7 +14,7 @@ constexpr WidgetKind kThemeSelector =
 }  // namespace
 
 QtThemeSelector::QtThemeSelector(WidgetPlace place) : QtHostList(kThemeSelector, place) {
-  List().showsSigns = true;
+  List().showsIcons = true;
   List().describe = [](const ListEntry& entry) { return ToQString(FeatureTypeToText(entry.data)); };
 }
 
@@ -23,14 +23,10 @@ void QtThemeSelector::SetConnectionHandle(std::int32_t handle) {
   OfferNewTheme();
 }
 
-Text QtThemeSelector::CreateThemeText() const {
-  RequireAlive();
-  return m_CreateThemeText;
-}
+Text QtThemeSelector::CreateThemeText() const { return Live(m_CreateThemeText); }
 
 void QtThemeSelector::SetCreateThemeText(const Text& text) {
-  RequireAlive();
-  m_CreateThemeText = text;
+  Live(m_CreateThemeText) = text;
   ChangeList([&] { List().SetAction(ToQString(text)); });
   Show(ListIndex());
   OfferNewTheme();
@@ -41,8 +37,7 @@ void QtThemeSelector::OfferNewTheme() { Combo().offersAction = ConnectionHandle(
 
 void QtThemeSelector::RefreshThemes() {
   RequireAlive();
-  const Ref<Widget> keepAlive(&Self());
-  const SurfaceState::Handling handling(*m_Place.state);
+  const HandlerScope scope(*this);
   std::vector<ListEntry> entries;
   for (const ListedTheme& theme : ListThemes(ConnectionHandle()))
     entries.push_back({theme.name, static_cast<std::int32_t>(theme.featureType)});

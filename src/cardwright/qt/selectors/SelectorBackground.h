@@ -8,7 +8,7 @@ namespace cardwright::qt {
 
 /// What the parts of a selector stand on. It fills itself with the colour of windows, and what its parts
 /// leave of a mouse button's strokes ends here.
-class Ground : public QWidget {
+class SelectorBackground : public QWidget {
  public:
   using QWidget::QWidget;
 

@@ -77,7 +77,7 @@ class EntryPainter final : public QStyledItemDelegate {
  protected:
   void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
     QStyledItemDelegate::initStyleOption(option, index);
-    const QVariant sign = index.data(EntryList::kSignRole);
+    const QVariant sign = index.data(EntryList::kFeatureTypeRole);
     if (!sign.isValid()) return;
     const qreal ratio = option->widget ? option->widget->devicePixelRatioF() : 1.0;
     option->icon =
@@ -155,7 +155,7 @@ int SelectorCombo::ListWidth() const {
 
 void SelectorCombo::initStyleOption(QStyleOptionComboBox* option) const {
   QComboBox::initStyleOption(option);
-  const QVariant sign = itemData(currentIndex(), EntryList::kSignRole);
+  const QVariant sign = itemData(currentIndex(), EntryList::kFeatureTypeRole);
   if (!sign.isValid() || sign.toInt() < 0) return;
   const QPalette::ColorGroup group = isEnabled() ? QPalette::Active : QPalette::Disabled;
   option->currentIcon =

@@ -114,7 +114,7 @@ PictureWidget& QtDesignSurface::FocusHolder() { return *m_FocusHolder; }
 void QtDesignSurface::PutHandlesInto(Widget* container) {
   for (const Ref<QtPictureBox>& handle : m_Handles) {
     const WidgetPlace place = m_Surface.PlaceIn(container, kHandleName);
-    handle->StandIn(place.container, *place.parent);
+    handle->Reparent(place.container, *place.parent);
   }
 }
 
@@ -144,7 +144,7 @@ Text QtDesignSurface::ShowPopupMenu(std::span<const Ref<MenuItem>> items) {
   return RunPopupMenu(m_Surface.Canvas(), items, m_State->cursor);
 }
 
-void QtDesignSurface::TellPropertyChanged(std::u16string_view name) {
+void QtDesignSurface::NotifyPropertyChanged(std::u16string_view name) {
   Q_EMIT KeptPropertyChanged(ToQString(name));
 }
 

@@ -71,7 +71,7 @@ class QtDesignSurface final : public QObject, public DesignSurface {
   void HideTooltip() override { m_Tip.Hide(); }
 
   Text ShowPopupMenu(std::span<const Ref<MenuItem>> items) override;
-  void TellPropertyChanged(std::u16string_view name) override;
+  void NotifyPropertyChanged(std::u16string_view name) override;
 
   /// The object that scripts know as the parent of the widgets. Not owned: it has to outlive the surface.
   void SetControl(Object* control) { m_Surface.SetControl(control); }

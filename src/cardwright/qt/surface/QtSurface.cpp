@@ -37,7 +37,7 @@ QtSurface::QtSurface(QWidget& canvas)
 
 QtSurface::~QtSurface() {
   m_State->surface = nullptr;
-  m_State->SettleNone();
+  m_State->CancelFlushes();
   m_Font->RemoveUser(*this);
   for (const auto& [name, widget] : m_Widgets) CoreOf(*widget).Detach();
   for (const Ref<Widget>& widget : m_Own) CoreOf(*widget).Detach();
@@ -115,8 +115,8 @@ void QtSurface::ApplyBackColor() {
   QPalette own;
   const bool hasOwn = inherited.color(QPalette::Active, QPalette::Window) != color;
   if (hasOwn) own.setColor(QPalette::Window, color);
-  if (hasOwn || m_HasOwnGround) m_Canvas->setPalette(own);
-  m_HasOwnGround = hasOwn;
+  if (hasOwn || m_HasOwnBackground) m_Canvas->setPalette(own);
+  m_HasOwnBackground = hasOwn;
   m_IsApplying = false;
 }
 

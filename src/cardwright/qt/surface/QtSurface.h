@@ -82,7 +82,7 @@ class QtSurface final : public QObject, public Surface, private Font::User {
   std::vector<Ref<Widget>> m_Own;
   ScaleMode m_Scale = ScaleMode::Pixels;
   OleColor m_BackColor = ToOleColor(SystemColor::ButtonFace);
-  bool m_HasOwnGround = false;
+  bool m_HasOwnBackground = false;
   bool m_IsApplying = false;
   // The size as it was asked for, which the canvas holds in whole pixels.
   float m_Width = 0;

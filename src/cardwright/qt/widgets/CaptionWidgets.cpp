@@ -12,31 +12,14 @@ namespace cardwright::qt {
 
 namespace {
 
-constexpr OleColor kFace = ToOleColor(SystemColor::ButtonFace);
-constexpr OleColor kFaceText = ToOleColor(SystemColor::ButtonText);
-
-constexpr WidgetKind kLabel = {.typeName = u"Label",
-                               .backColor = kFace,
-                               .foreColor = kFaceText,
-                               .backRole = QPalette::Window,
-                               .foreRole = QPalette::WindowText,
-                               .isSeeThrough = true,
-                               .mouse = MouseUse::None,
-                               .click = ClickSource::MouseRelease};
-constexpr WidgetKind kFrame = {.typeName = u"Frame",
-                               .backColor = kFace,
-                               .foreColor = kFaceText,
-                               .backRole = QPalette::Window,
-                               .foreRole = QPalette::WindowText,
-                               .isSeeThrough = true,
-                               .mouse = MouseUse::None,
-                               .click = ClickSource::MouseRelease};
+constexpr WidgetKind kLabel = MakeFaceKind(u"Label", MouseUse::None, ClickSource::MouseRelease);
+constexpr WidgetKind kFrame = MakeFaceKind(u"Frame", MouseUse::None, ClickSource::MouseRelease);
 constexpr WidgetKind kCommandButton = {.typeName = u"CommandButton",
-                                       .backColor = kFace,
-                                       .foreColor = kFaceText,
+                                       .backColor = ToOleColor(SystemColor::ButtonFace),
+                                       .foreColor = ToOleColor(SystemColor::ButtonText),
                                        .backRole = QPalette::NoRole,
                                        .foreRole = QPalette::NoRole,
-                                       .isSeeThrough = false,
+                                       .isTransparent = false,
                                        .mouse = MouseUse::LeftButton,
                                        .click = ClickSource::Widget};
 
@@ -60,14 +43,10 @@ QtLabel::QtLabel(WidgetPlace place) : QtWidget(kLabel, place), m_Label(new QLabe
   Adopt(*m_Label);
 }
 
-Text QtLabel::DisplayText() const {
-  RequireAlive();
-  return m_Text;
-}
+Text QtLabel::DisplayText() const { return Live(m_Text); }
 
 void QtLabel::SetDisplayText(const Text& text) {
-  RequireAlive();
-  m_Text = text;
+  Live(m_Text) = text;
   m_Label->setText(WithoutMarks(ToQString(text)));
 }
 
@@ -97,15 +76,9 @@ class QtFrame::Box final : public QGroupBox {
 
 QtFrame::QtFrame(WidgetPlace place) : QtWidget(kFrame, place), m_Box(new Box(place.parent)) { Adopt(*m_Box); }
 
-Text QtFrame::DisplayText() const {
-  RequireAlive();
-  return FromQString(m_Box->title());
-}
+Text QtFrame::DisplayText() const { return FromQString(Live(m_Box)->title()); }
 
-void QtFrame::SetDisplayText(const Text& text) {
-  RequireAlive();
-  m_Box->setTitle(ToQString(text));
-}
+void QtFrame::SetDisplayText(const Text& text) { Live(m_Box)->setTitle(ToQString(text)); }
 
 QtCommandButton::QtCommandButton(WidgetPlace place)
     : QtWidget(kCommandButton, place), m_Button(new QPushButton(place.parent)) {
@@ -114,14 +87,8 @@ QtCommandButton::QtCommandButton(WidgetPlace place)
   QObject::connect(m_Button, &QPushButton::clicked, this, [this] { NotifyClick(); });
 }
 
-Text QtCommandButton::DisplayText() const {
-  RequireAlive();
-  return FromQString(m_Button->text());
-}
+Text QtCommandButton::DisplayText() const { return FromQString(Live(m_Button)->text()); }
 
-void QtCommandButton::SetDisplayText(const Text& text) {
-  RequireAlive();
-  m_Button->setText(ToQString(text));
-}
+void QtCommandButton::SetDisplayText(const Text& text) { Live(m_Button)->setText(ToQString(text)); }
 
 }  // namespace cardwright::qt

@@ -23,11 +23,17 @@ void SetSelectionStart(QLineEdit& edit, int start) {
   edit.setCursorPosition(std::min(start, static_cast<int>(edit.text().size())));
 }
 
+int SelectionLength(const QLineEdit& edit) { return static_cast<int>(edit.selectedText().size()); }
+
 void SetSelectionLength(QLineEdit& edit, int length) {
   if (length < 0) Raise(ErrorNumber::InvalidPropertyValue);
   const int start = SelectionStart(edit);
   edit.setSelection(start, std::min<int>(length, static_cast<int>(edit.text().size()) - start));
 }
+
+QString SelectedText(const QLineEdit& edit) { return edit.selectedText(); }
+
+void ReplaceSelection(QLineEdit& edit, const QString& text) { edit.insert(text); }
 
 void SetLimit(QLineEdit& edit, int length) {
   if (length < 0) Raise(ErrorNumber::InvalidPropertyValue);

@@ -1,6 +1,7 @@
 #pragma once
 
 class QLineEdit;
+class QString;
 
 namespace cardwright::qt {
 
@@ -9,7 +10,10 @@ namespace cardwright::qt {
 /// @{
 int SelectionStart(const QLineEdit& edit);
 void SetSelectionStart(QLineEdit& edit, int start);
+int SelectionLength(const QLineEdit& edit);
 void SetSelectionLength(QLineEdit& edit, int length);
+QString SelectedText(const QLineEdit& edit);
+void ReplaceSelection(QLineEdit& edit, const QString& text);
 /// @}
 /// Limits what can be typed; 0 for no limit. A text that is longer already stays whole.
 void SetLimit(QLineEdit& edit, int length);

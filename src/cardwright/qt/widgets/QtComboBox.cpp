@@ -3,10 +3,8 @@
 #include <QComboBox>
 #include <QLineEdit>
 
-#include "cardwright/qt/values/QtText.h"
 #include "cardwright/qt/widgets/FieldCombo.h"
-#include "cardwright/qt/widgets/FieldKind.h"
-#include "cardwright/qt/widgets/LineEditText.h"
+#include "cardwright/qt/widgets/WidgetKind.h"
 
 namespace cardwright::qt {
 
@@ -18,15 +16,14 @@ constexpr int kTextIsReadOnly = 383;
 }  // namespace
 
 QtComboBox::QtComboBox(WidgetPlace place)
-    : QtWidget(kComboBox, place), m_Combo(new FieldCombo(place.parent)) {
+    : QtLineEntry(kComboBox, place), m_Combo(new FieldCombo(place.parent)) {
   m_Combo->setInsertPolicy(QComboBox::NoInsert);
   Adopt(*m_Combo);
   QObject::connect(m_Combo, &QComboBox::activated, this, [this](int index) { OnActivated(index); });
 }
 
 void QtComboBox::OnActivated(int index) {
-  const Ref<Widget> keepAlive(&Self());
-  const SurfaceState::Handling handling(*m_Place.state);
+  const HandlerScope scope(*this);
   SetChosen(index);
   if (Native()) NotifyClick();
 }
@@ -39,15 +36,13 @@ void QtComboBox::SetChosen(int index) {
 }
 
 Text QtComboBox::DisplayText() const {
-  RequireAlive();
-  const bool isPlain = !m_Combo->isEditable() && m_ListIndex < 0;
+  const bool isPlain = !IsEditable() && m_ListIndex < 0;
   return FromQString(isPlain ? m_Combo->placeholderText() : m_Combo->currentText());
 }
 
 void QtComboBox::SetDisplayText(const Text& text) {
-  RequireAlive();
   const QString wanted = ToQString(text);
-  if (wanted == m_Combo->currentText()) return;
+  if (wanted == Live(m_Combo)->currentText()) return;
   if (!m_Combo->isEditable()) {
     const int index = m_Combo->findText(wanted, Qt::MatchFixedString);
     // A box that is only drawn shows any text, as authors are used to.
@@ -58,57 +53,28 @@ void QtComboBox::SetDisplayText(const Text& text) {
   }
   const Ref<Widget> keepAlive(&Self());
   SetChosen(-1);
-  RequireAlive();
-  m_Combo->lineEdit()->setText(wanted);
+  Live(m_Combo)->lineEdit()->setText(wanted);
   m_Combo->lineEdit()->setCursorPosition(0);
   NotifyChange();
 }
 
-bool QtComboBox::IsLocked() const {
-  RequireAlive();
-  return m_IsLocked;
+void QtComboBox::ApplyLocked() {
+  if (QLineEdit* edit = m_Combo->lineEdit()) edit->setReadOnly(m_IsLocked);
 }
 
-void QtComboBox::SetLocked(bool locked) {
-  RequireAlive();
-  m_IsLocked = locked;
-  if (QLineEdit* edit = m_Combo->lineEdit()) edit->setReadOnly(locked);
-}
-
-int QtComboBox::MaxLength() const {
-  RequireAlive();
-  return m_MaxLength;
-}
-
-void QtComboBox::SetMaxLength(int length) {
-  RequireAlive();
-  if (length < 0) Raise(ErrorNumber::InvalidPropertyValue);
-  m_MaxLength = length;
+void QtComboBox::ApplyMaxLength(int length) {
   if (QLineEdit* edit = m_Combo->lineEdit()) SetLimit(*edit, length);
 }
 
 QLineEdit& QtComboBox::Editor() const {
-  RequireAlive();
-  if (!m_Combo->isEditable()) Raise(ErrorNumber::InvalidCall);
+  if (!IsEditable()) Raise(ErrorNumber::InvalidCall);
   return *m_Combo->lineEdit();
 }
 
-int QtComboBox::SelStart() const { return SelectionStart(Editor()); }
-void QtComboBox::SetSelStart(int start) { SetSelectionStart(Editor(), start); }
-int QtComboBox::SelLength() const { return static_cast<int>(Editor().selectedText().size()); }
-void QtComboBox::SetSelLength(int length) { SetSelectionLength(Editor(), length); }
-Text QtComboBox::SelText() const { return FromQString(Editor().selectedText()); }
-
-void QtComboBox::SetSelText(const Text& text) { Editor().insert(ToQString(text)); }
-
-bool QtComboBox::IsEditable() const {
-  RequireAlive();
-  return m_Combo->isEditable();
-}
+bool QtComboBox::IsEditable() const { return Live(m_Combo)->isEditable(); }
 
 void QtComboBox::SetEditable(bool editable) {
-  RequireAlive();
-  if (editable == m_Combo->isEditable()) return;
+  if (editable == IsEditable()) return;
   const QString plain = m_Combo->placeholderText();
   m_Combo->setEditable(editable);
   if (editable) SetUpEditor();
@@ -126,8 +92,7 @@ void QtComboBox::SetUpEditor() {
   WatchPart(edit);
   // By hand or by SelText; a text that is set as a whole does not count as edited.
   QObject::connect(&edit, &QLineEdit::textEdited, this, [this] {
-    const Ref<Widget> keepAlive(&Self());
-    const SurfaceState::Handling handling(*m_Place.state);
+    const HandlerScope scope(*this);
     SetChosen(-1);
     if (Native()) NotifyChange();
   });
@@ -137,10 +102,7 @@ void QtComboBox::RequireIndex(int index) const {
   if (index < 0 || index >= ListCount()) Raise(ErrorNumber::InvalidCall);
 }
 
-int QtComboBox::ListCount() const {
-  RequireAlive();
-  return m_Combo->count();
-}
+int QtComboBox::ListCount() const { return Live(m_Combo)->count(); }
 
 Text QtComboBox::ListText(int index) const {
   RequireIndex(index);
@@ -153,10 +115,7 @@ std::int32_t QtComboBox::ItemData(int index) const {
   return 0;
 }
 
-int QtComboBox::ListIndex() const {
-  RequireAlive();
-  return m_ListIndex;
-}
+int QtComboBox::ListIndex() const { return Live(m_ListIndex); }
 
 void QtComboBox::SetListIndex(int index) {
   if (index < -1 || index >= ListCount()) Raise(ErrorNumber::InvalidPropertyValue);
@@ -198,8 +157,7 @@ void QtComboBox::RemoveItem(int index) {
 }
 
 void QtComboBox::Clear() {
-  RequireAlive();
-  m_Combo->clear();
+  Live(m_Combo)->clear();
   m_Combo->setPlaceholderText({});
   Select(-1);
 }

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "cardwright/qt/widgets/ChoiceNotice.h"
-#include "cardwright/qt/widgets/QtWidget.h"
+#include "cardwright/qt/widgets/QtTextEntry.h"
 
 class QComboBox;
 class QLineEdit;
@@ -11,22 +11,11 @@ namespace cardwright::qt {
 /// A drop-down list. Its height follows the font, whatever is asked for. A text that is typed is no
 /// selection, even where it equals an entry. While the list is not editable its text can only be set to an
 /// entry's (error 383 otherwise) and has no caret (error 5).
-class QtComboBox final : public QtWidget<ComboWidget> {
+class QtComboBox final : public QtLineEntry<ComboWidget> {
  public:
   explicit QtComboBox(WidgetPlace place);
   Text DisplayText() const override;
   void SetDisplayText(const Text& text) override;
-  bool IsLocked() const override;
-  /// While it is locked, mouse and keys do nothing but give it the focus.
-  void SetLocked(bool locked) override;
-  int MaxLength() const override;
-  void SetMaxLength(int length) override;
-  int SelStart() const override;
-  void SetSelStart(int start) override;
-  int SelLength() const override;
-  void SetSelLength(int length) override;
-  Text SelText() const override;
-  void SetSelText(const Text& text) override;
 
   bool IsEditable() const override;
   void SetEditable(bool editable) override;
@@ -43,12 +32,15 @@ class QtComboBox final : public QtWidget<ComboWidget> {
   const ChoiceNotice& Choice() const noexcept { return m_Choice; }
 
  private:
+  void ApplyLocked() override;
+  void ApplyMaxLength(int length) override;
+  QLineEdit& Editor() const override;
   float HeightFor(float height) const override;
   void OnFontApplied() override;
+  /// While it is locked, mouse and keys do nothing but give it the focus.
   bool IsBlocked() const override { return m_IsLocked; }
   bool TakesWheel() const override;
 
-  QLineEdit& Editor() const;
   void SetUpEditor();
   void OnActivated(int index);
   void SetChosen(int index);
@@ -60,8 +52,6 @@ class QtComboBox final : public QtWidget<ComboWidget> {
   QComboBox* m_Combo;
   ChoiceNotice m_Choice;
   int m_ListIndex = -1;  // the toolkit's own index stays at the last entry while another text is typed
-  int m_MaxLength = 0;
-  bool m_IsLocked = false;
 };
 
 }  // namespace cardwright::qt

@@ -1,7 +1,7 @@
 #include "cardwright/qt/widgets/QtDbTableViewer.h"
 
 #include "cardwright/qt/values/QtText.h"
-#include "cardwright/qt/widgets/FieldKind.h"
+#include "cardwright/qt/widgets/WidgetKind.h"
 
 namespace cardwright::qt {
 
@@ -22,14 +22,8 @@ QtDbTableViewer::QtDbTableViewer(WidgetPlace place)
   Adopt(*m_Sheet);
 }
 
-Text QtDbTableViewer::DisplayText() const {
-  RequireAlive();
-  return FromQString(m_Sheet->text());
-}
+Text QtDbTableViewer::DisplayText() const { return FromQString(Live(m_Sheet)->text()); }
 
-void QtDbTableViewer::SetDisplayText(const Text& text) {
-  RequireAlive();
-  m_Sheet->setText(ToQString(text));
-}
+void QtDbTableViewer::SetDisplayText(const Text& text) { Live(m_Sheet)->setText(ToQString(text)); }
 
 }  // namespace cardwright::qt

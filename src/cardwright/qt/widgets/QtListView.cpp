@@ -7,8 +7,8 @@
 #include <functional>
 
 #include "cardwright/qt/values/QtText.h"
-#include "cardwright/qt/widgets/FieldKind.h"
 #include "cardwright/qt/widgets/FocusFramed.h"
+#include "cardwright/qt/widgets/WidgetKind.h"
 
 namespace cardwright::qt {
 
@@ -92,10 +92,7 @@ void QtListView::SetDisplayText(const Text& /*text*/) {
   Raise(ErrorNumber::NotSupported);
 }
 
-bool QtListView::HasCheckBoxes() const {
-  RequireAlive();
-  return m_HasCheckBoxes;
-}
+bool QtListView::HasCheckBoxes() const { return Live(m_HasCheckBoxes); }
 
 void QtListView::SetCheckBoxes(bool shown) {
   RequireAlive();
@@ -123,10 +120,7 @@ void QtListView::OnItemChanged(QTreeWidgetItem& item) {
   Notify([row](WidgetListener& listener) { listener.OnItemCheck(row); });
 }
 
-int QtListView::RowCount() const {
-  RequireAlive();
-  return m_Tree->topLevelItemCount();
-}
+int QtListView::RowCount() const { return Live(m_Tree)->topLevelItemCount(); }
 
 QTreeWidgetItem& QtListView::Row(int row) const {
   if (row < 1 || row > RowCount()) Raise(ErrorNumber::SubscriptOutOfRange);
@@ -164,13 +158,10 @@ void QtListView::RemoveRow(int row) {
   const bool wasSelected = SelectedRow() == row;
   delete &Row(row);
   // The toolkit would pass the selection on to a neighbour.
-  if (wasSelected) SelectRow(0);
+  if (wasSelected) SetSelectedRow(0);
 }
 
-void QtListView::Clear() {
-  RequireAlive();
-  m_Tree->clear();
-}
+void QtListView::Clear() { Live(m_Tree)->clear(); }
 
 int QtListView::SelectedRow() const {
   RequireAlive();
@@ -178,7 +169,7 @@ int QtListView::SelectedRow() const {
   return selected.isEmpty() ? 0 : m_Tree->indexOfTopLevelItem(selected.front()) + 1;
 }
 
-void QtListView::SelectRow(int row) {
+void QtListView::SetSelectedRow(int row) {
   RequireAlive();
   if (row == 0) {
     m_Tree->setCurrentItem(nullptr);

@@ -28,7 +28,7 @@ class QtListView final : public QtWidget<ListViewWidget> {
   void Clear() override;
   int SelectedRow() const override;
   /// 0 takes the selection away.
-  void SelectRow(int row) override;
+  void SetSelectedRow(int row) override;
   float ColumnWidth() const override;
   void SetColumnWidth(float width) override;
 

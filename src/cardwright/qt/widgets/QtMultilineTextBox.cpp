@@ -10,8 +10,8 @@
 
 #include "cardwright/qt/values/Keys.h"
 #include "cardwright/qt/values/QtText.h"
-#include "cardwright/qt/widgets/FieldKind.h"
 #include "cardwright/qt/widgets/FocusFramed.h"
+#include "cardwright/qt/widgets/WidgetKind.h"
 
 namespace cardwright::qt {
 
@@ -119,7 +119,7 @@ class QtMultilineTextBox::Edit final : public FocusFramed<QPlainTextEdit> {
 };
 
 QtMultilineTextBox::QtMultilineTextBox(WidgetPlace place)
-    : QtWidget(kMultilineTextBox, place), m_Edit(new Edit(place.parent)) {
+    : QtTextEntry(kMultilineTextBox, place), m_Edit(new Edit(place.parent)) {
   m_Edit->setTabChangesFocus(true);
   Adopt(*m_Edit);
   WatchPart(*m_Edit->viewport());
@@ -135,8 +135,7 @@ void QtMultilineTextBox::OnTextChanged() {
 }
 
 Text QtMultilineTextBox::DisplayText() const {
-  RequireAlive();
-  return FromQString(FromDocument(m_Edit->document()->toRawText()));
+  return FromQString(FromDocument(Live(m_Edit)->document()->toRawText()));
 }
 
 void QtMultilineTextBox::SetDisplayText(const Text& text) {
@@ -149,30 +148,12 @@ void QtMultilineTextBox::SetDisplayText(const Text& text) {
   OnTextChanged();
 }
 
-bool QtMultilineTextBox::IsLocked() const {
-  RequireAlive();
-  return m_Edit->isReadOnly();
-}
+void QtMultilineTextBox::ApplyLocked() { m_Edit->setReadOnly(m_IsLocked); }
 
-void QtMultilineTextBox::SetLocked(bool locked) {
-  RequireAlive();
-  m_Edit->setReadOnly(locked);
-}
-
-int QtMultilineTextBox::MaxLength() const {
-  RequireAlive();
-  return m_Edit->limit;
-}
-
-void QtMultilineTextBox::SetMaxLength(int length) {
-  RequireAlive();
-  if (length < 0) Raise(ErrorNumber::InvalidPropertyValue);
-  m_Edit->limit = length;
-}
+void QtMultilineTextBox::ApplyMaxLength(int length) { m_Edit->limit = length; }
 
 int QtMultilineTextBox::SelStart() const {
-  RequireAlive();
-  return ToOuter(*m_Edit->document(), m_Edit->textCursor().selectionStart());
+  return ToOuter(*Live(m_Edit)->document(), m_Edit->textCursor().selectionStart());
 }
 
 void QtMultilineTextBox::SetSelStart(int start) {
@@ -184,8 +165,7 @@ void QtMultilineTextBox::SetSelStart(int start) {
 }
 
 int QtMultilineTextBox::SelLength() const {
-  RequireAlive();
-  return ToOuter(*m_Edit->document(), m_Edit->textCursor().selectionEnd()) - SelStart();
+  return ToOuter(*Live(m_Edit)->document(), m_Edit->textCursor().selectionEnd()) - SelStart();
 }
 
 void QtMultilineTextBox::SetSelLength(int length) {
@@ -203,13 +183,11 @@ void QtMultilineTextBox::SetSelLength(int length) {
 }
 
 Text QtMultilineTextBox::SelText() const {
-  RequireAlive();
-  return FromQString(FromDocument(m_Edit->textCursor().selectedText()));
+  return FromQString(FromDocument(Live(m_Edit)->textCursor().selectedText()));
 }
 
 void QtMultilineTextBox::SetSelText(const Text& text) {
-  RequireAlive();
-  m_Edit->textCursor().insertText(m_Edit->Fitting(ToDocument(ToQString(text))));
+  Live(m_Edit)->textCursor().insertText(m_Edit->Fitting(ToDocument(ToQString(text))));
 }
 
 }  // namespace cardwright::qt

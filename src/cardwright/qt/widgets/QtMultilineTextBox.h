@@ -1,20 +1,16 @@
 #pragma once
 
-#include "cardwright/qt/widgets/QtWidget.h"
+#include "cardwright/qt/widgets/QtTextEntry.h"
 
 namespace cardwright::qt {
 
 /// The companion library's text box of several lines. To its users a line ends with CR LF, which counts as
 /// two characters; LF and CR alone are accepted too. Tab leaves the box, Enter starts a line.
-class QtMultilineTextBox final : public QtWidget<TextWidget> {
+class QtMultilineTextBox final : public QtTextEntry<TextWidget> {
  public:
   explicit QtMultilineTextBox(WidgetPlace place);
   Text DisplayText() const override;
   void SetDisplayText(const Text& text) override;
-  bool IsLocked() const override;
-  void SetLocked(bool locked) override;
-  int MaxLength() const override;
-  void SetMaxLength(int length) override;
   int SelStart() const override;
   void SetSelStart(int start) override;
   int SelLength() const override;
@@ -24,6 +20,8 @@ class QtMultilineTextBox final : public QtWidget<TextWidget> {
 
  private:
   class Edit;
+  void ApplyLocked() override;
+  void ApplyMaxLength(int length) override;
   bool TakesEnter() const override { return true; }
   void OnTextChanged();
 

@@ -12,14 +12,7 @@ namespace cardwright::qt {
 
 namespace {
 
-constexpr WidgetKind kPictureBox = {.typeName = u"PictureBox",
-                                    .backColor = ToOleColor(SystemColor::ButtonFace),
-                                    .foreColor = ToOleColor(SystemColor::ButtonText),
-                                    .backRole = QPalette::Window,
-                                    .foreRole = QPalette::WindowText,
-                                    .isSeeThrough = true,
-                                    .mouse = MouseUse::None,
-                                    .click = ClickSource::MouseRelease};
+constexpr WidgetKind kPictureBox = MakeFaceKind(u"PictureBox", MouseUse::None, ClickSource::MouseRelease);
 
 }  // namespace
 
@@ -58,13 +51,11 @@ void QtPictureBox::SetBackColor(OleColor color) {
 }
 
 float QtPictureBox::ScaleWidth() const {
-  RequireAlive();
-  return PixelsToScale(static_cast<float>(m_Box->width()), m_Scale);
+  return PixelsToScale(static_cast<float>(Live(m_Box)->width()), m_Scale);
 }
 
 float QtPictureBox::ScaleHeight() const {
-  RequireAlive();
-  return PixelsToScale(static_cast<float>(m_Box->height()), m_Scale);
+  return PixelsToScale(static_cast<float>(Live(m_Box)->height()), m_Scale);
 }
 
 void QtPictureBox::SetDrawWidth(int pixels) {
@@ -73,8 +64,7 @@ void QtPictureBox::SetDrawWidth(int pixels) {
 }
 
 void QtPictureBox::Cls() {
-  RequireAlive();
-  m_Drawing = QPixmap();
+  Live(m_Drawing) = QPixmap();
   m_Box->update();
 }
 

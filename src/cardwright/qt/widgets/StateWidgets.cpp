@@ -10,18 +10,8 @@ namespace cardwright::qt {
 
 namespace {
 
-constexpr WidgetKind MakeKind(std::u16string_view typeName) {
-  return {.typeName = typeName,
-          .backColor = ToOleColor(SystemColor::ButtonFace),
-          .foreColor = ToOleColor(SystemColor::ButtonText),
-          .backRole = QPalette::Window,
-          .foreRole = QPalette::WindowText,
-          .isSeeThrough = true,
-          .mouse = MouseUse::LeftButton,
-          .click = ClickSource::Widget};
-}
-constexpr WidgetKind kCheckBox = MakeKind(u"CheckBox");
-constexpr WidgetKind kOptionButton = MakeKind(u"OptionButton");
+constexpr WidgetKind kCheckBox = MakeFaceKind(u"CheckBox", MouseUse::LeftButton, ClickSource::Widget);
+constexpr WidgetKind kOptionButton = MakeFaceKind(u"OptionButton", MouseUse::LeftButton, ClickSource::Widget);
 
 /// A button that a click on any point of it presses, as on the platform; the toolkit takes those on mark and
 /// caption only.
@@ -51,19 +41,12 @@ QtCheckBox::QtCheckBox(WidgetPlace place) : QtWidget(kCheckBox, place), m_Box(ne
   QObject::connect(m_Box, &QCheckBox::clicked, this, [this] { NotifyClick(); });
 }
 
-Text QtCheckBox::DisplayText() const {
-  RequireAlive();
-  return FromQString(m_Box->text());
-}
+Text QtCheckBox::DisplayText() const { return FromQString(Live(m_Box)->text()); }
 
-void QtCheckBox::SetDisplayText(const Text& text) {
-  RequireAlive();
-  m_Box->setText(ToQString(text));
-}
+void QtCheckBox::SetDisplayText(const Text& text) { Live(m_Box)->setText(ToQString(text)); }
 
 int QtCheckBox::State() const {
-  RequireAlive();
-  switch (m_Box->checkState()) {
+  switch (Live(m_Box)->checkState()) {
     case Qt::Unchecked: return 0;
     case Qt::Checked: return 1;
     case Qt::PartiallyChecked: break;
@@ -88,20 +71,11 @@ QtOptionButton::QtOptionButton(WidgetPlace place)
   QObject::connect(m_Button, &QRadioButton::clicked, this, [this] { NotifyClick(); });
 }
 
-Text QtOptionButton::DisplayText() const {
-  RequireAlive();
-  return FromQString(m_Button->text());
-}
+Text QtOptionButton::DisplayText() const { return FromQString(Live(m_Button)->text()); }
 
-void QtOptionButton::SetDisplayText(const Text& text) {
-  RequireAlive();
-  m_Button->setText(ToQString(text));
-}
+void QtOptionButton::SetDisplayText(const Text& text) { Live(m_Button)->setText(ToQString(text)); }
 
-int QtOptionButton::State() const {
-  RequireAlive();
-  return m_Button->isChecked() ? 1 : 0;
-}
+int QtOptionButton::State() const { return Live(m_Button)->isChecked() ? 1 : 0; }
 
 void QtOptionButton::SetState(int state) {
   const bool selected = state != 0;

@@ -39,17 +39,16 @@ void SurfaceState::Delete(QWidget* widget) {
   m_Removed.emplace_back(widget);
 }
 
-void SurfaceState::SettleSoon(Ref<Widget> widget) {
-  if (m_Unsettled.empty())
+void SurfaceState::FlushLater(Ref<Widget> widget) {
+  if (m_ToFlush.empty())
     QMetaObject::invokeMethod(
-        QCoreApplication::instance(), [self = Ref<SurfaceState>(this)] { self->SettleAll(); },
+        QCoreApplication::instance(), [self = Ref<SurfaceState>(this)] { self->FlushAll(); },
         Qt::QueuedConnection);
-  m_Unsettled.push_back(std::move(widget));
+  m_ToFlush.push_back(std::move(widget));
 }
 
-void SurfaceState::SettleAll() {
-  for (const Ref<Widget>& widget : std::exchange(m_Unsettled, {}))
-    dynamic_cast<WidgetCore&>(*widget).Settle();
+void SurfaceState::FlushAll() {
+  for (const Ref<Widget>& widget : std::exchange(m_ToFlush, {})) dynamic_cast<WidgetCore&>(*widget).Flush();
 }
 
 }  // namespace cardwright::qt

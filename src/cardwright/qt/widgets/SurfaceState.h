@@ -55,17 +55,17 @@ class SurfaceState final : public RefCounted {
   void Delete(QWidget* widget);
 
   /// Has the widget settle with the next turn of the event loop.
-  void SettleSoon(Ref<Widget> widget);
+  void FlushLater(Ref<Widget> widget);
   /// Forgets who waits; for a surface that ends.
-  void SettleNone() { m_Unsettled.clear(); }
+  void CancelFlushes() { m_ToFlush.clear(); }
 
  private:
-  void SettleAll();
+  void FlushAll();
 
   int m_Depth = 0;
   std::vector<QPointer<QWidget>> m_Removed;
   std::unordered_map<QWidget*, QPointer<QButtonGroup>> m_Options;
-  std::vector<Ref<Widget>> m_Unsettled;
+  std::vector<Ref<Widget>> m_ToFlush;
 };
 
 }  // namespace cardwright::qt

@@ -6,6 +6,8 @@
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QPalette>
+#include <QWidget>
 #include <algorithm>
 #include <cmath>
 
@@ -69,13 +71,22 @@ void WidgetCore::Adopt(QWidget& widget) {
   widget.hide();  // said aloud, or it would appear with its parent
   widget.setMouseTracking(true);
   if (widget.focusPolicy() == Qt::WheelFocus) widget.setFocusPolicy(Qt::StrongFocus);
-  if (m_Kind.isSeeThrough) widget.setBackgroundRole(m_Kind.backRole);  // buttons would fill with their face
+  if (m_Kind.isTransparent) widget.setBackgroundRole(m_Kind.backRole);  // buttons would fill with their face
   ApplyColors();
   ApplyFont();
   m_State.height = HeightFor(m_State.height);
   ApplyGeometry();
   if (m_Place.state->isDesigned) widget.unsetCursor();
   widget.installEventFilter(this);
+}
+
+QWidget* WidgetCore::Native() const noexcept { return m_Widget; }
+
+void WidgetCore::WatchPart(QWidget& part) {
+  part.setMouseTracking(true);
+  if (m_Place.state->isDesigned) part.unsetCursor();
+  part.installEventFilter(this);
+  m_HasParts = true;
 }
 
 WidgetCore* WidgetCore::Of(QWidget& widget) {
@@ -98,10 +109,7 @@ void WidgetCore::RequireAlive() const {
   if (!m_Widget || !m_Place.state->surface) Raise(ErrorNumber::ObjectNotSet);
 }
 
-ScaleMode WidgetCore::Scale() const {
-  RequireAlive();
-  return m_Place.state->surface->Scale();
-}
+ScaleMode WidgetCore::Scale() const { return Live(m_Place).state->surface->Scale(); }
 
 void WidgetCore::ConvertGeometry(ScaleMode from, ScaleMode to) {
   for (float* value : {&m_State.left, &m_State.top, &m_State.width, &m_State.height}) {
@@ -109,7 +117,7 @@ void WidgetCore::ConvertGeometry(ScaleMode from, ScaleMode to) {
   }
 }
 
-void WidgetCore::StandIn(Ref<Widget> container, QWidget& parent) {
+void WidgetCore::Reparent(Ref<Widget> container, QWidget& parent) {
   RequireAlive();
   m_Place.container = std::move(container);
   m_Place.parent = &parent;
@@ -120,7 +128,7 @@ void WidgetCore::StandIn(Ref<Widget> container, QWidget& parent) {
   m_Widget->raise();
 }
 
-void WidgetCore::Place(float left, float top, float width, float height) {
+void WidgetCore::Move(float left, float top, float width, float height) {
   RequireAlive();
   for (const float value : {left, top, width, height}) {
     if (!std::isfinite(value)) Raise(ErrorNumber::InvalidPropertyValue);
@@ -139,15 +147,13 @@ void WidgetCore::ApplyGeometry() {
                         ToPixels(m_State.width, mode), ToPixels(m_State.height, mode));
 }
 
-void WidgetCore::SetBack(OleColor color) {
-  RequireAlive();
-  m_State.backColor = color;
+void WidgetCore::SetBackColor(OleColor color) {
+  Live(m_State).backColor = color;
   ApplyColors();
 }
 
-void WidgetCore::SetFore(OleColor color) {
-  RequireAlive();
-  m_State.foreColor = color;
+void WidgetCore::SetForeColor(OleColor color) {
+  Live(m_State).foreColor = color;
   ApplyColors();
 }
 
@@ -160,7 +166,7 @@ void WidgetCore::CollectColors(QPalette& own, const QPalette& inherited) const {
   if (differs(m_Kind.backRole, back)) own.setColor(m_Kind.backRole, back);
   const QColor fore = ToQColor(m_State.foreColor, desktop);
   if (differs(m_Kind.foreRole, fore)) {
-    // Not for the disabled group: a widget that is switched off stays grey.
+    // Not for the disabled group: a disabled widget stays grey.
     own.setColor(QPalette::Active, m_Kind.foreRole, fore);
     own.setColor(QPalette::Inactive, m_Kind.foreRole, fore);
   }
@@ -176,7 +182,7 @@ void WidgetCore::ApplyColors() {
   const bool hasOwn = own.resolveMask() != 0;
   if (hasOwn || m_HasOwnColors) {
     m_Widget->setPalette(own);
-    if (m_Kind.isSeeThrough) {
+    if (m_Kind.isTransparent) {
       m_Widget->setAutoFillBackground(own.isBrushSet(QPalette::Active, m_Kind.backRole));
     }
   }
@@ -184,7 +190,7 @@ void WidgetCore::ApplyColors() {
   m_IsApplying = false;
 }
 
-void WidgetCore::ShareFont(Ref<Font> font) {
+void WidgetCore::SetFont(Ref<Font> font) {
   RequireAlive();
   if (!font) Raise(ErrorNumber::InvalidPropertyValue);
   font->AddUser(*this);
@@ -205,33 +211,33 @@ void WidgetCore::ApplyFont() {
   OnFontApplied();
 }
 
-void WidgetCore::SetShown(bool shown) {
-  RequireAlive();
-  m_State.isVisible = shown;
-  m_Widget->setVisible(shown);
+void WidgetCore::SetVisible(bool visible) {
+  Live(m_State).isVisible = visible;
+  m_Widget->setVisible(visible);
 }
 
-void WidgetCore::SetSwitchedOn(bool on) {
+bool WidgetCore::IsEnabled() const { return !Live(m_Widget)->testAttribute(Qt::WA_ForceDisabled); }
+
+void WidgetCore::SetEnabled(bool enabled) {
   RequireAlive();
-  // A handler of the mouse-down switches its widget off to open a menu in the place of the widget's own. The
-  // toolkit asks for that one when the handler is back and the widget is switched on again.
-  if (!on && m_IsInMouseDown) m_DropsMenu = true;
-  m_Widget->setEnabled(on);
+  // A handler of the mouse-down disables its widget to open a menu in place of the widget's own. The toolkit
+  // asks for that one when the handler has returned and the widget is enabled again.
+  if (!enabled && m_IsInMouseDown) m_DropsMenu = true;
+  m_Widget->setEnabled(enabled);
 }
 
-void WidgetCore::Restack(StackPosition position) {
+void WidgetCore::SetZOrder(StackPosition position) {
   RequireAlive();
   if (position == StackPosition::Front) m_Widget->raise();
   if (position == StackPosition::Back) m_Widget->lower();
 }
 
-Ref<Object> WidgetCore::Control() const {
-  RequireAlive();
-  return m_Place.state->control;
-}
+void WidgetCore::SetFocus() { Live(m_Widget)->setFocus(Qt::OtherFocusReason); }
+
+void WidgetCore::Refresh() { Live(m_Widget)->repaint(); }
 
 // As the menu key asks for it, but of this widget alone: what it leaves unused would go on to the surface.
-bool WidgetCore::OpenOwnMenu() {
+bool WidgetCore::OpenMenu() {
   RequireAlive();
   const QPoint at = m_Widget->inputMethodQuery(Qt::ImCursorRectangle).toRect().center();
   QContextMenuEvent event(QContextMenuEvent::Keyboard, at, m_Widget->mapToGlobal(at));
@@ -271,7 +277,7 @@ bool WidgetCore::eventFilter(QObject* target, QEvent* event) {
     case QEvent::KeyPress: return OnKey(widget, static_cast<QKeyEvent&>(*event));
     case QEvent::InputMethod: return OnInputMethod(widget, static_cast<QInputMethodEvent&>(*event));
     case QEvent::Show:
-    case QEvent::Paint: Settle(); return false;
+    case QEvent::Paint: Flush(); return false;
     case QEvent::FocusIn: return OnFocusIn(widget);
     case QEvent::FocusOut: OnFocusOut(static_cast<QFocusEvent*>(event)->reason()); return false;
     case QEvent::PaletteChange:

@@ -1,38 +1,20 @@
 #pragma once
 
 #include <QObject>
-#include <QPalette>
 #include <QPointer>
-#include <QWidget>
 
 #include "cardwright/platform/Font.h"
 #include "cardwright/platform/Scale.h"
 #include "cardwright/platform/Widget.h"
 #include "cardwright/qt/widgets/SurfaceState.h"
+#include "cardwright/qt/widgets/WidgetKind.h"
 
-class QKeyEvent;
 class QInputMethodEvent;
+class QKeyEvent;
 class QMouseEvent;
+class QWidget;
 
 namespace cardwright::qt {
-
-/// Mouse events that the toolkit's widget handles itself; the others end at the adapter, so that they do not
-/// go on to the surface under it.
-enum class MouseUse { None, LeftButton, All };
-/// What makes the listener's click.
-enum class ClickSource { MouseRelease, Widget };
-
-/// What is fixed for a kind of widget.
-struct WidgetKind {
-  std::u16string_view typeName;
-  OleColor backColor;
-  OleColor foreColor;
-  QPalette::ColorRole backRole;  ///< NoRole where the kind does not show the colour
-  QPalette::ColorRole foreRole;
-  bool isSeeThrough;  ///< shows what is under it unless its ground has a colour of its own
-  MouseUse mouse;
-  ClickSource click;
-};
 
 /// Where a new widget belongs.
 struct WidgetPlace {
@@ -50,7 +32,7 @@ class WidgetCore : public QObject, private Font::User {
   ~WidgetCore() override;
 
   /// The toolkit's widget; null once it is gone.
-  QWidget* Native() const noexcept { return m_Widget; }
+  QWidget* Native() const noexcept;
   /// The adapter of a toolkit widget or of a part that it watches, or null where it is none of this library's
   /// run-time widgets.
   static WidgetCore* Of(QWidget& widget);
@@ -64,7 +46,7 @@ class WidgetCore : public QObject, private Font::User {
   void ConvertGeometry(ScaleMode from, ScaleMode to);
   /// Moves the widget to another container, null for the surface itself, in front of what stands there. Its
   /// numbers stay.
-  void StandIn(Ref<Widget> container, QWidget& parent);
+  void Reparent(Ref<Widget> container, QWidget& parent);
 
  protected:
   WidgetCore(const WidgetKind& kind, WidgetPlace place);
@@ -72,25 +54,36 @@ class WidgetCore : public QObject, private Font::User {
   void Adopt(QWidget& widget);
   /// Watches a part of the widget that gets mouse events of its own. What the part leaves unused comes on to
   /// the widget and ends there.
-  void WatchPart(QWidget& part) {
-    part.setMouseTracking(true);
-    if (m_Place.state->isDesigned) part.unsetCursor();
-    part.installEventFilter(this);
-    m_HasParts = true;
-  }
+  void WatchPart(QWidget& part);
 
-  /// Error 91 where the toolkit's widget is gone.
+  /// A field of the adapter as an operation of its interface reaches it: error 91 where the toolkit's widget
+  /// is gone. No operation needs a check of its own.
+  template <class Field>
+  Field& Live(Field& field) const {
+    RequireAlive();
+    return field;
+  }
   void RequireAlive() const;
   ScaleMode Scale() const;
   const WidgetKind& Kind() const noexcept { return m_Kind; }
+
+  /// Where handlers may run, which may remove the widget: keeps the adapter, and the toolkit's widgets in
+  /// their places until the outermost scope ends.
+  class HandlerScope {
+   public:
+    explicit HandlerScope(WidgetCore& core) : m_Self(&core.Self()), m_Handling(*core.m_Place.state) {}
+
+   private:
+    Ref<Widget> m_Self;
+    SurfaceState::Handling m_Handling;
+  };
 
   /// Calls the listener, if there is one. A numbered error of a handler ends with the handler: it must not
   /// unwind the toolkit's event loop.
   template <class Call>
   void Notify(Call&& call) {
     if (!m_Listener) return;
-    const Ref<Widget> keepAlive(&Self());
-    const SurfaceState::Handling handling(*m_Place.state);
+    const HandlerScope scope(*this);
     Attempt([&] { call(*m_Listener); });
   }
   void NotifyClick() {
@@ -101,15 +94,17 @@ class WidgetCore : public QObject, private Font::User {
   }
 
   // The common operations of Widget.
-  void Place(float left, float top, float width, float height);
-  void SetBack(OleColor color);
-  void SetFore(OleColor color);
-  void ShareFont(Ref<Font> font);
-  void SetShown(bool shown);
-  void SetSwitchedOn(bool on);
-  void Restack(StackPosition position);
-  Ref<Object> Control() const;
-  bool OpenOwnMenu();
+  void Move(float left, float top, float width, float height);
+  void SetBackColor(OleColor color);
+  void SetForeColor(OleColor color);
+  void SetFont(Ref<Font> font);
+  void SetVisible(bool visible);
+  bool IsEnabled() const;
+  void SetEnabled(bool enabled);
+  void SetZOrder(StackPosition position);
+  void SetFocus();
+  void Refresh();
+  bool OpenMenu();
 
   /// @name What a kind does in its own way.
   /// @{
@@ -118,9 +113,9 @@ class WidgetCore : public QObject, private Font::User {
   /// Adds the colours that differ from what the widget would inherit.
   virtual void CollectColors(QPalette& own, const QPalette& inherited) const;
   virtual void OnFontApplied() {}
-  /// Hands on to the toolkit's widget what was put off with SettleSoon: before it is seen, and with the next
-  /// turn of the event loop.
-  virtual void Settle() {}
+  /// Passes on to the toolkit's widget what FlushLater has put off: before the widget is painted, and at the
+  /// latest with the next turn of the event loop.
+  virtual void Flush() {}
   /// True while the widget takes neither mouse nor keys from the user.
   virtual bool IsBlocked() const { return false; }
   virtual bool TakesWheel() const { return true; }
@@ -132,7 +127,7 @@ class WidgetCore : public QObject, private Font::User {
   void OnFontChanged(const Font& font) override;
   void ApplyGeometry();
   void ApplyColors();
-  void SettleSoon() { m_Place.state->SettleSoon(Ref<Widget>(&Self())); }
+  void FlushLater() { m_Place.state->FlushLater(Ref<Widget>(&Self())); }
 
   struct State {
     float left = 0, top = 0, width = 0, height = 0;
@@ -171,7 +166,7 @@ class WidgetCore : public QObject, private Font::User {
   bool m_IsReplaying = false;  // an event that the listener has seen is on its way to the widget
   bool m_IsPressed = false;    // the left button went down on this widget
   bool m_IsInMouseDown = false;
-  bool m_DropsMenu = false;  // switched off while its mouse-down was handled
+  bool m_DropsMenu = false;  // disabled while its mouse-down was handled
 };
 
 }  // namespace cardwright::qt
