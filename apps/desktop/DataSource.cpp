@@ -9,7 +9,7 @@ namespace cardwright::desktop {
 void DataSource::Open(const QString& source) {
   const Ref<EmbeddedHost> host = EmbeddedHost::Open(qt::FromQString(source));
   Close();
-  host->onRefusal = [this](const Text& reason) { m_Refusals += qt::ToQString(reason); };
+  host->onError = [this](const Text& reason) { m_Refusals += qt::ToQString(reason); };
   m_Log = MakeRef<LoggedConnection>(host);
   m_Handle = m_Library.Connect(m_Log);
   m_Name = source;

@@ -39,7 +39,7 @@ int RunOrv(std::span<const std::string> words) {
   if (!line.Has("data")) return line.Refuse("--data is missing");
   const Ref<EmbeddedHost> host = EmbeddedHost::Open(Text::FromUtf8(line.Value("data")));
   bool allDone = true;
-  host->onRefusal = [&](const Text& reason) {
+  host->onError = [&](const Text& reason) {
     app::PrintError("refused: " + reason.ToUtf8());
     allDone = false;
   };

@@ -91,7 +91,7 @@ int Run() {
   ProvideFormScripts({vbscript::Language(), jscript::Language()});
   qt::Library library;
   const Ref<EmbeddedHost> store = EmbeddedHost::Open(kData);
-  store->onRefusal = [](const Text& reason) { Say(QStringLiteral("REFUSED: ") + qt::ToQString(reason)); };
+  store->onError = [](const Text& reason) { Say(QStringLiteral("REFUSED: ") + qt::ToQString(reason)); };
   const auto log = MakeRef<LoggedConnection>(store);
   library.Connect(log);
   Say(QStringLiteral("Well %1 before:").arg(qt::ToQString(kFeature)));

@@ -6,7 +6,7 @@ namespace cardwright::orv_tests {
 
 class ExampleOfWells : public TestStore {
  protected:
-  /// A copy, so that the example stays as it is.
+  /// A copy, so that the example stays unchanged.
   std::string Copy() {
     const std::string path = m_Folder.File("wells.gpkg");
     std::filesystem::copy_file(CARDWRIGHT_SOURCE_DIR "/examples/wells/wells.gpkg", path);

@@ -34,7 +34,7 @@ TEST_F(NewTheme, HasTheRequestedFeatureType) {
   EXPECT_EQ(Request(*m_Host, "THEME_FEATURE_TYPES"), "POINT,POLYGON,ARC,ANY,,POINT,ARC,POLYGON,");
   EXPECT_EQ(Request(*m_Host, "THEME_NUMBER |SPRINGS|"), "1");
   EXPECT_EQ(Request(*m_Host, "THEME_ATTRIBUTE_NUMBER |springs| |POINT|"), "0");
-  EXPECT_TRUE(m_Told.empty());
+  EXPECT_TRUE(m_Errors.empty());
 }
 
 TEST_F(NewTheme, AcceptsFeaturesOfOtherPrograms) {
@@ -86,7 +86,7 @@ TEST_F(NewTheme, FailsForAnInvalidNameOrType) {
   }
   EXPECT_EQ(Request(*m_Host, "THEME_NAMES"), "wells,areas,pipes,mixed,notes");
   EXPECT_EQ(OpenRaw(m_Path)->GetLayerCount(), 5);
-  EXPECT_EQ(m_Told.size(), std::size(rows));
+  EXPECT_EQ(m_Errors.size(), std::size(rows));
 }
 
 TEST_F(NewTheme, FailsInAReadOnlyStore) {

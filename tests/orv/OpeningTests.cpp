@@ -44,8 +44,8 @@ TEST_F(EmbeddedHostOpen, OpensAReadOnlyStoreAndRejectsWrites) {
   EXPECT_EQ(Set(*host, "wells", "NAME", "|Nuova|"), "ERROR: The store is open for reading only.");
   EXPECT_EQ(Set(*host, "wells", "DEPTH", "1"), "ERROR: The store is open for reading only.");
   Finish(*host, "wells");
-  ASSERT_EQ(m_Told.size(), 1u);
-  EXPECT_EQ(m_Told[0],
+  ASSERT_EQ(m_Errors.size(), 1u);
+  EXPECT_EQ(m_Errors[0],
             "Nothing was stored in feature 3 of \"wells\".\r\nThe store is open for reading only.");
   EXPECT_EQ(Stored(path, "wells", 3, "NAME"), "Chiesa");
 }
@@ -55,7 +55,7 @@ TEST_F(EmbeddedHostOpen, AcceptsUnchangedValuesInAReadOnlyStore) {
   Select(*host, "wells", "3");
   EXPECT_EQ(Set(*host, "wells", "NAME", "|Chiesa|"), "");
   EXPECT_EQ(Finish(*host, "wells"), "");
-  EXPECT_TRUE(m_Told.empty());
+  EXPECT_TRUE(m_Errors.empty());
 }
 
 TEST_F(EmbeddedHostOpen, OpensFormatsThatCannotBeWrittenReadOnly) {

@@ -99,7 +99,7 @@ TEST_F(EmbeddedHostOverOtherFormats, KeepsTheTimeZoneInPlainSqlite) {
   Select(*host, "wells", "2");
   EXPECT_EQ(Get(*host, "wells", "SEEN"), "2026-02-28T10:20:30");
   EXPECT_EQ(Get(*host, "wells", "HOUR"), "23:59:00");
-  // The driver has written the names in small letters.
+  // The driver writes names in lower case.
   EXPECT_EQ(Set(*host, "wells", "HOUR", "|25:00|").rfind("ERROR: hour: ", 0), 0u);
   Finish(*host, "wells");
   EXPECT_EQ(Stored(path, "wells", 2, "NAME"), "Nuova");

@@ -141,7 +141,7 @@ void TestStore::RunSql(const std::string& path, const std::string& statement) {
 
 Ref<EmbeddedHost> TestStore::Open(const std::string& path, EmbeddedHost::Access access) {
   const Ref<EmbeddedHost> host = EmbeddedHost::Open(Text::FromUtf8(path), access);
-  host->onRefusal = [this](const Text& reason) { m_Told.push_back(reason.ToUtf8()); };
+  host->onError = [this](const Text& reason) { m_Errors.push_back(reason.ToUtf8()); };
   return host;
 }
 

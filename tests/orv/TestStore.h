@@ -11,7 +11,7 @@
 
 namespace cardwright::orv_tests {
 
-/// A folder that goes with the test. Its name has a blank and accents, as people's folders have.
+/// A folder for the time of a test. Its name has a blank and accents, as users' folders do.
 class TempFolder {
  public:
   TempFolder();
@@ -32,7 +32,7 @@ struct ColumnPlan {
   bool nullable = true;
 };
 
-/// Makes stores and looks into them, always by a handle of its own, as another program would.
+/// Makes and reads stores, always through a handle of its own, as another program would.
 class TestStore : public ::testing::Test {
  protected:
   TestStore();
@@ -50,7 +50,7 @@ class TestStore : public ::testing::Test {
   /// Runs a statement through a handle of its own.
   void RunSql(const std::string& path, const std::string& statement);
 
-  /// Opens the host and keeps what it tells.
+  /// Opens the host and records the errors that it reports.
   Ref<EmbeddedHost> Open(const std::string& path,
                          EmbeddedHost::Access access = EmbeddedHost::Access::ReadWrite);
   std::string Execute(EmbeddedHost& host, const std::string& command);
@@ -58,17 +58,17 @@ class TestStore : public ::testing::Test {
   /// Selects a feature of a theme and makes it the current one.
   void Select(EmbeddedHost& host, const std::string& theme, const std::string& id);
   std::string Get(EmbeddedHost& host, const std::string& theme, const std::string& name);
-  /// The reply of THEME_SET_ATTRIBUTE; `value` as it stands at the end of the command.
+  /// The reply of THEME_SET_ATTRIBUTE; `value` is the end of the command, with its bars.
   std::string Set(EmbeddedHost& host, const std::string& theme, const std::string& name,
                   const std::string& value);
-  /// Ends the collecting of values, as OK does.
+  /// Flushes the pending values, as OK does.
   std::string Finish(EmbeddedHost& host, const std::string& theme);
 
   TempFolder m_Folder;
-  std::vector<std::string> m_Told;
+  std::vector<std::string> m_Errors;
 };
 
-/// An open data set for looking or for disturbing; closed at the end of the scope.
+/// A second open handle of a data set, to inspect it or to hold a lock.
 GDALDatasetUniquePtr OpenRaw(const std::string& path, bool update = false);
 
 }  // namespace cardwright::orv_tests

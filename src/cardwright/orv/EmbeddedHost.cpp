@@ -1,50 +1,50 @@
 #include "cardwright/orv/EmbeddedHost.h"
 
-#include "cardwright/orv/Session.h"
+#include "cardwright/orv/StoreSession.h"
 
 namespace cardwright {
 
-EmbeddedHost::EmbeddedHost(std::unique_ptr<Session> session) : m_Session(std::move(session)) {}
+EmbeddedHost::EmbeddedHost(std::unique_ptr<orv::StoreSession> session) : m_Session(std::move(session)) {}
 
-EmbeddedHost::~EmbeddedHost() { Tell(m_Session->FinishEdits()); }
+EmbeddedHost::~EmbeddedHost() { ReportError(m_Session->FlushEdits()); }
 
 Ref<EmbeddedHost> EmbeddedHost::Open(const Text& source, Access access) {
-  return new EmbeddedHost(std::make_unique<Session>(source, access == Access::ReadOnly));
+  return new EmbeddedHost(std::make_unique<orv::StoreSession>(source, access == Access::ReadOnly));
 }
 
 Text EmbeddedHost::Execute(std::u16string_view command) {
-  const Ref<EmbeddedHost> self = Hold();
-  const Session::Outcome outcome = m_Session->Run(command);
-  Tell(outcome.isQuestion ? outcome.refusal : outcome.telling);
-  return outcome.refusal.IsEmpty() ? outcome.answer : u"ERROR: " + outcome.refusal;
+  const Ref<EmbeddedHost> self = KeepAlive();
+  const orv::CommandResult result = m_Session->Run(command);
+  ReportError(result.isQuery ? result.error : result.notice);
+  return result.error.IsEmpty() ? result.reply : u"ERROR: " + result.error;
 }
 
 Text EmbeddedHost::Request(std::u16string_view command) {
-  const Ref<EmbeddedHost> self = Hold();
-  const Session::Outcome outcome = m_Session->Run(command);
-  Tell(outcome.telling);
-  return outcome.refusal.IsEmpty() ? outcome.answer : Text();
+  const Ref<EmbeddedHost> self = KeepAlive();
+  const orv::CommandResult result = m_Session->Run(command);
+  ReportError(result.notice);
+  return result.error.IsEmpty() ? result.reply : Text();
 }
 
-Ref<EmbeddedHost> EmbeddedHost::Hold() { return IsHeld() ? this : nullptr; }
+Ref<EmbeddedHost> EmbeddedHost::KeepAlive() { return IsHeld() ? this : nullptr; }
 
-void EmbeddedHost::Tell(const Text& reason) const {
-  if (reason.IsEmpty() || !onRefusal) return;
-  const auto tell = onRefusal;  // may be replaced while it runs
-  tell(reason);
+void EmbeddedHost::ReportError(const Text& reason) const {
+  if (reason.IsEmpty() || !onError) return;
+  const auto handler = onError;  // may be replaced while it runs
+  handler(reason);
 }
 
 std::vector<std::int64_t> EmbeddedHost::FeatureIds(std::u16string_view theme) {
-  const Ref<EmbeddedHost> self = Hold();
-  Tell(m_Session->FinishEdits());
+  const Ref<EmbeddedHost> self = KeepAlive();
+  ReportError(m_Session->FlushEdits());
   return m_Session->FeatureIds(theme);
 }
 
 void EmbeddedHost::ReadFeatures(
     std::u16string_view theme, std::span<const Text> attributes,
     const std::function<void(std::int64_t id, std::vector<Text> values)>& onFeature) {
-  const Ref<EmbeddedHost> self = Hold();
-  Tell(m_Session->FinishEdits());
+  const Ref<EmbeddedHost> self = KeepAlive();
+  ReportError(m_Session->FlushEdits());
   m_Session->ReadFeatures(theme, attributes, onFeature);
 }
 

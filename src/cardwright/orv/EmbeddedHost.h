@@ -11,61 +11,63 @@
 
 namespace cardwright {
 
-/// A host that lives in this process: it answers the command language of forms over a feature store. Each
-/// layer of the store is a theme, each table without geometry a theme without a feature type. Belongs to the
-/// thread that opened it.
+namespace orv {
+class StoreSession;
+}
+
+/// A host in the same process: it carries out the command language of forms over a feature store. Each layer
+/// of the store is a theme; a table without geometry is a theme without a feature type. Belongs to the thread
+/// that opened it.
 ///
-/// The values that THEME_SET_ATTRIBUTE gives a feature are collected and go to the store together, in one
-/// transaction, or not at all. They go when the next command comes that is not another value for the same
-/// feature or a plain question: a selection, THEME_MOVEFIRST, THEME_SELECTION_NONE, APPLICATION_FLAGREDRAW,
-/// APPLICATION_REDRAW, and also when the host is released. Until then THEME_GET_ATTRIBUTE answers the
-/// collected value. One refused value refuses all that are collected with it.
+/// The values that THEME_SET_ATTRIBUTE gives a feature are collected and stored together, in one transaction
+/// or not at all. They are stored before the next command that is neither another value for the same feature
+/// nor a query: a selection, THEME_MOVEFIRST, THEME_SELECTION_NONE, THEME_CREATE, APPLICATION_FLAGREDRAW,
+/// APPLICATION_REDRAW; and when the host is released. Until then THEME_GET_ATTRIBUTE returns the collected
+/// value. One invalid value discards all of them.
 class EmbeddedHost final : public HostConnection {
  public:
   enum class Access { ReadOnly, ReadWrite };
 
-  /// Opens a store by the path or connection text that the data library takes. Asked for ReadWrite, a store
-  /// that can only be read is opened for reading. Error 53 with a description that names the source and the
-  /// reason where it cannot be opened at all.
+  /// Opens a store by a path or connection text of the data library. With ReadWrite a store that can only be
+  /// read is opened for reading. Error 53, with a description that names the source and the reason, where it
+  /// cannot be opened at all.
   static Ref<EmbeddedHost> Open(const Text& source, Access access = Access::ReadWrite);
 
-  /// The answer of a command, "" for most. A refused command replies "ERROR: " and the reason, which
-  /// `onRefusal` is told as well. So does the command at which collected values are refused; it is carried
-  /// out none the less.
+  /// Runs a command. Returns its reply, "" for most commands, or "ERROR: " and the reason where it failed,
+  /// which `onError` gets too. A command before which the collected values could not be stored returns that
+  /// error, but is carried out.
   Text Execute(std::u16string_view command) override;
-  /// The answer; "" where the request cannot be met. `onRefusal` is told of refused changes only.
+  /// Runs a command. Returns its reply, or "" where it failed. `onError` gets the errors of changes only.
   Text Request(std::u16string_view command) override;
 
-  /// Ids of all features of a theme in the store's order, for a program that shows them: the command language
-  /// has no such list. Empty where there is no such theme or it cannot be read.
+  /// The ids of all features of a theme in the store's order, for programs that show them: the command
+  /// language has no such list. Empty where there is no such theme or it cannot be read.
   std::vector<std::int64_t> FeatureIds(std::u16string_view theme);
-  /// Reads the features of a theme in the store's order, in one pass: a table of all of them would send three
-  /// commands and more for each. `onFeature` gets the id and what THEME_GET_ATTRIBUTE would answer for each
-  /// of `attributes`, "" where the theme has none of that name. Ends early, in silence, where reading fails.
+  /// Reads all features of a theme in the store's order, in one pass instead of several commands for each.
+  /// `onFeature` gets the id and the value of each of `attributes`, as THEME_GET_ATTRIBUTE returns it, or ""
+  /// where the theme has no such attribute. Ends early, without an error, where reading fails.
   void ReadFeatures(std::u16string_view theme, std::span<const Text> attributes,
                     const std::function<void(std::int64_t id, std::vector<Text> values)>& onFeature);
 
-  /// Why the latest command was refused, or "" if it was not.
+  /// Why the latest command failed, or "" if it did not.
   Text LastError() const;
-  /// Called with the reason after a command was refused, once for all values that were to be stored together.
-  /// May send commands itself.
-  std::function<void(const Text& reason)> onRefusal;
+  /// Called with the reason after a command failed, and once for all values that should have been stored
+  /// together. It may send commands and release the host.
+  std::function<void(const Text& reason)> onError;
 
   bool IsReadOnly() const noexcept;
-  /// The handle that HWND_CONTROL answers: the one under which the host is registered. 0 until set.
+  /// The handle that HWND_CONTROL returns, under which the host is registered. 0 until set.
   void SetHandle(std::int32_t handle) noexcept;
 
  private:
-  class Session;
-
-  explicit EmbeddedHost(std::unique_ptr<Session> session);
+  explicit EmbeddedHost(std::unique_ptr<orv::StoreSession> session);
   ~EmbeddedHost() override;
-  /// Keeps the host while a command runs, since whoever is told of a refusal may let go of it. One that is
-  /// being released is held by nobody and must not be released again.
-  Ref<EmbeddedHost> Hold();
-  void Tell(const Text& reason) const;
+  /// Keeps the host alive during a command, because `onError` may release it. Null in the destructor, where
+  /// nobody holds it any more.
+  Ref<EmbeddedHost> KeepAlive();
+  void ReportError(const Text& reason) const;
 
-  std::unique_ptr<Session> m_Session;
+  std::unique_ptr<orv::StoreSession> m_Session;
 };
 
 }  // namespace cardwright

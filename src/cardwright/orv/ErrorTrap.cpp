@@ -11,10 +11,10 @@ ErrorTrap::~ErrorTrap() {
   CPLErrorReset();
 }
 
-bool ErrorTrap::IsLock() const { return Core().find("database is locked") != std::string::npos; }
+bool ErrorTrap::IsLock() const { return Cause().find("database is locked") != std::string::npos; }
 
-std::string ErrorTrap::Core() const {
-  // The library puts the statement, with every value in it, before the reason, and cuts a long message short.
+std::string ErrorTrap::Cause() const {
+  // The library puts the whole statement before the reason, and truncates long messages.
   constexpr std::string_view kStatement = "In ExecuteSQL(): ", kEnd = "):\n";
   if (m_Message.compare(0, kStatement.size(), kStatement) != 0) return m_Message;
   const std::size_t end = m_Message.rfind(kEnd);
@@ -26,7 +26,7 @@ std::string ErrorTrap::Core() const {
 Text ErrorTrap::Reason() const {
   if (IsLock()) return u"Another program has locked the store.";
   constexpr std::size_t kLongest = 500;
-  Text text = Text::FromUtf8(Core().substr(0, kLongest));
+  Text text = Text::FromUtf8(Cause().substr(0, kLongest));
   if (text.IsEmpty()) return u"The data library gives no reason.";
   if (text[text.Size() - 1] != u'.') text += u".";
   return text;

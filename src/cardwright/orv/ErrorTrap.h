@@ -8,8 +8,7 @@
 
 namespace cardwright::orv {
 
-/// While it lives, what the data library reports on this thread is kept here instead of going to the error
-/// stream.
+/// While it exists, errors that the data library reports on this thread are caught here and not printed.
 class ErrorTrap {
  public:
   ErrorTrap();
@@ -18,14 +17,14 @@ class ErrorTrap {
   ErrorTrap& operator=(const ErrorTrap&) = delete;
 
   bool HasFailed() const noexcept { return m_Worst >= CE_Failure; }
-  /// True where the store is locked by another program.
+  /// Whether another program has locked the store.
   bool IsLock() const;
-  /// The first of the worst reports, shortened to what a person can use.
+  /// The first of the worst errors, shortened to what a user can act on.
   Text Reason() const;
 
  private:
-  /// What the message says beside the statement that failed.
-  std::string Core() const;
+  /// The message without the statement that failed.
+  std::string Cause() const;
   static void CPL_STDCALL Keep(CPLErr kind, CPLErrorNum number, const char* message);
 
   CPLErr m_Worst = CE_None;

@@ -14,7 +14,7 @@ namespace cardwright::orv {
 /// Error 53 that names the source and the reason.
 [[noreturn]] void RaiseNotOpened(const Text& source, const Text& reason);
 
-/// An open data set, and the SQL of those that speak SQLite's.
+/// An open data set, and SQL for the formats whose SQL is SQLite's.
 class Store {
  public:
   /// Error 53 where the source cannot be opened.
@@ -22,25 +22,25 @@ class Store {
 
   GDALDataset& Data() noexcept { return *m_Data; }
   bool IsReadOnly() const noexcept { return m_IsReadOnly; }
-  /// True where the native SQL is SQLite's, so that touched columns can be updated alone.
-  bool SpeaksSqlite() const noexcept { return m_SpeaksSqlite; }
+  /// Whether the native SQL is SQLite's, so that single columns can be updated.
+  bool HasSqliteSql() const noexcept { return m_HasSqliteSql; }
   bool IsGeoPackage() const noexcept { return m_IsGeoPackage; }
 
-  /// The feature of that id, found by its key; null where there is none, refused where the store is locked.
+  /// The feature of that id; null where there is none. Fails where the store is locked.
   OGRFeatureUniquePtr ReadFeature(OGRLayer& layer, std::int64_t id);
-  /// Runs a statement; refused with the library's reason.
-  void Run(const std::string& statement);
-  /// The first column of what a query finds, as whole numbers.
-  std::vector<std::int64_t> Numbers(const std::string& query);
+  /// Executes a statement. Fails with the library's message.
+  void Execute(const std::string& statement);
+  /// The first column of a query's result, as whole numbers.
+  std::vector<std::int64_t> QueryIntegers(const std::string& query);
 
  private:
   GDALDatasetUniquePtr m_Data;
   bool m_IsReadOnly;
   bool m_IsGeoPackage = false;
-  bool m_SpeaksSqlite = false;
+  bool m_HasSqliteSql = false;
 };
 
-/// A transaction in SQLite's SQL that takes the write lock at once; rolled back unless committed.
+/// A transaction in SQLite's SQL that takes the write lock at once. It is rolled back unless committed.
 class WriteTransaction {
  public:
   explicit WriteTransaction(Store& store);
@@ -54,11 +54,5 @@ class WriteTransaction {
   Store& m_Store;
   bool m_IsOpen = true;
 };
-
-/// A name as SQL quotes it.
-std::string SqlName(const std::string& name);
-/// The table of a layer, and the column that holds its features' ids.
-std::string SqlTable(OGRLayer& layer);
-std::string SqlKey(OGRLayer& layer);
 
 }  // namespace cardwright::orv

@@ -1,19 +1,19 @@
 #include "cardwright/orv/Theme.h"
 
-#include "cardwright/orv/Refusal.h"
+#include "cardwright/orv/CommandError.h"
 
 namespace cardwright::orv {
 
 namespace {
 
-struct Measure {
+struct FieldSize {
   int length = 0, decimals = 0;
 };
 
-/// Where the store states no width, the longest text of the type; a text or a real of any length is 0, which
-/// sets no limit. A real without stated decimals reports the digits that a real is good for: with none it
-/// would pass for a whole number and take no separator.
-Measure MeasureOf(const Column& column) {
+/// Where the store declares no width: the longest text of the type, or 0, which is no limit, for texts and
+/// reals. A real without declared decimals gets as many as a double holds, because forms take 0 decimals for
+/// a whole number and reject the separator.
+FieldSize FieldSizeOf(const Column& column) {
   constexpr int kRealDigits = 15;
   switch (column.type) {
     case OFTInteger:
@@ -35,7 +35,7 @@ bool IsNumeric(OGRFieldType type) noexcept {
 }
 
 Text RecordOf(const Text& name, const Column& column) {
-  const Measure measure = MeasureOf(column);
+  const FieldSize measure = FieldSizeOf(column);
   Text record = name;
   for (const int number : {IsNumeric(column.type) ? 1 : 0, measure.length, measure.decimals}) {
     record += u",";
@@ -55,8 +55,8 @@ Column ColumnOf(const OGRFieldDefn& field, bool isUtcOnly) {
   return column;
 }
 
-/// The word for a kind of geometry; "" for geometries of any kind.
-std::u16string_view TypeWord(OGRwkbGeometryType type) {
+/// The feature type of a kind of geometry; "" for mixed geometries.
+std::u16string_view FeatureTypeOf(OGRwkbGeometryType type) {
   switch (wkbFlatten(type)) {
     case wkbPoint:
     case wkbMultiPoint: return u"POINT";
@@ -80,7 +80,7 @@ std::u16string_view TypeWord(OGRwkbGeometryType type) {
 
 }  // namespace
 
-Text NoFeatureType(std::u16string_view word) {
+Text UnknownFeatureType(std::u16string_view word) {
   return Quoted(word) + u" is no feature type; there are POINT, ARC and POLYGON.";
 }
 
@@ -88,28 +88,28 @@ Theme::Theme(OGRLayer& layer, const Store& store) : m_Layer(layer), m_Name(Text:
   ReadAttributes(store.IsGeoPackage());
 }
 
-bool Theme::Answers(std::u16string_view featureType) const {
+bool Theme::HasFeatureType(std::u16string_view featureType) const {
   featureType = Trim(featureType);
   if (featureType.empty()) return true;
   if (!EqualsNoCase(featureType, u"POINT") && !EqualsNoCase(featureType, u"ARC") &&
       !EqualsNoCase(featureType, u"POLYGON"))
-    Refuse(NoFeatureType(featureType));
+    Fail(UnknownFeatureType(featureType));
   const OGRwkbGeometryType type = m_Layer.GetGeomType();
   if (type == wkbNone) return false;
-  const auto word = TypeWord(type);
+  const auto word = FeatureTypeOf(type);
   return word.empty() || EqualsNoCase(word, featureType);
 }
 
 std::u16string_view Theme::FeatureType() const {
   const OGRwkbGeometryType type = m_Layer.GetGeomType();
   if (type == wkbNone) return {};
-  const auto word = TypeWord(type);
+  const auto word = FeatureTypeOf(type);
   return word.empty() ? u"ANY" : word;
 }
 
-const Attribute* Theme::Find(std::u16string_view name) const {
-  const int position = m_Index.Find(name);
-  return position == NameIndex::kNone ? nullptr : &m_Attributes[static_cast<std::size_t>(position)];
+const Attribute* Theme::FindAttribute(std::u16string_view name) const {
+  const int position = m_AttributeNames.Find(name);
+  return position == NameLookup::kNone ? nullptr : &m_Attributes[static_cast<std::size_t>(position)];
 }
 
 void Theme::ReadAttributes(bool isUtcOnly) {
@@ -121,10 +121,10 @@ void Theme::ReadAttributes(bool isUtcOnly) {
     attribute.name = Text::FromUtf8(attribute.column);
     attribute.field = field;
     attribute.kind = ColumnOf(stored, isUtcOnly);
-    const bool isTellable = attribute.name.View().find_first_of(u",|") == std::u16string_view::npos;
-    if (!isTellable || attribute.kind.type == OFTBinary) continue;
+    const bool isExpressible = attribute.name.View().find_first_of(u",|") == std::u16string_view::npos;
+    if (!isExpressible || attribute.kind.type == OFTBinary) continue;
     attribute.record = RecordOf(attribute.name, attribute.kind);
-    m_Index.Add(attribute.name, static_cast<int>(m_Attributes.size()));
+    m_AttributeNames.Add(attribute.name, static_cast<int>(m_Attributes.size()));
     m_Attributes.push_back(std::move(attribute));
   }
 }

@@ -2,31 +2,31 @@
 
 namespace cardwright::orv_tests {
 
-class EmbeddedHostQuestions : public TestStore {
+class EmbeddedHostQueries : public TestStore {
  protected:
   std::string m_Path = MakeGeoPackage();
   Ref<EmbeddedHost> m_Host = Open(m_Path);
 };
 
-TEST_F(EmbeddedHostQuestions, ListAllThemes) {
+TEST_F(EmbeddedHostQueries, ListAllThemes) {
   EXPECT_EQ(Request(*m_Host, "THEME_NAMES"), "wells,areas,pipes,mixed,notes");
   EXPECT_EQ(Request(*m_Host, "THEME_ACTIVE"), "wells");
 }
 
-TEST_F(EmbeddedHostQuestions, FindThemesInAnyCase) {
+TEST_F(EmbeddedHostQueries, FindThemesInAnyCase) {
   EXPECT_EQ(Request(*m_Host, "THEME_NUMBER |wells|"), "1");
   EXPECT_EQ(Request(*m_Host, "THEME_NUMBER |WELLS|"), "1");
   EXPECT_EQ(Request(*m_Host, "THEME_NUMBER |well|"), "0");
   EXPECT_EQ(Request(*m_Host, "THEME_NUMBER ||"), "0");
 }
 
-TEST_F(EmbeddedHostQuestions, AcceptKeywordsInAnyCaseAndBlanksBetweenParts) {
+TEST_F(EmbeddedHostQueries, AcceptKeywordsInAnyCaseAndBlanksBetweenParts) {
   EXPECT_EQ(Request(*m_Host, "  theme_number|wells|  "), "1");
   EXPECT_EQ(Request(*m_Host, "Theme_Attribute   |wells|\t|point|   1 "), "NAME,0,20,0");
   EXPECT_EQ(Request(*m_Host, "THEME_ATTRIBUTE_NUMBER |wells||POINT|\r\n"), "12");
 }
 
-TEST_F(EmbeddedHostQuestions, MatchTheFeatureTypeOfTheTheme) {
+TEST_F(EmbeddedHostQueries, MatchTheFeatureTypeOfTheTheme) {
   struct Row {
     const char *theme, *type, *count;
   };
@@ -42,7 +42,7 @@ TEST_F(EmbeddedHostQuestions, MatchTheFeatureTypeOfTheTheme) {
         << row.theme << ' ' << row.type;
 }
 
-TEST_F(EmbeddedHostQuestions, DescribeEachAttributeInFourFields) {
+TEST_F(EmbeddedHostQueries, DescribeEachAttributeInFourFields) {
   const char* const records[] = {
       "NAME,0,20,0",  "DEPTH,1,0,15",  "LEVEL,1,0,15", "DIAMETER,1,11,0",
       "FLOORS,1,6,0", "SERIAL,1,20,0", "OPEN,1,1,0",   "INSPECTED,0,10,0",
@@ -55,19 +55,19 @@ TEST_F(EmbeddedHostQuestions, DescribeEachAttributeInFourFields) {
     EXPECT_EQ(Request(*m_Host, std::string("THEME_ATTRIBUTE |wells| |POINT| ") + beyond), "") << beyond;
 }
 
-TEST_F(EmbeddedHostQuestions, LeaveOutNamesThatTheCommandLanguageCannotExpress) {
+TEST_F(EmbeddedHostQueries, LeaveOutNamesThatTheCommandLanguageCannotExpress) {
   EXPECT_EQ(Request(*m_Host, "THEME_ATTRIBUTE_NAMES |wells| |POINT|"),
             "NAME,DEPTH,LEVEL,DIAMETER,FLOORS,SERIAL,OPEN,INSPECTED,SEEN,NOTES,CODE,say \"so\"");
   EXPECT_EQ(Request(*m_Host, "THEME_ATTRIBUTE_NAMES |wells| |ARC|"), "");
 }
 
-TEST_F(EmbeddedHostQuestions, ReturnTheHandleOfTheHost) {
+TEST_F(EmbeddedHostQueries, ReturnTheHandleOfTheHost) {
   EXPECT_EQ(Execute(*m_Host, "HWND_CONTROL"), "0");
   m_Host->SetHandle(-70000);
   EXPECT_EQ(Execute(*m_Host, "hwnd_control"), "-70000");
 }
 
-TEST_F(EmbeddedHostQuestions, ReturnEveryTypeOfValueAsText) {
+TEST_F(EmbeddedHostQueries, ReturnEveryTypeOfValueAsText) {
   struct Row {
     const char *name, *value;
   };
@@ -92,13 +92,13 @@ TEST_F(EmbeddedHostQuestions, ReturnEveryTypeOfValueAsText) {
   for (const Row& row : rows) EXPECT_EQ(Get(*m_Host, "wells", row.name), row.value) << row.name;
 }
 
-TEST_F(EmbeddedHostQuestions, ReturnAnEmptyTextForNull) {
+TEST_F(EmbeddedHostQueries, ReturnAnEmptyTextForNull) {
   Select(*m_Host, "wells", "2");
   for (const char* name : {"DEPTH", "DIAMETER", "INSPECTED", "SEEN", "NOTES"})
     EXPECT_EQ(Get(*m_Host, "wells", name), "") << name;
 }
 
-TEST_F(EmbeddedHostQuestions, FormatSinglePrecisionWithoutNoise) {
+TEST_F(EmbeddedHostQueries, FormatSinglePrecisionWithoutNoise) {
   RunSql(m_Path,
          "UPDATE wells SET LEVEL = 0.100000001490116119384765625, DEPTH = 0.30000000000000004 WHERE fid = 3");
   Select(*m_Host, "wells", "3");
@@ -106,16 +106,16 @@ TEST_F(EmbeddedHostQuestions, FormatSinglePrecisionWithoutNoise) {
   EXPECT_EQ(Get(*m_Host, "wells", "DEPTH"), "0.30000000000000004");
 }
 
-TEST_F(EmbeddedHostQuestions, DoNotCallTheErrorHandler) {
+TEST_F(EmbeddedHostQueries, DoNotCallTheErrorHandler) {
   EXPECT_EQ(Request(*m_Host, "THEME_SELECTED_NUMBER |nowhere| |POINT|"), "");
   EXPECT_EQ(m_Host->LastError(), u"There is no theme \"nowhere\".");
-  EXPECT_TRUE(m_Told.empty());
+  EXPECT_TRUE(m_Errors.empty());
   EXPECT_EQ(Request(*m_Host, "THEME_ACTIVE"), "wells");
   EXPECT_EQ(m_Host->LastError(), u"");
 }
 
-// A table of all features shows the same whether it asks for one or reads them all.
-TEST_F(EmbeddedHostQuestions, ReturnTheSameForAllFeaturesAtOnce) {
+// Reading all features at once gives the same values as queries for each.
+TEST_F(EmbeddedHostQueries, ReturnTheSameForAllFeaturesAtOnce) {
   const std::vector<Text> attributes = {u"NAME", u"DEPTH", u"none", u"SEEN", u"OPEN"};
   std::vector<std::int64_t> ids;
   m_Host->ReadFeatures(u"wells", attributes, [&](std::int64_t id, const std::vector<Text>& values) {
@@ -129,7 +129,7 @@ TEST_F(EmbeddedHostQuestions, ReturnTheSameForAllFeaturesAtOnce) {
   m_Host->ReadFeatures(u"nowhere", attributes, [](std::int64_t, const std::vector<Text>&) { FAIL(); });
 }
 
-TEST_F(EmbeddedHostQuestions, ReadUnregisteredViewsAndTables) {
+TEST_F(EmbeddedHostQueries, ReadUnregisteredViewsAndTables) {
   RunSql(m_Path, "CREATE VIEW deep AS SELECT fid AS OGC_FID, NAME FROM wells WHERE DEPTH > 50");
   RunSql(m_Path, "CREATE TABLE loose(word TEXT(4), amount REAL)");
   RunSql(m_Path, "INSERT INTO loose VALUES ('one', 1.5)");

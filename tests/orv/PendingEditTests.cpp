@@ -4,9 +4,9 @@
 
 namespace cardwright::orv_tests {
 
-class EmbeddedHostStoring : public TestStore {
+class EmbeddedHostEdits : public TestStore {
  protected:
-  /// A value given to feature 3 of wells and stored at once; what ended it answers.
+  /// Gives feature 3 of wells a value and flushes it. Returns the reply of the command that flushes.
   std::string Store(const std::string& name, const std::string& value) {
     Select(*m_Host, "wells", "3");
     Set(*m_Host, "wells", name, value);
@@ -21,7 +21,7 @@ struct Taken {
   const char *name, *value, *stored;
 };
 
-TEST_F(EmbeddedHostStoring, AcceptsValuesThatTheColumnHolds) {
+TEST_F(EmbeddedHostEdits, AcceptsValuesThatTheColumnHolds) {
   const Taken rows[] = {
       {"NAME", "|Nuovo pozzo|", "Nuovo pozzo"},
       {"NAME", "|12345678901234567890|", "12345678901234567890"},
@@ -65,17 +65,17 @@ TEST_F(EmbeddedHostStoring, AcceptsValuesThatTheColumnHolds) {
       {"say \"so\"", "|quoted|", "quoted"},
       {"CODE", "|ABCDE|", "ABCDE"},
       {"CODE", "||", ""},
-      {"CODE", "| |", ""},  // no value is not allowed, and it reads as one already
+      {"CODE", "| |", ""},  // Null is not allowed, but the present value reads as "" already
   };
   for (const Taken& row : rows) {
     EXPECT_EQ(Store(row.name, row.value), "") << row.name << ' ' << row.value;
     EXPECT_EQ(Stored(m_Path, "wells", 3, row.name), row.stored) << row.name << ' ' << row.value;
   }
   EXPECT_EQ(Geometry(m_Path, "wells", 3), "POINT (5 6)");
-  EXPECT_TRUE(m_Told.empty());
+  EXPECT_TRUE(m_Errors.empty());
 }
 
-TEST_F(EmbeddedHostStoring, RejectsValuesThatTheColumnCannotHoldExactly) {
+TEST_F(EmbeddedHostEdits, RejectsValuesThatTheColumnCannotHoldExactly) {
   const char* const rows[][3] = {
       {"NAME", "|1234567890123456789012345678901234567890|", "longer than the 20 characters"},
       {"NAME", "|😀😀😀😀😀😀😀😀😀😀😀😀😀😀😀😀😀😀😀😀x|", "longer than"},
@@ -125,14 +125,14 @@ TEST_F(EmbeddedHostStoring, RejectsValuesThatTheColumnCannotHoldExactly) {
     const std::string reply = Set(*m_Host, "wells", name, value);
     EXPECT_EQ(reply.rfind(std::string("ERROR: ") + name + ": ", 0), 0u) << reply;
     EXPECT_NE(reply.find(reason), std::string::npos) << name << ' ' << value << " -> " << reply;
-    m_Told.clear();
+    m_Errors.clear();
     EXPECT_NE(Finish(*m_Host, "wells"), "") << value;
-    EXPECT_EQ(m_Told.size(), 1u) << value;
+    EXPECT_EQ(m_Errors.size(), 1u) << value;
     EXPECT_EQ(Stored(m_Path, "wells", 3, name), before) << name << ' ' << value;
   }
 }
 
-TEST_F(EmbeddedHostStoring, RejectsInvalidText) {
+TEST_F(EmbeddedHostEdits, RejectsInvalidText) {
   Select(*m_Host, "wells", "3");
   const auto set = [&](std::u16string_view value) {
     return m_Host->Execute(Text(u"THEME_SET_ATTRIBUTE |wells| |POINT| |NAME| |") + value + u"|").ToUtf8();
@@ -144,7 +144,7 @@ TEST_F(EmbeddedHostStoring, RejectsInvalidText) {
   EXPECT_EQ(Stored(m_Path, "wells", 3, "NAME"), "Chiesa");
 }
 
-TEST_F(EmbeddedHostStoring, AcceptsATextOfAMillionCharacters) {
+TEST_F(EmbeddedHostEdits, AcceptsATextOfAMillionCharacters) {
   std::string text(1'000'000, '\'');
   text.replace(500'000, 3, "\nè");
   EXPECT_EQ(Store("NOTES", "|" + text + "|"), "");
@@ -153,7 +153,7 @@ TEST_F(EmbeddedHostStoring, AcceptsATextOfAMillionCharacters) {
   EXPECT_EQ(Get(*m_Host, "wells", "NOTES"), text);
 }
 
-TEST_F(EmbeddedHostStoring, FlushesValuesInOneTransaction) {
+TEST_F(EmbeddedHostEdits, FlushesValuesInOneTransaction) {
   Execute(*m_Host, "APPLICATION_FLAGREDRAW OFF");
   Select(*m_Host, "wells", "3");
   EXPECT_EQ(Set(*m_Host, "wells", "NAME", "|Nuova|"), "");
@@ -172,18 +172,18 @@ TEST_F(EmbeddedHostStoring, FlushesValuesInOneTransaction) {
   EXPECT_EQ(Geometry(m_Path, "wells", 3), "POINT (5 6)");
 }
 
-TEST_F(EmbeddedHostStoring, FlushesNothingAfterOneInvalidValueAndReportsOnce) {
+TEST_F(EmbeddedHostEdits, FlushesNothingAfterOneInvalidValueAndReportsOnce) {
   for (const bool badFirst : {true, false}) {
-    m_Told.clear();
+    m_Errors.clear();
     Select(*m_Host, "wells", "3");
     if (badFirst) Set(*m_Host, "wells", "DIAMETER", "12abc");
     EXPECT_EQ(Set(*m_Host, "wells", "NAME", "|Nuova|"), "");
     if (!badFirst) Set(*m_Host, "wells", "DIAMETER", "12abc");
-    EXPECT_TRUE(m_Told.empty()) << "told with the others";
+    EXPECT_TRUE(m_Errors.empty()) << "reported with the others";
     const std::string reason =
         "Nothing was stored in feature 3 of \"wells\".\r\nDIAMETER: \"12abc\" is not a whole number.";
     EXPECT_EQ(Finish(*m_Host, "wells"), "ERROR: " + reason);
-    EXPECT_EQ(m_Told, std::vector<std::string>{reason});
+    EXPECT_EQ(m_Errors, std::vector<std::string>{reason});
     EXPECT_EQ(Stored(m_Path, "wells", 3, "NAME"), "Chiesa");
     Select(*m_Host, "wells", "3");
     EXPECT_EQ(Get(*m_Host, "wells", "NAME"), "Chiesa");
@@ -191,7 +191,7 @@ TEST_F(EmbeddedHostStoring, FlushesNothingAfterOneInvalidValueAndReportsOnce) {
   }
 }
 
-TEST_F(EmbeddedHostStoring, FlushesOnEveryCommandThatEndsEditing) {
+TEST_F(EmbeddedHostEdits, FlushesOnEveryCommandThatEndsEditing) {
   const char* const ends[] = {
       "THEME_SELECTION_NONE |wells| |POINT|",
       "THEME_MOVEFIRST |wells| |POINT|",
@@ -210,18 +210,18 @@ TEST_F(EmbeddedHostStoring, FlushesOnEveryCommandThatEndsEditing) {
   }
 }
 
-TEST_F(EmbeddedHostStoring, FlushesWhenTheFeatureChanges) {
+TEST_F(EmbeddedHostEdits, FlushesWhenTheFeatureChanges) {
   Select(*m_Host, "areas", "1");
   Select(*m_Host, "wells", "3");
   Set(*m_Host, "wells", "DIAMETER", "12abc");
   Set(*m_Host, "areas", "NAME", "|Sud|");
-  ASSERT_EQ(m_Told.size(), 1u);
-  EXPECT_NE(m_Told[0].find("feature 3 of \"wells\""), std::string::npos);
+  ASSERT_EQ(m_Errors.size(), 1u);
+  EXPECT_NE(m_Errors[0].find("feature 3 of \"wells\""), std::string::npos);
   EXPECT_EQ(Finish(*m_Host, "areas"), "");
   EXPECT_EQ(Stored(m_Path, "areas", 1, "NAME"), "Sud");
 }
 
-TEST_F(EmbeddedHostStoring, FlushesOnDestruction) {
+TEST_F(EmbeddedHostEdits, FlushesOnDestruction) {
   Select(*m_Host, "wells", "3");
   Set(*m_Host, "wells", "DIAMETER", "555");
   m_Host = nullptr;
@@ -230,15 +230,15 @@ TEST_F(EmbeddedHostStoring, FlushesOnDestruction) {
   Select(*m_Host, "wells", "3");
   Set(*m_Host, "wells", "DIAMETER", "x");
   m_Host = nullptr;
-  EXPECT_EQ(m_Told.size(), 1u);
+  EXPECT_EQ(m_Errors.size(), 1u);
 }
 
-TEST_F(EmbeddedHostStoring, NeedsACurrentFeature) {
+TEST_F(EmbeddedHostEdits, NeedsACurrentFeature) {
   EXPECT_EQ(Set(*m_Host, "wells", "NAME", "|x|"), "ERROR: There is no current feature.");
-  EXPECT_EQ(m_Told.size(), 1u);
+  EXPECT_EQ(m_Errors.size(), 1u);
 }
 
-TEST_F(EmbeddedHostStoring, KeepsTheLastValueOfAnAttribute) {
+TEST_F(EmbeddedHostEdits, KeepsTheLastValueOfAnAttribute) {
   Select(*m_Host, "wells", "3");
   Set(*m_Host, "wells", "NAME", "|first|");
   Set(*m_Host, "wells", "name", "|second|");
@@ -251,7 +251,7 @@ TEST_F(EmbeddedHostStoring, KeepsTheLastValueOfAnAttribute) {
   EXPECT_EQ(Stored(m_Path, "wells", 3, "NAME"), "second");
 }
 
-TEST_F(EmbeddedHostStoring, SkipsUnchangedValuesThatTheColumnWouldReject) {
+TEST_F(EmbeddedHostEdits, SkipsUnchangedValuesThatTheColumnWouldReject) {
   RunSql(m_Path, "UPDATE wells SET NAME = 'longer than twenty characters', CODE = '' WHERE fid = 3");
   Select(*m_Host, "wells", "3");
   EXPECT_EQ(Set(*m_Host, "wells", "NAME", "|longer than twenty characters|"), "");
@@ -263,7 +263,7 @@ TEST_F(EmbeddedHostStoring, SkipsUnchangedValuesThatTheColumnWouldReject) {
   EXPECT_EQ(Stored(m_Path, "wells", 3, "DEPTH"), "62");
 }
 
-TEST_F(EmbeddedHostStoring, KeepsConcurrentChangesOfOtherColumns) {
+TEST_F(EmbeddedHostEdits, KeepsConcurrentChangesOfOtherColumns) {
   Select(*m_Host, "wells", "3");
   EXPECT_EQ(Get(*m_Host, "wells", "NAME"), "Chiesa");
   RunSql(m_Path,
@@ -275,14 +275,14 @@ TEST_F(EmbeddedHostStoring, KeepsConcurrentChangesOfOtherColumns) {
   EXPECT_EQ(Geometry(m_Path, "wells", 3), "POINT (1 2)");
 }
 
-TEST_F(EmbeddedHostStoring, ReportsADeletedFeature) {
+TEST_F(EmbeddedHostEdits, ReportsADeletedFeature) {
   Select(*m_Host, "wells", "3");
   Set(*m_Host, "wells", "DEPTH", "62");
   RunSql(m_Path, "DELETE FROM wells WHERE fid = 3");
   EXPECT_NE(Finish(*m_Host, "wells").find("no such feature any more"), std::string::npos);
 }
 
-TEST_F(EmbeddedHostStoring, ReportsConstraintsOfTheDatabase) {
+TEST_F(EmbeddedHostEdits, ReportsConstraintsOfTheDatabase) {
   RunSql(m_Path, "CREATE UNIQUE INDEX code ON wells(CODE)");
   Select(*m_Host, "wells", "3");
   Set(*m_Host, "wells", "DEPTH", "62");
@@ -293,7 +293,7 @@ TEST_F(EmbeddedHostStoring, ReportsConstraintsOfTheDatabase) {
   EXPECT_EQ(Stored(m_Path, "wells", 3, "DEPTH"), "63");
 }
 
-TEST_F(EmbeddedHostStoring, FailsSoonWhileTheStoreIsLocked) {
+TEST_F(EmbeddedHostEdits, FailsSoonWhileTheStoreIsLocked) {
   const auto other = OpenRaw(m_Path, true);
   other->ExecuteSQL("BEGIN IMMEDIATE", nullptr, nullptr);
   Select(*m_Host, "wells", "3");
@@ -302,14 +302,14 @@ TEST_F(EmbeddedHostStoring, FailsSoonWhileTheStoreIsLocked) {
   const std::string reply = Finish(*m_Host, "wells");
   EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(5));
   EXPECT_NE(reply.find("Another program has locked the store."), std::string::npos) << reply;
-  EXPECT_EQ(m_Told.size(), 1u);
+  EXPECT_EQ(m_Errors.size(), 1u);
   other->ExecuteSQL("ROLLBACK TRANSACTION", nullptr, nullptr);
   EXPECT_EQ(Stored(m_Path, "wells", 3, "NAME"), "Chiesa");
   EXPECT_EQ(Store("NAME", "|Nuova|"), "");
   EXPECT_EQ(Stored(m_Path, "wells", 3, "NAME"), "Nuova");
 }
 
-TEST_F(EmbeddedHostStoring, RollsBackWhenAReaderBlocksTheCommit) {
+TEST_F(EmbeddedHostEdits, RollsBackWhenAReaderBlocksTheCommit) {
   const auto other = OpenRaw(m_Path, true);
   OGRLayer* const cursor = other->ExecuteSQL("SELECT * FROM wells", nullptr, nullptr);
   ASSERT_NE(OGRFeatureUniquePtr(cursor->GetNextFeature()), nullptr);
@@ -320,7 +320,7 @@ TEST_F(EmbeddedHostStoring, RollsBackWhenAReaderBlocksTheCommit) {
   EXPECT_EQ(Stored(m_Path, "wells", 3, "NAME"), "Nuova");
 }
 
-TEST_F(EmbeddedHostStoring, KeepsInvalidBytesOfUnchangedValues) {
+TEST_F(EmbeddedHostEdits, KeepsInvalidBytesOfUnchangedValues) {
   RunSql(m_Path, "UPDATE wells SET NOTES = CAST(x'4dfc6c6c' AS TEXT) WHERE fid = 3");
   Select(*m_Host, "wells", "3");
   const std::string shown = Get(*m_Host, "wells", "NOTES");
@@ -331,7 +331,7 @@ TEST_F(EmbeddedHostStoring, KeepsInvalidBytesOfUnchangedValues) {
   EXPECT_EQ(Stored(m_Path, "wells", 3, "NOTES"), "M\xFCll");
 }
 
-TEST_F(EmbeddedHostStoring, ReportsALockThatBlocksReading) {
+TEST_F(EmbeddedHostEdits, ReportsALockThatBlocksReading) {
   const auto other = OpenRaw(m_Path, true);
   other->ExecuteSQL("BEGIN EXCLUSIVE", nullptr, nullptr);
   EXPECT_NE(Execute(*m_Host, "THEME_SELECTION_BYVALUE |wells| |POINT| OVTARVOUNIQUEID = 3 NEW")
@@ -343,7 +343,7 @@ TEST_F(EmbeddedHostStoring, ReportsALockThatBlocksReading) {
   EXPECT_EQ(Get(*m_Host, "wells", "NAME"), "Chiesa");
 }
 
-TEST_F(EmbeddedHostStoring, UpdatesLastChangeOfTheGeoPackage) {
+TEST_F(EmbeddedHostEdits, UpdatesLastChangeOfTheGeoPackage) {
   RunSql(m_Path, "UPDATE gpkg_contents SET last_change = '2001-01-01T00:00:00.000Z'");
   EXPECT_EQ(Store("DEPTH", "62"), "");
   const auto data = OpenRaw(m_Path);

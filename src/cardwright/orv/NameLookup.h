@@ -8,9 +8,8 @@
 
 namespace cardwright::orv {
 
-/// Positions by name. A name that is written exactly so is found first, else the first one that differs in
-/// case alone.
-class NameIndex {
+/// Finds positions by name: first by the exact name, then by the first one that differs only in case.
+class NameLookup {
  public:
   static constexpr int kNone = -1;
 

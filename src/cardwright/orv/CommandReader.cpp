@@ -1,8 +1,8 @@
-#include "cardwright/orv/Command.h"
+#include "cardwright/orv/CommandReader.h"
 
 #include <limits>
 
-#include "cardwright/orv/Refusal.h"
+#include "cardwright/orv/CommandError.h"
 
 namespace cardwright::orv {
 
@@ -24,7 +24,7 @@ std::u16string_view TrimEnd(std::u16string_view text) noexcept {
 
 std::u16string_view TrimBoth(std::u16string_view text) noexcept { return TrimEnd(TrimStart(text)); }
 
-/// Cuts the word NEW off the end; false where it is not there as a word of its own.
+/// Cuts the word NEW off the end. False where the text does not end with that word.
 bool CutNew(std::u16string_view& text) noexcept {
   constexpr std::u16string_view kNew = u"NEW";
   text = TrimEnd(text);
@@ -38,7 +38,7 @@ bool CutNew(std::u16string_view& text) noexcept {
 
 }  // namespace
 
-std::u16string_view CommandReader::Word() noexcept {
+std::u16string_view CommandReader::ReadWord() noexcept {
   m_Rest = TrimStart(m_Rest);
   std::size_t length = 0;
   while (length < m_Rest.size() && !IsWhite(m_Rest[length]) && m_Rest[length] != u'|') ++length;
@@ -52,33 +52,33 @@ bool CommandReader::IsAtBar() const noexcept {
   return !rest.empty() && rest.front() == u'|';
 }
 
-std::u16string_view CommandReader::Barred(std::u16string_view meaning) {
-  if (!IsAtBar()) Refuse(Text(u"The command lacks the ") + meaning + u" between vertical bars.");
+std::u16string_view CommandReader::ReadPart(std::u16string_view meaning) {
+  if (!IsAtBar()) Fail(Text(u"The command lacks the ") + meaning + u" between vertical bars.");
   m_Rest = TrimStart(m_Rest).substr(1);
   const std::size_t end = m_Rest.find(u'|');
   if (end == std::u16string_view::npos)
-    Refuse(Text(u"The command lacks the vertical bar after the ") + meaning + u".");
+    Fail(Text(u"The command lacks the vertical bar after the ") + meaning + u".");
   const auto part = m_Rest.substr(0, end);
   m_Rest.remove_prefix(end + 1);
   return part;
 }
 
-std::u16string_view CommandReader::Rest() noexcept {
+std::u16string_view CommandReader::ReadRest() noexcept {
   const auto rest = m_Rest;
   m_Rest = {};
   return rest;
 }
 
-void CommandReader::End() {
+void CommandReader::RequireEnd() {
   const auto rest = TrimBoth(m_Rest);
-  if (!rest.empty()) Refuse(Text(u"The command goes on where it should end: ") + Quoted(rest) + u".");
+  if (!rest.empty()) Fail(Text(u"The command goes on where it should end: ") + Quoted(rest) + u".");
 }
 
-GivenValue ReadValue(std::u16string_view tail) {
+CommandValue ReadValue(std::u16string_view tail) {
   const auto text = TrimBoth(tail);
   if (text.empty() || text.front() != u'|') return {text, text.empty()};
   if (text.size() < 2 || text.back() != u'|')
-    Refuse(u"The value begins with a vertical bar and does not end with one.");
+    Fail(u"The value begins with a vertical bar and does not end with one.");
   const auto inner = text.substr(1, text.size() - 2);
   return {inner, inner == u" "};
 }
@@ -87,23 +87,23 @@ Condition ReadCondition(CommandReader& reader) {
   Condition condition;
   std::u16string_view rest;
   if (reader.IsAtBar()) {
-    condition.attribute = reader.Barred(u"attribute name");
-    rest = TrimStart(reader.Rest());
-    if (rest.empty() || rest.front() != u'=') Refuse(u"The selection lacks \"=\" after the attribute name.");
+    condition.attribute = reader.ReadPart(u"attribute name");
+    rest = TrimStart(reader.ReadRest());
+    if (rest.empty() || rest.front() != u'=') Fail(u"The selection lacks \"=\" after the attribute name.");
     rest.remove_prefix(1);
   } else {
-    rest = reader.Rest();
+    rest = reader.ReadRest();
     const std::size_t equals = rest.find(u'=');
-    if (equals == std::u16string_view::npos) Refuse(u"The selection lacks \"=\" after the attribute name.");
+    if (equals == std::u16string_view::npos) Fail(u"The selection lacks \"=\" after the attribute name.");
     condition.attribute = TrimBoth(rest.substr(0, equals));
     rest.remove_prefix(equals + 1);
   }
-  if (!CutNew(rest)) Refuse(u"The selection does not end with NEW.");
+  if (!CutNew(rest)) Fail(u"The selection does not end with NEW.");
   condition.value = ReadValue(rest);
   return condition;
 }
 
-std::optional<long long> ReadNumber(std::u16string_view text) noexcept {
+std::optional<long long> ParseWhole(std::u16string_view text) noexcept {
   text = TrimBoth(text);
   const bool negative = !text.empty() && text.front() == u'-';
   if (!text.empty() && (text.front() == u'-' || text.front() == u'+')) text.remove_prefix(1);

@@ -1,4 +1,4 @@
-#include "cardwright/orv/Numbers.h"
+#include "cardwright/orv/NumberParsing.h"
 
 #include <charconv>
 #include <cmath>
@@ -6,7 +6,7 @@
 #include <limits>
 #include <string>
 
-#include "cardwright/orv/Refusal.h"
+#include "cardwright/orv/CommandError.h"
 
 namespace cardwright::orv {
 
@@ -28,12 +28,12 @@ Range RangeOf(const Column& column) noexcept {
   return RangeOf<std::int64_t>();
 }
 
-/// "12.000" without its fraction; refused where the fraction is more than zeros.
+/// "12.000" without its fraction. Fails where the fraction is not zero.
 std::u16string_view WholePart(std::u16string_view text) {
   const std::size_t point = text.find(u'.');
   if (point == std::u16string_view::npos) return text;
   const auto fraction = text.substr(point + 1);
-  if (fraction.find_first_not_of(u'0') != std::u16string_view::npos) Refuse(u"is not a whole number.");
+  if (fraction.find_first_not_of(u'0') != std::u16string_view::npos) Fail(u"is not a whole number.");
   return text.substr(0, point);
 }
 
@@ -42,8 +42,8 @@ bool IsWhole(std::u16string_view text) noexcept {
   return !text.empty() && text.find_first_not_of(u"0123456789") == std::u16string_view::npos;
 }
 
-/// True for sign, digits, point, digits, exponent, with a digit before the exponent: no names such as "inf"
-/// and no hexadecimal digits.
+/// Whether a text is sign, digits, point, digits and exponent, with a digit before the exponent. That
+/// excludes "inf" and hexadecimal numbers, which std::from_chars would accept.
 bool IsDecimal(std::string_view text) noexcept {
   std::size_t at = 0;
   const auto skipSign = [&] { at += at < text.size() && (text[at] == '-' || text[at] == '+'); };
@@ -79,14 +79,13 @@ double FromChars(std::string_view text, std::errc& error) noexcept {
   return value;
 }
 
-/// A whole number is kept only if the type tells it apart from its neighbours; 2^53 + 1 is the first that a
-/// double does not.
+/// Fails for a whole number that a double cannot tell from its neighbours; 2^53 + 1 is the first.
 void RequireWholeKept(std::string_view digits, double value) {
   if (digits.find_first_not_of("-0123456789") != std::string_view::npos) return;
   const bool negative = digits.starts_with('-');
   if (negative) digits.remove_prefix(1);
   digits.remove_prefix(std::min(digits.find_first_not_of('0'), digits.size() - 1));
-  if (Fixed(std::fabs(value), 0) != digits) Refuse(u"has more digits than the column keeps.");
+  if (Fixed(std::fabs(value), 0) != digits) Fail(u"has more digits than the column keeps.");
 }
 
 void RequireFits(double value, const Column& column) {
@@ -94,31 +93,31 @@ void RequireFits(double value, const Column& column) {
   const std::string text = Fixed(value, column.precision);
   std::errc error{};
   if (column.precision > 0 && FromChars(text, error) != value)
-    Refuse(u"has more decimals than the column keeps.");
-  if (text.size() > static_cast<std::size_t>(column.width)) Refuse(u"is too long for the column.");
+    Fail(u"has more decimals than the column keeps.");
+  if (text.size() > static_cast<std::size_t>(column.width)) Fail(u"is too long for the column.");
 }
 
 }  // namespace
 
 std::int64_t ParseInteger(std::u16string_view text, const Column& column) {
   const auto whole = WholePart(text);
-  if (!IsWhole(whole)) Refuse(u"is not a whole number.");
-  const auto number = ReadNumber(whole);
+  if (!IsWhole(whole)) Fail(u"is not a whole number.");
+  const auto number = ParseWhole(whole);
   const Range range = RangeOf(column);
-  if (!number || *number < range.least || *number > range.greatest) Refuse(u"is out of the column's range.");
+  if (!number || *number < range.least || *number > range.greatest) Fail(u"is out of the column's range.");
   if (column.width > 0 && std::to_string(*number).size() > static_cast<std::size_t>(column.width))
-    Refuse(u"is too long for the column.");
+    Fail(u"is too long for the column.");
   return *number;
 }
 
 double ParseReal(std::u16string_view text, const Column& column) {
   std::string plain;
   for (const char16_t c : text) plain += c < 0x80 ? static_cast<char>(c) : '?';
-  if (!IsDecimal(plain)) Refuse(u"is not a number.");
+  if (!IsDecimal(plain)) Fail(u"is not a number.");
   if (plain.front() == '+') plain.erase(0, 1);
   std::errc error{};
   const double value = FromChars(plain, error);
-  if (error != std::errc() || !std::isfinite(value)) Refuse(u"is out of the column's range.");
+  if (error != std::errc() || !std::isfinite(value)) Fail(u"is out of the column's range.");
   RequireWholeKept(plain, value);
   RequireFits(value, column);
   return value;

@@ -57,10 +57,10 @@ TEST_F(EmbeddedHostCommands, FailWithAReasonWhereMalformed) {
   };
   Select(*m_Host, "wells", "3");
   for (const char* command : commands) {
-    const std::size_t told = m_Told.size();
+    const std::size_t before = m_Errors.size();
     const std::string reply = Execute(*m_Host, command);
     EXPECT_EQ(reply.rfind("ERROR: ", 0), 0u) << command << " -> " << reply;
-    EXPECT_EQ(m_Told.size(), told + 1) << command;
+    EXPECT_EQ(m_Errors.size(), before + 1) << command;
     EXPECT_EQ("ERROR: " + m_Host->LastError().ToUtf8(), reply);
     EXPECT_EQ(Request(*m_Host, command), "") << command;
   }
@@ -75,9 +75,9 @@ TEST_F(EmbeddedHostCommands, DiscardAllPendingValuesWithAMalformedOne) {
     EXPECT_EQ(Set(*m_Host, "wells", "DIAMETER", "301"), "");
     const std::string reply = Execute(*m_Host, std::string("THEME_SET_ATTRIBUTE |wells| |POINT| ") + tail);
     EXPECT_EQ(reply.rfind("ERROR: ", 0), 0u) << tail << " -> " << reply;
-    const std::size_t told = m_Told.size();
+    const std::size_t before = m_Errors.size();
     EXPECT_NE(Finish(*m_Host, "wells"), "") << tail;
-    EXPECT_EQ(m_Told.size(), told + 1) << tail;
+    EXPECT_EQ(m_Errors.size(), before + 1) << tail;
     EXPECT_EQ(Stored(m_Path, "wells", 3, "DIAMETER"), "300") << tail;
   }
 }
@@ -87,18 +87,18 @@ TEST_F(EmbeddedHostCommands, RunFromExecuteAndRequest) {
   Request(*m_Host, "THEME_MOVEFIRST |wells| |POINT|");
   EXPECT_EQ(Execute(*m_Host, "THEME_GET_ATTRIBUTE |wells| |POINT| |NAME|"), "Chiesa");
   EXPECT_EQ(Request(*m_Host, "THEME_MOVEFIRST |nowhere| |POINT|"), "");
-  EXPECT_EQ(m_Told.size(), 1u) << "a refused change is told, however it was sent";
+  EXPECT_EQ(m_Errors.size(), 1u) << "a failed change is reported, however it was sent";
 }
 
 TEST_F(EmbeddedHostCommands, CanBeSentFromTheErrorHandler) {
   std::string nested;
-  m_Host->onRefusal = [&](const Text&) { nested = Request(*m_Host, "THEME_ACTIVE"); };
+  m_Host->onError = [&](const Text&) { nested = Request(*m_Host, "THEME_ACTIVE"); };
   EXPECT_NE(Execute(*m_Host, "NONSENSE"), "");
   EXPECT_EQ(nested, "wells");
 }
 
 TEST_F(EmbeddedHostCommands, SurviveReleaseOfTheHostInTheErrorHandler) {
-  m_Host->onRefusal = [&](const Text&) { m_Host = nullptr; };
+  m_Host->onError = [&](const Text&) { m_Host = nullptr; };
   EmbeddedHost* const host = m_Host.get();
   EXPECT_EQ(host->Execute(u"NONSENSE"), u"ERROR: This host has no command \"NONSENSE\".");
   EXPECT_FALSE(m_Host);

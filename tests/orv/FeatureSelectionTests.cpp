@@ -4,7 +4,7 @@ namespace cardwright::orv_tests {
 
 class EmbeddedHostSelection : public TestStore {
  protected:
-  /// Selects by a condition and answers the count.
+  /// Selects by a condition and returns the count.
   std::string Count(const std::string& condition) {
     Execute(*m_Host, "THEME_SELECTION_BYVALUE |wells| |POINT| " + condition);
     return Request(*m_Host, "THEME_SELECTED_NUMBER |wells| |POINT|");
@@ -38,7 +38,7 @@ TEST_F(EmbeddedHostSelection, FindsAFeatureByItsId) {
       {"OVTARVOUNIQUEID = 3 OR 1 = 1 NEW", "0"},
   };
   for (const Row& row : rows) EXPECT_EQ(Count(row.condition), row.count) << row.condition;
-  EXPECT_TRUE(m_Told.empty());
+  EXPECT_TRUE(m_Errors.empty());
 }
 
 TEST_F(EmbeddedHostSelection, FindsFeaturesByAnyAttribute) {
@@ -66,7 +66,7 @@ TEST_F(EmbeddedHostSelection, FindsFeaturesByAnyAttribute) {
       {"LEVEL = | | NEW", "2"},
   };
   for (const Row& row : rows) EXPECT_EQ(Count(row.condition), row.count) << row.condition;
-  EXPECT_TRUE(m_Told.empty());
+  EXPECT_TRUE(m_Errors.empty());
 }
 
 TEST_F(EmbeddedHostSelection, MoveFirstMakesTheFirstFeatureCurrent) {

@@ -1,30 +1,31 @@
-#include "cardwright/orv/Selection.h"
+#include "cardwright/orv/FeatureSelection.h"
 
 #include <utility>
 
 namespace cardwright::orv {
 
-void Selection::Replace(std::vector<std::int64_t> ids, OGRFeatureUniquePtr first) {
+void FeatureSelection::Set(std::vector<std::int64_t> ids, OGRFeatureUniquePtr first) {
   m_Ids = std::move(ids);
   m_CurrentId.reset();
   m_Feature = std::move(first);
   m_IsRead = m_IsFirstUse = m_Feature != nullptr;
 }
 
-void Selection::Clear() noexcept {
+void FeatureSelection::Clear() noexcept {
   m_Ids.clear();
   m_CurrentId.reset();
-  Forget();
+  Invalidate();
 }
 
-void Selection::MoveFirst() noexcept {
-  // The feature that the selection itself has read serves the move that follows it; a later move reads anew.
-  if (!m_IsFirstUse) Forget();
+void FeatureSelection::MoveFirst() noexcept {
+  // A feature that was read by the selection itself serves the first move after it. Later moves read it
+  // again.
+  if (!m_IsFirstUse) Invalidate();
   m_IsFirstUse = false;
   m_CurrentId = m_Ids.empty() ? std::nullopt : std::optional(m_Ids.front());
 }
 
-OGRFeature* Selection::Current(Store& store, OGRLayer& layer) {
+OGRFeature* FeatureSelection::Current(Store& store, OGRLayer& layer) {
   if (!m_CurrentId) return nullptr;
   if (!m_IsRead) {
     m_Feature = store.ReadFeature(layer, *m_CurrentId);
@@ -33,7 +34,7 @@ OGRFeature* Selection::Current(Store& store, OGRLayer& layer) {
   return m_Feature.get();
 }
 
-void Selection::Forget() noexcept {
+void FeatureSelection::Invalidate() noexcept {
   m_Feature.reset();
   m_IsRead = m_IsFirstUse = false;
 }
