@@ -8,7 +8,7 @@
 
 namespace cardwright::vbscript {
 
-/// A procedure of a class and whether code outside may call it.
+/// A procedure of a class, and whether code outside the class may call it.
 struct ClassProcedure {
   Ref<Procedure> code;
   bool isPublic = false;
@@ -28,7 +28,8 @@ class ClassInfo final : public RefCounted {
   NameId name = kNoName;
   Text spelling;
   Module* module = nullptr;
-  std::deque<ClassMember> members;  ///< in order of declaration; the position is the number that callers use
+  std::deque<ClassMember>
+      members;  ///< in order of declaration; the position is the member's number for callers
   std::unordered_map<NameId, std::int32_t> index;
   struct FieldArray {
     std::int32_t field;
@@ -46,7 +47,8 @@ class ClassInfo final : public RefCounted {
   ClassMember& Member(NameId id);
 
  private:
-  static constexpr std::size_t kBytesOfContainers = 1024;  // of the lists above, however short
+  static constexpr std::size_t kBytesOfContainers =
+      1024;  // of the containers above, however few their elements
   MemoryShare m_Memory{kBytesOfContainers};
 };
 

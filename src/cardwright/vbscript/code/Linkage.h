@@ -9,15 +9,15 @@ namespace cardwright::vbscript {
 /// Variables that executed code added to the scope of a running procedure.
 using ScopeVariables = std::map<NameId, Variant>;
 
-/// What the compiler has to know of the machine that its code is for.
+/// What the compiler needs to know about the machine that will run its code.
 class Linkage {
  public:
   Names names;
-  /// What a name stands for in a module's code; null for nothing yet.
+  /// The binding of a name in a module's code; null where it is unbound.
   virtual Symbol* Lookup(Module& module, NameId name) = 0;
-  /// Whether the code is to report its statements.
+  /// Whether the code should report its statements.
   virtual bool IsObserved() const noexcept = 0;
-  /// Whether a script runs, which then made the code itself.
+  /// Whether a script is running: then it has generated the code.
   virtual bool IsRunning() const noexcept = 0;
 
  protected:

@@ -35,7 +35,7 @@ Variant* Module::AddVariables(std::size_t count) {
 
 void Module::Define(NameId name, Ref<const Procedure> procedure) {
   Symbol& symbol = Add(name);
-  // One that was a procedure before stands in the list already.
+  // A redefined procedure is in the list already.
   if (!symbol.procedure) m_Procedures.push_back(name);
   symbol.kind = SymbolKind::Procedure;
   symbol.procedure = std::move(procedure);
@@ -48,7 +48,7 @@ void Module::DefineClass(NameId name, Ref<ClassInfo> cls) {
   symbol.cls = std::move(cls);
 }
 
-// What an object does at its end may add names and variables.
+// The end of an object may run code that adds names and variables, so neither container is iterated.
 void Module::Clear() {
   std::vector<Symbol*> symbols;
   symbols.reserve(m_Symbols.size());

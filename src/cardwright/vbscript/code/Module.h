@@ -9,28 +9,28 @@
 
 namespace cardwright::vbscript {
 
-/// The names that the code of one module has defined outside procedures.
+/// The names that the code of one module defines outside procedures.
 class Module {
  public:
   Module(Text name, Module* global) : m_Name(std::move(name)), m_Global(global) {}
 
   const Text& Name() const noexcept { return m_Name; }
-  /// The module whose names this one sees too; null for the global one.
+  /// The module whose names code in this one can use too; null for the global module.
   Module* Global() const noexcept { return m_Global; }
 
   Symbol& Add(NameId name);
   Symbol* Find(NameId name) const noexcept;
-  /// What the name stands for in this module or the global one; null for nothing.
+  /// The binding of the name in this module or the global one; null where it is unbound.
   Symbol* FindBound(NameId name) const noexcept;
 
-  /// Room for the variables of code outside procedures; it stays as long as the module.
+  /// Storage for the variables of code outside procedures. It lives as long as the module.
   Variant* AddVariables(std::size_t count);
 
   void Define(NameId name, Ref<const Procedure> procedure);
   void DefineClass(NameId name, Ref<ClassInfo> cls);
-  /// In order of definition; a name defined again keeps its place.
+  /// In order of definition; a redefined name keeps its position.
   const std::vector<NameId>& Procedures() const noexcept { return m_Procedures; }
-  /// Drops every value, so that objects are released while the engine still works.
+  /// Clears every value, so that objects end while the engine still works.
   void Clear();
 
  private:
@@ -44,7 +44,7 @@ class Module {
   };
   std::vector<Variables> m_Variables;
   std::vector<NameId> m_Procedures;
-  // Replaced ones too: code remembers what it found in a class by the class's address.
+  // Redefined ones too: MemberUse caches what it found in a class by the address of the class.
   std::vector<Ref<ClassInfo>> m_Classes;
 };
 

@@ -4,7 +4,7 @@ namespace cardwright::vbscript {
 
 namespace {
 
-// Of an entry in both containers, beside its characters.
+// Of an entry in both containers, without its characters.
 constexpr std::size_t kBytesOfName = 64;
 
 }  // namespace

@@ -15,7 +15,7 @@ namespace cardwright::vbscript {
 using NameId = std::uint32_t;
 inline constexpr NameId kNoName = static_cast<NameId>(-1);
 
-/// The names that an engine has met.
+/// The names that an engine has seen.
 class Names {
  public:
   NameId Add(std::u16string_view name);

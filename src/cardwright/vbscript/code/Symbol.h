@@ -7,7 +7,7 @@
 namespace cardwright::vbscript {
 
 enum class SymbolKind : std::uint8_t {
-  Unbound,  ///< nothing yet
+  Unbound,
   Variable,
   Constant,
   Procedure,
@@ -17,12 +17,12 @@ enum class SymbolKind : std::uint8_t {
   HostMember,  ///< global member of such an object
 };
 
-/// What a name outside procedures stands for.
+/// The binding of a name outside procedures.
 struct Symbol {
   NameId name = kNoName;
   SymbolKind kind = SymbolKind::Unbound;
-  Variant* variable = nullptr;  ///< Variable: `value`, or a register of the code that declared it
-  Variant value;                ///< Constant, HostObject; HostMember: the object that has it
+  Variant* variable = nullptr;  ///< Variable: its storage, `value` or a register of the code that declares it
+  Variant value;                ///< Constant, HostObject; HostMember: the object of the member
   Ref<const vbscript::Procedure> procedure;
   Ref<ClassInfo> cls;
   const vbscript::Builtin* builtin = nullptr;

@@ -13,7 +13,7 @@ void ClearArguments(Variant* arguments, std::size_t count) noexcept {
   for (std::size_t k = 0; k < count; ++k) arguments[k].Reset();
 }
 
-// What every call ends with that ran no script: the arguments are spent, the result is where it is wanted.
+// The end of a call that pushed no frame: clears the arguments and puts the result where the caller wants it.
 void FinishCall(Variant* arguments, std::size_t count, Variant* result, Variant outcome) {
   ClearArguments(arguments, count);
   if (result) *result = std::move(outcome);
@@ -68,7 +68,7 @@ void Machine::CallBuiltin(const Builtin& builtin, Variant* arguments, std::size_
   try {
     FinishCall(arguments, count, result, builtin.call(*this, {arguments, count}));
   } catch (const Error& error) {
-    // The report names the function, but for an error that has more to say.
+    // The report names the function, unless the error has a description of its own.
     if (typeid(error) != typeid(Error) || !error.Source().IsEmpty() ||
         error.Description() != StandardErrorText(error.Number()))
       throw;
@@ -76,8 +76,8 @@ void Machine::CallBuiltin(const Builtin& builtin, Variant* arguments, std::size_
   }
 }
 
-// A stop may have ended a Class_Terminate, which lets nothing out; then it ends the code that let go of the
-// object here, before that reaches the outside again. Library functions can do that, too.
+// A stop may have ended a Class_Terminate, which lets nothing out. Then it ends the code that released the
+// object here, before that code calls the host again. The library's functions can call the host too.
 Variant Machine::InvokeHost(Object& object, MemberId member, CallKind kind, Args args) {
   ThrowIfStopping();
   Variant outcome = object.Invoke(member, kind, args);
@@ -183,7 +183,7 @@ bool Machine::CallValue(const Variant& callee, Variant* arguments, std::size_t c
 
 bool Machine::NewObject(SymbolUse& use, Variant& target) {
   if (use.epoch != m_Epoch) Resolve(use);
-  // The one class that the language brings along; a script's own of that name comes first.
+  // The language's only class. A script's own class of that name takes precedence.
   if (!use.symbol && EqualsNoCase(names.Spelling(use.name).View(), u"RegExp")) {
     target = MakeRef<scripting::RegExp>(maxTextUnits);
     return false;

@@ -22,7 +22,7 @@ std::vector<Bounds> FromZero(std::span<const std::int32_t> uppers) {
   return bounds;
 }
 
-// Only the last bound may change where values are to stay.
+// Preserving values, only the last bound may change.
 bool KeepsShape(const Array& array, std::span<const std::int32_t> uppers) {
   const auto dimensions = array.Dimensions();
   if (dimensions.size() != uppers.size()) return false;
@@ -31,7 +31,7 @@ bool KeepsShape(const Array& array, std::span<const std::int32_t> uppers) {
   return true;
 }
 
-// Indices as whole numbers. Those that are objects may run code that replaces the array, so all of them are
+// Indices as whole numbers. Converting an object may run code that replaces the array, so all indices are
 // converted before the array is looked at.
 class WholeIndices {
  public:
@@ -82,7 +82,7 @@ void EraseArray(Variant& holder) {
     holder = Variant(MakeRef<Array>());
     return;
   }
-  // Objects end when all elements are gone: what they do then may use the array.
+  // The objects end only after all elements are Empty, since what they do then may use the array.
   const std::span<Variant> values = Array::Writable(holder).Values();
   std::vector<Variant> erased(values.size());
   std::swap_ranges(values.begin(), values.end(), erased.begin());
@@ -111,7 +111,8 @@ void AssignElement(Variant& place, Args arguments, bool isSet, const Text& name)
   const Variant& held = std::as_const(place).Deref();
   if (held.IsArray()) {
     const WholeIndices whole(arguments.first(arguments.size() - 1));
-    // The value may be an object whose default member changes this very array.
+    // The value may be an object whose default member changes this very array: the bounds are checked now,
+    // and again when the value is there.
     if (std::as_const(place).Deref().IsArray()) whole.In(*std::as_const(place).Deref().ArrayPtr());
     Variant plain;
     isSet ? AssignObject(plain, value, true) : AssignPlain(plain, value, true);

@@ -4,12 +4,13 @@
 #include "cardwright/vbscript/code/Procedure.h"
 #include "cardwright/vbscript/machine/RegisterView.h"
 
-/// Arrays: making, indexing, changing their bounds.
+/// Arrays: creating, indexing, changing the bounds.
 namespace cardwright::vbscript {
 
 Variant NewArray(const ArrayShape& shape);
-/// R[a], a reference, gets an array with the bounds in the n registers from b on. Errors: 10 for an array of
-/// fixed size or one that is being enumerated, 9 for bounds that cannot be, 7 for too many elements.
+/// The variable that R[a] refers to gets an array with the upper bounds in the n registers from R[b] on.
+/// Errors: 10 for an array of fixed size or one being enumerated, 9 for impossible bounds, 7 for too many
+/// elements.
 void ReDimArray(RegisterView view, Instruction i, bool preserve);
 /// A fixed array gets Empty elements, a dynamic one loses them. Error 13 for no array, 10 for one being
 /// enumerated.
@@ -29,11 +30,12 @@ inline Variant* FindElement(Array& array, RegisterView view, Instruction i, Inst
 const Variant& ElementAt(const Array& array, Args indices);
 /// Likewise of an array that a variable holds; error 13 where it holds none.
 Variant ElementOf(const Variant& holder, Args indices);
-/// Its position in Values() of the array that a variable holds or refers to when the indices are numbers;
-/// error 13 where it holds none by then.
+/// Its position in Values() of the array. Error 13 where the variable holds no array once the indices have
+/// been converted.
 std::size_t ElementPosition(const Variant& holder, Args indices);
-/// `place(indices…) = value`, the value last: of the array that the place is or refers to, or by the default
-/// member of an object. Error 13 about `name` for anything else.
+/// Indexed assignment, `place(indices…) = value`, with the value last: to an element of the array that
+/// `place` is or refers to, or through the default member of an object. Error 13 about `name` for anything
+/// else.
 void AssignElement(Variant& place, Args arguments, bool isSet, const Text& name);
 
 }  // namespace cardwright::vbscript

@@ -8,13 +8,13 @@
 
 namespace cardwright::vbscript {
 
-/// A For Each under way, kept in a hidden register. An array is locked as long.
+/// The state of a For Each loop, kept in a hidden register. While it lives its array is locked.
 class Enumeration final : public Object {
  public:
   /// Of an array or of an object; error 451 for anything else.
   static Variant Of(const Variant& collection);
-  /// The next value into `variable`; false at the end, where the variable of a collection becomes Empty.
-  /// Error 451 where `state` holds no enumeration, as its making failed.
+  /// Puts the next value into `variable`. False at the end; there the variable of a collection becomes Empty.
+  /// Error 451 where `state` holds no enumeration because creating it failed.
   static bool Next(Variant& state, Variant& variable);
 
   explicit Enumeration(Ref<Array> array);

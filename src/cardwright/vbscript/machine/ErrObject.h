@@ -6,18 +6,18 @@
 
 namespace cardwright::vbscript {
 
-/// `Err`: the error that the script passed over last, and the way to raise one.
+/// `Err`: the last error that the script passed over, and the means to raise one.
 class ErrObject final : public TableObject {
  public:
   Text TypeName() const override { return u"Object"; }
 
-  /// What it tells.
+  /// The properties of the error.
   struct State {
     std::int32_t number = 0;
     Text description, source, helpFile;
     std::int32_t helpContext = 0;
   };
-  /// Takes over a state and gives the one before.
+  /// Sets the state and returns the previous one.
   State Exchange(State state) noexcept;
   void Note(int number, Text description, Text source);
   void Clear();

@@ -8,7 +8,8 @@ namespace {
 constexpr std::size_t kFirstFrames = 32;
 constexpr std::uint32_t kCallsBetweenPolls = 1024;
 
-// What is passed by value, or into a parameter by value, is a variable of its own.
+// A parameter declared ByVal becomes a variable of its own: a reference in it is replaced by a copy of the
+// value.
 void CopyByValueArguments(const Procedure& procedure, Variant* registers) {
   for (std::size_t k = 0; k < procedure.parameters; ++k) {
     if (!procedure.byValue[k] || !registers[k].IsByRef()) continue;
@@ -23,7 +24,7 @@ void Machine::CheckNesting(std::size_t stack) const {
   if (!HasStackRoom(stack)) Raise(ErrorNumber::OutOfStackSpace);
 }
 
-// Only for what a running script has read: a thread of little stack may still start one.
+// Only where a script is running, so that a thread with little stack can still start one.
 void Machine::CheckRoomForSource() const {
   if (m_Depth) CheckNesting(kStackForSource);
 }
@@ -36,13 +37,13 @@ void Machine::AddFrames() {
   UpdateCurrent();
 }
 
-// What is in use of the register stack ends here.
+// The end of the registers in use.
 inline RegisterStack::Window Machine::EndOfRegisters() {
   if (m_Depth == 0) return {m_Registers.Bottom(), 0};
   return {Current().top, Current().block};
 }
 
-// The registers are the caller's to set.
+// The caller sets the registers.
 inline Frame& Machine::AddFrame(const Procedure& procedure, Instance* me, Variant* result) {
   if (m_Depth == m_Frames.size()) [[unlikely]]
     AddFrames();
@@ -63,10 +64,10 @@ void Machine::PushFrame(const Procedure& procedure, Instance* me, Args arguments
                         Arguments where) {
   const std::size_t count = arguments.size();
   if (count != procedure.parameters) Raise(ErrorNumber::WrongArgumentCount);
-  // Arguments at the end of the caller's registers stay where they are and the new frame starts there. Code
-  // outside procedures has its registers elsewhere, so its arguments have to move.
+  // Arguments at the top of the caller's registers stay where they are: the new window starts there. Code
+  // outside procedures has its registers in its module instead, so its arguments are moved.
   const bool stay = where == Arguments::AtTopOfCaller && count && !Current().procedure->isOutermost;
-  // Room first: what is a frame has its registers.
+  // Allocating may fail, and every frame has registers: so before the frame is added.
   const RegisterStack::Window end = EndOfRegisters();
   const auto place =
       m_Registers.Allocate(stay ? arguments.data() : end.start, end.block, procedure.registers);
@@ -82,15 +83,16 @@ void Machine::PushFrame(const Procedure& procedure, Instance* me, Args arguments
 }
 
 void Machine::PopFrame(Ending ending) noexcept {
-  // What is released may run code that pushes frames, which moves them.
+  // Releasing an object may run code that pushes frames, which may move this one: everything needed is
+  // copied.
   const Frame& frame = Current();
   const Procedure& procedure = *frame.procedure;
   Variant* const registers = frame.registers;
   Variant* const result = frame.result;
   Instance* const me = frame.me;
   ScopeVariables* const scope = frame.scope;
-  // Who uses a value on the way leaves nothing counted behind, so after the last instruction only variables
-  // may.
+  // After the last instruction no temporary holds anything to release. The variables of code outside
+  // procedures belong to the module.
   const std::size_t first = procedure.isOutermost ? procedure.firstTemporary : 0;
   const std::size_t end =
       ending == Ending::ByReturn && !procedure.isOutermost ? procedure.firstTemporary : procedure.registers;
@@ -107,15 +109,15 @@ void Machine::PopFrame(Ending ending) noexcept {
 
 Variant Machine::Enter(const Procedure& procedure, Instance* me, Args args) {
   CheckNesting();
-  // Whole calls may be too short to look at the clock themselves, or even to come to a place to stop at:
-  // objects that make objects at their end would never come to one.
+  // A call may be too short to get to an interrupt check of its own. Objects that create objects when they
+  // end could go on like this for ever.
   CheckStop();
   if (++m_CallsSincePoll % kCallsBetweenPolls == 0) PollInterrupts();
   Variant outcome;
   std::vector<Variant> copies(args.begin(), args.end());
   PushFrame(procedure, me, copies, &outcome, Arguments::Elsewhere);
   Run();
-  ThrowIfStopping();  // a stop that the end of an object has swallowed is for all that runs
+  ThrowIfStopping();  // Class_Terminate lets no stop out, but the stop is meant for all running code
   return outcome;
 }
 

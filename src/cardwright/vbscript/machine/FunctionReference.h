@@ -5,7 +5,7 @@
 
 namespace cardwright::vbscript {
 
-/// What GetRef gives: a procedure as an object whose default member calls it.
+/// The result of GetRef: a procedure as an object whose default member calls it.
 class FunctionReference final : public Object {
  public:
   FunctionReference(Ref<const vbscript::Procedure> procedure, Ref<MachineLink> link)

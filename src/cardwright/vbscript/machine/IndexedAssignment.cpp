@@ -6,8 +6,8 @@ namespace cardwright::vbscript {
 
 namespace {
 
-// Without Set an object is assigned by its default value.
-void MakePlain(Variant& value, bool isSet) {
+// Without Set an object is replaced by its default value; with Set anything else is an error.
+void PrepareValue(Variant& value, bool isSet) {
   const Variant& held = static_cast<const Variant&>(value).Deref();
   if (isSet) {
     if (!held.IsObject()) Raise(ErrorNumber::ObjectRequired);
@@ -22,7 +22,7 @@ void Machine::AssignIndexedSymbol(SymbolUse& use, Args arguments, std::uint16_t 
   if (use.epoch != m_Epoch) Resolve(use);
   const bool isSet = (flags & kAsSet) != 0;
   if (use.symbol && use.symbol->kind == SymbolKind::HostMember) {
-    MakePlain(arguments.back(), isSet);
+    PrepareValue(arguments.back(), isSet);
     const Ref<Object> object(&RequireObject(use.symbol->value));
     InvokeHost(*object, use.symbol->member, isSet ? CallKind::Set : CallKind::Let, arguments);
     return;
@@ -44,7 +44,7 @@ bool Machine::AssignMember(RegisterView view, Instruction i, MemberUse& use) {
   if (!held.ObjectPtr()) RaiseAbout(ErrorNumber::ObjectNotSet, use.object);
   const Ref<Object> object(held.ObjectPtr());
   view.ClearTemporary(i.b);
-  MakePlain(arguments.back(), isSet);
+  PrepareValue(arguments.back(), isSet);
   if (Instance* instance = Instance::From(object.get(), *m_Link))
     return AssignInstanceMember(use, *instance, arguments, isSet);
   const MemberId member = FindMember(use, *object);

@@ -10,7 +10,7 @@ namespace cardwright::vbscript {
 
 class Machine;
 
-/// Link from what a script made to its machine, which may go first.
+/// Links objects of scripts to their machine, which may end before them.
 struct MachineLink : RefCounted {
   Machine* machine = nullptr;
 };
@@ -22,8 +22,8 @@ class Instance final : public Object {
   ~Instance() override;
 
   static constexpr char kFamily = 0;
-  /// The instance that the object is, where it is one of that machine. Those of other machines are objects
-  /// like any other.
+  /// The object as an instance of that machine; null for any other object. Instances of other machines are
+  /// called by name, too.
   static Instance* From(Object* object, const MachineLink& link) noexcept {
     if (!object || object->Family() != &kFamily) return nullptr;
     auto* instance = static_cast<Instance*>(object);
@@ -32,9 +32,9 @@ class Instance final : public Object {
 
   const ClassInfo& Class() const noexcept { return *m_Class; }
   Variant& Field(std::size_t index) noexcept { return m_Fields[index]; }
-  /// Runs Class_Terminate once; its errors go nowhere, as nobody is left to hear them.
+  /// Runs Class_Terminate, once. Its errors are dropped, since no code is left to handle them.
   void Terminate() noexcept;
-  /// Lets go of everything that the object holds.
+  /// Releases everything that the object holds.
   void ClearFields() noexcept;
 
   Text TypeName() const override { return m_Class->spelling; }
@@ -53,13 +53,13 @@ class Instance final : public Object {
   MemoryShare m_Memory;
   std::unique_ptr<Variant[]> m_Fields;
   bool m_Terminated = false;
-  // All instances of a machine in a ring, so that cycles end with it.
+  // Neighbours in the machine's list of all instances, so that cycles of objects end with the machine.
   Instance* m_Previous = nullptr;
   Instance* m_Next = nullptr;
 };
 
-/// The field that the use of a member names, where `holder` has an object of the class met last and the field
-/// is open to all; null where it takes a look-up or a call.
+/// The public field that a use of a member names, where `holder` is an object of the class that the use has
+/// cached; null where it takes a look-up or a call.
 inline Variant* OpenField(const MemberUse& use, const Variant& holder) noexcept {
   const Variant& held = holder.Deref();
   if (use.field < 0 || !held.IsObject()) return nullptr;

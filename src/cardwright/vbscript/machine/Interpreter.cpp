@@ -7,15 +7,45 @@
 #include "cardwright/vbscript/machine/SlowPaths.h"
 #include "cardwright/vbscript/operators/Operators.h"
 
-// The addresses of labels are what makes the loop quick; every compiler that the library builds with has
-// them.
+// The interpreter's loop.
+//
+// Where things are. The state that every operation needs is in local variables of Run: the next instruction
+// (pc), the registers of the running frame (R), the constants of its procedure (K). As locals that nobody has
+// the address of they stay in machine registers. Members of the machine would be read again after every store
+// through a Variant, as the compiler cannot know that the store leaves them alone. For the same reason a
+// function that works on registers gets copies of these locals (RegisterView).
+//
+// Calls. The locals and the topmost frame are brought in line where frames change: an operation that may call
+// stores pc in the frame first, because the frame continues there afterwards. The function that it calls
+// either has the result already, as from the library or the host, or it has pushed a frame: then AFTER_CALL
+// loads the locals from the new frame and the loop goes on in the callee. Return pops the frame and loads
+// them from the caller's.
+//
+// Temporaries. An operation that reads a temporary clears it, or moves its value on (Procedure.h). The quick
+// paths here work on numbers, which need no clearing; all others do it.
+//
+// Errors are exceptions. They end in the handlers at the end of Run, outside the loop's quick paths, which
+// cost nothing there. Handle finds the frame that goes on, and the loop starts again with it.
+//
+// As an example, `x = a(i) + 1` with variables of the procedure and temporaries t0, t1 is
+//
+//     GetElement t1 a i    finds the element, copies it to t1. If `a` holds no array or `i` no whole number,
+//                          GetElementSlowly converts the index, or calls the default member of an object.
+//     Move t0 t1           moves the value, so that t1 is empty again.
+//     Add x t0 1           adds whole numbers or doubles at once; anything else takes ApplyAdd, which clears
+//     t0
+//                          and stores the operator's result.
+
+// Jumps to the addresses of labels are what makes the loop quick: each operation ends with a jump of its own
+// to the next operation (NEXT), which the processor predicts by what usually follows this one. All compilers
+// that the library is built with have them.
 #pragma GCC diagnostic ignored "-Wpedantic"
 
 namespace cardwright::vbscript {
 
 namespace {
 
-// Jumps back between two looks at the clock.
+// Jumps back and calls between two looks at the clock.
 constexpr int kTicks = 2048;
 
 // The narrowest of the two types that holds the result of two whole operands.
@@ -33,13 +63,13 @@ double Real(const Variant& value) noexcept {
   return value.Type() == VarType::Double ? value.Double() : value.Long();
 }
 
-// An object has a default value to be asked for, which may change the array that an element is to be assigned
-// in.
+// Assigning an object asks for its default value, which may run code that changes the array being assigned
+// to.
 bool IsNoObject(const Variant& value) noexcept { return !value.Deref().IsObject(); }
 
 }  // namespace
 
-// NOLINTBEGIN(readability-function-size): one label an operation, each a few lines; see Opcodes.h for what they do.
+// NOLINTBEGIN(readability-function-size): a label for each operation, a few lines each. Opcodes.def describes them.
 void Machine::Run() {
   static const void* const kLabels[] = {
 #define OPCODE(name, ...) &&L_##name,
@@ -47,7 +77,7 @@ void Machine::Run() {
 #undef OPCODE
   };
 
-  const std::size_t entry = m_Depth;
+  const std::size_t entry = m_Depth;  // Run returns when this frame does
   const Instruction* pc = nullptr;
   const Procedure* procedure = nullptr;
   Variant* R = nullptr;
@@ -57,8 +87,8 @@ void Machine::Run() {
   Instruction i{};
 
 #define NEXT goto* kLabels[static_cast<std::size_t>(pc++->op)]
-// Each operation reads its own word. One that lived from jump to jump would take the registers that the
-// machine needs for more.
+// Each operation reads its own instruction. One that lived from jump to jump would occupy machine registers
+// that the loop needs.
 #define OPERATION(name) L_##name : i = pc[-1];
 #define RELOAD()                                \
   do {                                          \
@@ -69,8 +99,8 @@ void Machine::Run() {
     K = procedure->constants.data();            \
     firstTemporary = procedure->firstTemporary; \
   } while (false)
-// A call leaves a frame to go on in, or has its result in place already. Each procedure is a place to stop
-// at: calls without any loop may go on for ever too.
+// After a call that may have pushed a frame. A call of a procedure can be interrupted like a jump back:
+// recursion may be endless too.
 #define AFTER_CALL(pushed) \
   do {                     \
     if (pushed) {          \
@@ -90,7 +120,7 @@ void Machine::Run() {
       PollInterrupts();                                                          \
     }                                                                            \
   } while (false)
-// No object with a destructor may be alive at a NEXT: the jump would leave it behind.
+// The quick paths. No object with a destructor may be alive at NEXT: the jump would skip the destructor.
 #define ARITHMETIC(name, builtin, sign, slowly)                                     \
   OPERATION(name) {                                                                 \
     const Variant& x = OPERAND_B;                                                   \
@@ -144,7 +174,7 @@ void Machine::Run() {
   }
 
   for (;;) {
-    Pending pending;
+    PendingError pending;
     try {
       RELOAD();
       NEXT;

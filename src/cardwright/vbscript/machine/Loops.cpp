@@ -31,7 +31,8 @@ bool IsDone(const Variant& variable, const Variant& limit, const Variant& step) 
 }  // namespace
 
 bool PrepareFor(Variant& variable, Variant* bounds) {
-  // Whichever of the three fails, no limit stays behind: that is how Next knows a loop that was not prepared.
+  // Whichever conversion fails, the limit is Empty then: by that Next recognises a loop that was not
+  // prepared.
   const Variant given = std::move(bounds[1]);
   Variant first = NumberOf(bounds[0]);
   Variant limit = NumberOf(given);

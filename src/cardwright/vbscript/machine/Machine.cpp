@@ -1,7 +1,6 @@
 #include "cardwright/vbscript/machine/Machine.h"
 
 #include "cardwright/vbscript/compile/Compiler.h"
-#include "cardwright/vbscript/machine/FunctionReference.h"
 #include "cardwright/vbscript/syntax/Parser.h"
 
 namespace cardwright::vbscript {
@@ -9,23 +8,6 @@ namespace cardwright::vbscript {
 namespace {
 
 constexpr std::u16string_view kErrName = u"Err";
-
-// The names that a compiled text defines become the module's.
-void Define(const CompiledBlock& block, Machine& machine, Module& module, Variant* variables) {
-  for (const auto& [name, defined] : block.names) {
-    Symbol& symbol = module.Add(name);
-    if (defined.kind == SymbolKind::Variable) {
-      symbol.kind = SymbolKind::Variable;
-      symbol.variable = variables + defined.variable;
-    } else if (defined.kind == SymbolKind::Constant) {
-      symbol.kind = SymbolKind::Constant;
-      symbol.value = *defined.constant;
-    }
-  }
-  for (const Ref<Procedure>& procedure : block.procedures) module.Define(procedure->name, procedure);
-  for (const Ref<ClassInfo>& cls : block.classes) module.DefineClass(cls->name, cls);
-  machine.NamesChanged();
-}
 
 }  // namespace
 
@@ -50,7 +32,7 @@ Machine::~Machine() {
   m_Link->machine = nullptr;
 }
 
-// Objects that hold each other are still there when all names are cleared; they end here too.
+// Objects that refer to each other are left when all names have been cleared; they end here too.
 void Machine::Close() {
   const Entry entry(*this);
   m_IsClosing = true;
@@ -59,7 +41,7 @@ void Machine::Close() {
     const Ref<Instance> instance(m_Instances);
     instance->Terminate();
     instance->ClearFields();
-    // One that something outside holds stays, without its machine.
+    // An instance that the host still holds remains, without a machine.
     if (m_Instances == instance.get()) Forget(*instance);
   }
   m_IsClosing = false;
@@ -90,16 +72,34 @@ void Machine::AddObject(std::u16string_view name, Ref<Object> object, bool addMe
   NamesChanged();
 }
 
+// Makes the names that a compiled text defines names of the module.
+void Machine::BindNames(const CompiledBlock& block, Module& module, Variant* variables) {
+  for (const auto& [name, defined] : block.names) {
+    Symbol& symbol = module.Add(name);
+    if (defined.kind == SymbolKind::Variable) {
+      symbol.kind = SymbolKind::Variable;
+      symbol.variable = variables + defined.variable;
+    } else if (defined.kind == SymbolKind::Constant) {
+      symbol.kind = SymbolKind::Constant;
+      symbol.value = *defined.constant;
+    }
+  }
+  for (const Ref<Procedure>& procedure : block.procedures) module.Define(procedure->name, procedure);
+  for (const Ref<ClassInfo>& cls : block.classes) module.DefineClass(cls->name, cls);
+  NamesChanged();
+}
+
 void Machine::AddCode(Module& module, std::u16string_view source, bool isExplicit) {
   CheckRoomForSource();
   const auto tree = Parse(Text(source));
   tree->optionExplicit |= isExplicit;
   const CompiledBlock block = CompileBlock(*tree, *this, module);
-  // The registers stay where names refer to them: a script may execute a text without any for ever.
-  std::unique_ptr<Variant[]> passing;
-  if (!block.hasVariables) passing = std::make_unique<Variant[]>(block.code->registers);
-  Variant* const variables = passing ? passing.get() : module.AddVariables(block.code->registers);
-  Define(block, *this, module, variables);
+  // The registers live on where the text declares variables. Otherwise they go at once, as a script may
+  // execute texts without end.
+  std::unique_ptr<Variant[]> temporary;
+  if (!block.hasVariables) temporary = std::make_unique<Variant[]>(block.code->registers);
+  Variant* const variables = temporary ? temporary.get() : module.AddVariables(block.code->registers);
+  BindNames(block, module, variables);
   RunOutermost(*block.code, variables);
 }
 
@@ -117,61 +117,9 @@ Variant Machine::Call(const Procedure& procedure, Instance* me, Args args) {
   return Enter(procedure, me, args);
 }
 
-// Executed code has no variables of its own, so what it executes works on those of the same procedure.
-std::size_t Machine::ScopeDepth() const noexcept {
-  std::size_t depth = m_Depth - 1;
-  while (m_Frames[depth].procedure->isExecuted) --depth;
-  return depth;
-}
-
-Variant Machine::RunInScope(SyntaxTree& tree) {
-  const std::size_t depth = ScopeDepth();
-  const Procedure& outer = *m_Frames[depth].procedure;
-  tree.optionExplicit |= outer.isExplicit;
-  CompiledBlock block;
-  const CompiledInScope compiled = CompileInScope(tree, *this, outer, m_Frames[depth].scope, block);
-  compiled.code->isExecuted = true;
-  Define(block, *this, *outer.module, nullptr);
-  std::vector<Variant> variables;
-  for (const NameId name : compiled.variables) variables.push_back(ReferenceInScope(m_Frames[depth], name));
-  return Enter(*compiled.code, m_Frames[depth].me, variables);
-}
-
-Variant Machine::ReferenceInScope(Frame& frame, NameId name) {
-  for (const auto& [local, r] : frame.procedure->locals)
-    if (local == name) return Variant::ByRef(frame.registers[r]);
-  if (!frame.scope) frame.scope = new ScopeVariables;
-  return Variant::ByRef((*frame.scope)[name]);
-}
-
-void Machine::ExecuteInScope(const Text& source) {
-  const Procedure& outer = *m_Frames[ScopeDepth()].procedure;
-  if (outer.isOutermost) {
-    AddCode(*outer.module, source, outer.isExplicit);
-  } else {
-    CheckRoomForSource();
-    RunInScope(*Parse(source));
-  }
-}
-
-void Machine::ExecuteInModule(const Text& source) {
-  AddCode(*Current().procedure->module, source, Current().procedure->isExplicit);
-}
-
-Variant Machine::EvaluateInScope(const Text& expression) {
-  CheckRoomForSource();
-  return RunInScope(*ParseExpression(expression));
-}
-
-Variant Machine::GetReference(const Text& procedure) {
-  const Symbol* symbol = Current().procedure->module->FindBound(names.Add(procedure));
-  if (!symbol || symbol->kind != SymbolKind::Procedure) Raise(ErrorNumber::InvalidCall);
-  return Variant(MakeRef<FunctionReference>(symbol->procedure, m_Link));
-}
-
 Ref<Instance> Machine::MakeInstance(ClassInfo& cls) {
   auto instance = MakeRef<Instance>(Ref<ClassInfo>(&cls), m_Link);
-  // One that is made while all end has no end of its own, or there could always be another.
+  // One that is created during Close runs no Class_Terminate, which could create yet another.
   instance->m_Terminated = m_IsClosing;
   instance->m_Next = m_Instances;
   if (m_Instances) m_Instances->m_Previous = instance.get();
@@ -194,7 +142,7 @@ Machine::Entry::Entry(Machine& machine)
       m_StopScope(machine) {
   Locale::SetCurrent(*machine.locale);
   if (machine.m_Entries++ != 0) return;
-  // The order to stop is for what was running; what begins now is another call.
+  // An earlier order to stop was meant for what ran then.
   machine.m_Order.store(Order::None, std::memory_order_relaxed);
   machine.m_HostPoll.Restart();
   machine.m_Deadline = machine.m_Timeout < 0

@@ -14,6 +14,7 @@
 #include "cardwright/vbscript/Engine.h"
 #include "cardwright/vbscript/code/Linkage.h"
 #include "cardwright/vbscript/machine/ErrObject.h"
+#include "cardwright/vbscript/machine/Frame.h"
 #include "cardwright/vbscript/machine/Instance.h"
 #include "cardwright/vbscript/machine/RegisterStack.h"
 #include "cardwright/vbscript/machine/RegisterView.h"
@@ -22,21 +23,13 @@
 namespace cardwright::vbscript {
 
 class SyntaxTree;
-
-/// A procedure that runs.
-struct Frame {
-  const Procedure* procedure = nullptr;
-  const Instruction* pc = nullptr;  ///< where it goes on when the call that it made returns
-  Variant* registers = nullptr;
-  Variant* top = nullptr;     ///< end of what is in use of the register stack
-  Variant* result = nullptr;  ///< where the caller wants the result; null for nowhere
-  Instance* me = nullptr;
-  ScopeVariables* scope = nullptr;
-  std::uint32_t block = 0;  ///< of the register stack
-  bool resumeNext = false;
-};
+struct CompiledBlock;
 
 /// The virtual machine of one engine: its modules, its objects, its running code.
+///
+/// A call from outside (Call, AddCode, Evaluate) pushes a frame and enters the interpreter, Run. A script
+/// procedure that calls another one pushes a frame too and stays in the same Run, so that recursion of
+/// scripts takes no stack of the thread. Run returns when the frame that it was entered for returns.
 class Machine final : public Context, public Linkage, private StopSignal {
  public:
   Machine(ScriptHost& host, const Limits& limits);
@@ -53,19 +46,19 @@ class Machine final : public Context, public Linkage, private StopSignal {
   /// Error 5 for no object, or a name that is taken.
   void AddObject(std::u16string_view name, Ref<Object> object, bool addMembers);
   Symbol* Lookup(Module& module, NameId name) override;
-  /// To be called when any name has changed its meaning.
+  /// Called after any name was bound anew: makes the bindings that code has cached invalid.
   void NamesChanged() noexcept { ++m_Epoch; }
   /// @}
 
-  /// @name Running code. Errors come as ScriptFault; an interruption as Interrupted.
+  /// @name Running code. Throws ScriptFault for an error that no script handled, Interrupted for a stop.
   /// @{
-  /// With `isExplicit` names have to be declared even where the source does not say so.
+  /// `isExplicit` works like Option Explicit in the source.
   void AddCode(Module& module, std::u16string_view source, bool isExplicit = false);
   Variant Evaluate(Module& module, std::u16string_view expression);
   Variant Call(const Procedure& procedure, Instance* me, Args args);
   /// @}
 
-  /// @name Library functions that need the machine. They work in the scope of the procedure that runs.
+  /// @name For Execute, ExecuteGlobal, Eval and GetRef, which work in the scope of the running procedure
   /// @{
   void ExecuteInScope(const Text& source);
   void ExecuteInModule(const Text& source);
@@ -76,7 +69,7 @@ class Machine final : public Context, public Linkage, private StopSignal {
   Ref<Instance> MakeInstance(ClassInfo& cls);
   void Forget(Instance& instance) noexcept;
 
-  /// Clears all names and ends the instances of the script's classes, whose Class_Terminate may still call
+  /// Clears all names and ends the instances of the script's classes. Their Class_Terminate may still call
   /// the host.
   void Close();
   void Interrupt() noexcept { m_Order.store(Order::Stop, std::memory_order_relaxed); }
@@ -86,7 +79,8 @@ class Machine final : public Context, public Linkage, private StopSignal {
   bool IsRunning() const noexcept override { return m_Depth > 0; }
   ErrObject& Err() noexcept { return *m_Err; }
 
-  /// Around every call from outside: locale, limits and the clock of the outermost one.
+  /// Lives during every call from outside: sets the locale and the limits, and for an outermost call the
+  /// deadline.
   class Entry {
    public:
     explicit Entry(Machine& machine);
@@ -104,13 +98,15 @@ class Machine final : public Context, public Linkage, private StopSignal {
 
  private:
   friend class Instance;
-  /// An error on its way to a procedure that handles it.
-  struct Pending {
+  /// An error that no procedure has handled yet.
+  struct PendingError {
     int number = 0;
     Text description, source, report;
     Position position;
-    bool isPlaced = false;
+    bool hasPosition = false;
   };
+
+  void BindNames(const CompiledBlock& block, Module& module, Variant* variables);
 
   // Interpreter.cpp
   void Run();
@@ -118,6 +114,8 @@ class Machine final : public Context, public Linkage, private StopSignal {
   // Frames.cpp
   Variant Enter(const Procedure& procedure, Instance* me, Args args);
   void RunOutermost(const Procedure& code, Variant* variables);
+  /// Where the arguments of a call are: at the top of the caller's registers, so that the frame can start
+  /// there.
   enum class Arguments { AtTopOfCaller, Elsewhere };
   Frame& AddFrame(const Procedure& procedure, Instance* me, Variant* result);
   void PushFrame(const Procedure& procedure, Instance* me, Args arguments, Variant* result,
@@ -129,11 +127,14 @@ class Machine final : public Context, public Linkage, private StopSignal {
   void PopFrame(Ending ending) noexcept;
   void CheckNesting(std::size_t stack = 0) const;
   void CheckRoomForSource() const;
+
+  // ExecutedCode.cpp
   std::size_t ScopeDepth() const noexcept;
   Variant RunInScope(SyntaxTree& tree);
   static Variant ReferenceInScope(Frame& frame, NameId name);
 
-  // Calls.cpp; those that answer a bool tell whether they left a frame to go on in
+  // Calls.cpp. A bool says whether a frame was pushed, in which the interpreter has to continue; otherwise
+  // the result is in place.
   bool CallSymbol(SymbolUse& use, Variant* arguments, std::size_t count, std::uint16_t flags);
   bool CallMember(RegisterView view, Instruction i, MemberUse& use);
   bool CallInstance(MemberUse& use, Instance& object, Variant* arguments, std::size_t count, Variant* result);
@@ -146,12 +147,12 @@ class Machine final : public Context, public Linkage, private StopSignal {
   MemberId FindMember(MemberUse& use, const Object& object) const;
   const ClassMember& FindMember(MemberUse& use, const Instance& object) const;
 
-  // Assignments.cpp
+  // IndexedAssignment.cpp
   void AssignIndexedSymbol(SymbolUse& use, Args arguments, std::uint16_t flags);
   bool AssignMember(RegisterView view, Instruction i, MemberUse& use);
   bool AssignInstanceMember(MemberUse& use, Instance& object, Args arguments, bool isSet);
 
-  // ElementPaths.cpp
+  // ElementSlowPaths.cpp
   bool GetElementSlowly(RegisterView view, Instruction i, Instruction word, const Procedure& procedure);
   void SetElementSlowly(RegisterView view, Instruction i, Instruction word, const Procedure& procedure);
   bool GetSymbolElementSlowly(RegisterView view, Instruction i, Instruction word, SymbolUse& use);
@@ -171,10 +172,12 @@ class Machine final : public Context, public Linkage, private StopSignal {
   [[noreturn]] void RaiseAbout(ErrorNumber number, NameId name) const;
   Text LocalName(const Procedure& procedure, std::uint16_t r) const;
 
-  // Faults.cpp
-  Pending Describe(const Error& error) const;
-  void Handle(Pending pending, std::size_t entry);
+  // ErrorHandling.cpp
+  PendingError Describe(const Error& error) const;
+  void Handle(PendingError pending, std::size_t entry);
   void Unwind(std::size_t depth) noexcept;
+
+  // Interrupts.cpp
   void CheckDeadline() noexcept;
   bool ShouldStop() noexcept override;
   bool IsStopping() const noexcept { return m_Order.load(std::memory_order_relaxed) == Order::Stop; }
@@ -183,6 +186,8 @@ class Machine final : public Context, public Linkage, private StopSignal {
   void ThrowIfStopping() {
     if (IsStopping()) CheckStop();
   }
+
+  // StatementObserver.cpp
   void Observe(const Procedure& procedure, std::size_t instruction);
   void ObserveReturn();
 
@@ -190,18 +195,19 @@ class Machine final : public Context, public Linkage, private StopSignal {
 
   Limits m_Limits;
   std::vector<std::unique_ptr<Module>> m_Modules;
-  Module m_Objects;  // of the host, and Err
-  Module m_Library;  // members of such objects and the library, as far as a script asked for them
-  std::vector<Ref<Object>> m_MemberObjects;  // in order of their addition
+  Module m_Objects;  // objects of the host, and Err
+  Module m_Library;  // members of these objects, functions and constants of the library: those used so far
+  std::vector<Ref<Object>> m_MemberObjects;  // in the order in which they were added
   Ref<ErrObject> m_Err;
   Ref<MachineLink> m_Link;
 
   RegisterStack m_Registers;
   std::vector<Frame> m_Frames;
-  std::size_t m_Depth = 0;
-  Frame* m_Current = nullptr;  // the last of those in use
-  std::uint32_t m_Epoch = 1;
-  int m_Entries = 0;
+  std::size_t m_Depth = 0;     // frames in use
+  Frame* m_Current = nullptr;  // the topmost of them
+  std::uint32_t m_Epoch = 1;   // counts changes of bindings
+  int m_Entries = 0;           // calls from outside, one within the other
+  // What the interpreter has to do at its next check. Other threads set it, to stop the script.
   enum class Order : std::uint8_t { None, Poll, Stop };
   std::atomic<Order> m_Order = Order::None;
   HostPoll m_HostPoll;

@@ -9,7 +9,7 @@ namespace {
 
 Machine& MachineOf(Context& context) { return static_cast<Machine&>(context); }
 
-// What is no text is its own value.
+// A value that is no text evaluates to itself.
 Variant Eval(Context& context, Args args) {
   return args[0].IsString() ? MachineOf(context).EvaluateInScope(args[0].String()) : args[0];
 }

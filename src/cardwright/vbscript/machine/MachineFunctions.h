@@ -4,7 +4,7 @@
 
 namespace cardwright::vbscript {
 
-/// The library functions that work on running code: Eval, Execute, ExecuteGlobal, GetRef. Null for any other
+/// The library functions that need the machine: Eval, Execute, ExecuteGlobal, GetRef. Null for any other
 /// name.
 const Builtin* FindMachineFunction(std::u16string_view name) noexcept;
 

@@ -11,7 +11,7 @@ Variant* RegisterStack::Bottom() {
 
 RegisterStack::Window RegisterStack::NextBlock(std::uint32_t block, std::size_t count) {
   const std::uint32_t next = block + 1;
-  // A block left from an earlier call is taken again where it is large enough.
+  // A block left over from an earlier call is reused where it is large enough.
   if (next < m_Blocks.size()) {
     const Block& left = m_Blocks[next];
     if (count <= static_cast<std::size_t>(left.end - left.values.get())) return {left.values.get(), next};

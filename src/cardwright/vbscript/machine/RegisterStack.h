@@ -9,22 +9,22 @@
 
 namespace cardwright::vbscript {
 
-/// Memory of the frames' registers. It grows by blocks that never move, as references into it are passed
-/// around. Whatever is above the topmost frame holds no counted value.
+/// Memory for the registers of all frames. It grows by blocks that never move, since registers refer to each
+/// other. Above the topmost frame's window no register holds a counted value.
 class RegisterStack {
  public:
-  /// A frame's place: `registers` from `start` on, in the block of that number.
+  /// The registers of a frame: those from `start` on, in the block of that number.
   struct Window {
     Variant* start;
     std::uint32_t block;
   };
 
-  /// It grows by at least that many registers.
+  /// `block` is the least number of registers by which it grows.
   explicit RegisterStack(std::size_t block) : m_Block(block) {}
 
   Variant* Bottom();
-  /// Room for `count` registers at `wanted` in the block, or at the start of a further one where they do not
-  /// fit.
+  /// A window of `count` registers at `wanted` in the block, or at the start of the next block where they do
+  /// not fit.
   Window Allocate(Variant* wanted, std::uint32_t block, std::size_t count) {
     if (count <= static_cast<std::size_t>(m_Blocks[block].end - wanted)) return {wanted, block};
     return NextBlock(block, count);

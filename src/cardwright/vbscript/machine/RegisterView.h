@@ -5,7 +5,8 @@
 
 namespace cardwright::vbscript {
 
-/// The registers and constants that one instruction works on.
+/// The registers and constants that an instruction works on: a copy of the interpreter's locals, so that
+/// these never have their address taken.
 struct RegisterView {
   Variant* R;
   const Variant* K;
@@ -18,7 +19,7 @@ struct RegisterView {
     return (i.n & kConstantSecond) ? K[word.a] : R[word.a];
   }
   bool IsTemporary(std::uint32_t r) const noexcept { return r >= firstTemporary; }
-  /// A value on the way is used up when it has been used.
+  /// Whoever reads a temporary clears it afterwards.
   void ClearTemporary(std::uint32_t r) const noexcept {
     if (IsTemporary(r)) R[r].Reset();
   }

@@ -9,15 +9,15 @@ class Machine;
 
 inline constexpr const char16_t* kRuntimeErrorSource = u"Microsoft VBScript runtime error";
 
-/// An error that no script handled, with its place: what an engine's caller catches.
+/// An error that no script handled, with its position. The callers of an engine catch it.
 class ScriptFault : public Error {
  public:
   ScriptFault(const Error& error, Position position, Text report, const Machine& machine)
       : Error(error), m_Position(position), m_Report(std::move(report)), m_Machine(&machine) {}
-  /// Whether it is a script of this machine that failed: the place is one in its code.
+  /// Whether a script of this machine failed, so that the position is in its code.
   bool IsOf(const Machine& machine) const noexcept { return m_Machine == &machine; }
   Position Where() const noexcept { return m_Position; }
-  /// Description as a host shows it.
+  /// The description as a host shows it.
   const Text& Report() const noexcept { return m_Report; }
 
  private:
@@ -26,7 +26,7 @@ class ScriptFault : public Error {
   const Machine* m_Machine;
 };
 
-/// Thrown to end all running code, which cannot catch it.
+/// Thrown to end all running code. Scripts cannot catch it.
 struct Interrupted {};
 
 }  // namespace cardwright::vbscript

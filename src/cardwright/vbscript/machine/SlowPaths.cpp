@@ -25,7 +25,7 @@ void StoreResult(RegisterView view, Instruction i, Variant outcome) {
   view.R[i.a] = std::move(outcome);
 }
 
-// WholeNumberText of a whole number without going through a text of its own.
+// A whole number as characters on the stack, without allocating a text.
 class WholeNumberText {
  public:
   explicit WholeNumberText(std::int32_t value) noexcept {
@@ -40,8 +40,8 @@ class WholeNumberText {
   std::size_t m_Count = 0;
 };
 
-// The operands of an instruction. An object's default property may change the very variables that the
-// operator is reading, so next to an object an operand is looked at in a copy.
+// The operands of an instruction. The default property of an object may change the very variables that the
+// operator reads, so where an operand is an object the operator works on copies.
 class Operands {
  public:
   Operands(RegisterView view, Instruction i) : m_Left(&view.B(i)), m_Right(&view.C(i)) {
@@ -129,7 +129,7 @@ void AssignValue(Variant& to, Variant& from, bool isTemporary) {
     to = std::move(plain);
   } else if (value.IsArray() && value.ArrayPtr()->IsFixed()) {
     Context::ChargeWork(value.ArrayPtr()->Values().size());
-    to = Variant(value.ArrayPtr()->Copy());  // the copy can be dimensioned anew
+    to = Variant(value.ArrayPtr()->Copy());  // the copy is a dynamic array
     if (isTemporary) from.Reset();
   } else if (isTemporary && &value == &from) {
     to = std::move(from);
@@ -168,7 +168,7 @@ void TakeObject(RegisterView view, Instruction i) {
 }
 
 void AppendText(const Context& context, Variant& place, const Variant& tail) {
-  // An object's default property may change or move what the place refers to, so it is asked first.
+  // A default property may change where `place` refers to, so it is called first.
   if (tail.Deref().IsObject()) {
     const Variant text = place.Deref();
     Variant sum = Concatenate(text, DefaultValue(tail));

@@ -9,7 +9,7 @@ namespace cardwright::vbscript {
 
 namespace {
 
-// Left for the host's own work. Instrumented builds have much larger frames, so it is generous.
+// Reserved for the host's own work; generous, since instrumented builds have much larger frames.
 constexpr std::uintptr_t kReserve = 384 * 1024;
 
 std::uintptr_t LowestAddress() noexcept {

@@ -4,12 +4,12 @@
 
 namespace cardwright::vbscript {
 
-/// Stack that reading and compiling the most deeply nested source takes, in instrumented builds too, whose
-/// frames are much larger.
+/// Stack that parsing and compiling the most deeply nested source takes. Enough for instrumented builds,
+/// whose frames are much larger.
 inline constexpr std::size_t kStackForSource = std::size_t{2} << 20;
 
-/// True while the calling thread's stack has room for another call into the machine and what a host may do in
-/// one, and for that many bytes besides.
+/// Whether the calling thread's stack has room for another call into the machine, for what a host may do in
+/// it, and for `further` bytes.
 bool HasStackRoom(std::size_t further = 0) noexcept;
 
 }  // namespace cardwright::vbscript

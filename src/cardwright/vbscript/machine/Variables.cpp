@@ -48,7 +48,7 @@ Symbol* Machine::Lookup(Module& module, NameId name) {
 }
 
 void Machine::Resolve(SymbolUse& use) {
-  // What the running procedure has used as a variable of its own stays one, whatever the name means by now.
+  // A name that the running procedure has used as its own variable stays one, whatever it is bound to by now.
   if (use.local != kNoRegister && !Current().registers[use.local].Deref().IsEmpty()) {
     use.symbol = nullptr;
     use.variable = nullptr;
@@ -66,7 +66,7 @@ Variant& Machine::VariableToWrite(SymbolUse& use) {
   if (use.symbol) RaiseAbout(ErrorNumber::IllegalAssignment, use.name);
   if (use.local != kNoRegister) return Current().registers[use.local].Deref();
   if (use.isStrict) RaiseAbout(ErrorNumber::UndefinedVariable, use.name);
-  // Outside procedures an assignment to a name that is nothing yet makes it a variable of the module.
+  // Outside procedures, assigning to an unbound name makes it a variable of the module.
   Symbol& symbol = Current().procedure->module->Add(use.name);
   symbol.kind = SymbolKind::Variable;
   symbol.variable = &symbol.value;

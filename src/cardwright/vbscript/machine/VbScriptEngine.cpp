@@ -9,7 +9,7 @@ namespace cardwright::vbscript {
 
 namespace {
 
-// The engine as its embedders see it: modules by name, errors noted.
+// The engine as a program that embeds it sees it: modules by name, and the last error recorded.
 class VbScriptEngine final : public ScriptEngine {
  public:
   VbScriptEngine(ScriptHost& host, const Limits& limits) : m_Machine(host, limits) {}
@@ -20,13 +20,13 @@ class VbScriptEngine final : public ScriptEngine {
   void AddModule(std::u16string_view name) override { m_Machine.AddModule(name); }
   void AddCode(std::u16string_view module, std::u16string_view code) override {
     Module& found = Required(module);
-    Noting([&] { m_Machine.AddCode(found, code); });
+    RecordErrors([&] { m_Machine.AddCode(found, code); });
   }
   Variant Run(std::u16string_view module, std::u16string_view procedure, Args args) override;
   Variant Evaluate(std::u16string_view module, std::u16string_view expression) override {
     Module& found = Required(module);
     Variant value;
-    Noting([&] { value = m_Machine.Evaluate(found, expression); });
+    RecordErrors([&] { value = m_Machine.Evaluate(found, expression); });
     return value;
   }
   std::vector<ScriptProcedure> Procedures(std::u16string_view module) const override;
@@ -47,7 +47,7 @@ class VbScriptEngine final : public ScriptEngine {
     return *module;
   }
   template <class Step>
-  void Noting(Step&& step);
+  void RecordErrors(Step&& step);
 
   Machine m_Machine;
   ScriptError m_Error;
@@ -62,14 +62,14 @@ ScriptError Described(const Error& error, const Text& description, Position posi
           .isSyntax = isSyntax};
 }
 
-// A call that goes well clears the error of an earlier one; an error inside stays to be asked for.
+// Records the error of a call for LastError, before it goes on to the caller. A call without one clears it.
 template <class Step>
-void VbScriptEngine::Noting(Step&& step) {
+void VbScriptEngine::RecordErrors(Step&& step) {
   m_Error = {};
   try {
     const Machine::Entry entry(m_Machine);
     step();
-    m_Error = {};  // of calls within this one
+    m_Error = {};  // errors of calls within this one
   } catch (const SyntaxError& error) {
     m_Error = Described(error, error.Description(), error.Where(), true);
     throw;
@@ -93,7 +93,7 @@ Variant VbScriptEngine::Run(std::u16string_view module, std::u16string_view proc
   if (!symbol || symbol->kind != SymbolKind::Procedure) Raise(ErrorNumber::InvalidCall);
   const Ref<const Procedure> code = symbol->procedure;
   Variant value;
-  Noting([&] { value = m_Machine.Call(*code, nullptr, args); });
+  RecordErrors([&] { value = m_Machine.Call(*code, nullptr, args); });
   return value;
 }
 

@@ -3,8 +3,8 @@
 #include "cardwright/vbscript/machine/Elements.h"
 #include "cardwright/vbscript/machine/Machine.h"
 
-// The long ways of the element operations: other index types, shared arrays, objects with a default member,
-// errors.
+// The slow paths of the element operations: indices of other types, shared arrays, objects with a default
+// member, errors.
 namespace cardwright::vbscript {
 
 namespace {
@@ -34,7 +34,7 @@ struct TakenIndices {
   }
 };
 
-// Most arrays have one dimension, most indices are whole.
+// Tries the common case first: one dimension, a whole number as index.
 std::size_t PositionOf(Variant& holder, Args indices) {
   const Variant& held = std::as_const(holder).Deref();
   if (held.IsArray() && indices.size() == 1 && indices[0].IsWhole()) {
