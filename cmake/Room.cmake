@@ -1,3 +1,5 @@
+add_custom_target(check-headers)
+
 # cardwright_add_room(<room>): the static library cardwright_<room> from src/cardwright/<room>/*.cpp, linked to the rooms that
 # cmake/Rooms.cmake allows it and to nothing else. Outside the project it is Cardwright::<room>.
 function(cardwright_add_room room)
@@ -28,11 +30,8 @@ function(cardwright_add_room room)
   endforeach()
   set_target_properties(${target} PROPERTIES EXPORT_NAME ${room})
 
-  if(CARDWRIGHT_SHOWN_${room})
-    list(TRANSFORM CARDWRIGHT_SHOWN_${room} PREPEND "${folder}/" OUTPUT_VARIABLE headers)
-  endif()
-  # The set of headers is what is installed, and what all_verify_interface_header_sets compiles one by one.
-  target_sources(${target} ${reach} FILE_SET HEADERS BASE_DIRS "${PROJECT_SOURCE_DIR}/src" FILES ${headers})
+  list(TRANSFORM CARDWRIGHT_INSTALLED_${room} PREPEND "${folder}/" OUTPUT_VARIABLE installed)
+  target_sources(${target} ${reach} FILE_SET HEADERS BASE_DIRS "${PROJECT_SOURCE_DIR}/src" FILES ${installed})
   target_include_directories(${target} ${reach} $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/src>)
   target_compile_features(${target} ${reach} cxx_std_20)
   foreach(used IN LISTS CARDWRIGHT_USES_${room})
@@ -51,6 +50,23 @@ function(cardwright_add_room room)
     target_compile_definitions(${target} ${reach} QT_NO_KEYWORDS)
   endif()
 
+  cardwright_compile_headers_alone(${room} ${headers})
   install(TARGETS ${target} EXPORT CardwrightTargets FILE_SET HEADERS
           DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}")
+endfunction()
+
+# Compiles each header of a room by itself, as part of the target check-headers: whoever includes one need not include
+# anything before it.
+function(cardwright_compile_headers_alone room)
+  set(sources)
+  foreach(header IN LISTS ARGN)
+    file(RELATIVE_PATH name "${PROJECT_SOURCE_DIR}/src" "${header}")
+    file(CONFIGURE OUTPUT "${PROJECT_BINARY_DIR}/headers/${name}.cpp" CONTENT "#include \"${name}\"\n")
+    list(APPEND sources "${PROJECT_BINARY_DIR}/headers/${name}.cpp")
+  endforeach()
+  set(target ${room}_headers)
+  add_library(${target} OBJECT EXCLUDE_FROM_ALL ${sources})
+  target_link_libraries(${target} PRIVATE cardwright_${room} ${CARDWRIGHT_HIDDEN_${room}} cardwright_warnings)
+  target_compile_options(${target} PRIVATE -O0 -g0 -fno-sanitize=all ${CARDWRIGHT_OPTIONS_${room}})
+  add_dependencies(check-headers ${target})
 endfunction()

@@ -27,11 +27,24 @@ set(CARDWRIGHT_HIDDEN_orv GDAL::GDAL)
 set(CARDWRIGHT_HIDDEN_scripting PkgConfig::PCRE2)
 set(CARDWRIGHT_HIDDEN_jscript PkgConfig::MOZJS)
 
-# The headers that a room with hidden libraries shows to the others; its further ones are its own affair.
-set(CARDWRIGHT_SHOWN_orv EmbeddedHost.h)
-set(CARDWRIGHT_SHOWN_jscript Engine.h)
-set(CARDWRIGHT_SHOWN_scripting Dictionary.h KeyTable.h RegExp.h)
-set(CARDWRIGHT_SHOWN_vbscript Engine.h)
+# The headers that are installed: what a host needs to fill in and to design forms, to be asked by them, and to give them
+# script engines. They include no others. All further headers are internal to the library.
+set(CARDWRIGHT_INSTALLED_automation Array.h Collection.h Conversions.h Errors.h MemberTable.h MemoryBudget.h Object.h
+    Ref.h Text.h TextRep.h Variant.h)
+set(CARDWRIGHT_INSTALLED_platform Color.h DesignSurface.h Desktop.h Files.h Font.h HostConnection.h MenuItem.h
+    Picture.h PropertyBag.h Scale.h ScreenRect.h ScriptControl.h ScriptEngine.h ScriptLanguages.h Surface.h Widget.h
+    WidgetListener.h)
+set(CARDWRIGHT_INSTALLED_storage CIni.h CodePage.h FileStamp.h IniFile.h IniName.h IniStore.h NameIndex.h)
+set(CARDWRIGHT_INSTALLED_vbscript Engine.h)
+set(CARDWRIGHT_INSTALLED_jscript Engine.h)
+set(CARDWRIGHT_INSTALLED_hosting ClassRegistry.h FormScripts.h)
+set(CARDWRIGHT_INSTALLED_orv EmbeddedHost.h)
+set(CARDWRIGHT_INSTALLED_model CForm.h ClassTable.h Control.h Enums.h FormOwner.h IControl.h Steps.h TableControl.h)
+set(CARDWRIGHT_INSTALLED_designer DesignClipboard.h DesignGrid.h DesignMenu.h FormDesigner.h
+    GrabHandles.h OutlineDrag.h)
+set(CARDWRIGHT_INSTALLED_runtime AttributeList.h CAttrib.h FormButton.h FormInput.h HostCommands.h Vellum.h)
+set(CARDWRIGHT_INSTALLED_qt FormDesigner.h FormInput.h Library.h VisualControl.h desktop/QtDesktop.h
+    desktop/QtSettings.h values/QtText.h)
 
 # GCC 12 takes the library's list of roots on the stack for pointers left dangling.
 set(CARDWRIGHT_OPTIONS_jscript $<$<CXX_COMPILER_ID:GNU>:-Wno-dangling-pointer>)

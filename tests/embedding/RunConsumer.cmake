@@ -1,0 +1,1 @@
+run("${BUILD}/consumer" "${BUILD}/visits.ini")
