@@ -16,9 +16,7 @@ constexpr const char16_t* kNames[] = {u"a", u"b", u"c", u"x", u"y", u"f", u"g", 
 const std::vector<Builtin>& Library() {
   static const std::vector<Builtin> library = [] {
     std::vector<Builtin> all;
-    for (const auto family : {ConversionFunctions(), MathFunctions(), TextFunctions(), ArrayFunctions(),
-                              DateFunctions(), FormatFunctions(), HostFunctions()})
-      all.insert(all.end(), family.begin(), family.end());
+    for (const auto family : BuiltinFamilies()) all.insert(all.end(), family.begin(), family.end());
     return all;
   }();
   return library;

@@ -1,6 +1,6 @@
 #include "automation/Printing.h"
 #include "cardwright/automation/Array.h"
-#include "vbscript/FamilyCalls.h"
+#include "vbscript/LibraryCalls.h"
 
 namespace cardwright::vbscript {
 namespace {
@@ -8,7 +8,7 @@ namespace {
 Variant List(std::vector<Variant> values) { return Array::FromValues(std::move(values)); }
 
 // The values of the array that a call answers, between brackets.
-std::string Listed(FamilyCalls& calls, std::u16string_view name, std::vector<Variant> args) {
+std::string Listed(LibraryCalls& calls, std::u16string_view name, std::vector<Variant> args) {
   try {
     const Variant list = calls.Call(name, std::move(args));
     std::string text;
@@ -28,7 +28,7 @@ struct ArrayRow {
 class ListingFunction : public testing::TestWithParam<ArrayRow> {};
 
 TEST_P(ListingFunction, Answers) {
-  FamilyCalls calls(ArrayFunctions());
+  LibraryCalls calls;
   EXPECT_EQ(Listed(calls, GetParam().name, GetParam().args), GetParam().answer);
 }
 
@@ -79,7 +79,7 @@ INSTANTIATE_TEST_SUITE_P(
 class ArrayFunction : public testing::TestWithParam<ArrayRow> {};
 
 TEST_P(ArrayFunction, Answers) {
-  FamilyCalls calls(ArrayFunctions());
+  LibraryCalls calls;
   EXPECT_EQ(calls.Answer(GetParam().name, GetParam().args), GetParam().answer);
 }
 
@@ -123,14 +123,14 @@ INSTANTIATE_TEST_SUITE_P(
     }));
 
 TEST(ArrayFunctions, LeaveTheArrayOfTheCallerAlone) {
-  FamilyCalls calls(ArrayFunctions());
+  LibraryCalls calls;
   const Variant numbers = List({1, 2});
   EXPECT_EQ(calls.Answer(u"Join", {numbers}), "String 1 2");
   EXPECT_EQ(numbers.ArrayPtr()->Values()[0].Type(), VarType::Long);
 }
 
 TEST(ArrayFunctions, JoinWhatTheySplit) {
-  FamilyCalls calls(ArrayFunctions());
+  LibraryCalls calls;
   std::u16string text;
   for (int i = 0; i < 10000; ++i) text += i % 3 == 0 ? u"longer piece," : u"x,";
   const Variant pieces = calls.Call(u"Split", {Text(text), u","});
@@ -139,7 +139,7 @@ TEST(ArrayFunctions, JoinWhatTheySplit) {
 }
 
 TEST(ArrayFunctions, RefuseAJoinedTextBeyondTheLimit) {
-  FamilyCalls calls(ArrayFunctions());
+  LibraryCalls calls;
   calls.Context().maxTextUnits = 4;
   EXPECT_EQ(calls.Answer(u"Join", {List({u"ab", u"c"})}), "String ab c");
   EXPECT_EQ(calls.Answer(u"Join", {List({u"ab", u"cd"})}), "Error 14");

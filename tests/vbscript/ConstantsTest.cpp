@@ -1,7 +1,7 @@
 #include <set>
 #include <string>
 
-#include "vbscript/LibrarySample.h"
+#include "vbscript/LibraryCalls.h"
 
 namespace cardwright::vbscript {
 namespace {

@@ -1,7 +1,7 @@
 #include <cstdlib>
 #include <ctime>
 
-#include "vbscript/FamilyCalls.h"
+#include "vbscript/LibraryCalls.h"
 
 namespace cardwright::vbscript {
 namespace {
@@ -24,7 +24,7 @@ class DateFunctionsTest : public testing::Test {
     }
   }
 
-  FamilyCalls m_Calls{DateFunctions()};
+  LibraryCalls m_Calls;
   const Variant m_Null = Variant::Null();
   const Variant m_Missing = Variant::Missing();
 };

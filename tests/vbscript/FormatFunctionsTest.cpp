@@ -1,6 +1,6 @@
 #include <limits>
 
-#include "vbscript/FamilyCalls.h"
+#include "vbscript/LibraryCalls.h"
 
 namespace cardwright::vbscript {
 namespace {
@@ -21,7 +21,7 @@ class FormatFunctionsTest : public testing::Test {
     }
   }
 
-  FamilyCalls m_Calls{FormatFunctions()};
+  LibraryCalls m_Calls;
   const Variant m_Null = Variant::Null();
   const Variant m_Missing = Variant::Missing();
 };
@@ -149,7 +149,7 @@ struct CurrencyOf {
 class FormatCurrencyIn : public testing::TestWithParam<CurrencyOf> {};
 
 TEST_P(FormatCurrencyIn, FollowsTheCountry) {
-  FamilyCalls calls(FormatFunctions());
+  LibraryCalls calls;
   calls.SetLocale(GetParam().locale);
   const auto answer = [&](std::vector<Variant> args) {
     return calls.Call(u"FormatCurrency", std::move(args)).String().ToUtf8();

@@ -1,4 +1,4 @@
-#include "vbscript/FamilyCalls.h"
+#include "vbscript/LibraryCalls.h"
 
 namespace cardwright::vbscript {
 namespace {
@@ -55,7 +55,7 @@ class HostFunctionsTest : public testing::Test {
   }
 
   RecordingHost m_Host;
-  FamilyCalls m_Calls{HostFunctions(), m_Host};
+  LibraryCalls m_Calls{m_Host};
   const Variant m_Null = Variant::Null();
   const Variant m_Missing = Variant::Missing();
 };
@@ -120,7 +120,7 @@ TEST_F(HostFunctionsTest, ObjectsThatAreNotThereAreErrors) {
 }
 
 TEST(HostFunctions, AllowNothingWithoutAHost) {
-  FamilyCalls calls(HostFunctions());
+  LibraryCalls calls;
   EXPECT_EQ(calls.Answer(u"MsgBox", {u"Hi"}), "Integer 0");
   EXPECT_EQ(calls.Answer(u"InputBox", {u"Hi"}), "Empty");
   EXPECT_EQ(calls.Answer(u"CreateObject", {u"A.B"}), "Error 429");

@@ -1,12 +1,12 @@
 #include <cmath>
 #include <limits>
 
-#include "vbscript/LibrarySample.h"
+#include "vbscript/LibraryCalls.h"
 
 namespace cardwright::vbscript {
 namespace {
 
-void ExpectResults(std::initializer_list<CallCase> cases) { ExpectCalls(MathFunctions(), cases); }
+void ExpectResults(std::initializer_list<CallCase> cases) { ExpectCalls(cases); }
 
 TEST(MathFunctions, OfTheRealsGiveDoubles) {
   ExpectResults({{u"Atn", {Short{1}}, "d 0.785398163397448"},
@@ -89,17 +89,17 @@ TEST(Rnd, HasTheSequenceThatScriptsKnow) {
         CallCase{u"Rnd", {Short{0}}, "s 1.953125E-02"}}) {
     ExpectResults({first});
   }
-  LibraryFamily family(MathFunctions());
-  EXPECT_EQ(family.Try(u"Rnd", {}), "s 0.7055475");
-  EXPECT_EQ(family.Try(u"Rnd", {Short{1}}), "s 0.533424");
-  EXPECT_EQ(family.Try(u"Rnd", {Variant::Missing()}), "s 0.5795186");
-  EXPECT_EQ(family.Try(u"Rnd", {Short{0}}), "s 0.5795186") << "the latest one again";
-  EXPECT_EQ(family.Try(u"Rnd", {}), "s 0.2895625");
+  LibraryCalls calls;
+  EXPECT_EQ(calls.Try(u"Rnd", {}), "s 0.7055475");
+  EXPECT_EQ(calls.Try(u"Rnd", {Short{1}}), "s 0.533424");
+  EXPECT_EQ(calls.Try(u"Rnd", {Variant::Missing()}), "s 0.5795186");
+  EXPECT_EQ(calls.Try(u"Rnd", {Short{0}}), "s 0.5795186") << "the latest one again";
+  EXPECT_EQ(calls.Try(u"Rnd", {}), "s 0.2895625");
 }
 
 TEST(Rnd, GoesOnFromANegativeNumber) {
-  LibraryFamily a(MathFunctions());
-  LibraryFamily b(MathFunctions());
+  LibraryCalls a;
+  LibraryCalls b;
   b.Call(u"Rnd", {});
   a.Call(u"Rnd", {Short{-5}});
   b.Call(u"Rnd", {Short{-5}});
@@ -107,44 +107,44 @@ TEST(Rnd, GoesOnFromANegativeNumber) {
 }
 
 TEST(Rnd, StaysBelowOne) {
-  LibraryFamily family(MathFunctions());
+  LibraryCalls calls;
   for (int i = 0; i < 10000; ++i) {
-    const float value = family.Call(u"Rnd", {}).Single();
+    const float value = calls.Call(u"Rnd", {}).Single();
     ASSERT_GE(value, 0.0F);
     ASSERT_LT(value, 1.0F);
   }
 }
 
 TEST(Randomize, WithANumberIsRepeatedOnlyAfterANegativeRnd) {
-  LibraryFamily family(MathFunctions());
+  LibraryCalls calls;
   const auto sequence = [&] {
     std::string texts;
-    for (int i = 0; i < 3; ++i) texts += family.Try(u"Rnd", {}) + " ";
+    for (int i = 0; i < 3; ++i) texts += calls.Try(u"Rnd", {}) + " ";
     return texts;
   };
   const auto repeated = [&] {
-    family.Call(u"Rnd", {Short{-1}});
-    EXPECT_TRUE(family.Call(u"Randomize", {Short{42}}).IsEmpty());
+    calls.Call(u"Rnd", {Short{-1}});
+    EXPECT_TRUE(calls.Call(u"Randomize", {Short{42}}).IsEmpty());
     return sequence();
   };
   const std::string first = repeated();
   EXPECT_EQ(repeated(), first);
-  family.Call(u"Randomize", {Short{42}});
+  calls.Call(u"Randomize", {Short{42}});
   EXPECT_NE(sequence(), first) << "the lowest byte of the state stays";
 }
 
 TEST(Randomize, FoldsTheUpperHalfOfTheNumberIntoTheState) {
-  LibraryFamily family(MathFunctions());
-  family.context.randomSeed = 0xABCDEF;
-  family.Call(u"Randomize", {Short{1}});  // 1 as a Double is 3FF00000 00000000
-  EXPECT_EQ(family.context.randomSeed, 0x3FF0EFU);
+  LibraryCalls calls;
+  calls.Context().randomSeed = 0xABCDEF;
+  calls.Call(u"Randomize", {Short{1}});  // 1 as a Double is 3FF00000 00000000
+  EXPECT_EQ(calls.Context().randomSeed, 0x3FF0EFU);
 }
 
 TEST(Randomize, WithoutANumberTakesTheTime) {
-  LibraryFamily family(MathFunctions());
-  EXPECT_TRUE(family.Call(u"Randomize", {}).IsEmpty());
-  EXPECT_EQ(family.context.randomSeed & 0xFF, 0U);
-  EXPECT_LE(family.context.randomSeed, 0xFFFFFFU);
+  LibraryCalls calls;
+  EXPECT_TRUE(calls.Call(u"Randomize", {}).IsEmpty());
+  EXPECT_EQ(calls.Context().randomSeed & 0xFF, 0U);
+  EXPECT_LE(calls.Context().randomSeed, 0xFFFFFFU);
 }
 
 }  // namespace

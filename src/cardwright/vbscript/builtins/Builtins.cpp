@@ -8,11 +8,11 @@ namespace cardwright::vbscript {
 
 namespace {
 
-/// Rows of the library's tables by their names, whatever the case: open addressing, at most half full.
+/// Rows of tables by their names in any case: a hash table with open addressing, at most half full.
 template <class Row>
-class Index {
+class RowIndex {
  public:
-  explicit Index(std::initializer_list<std::span<const Row>> families) {
+  explicit RowIndex(std::span<const std::span<const Row>> families) {
     std::size_t count = 0;
     for (const auto& family : families) count += family.size();
     m_Slots.resize(std::bit_ceil(2 * count + 1));
@@ -24,7 +24,7 @@ class Index {
   const Row* Find(std::u16string_view name) const noexcept { return m_Slots[SlotOf(name)]; }
 
  private:
-  // The slot of that name, or the free one where it would go.
+  // The slot of the name, or the free one where it would go.
   std::size_t SlotOf(std::u16string_view name) const noexcept {
     const std::size_t mask = m_Slots.size() - 1;
     std::size_t slot = HashNoCase(name) & mask;
@@ -37,14 +37,22 @@ class Index {
 
 }  // namespace
 
+std::span<const std::span<const Builtin>> BuiltinFamilies() {
+  static const std::span<const Builtin> families[] = {
+      ArrayFunctions(),  ConversionFunctions(),   DateFunctions(), DateIntervalFunctions(),
+      EscapeFunctions(), FormatFunctions(),       HostFunctions(), MathFunctions(),
+      StringFunctions(), StringSearchFunctions(), TypeFunctions()};
+  return families;
+}
+
 const Builtin* FindBuiltin(std::u16string_view name) noexcept {
-  static const Index<Builtin> index({ConversionFunctions(), MathFunctions(), TextFunctions(),
-                                     ArrayFunctions(), DateFunctions(), FormatFunctions(), HostFunctions()});
+  static const RowIndex<Builtin> index(BuiltinFamilies());
   return index.Find(name);
 }
 
 const BuiltinConstant* FindConstant(std::u16string_view name) noexcept {
-  static const Index<BuiltinConstant> index({Constants()});
+  static const std::span<const BuiltinConstant> constants[] = {Constants()};
+  static const RowIndex<BuiltinConstant> index(constants);
   return index.Find(name);
 }
 

@@ -1,50 +1,55 @@
 #include <cmath>
+#include <string>
 
 #include "cardwright/automation/Conversions.h"
 #include "cardwright/automation/DateFormat.h"
 #include "cardwright/automation/DecimalDigits.h"
 #include "cardwright/automation/Errors.h"
+#include "cardwright/automation/Locale.h"
 #include "cardwright/vbscript/Context.h"
-#include "cardwright/vbscript/builtins/Arguments.h"
 #include "cardwright/vbscript/builtins/Builtin.h"
-#include "cardwright/vbscript/builtins/NumberShape.h"
+#include "cardwright/vbscript/builtins/BuiltinArguments.h"
 
+// Numbers and dates as a person of the script's locale writes them.
 namespace cardwright::vbscript {
 
 namespace {
 
-constexpr int kDefaultDecimals = 2;  // of every locale in the table
+constexpr int kDefaultDecimals = 2;
 constexpr int kMaxShownDecimals = 255;
 
-/// The arguments behind the number: each locale of the table shows a leading zero and groups digits.
-struct Options {
-  NumberShape shape;
+// The optional arguments. By default every locale has two decimals, shows a leading zero and groups digits.
+struct NumberOptions {
+  int decimals = kDefaultDecimals;
+  bool hasLeadingZero = true;
+  bool isGrouped = true;
   enum class Parentheses { AsLocale, Yes, No } parentheses = Parentheses::AsLocale;
 };
 
-// -1 for yes, 0 for no, -2 for what the locale says.
+// vbTrue, vbFalse or vbUseDefault.
 std::int32_t ReadTristate(Args args, std::size_t index) {
   const std::int32_t value = LongOr(args, index, -2);
   if (value < -2 || value > 0) Raise(ErrorNumber::InvalidCall);
   return value;
 }
 
-Options ReadOptions(Args args) {
-  Options options;
+NumberOptions ReadNumberOptions(Args args) {
+  NumberOptions options;
   const std::int32_t decimals = LongOr(args, 1, -1);
   if (decimals < -1 || decimals > kMaxShownDecimals) Raise(ErrorNumber::InvalidCall);
-  options.shape.decimals = decimals == -1 ? kDefaultDecimals : decimals;
-  options.shape.leadingZero = ReadTristate(args, 2) != 0;
+  options.decimals = decimals == -1 ? kDefaultDecimals : decimals;
+  options.hasLeadingZero = ReadTristate(args, 2) != 0;
   const std::int32_t parentheses = ReadTristate(args, 3);
-  if (parentheses == -1) options.parentheses = Options::Parentheses::Yes;
-  if (parentheses == 0) options.parentheses = Options::Parentheses::No;
-  options.shape.grouped = ReadTristate(args, 4) != 0;
+  if (parentheses == -1) options.parentheses = NumberOptions::Parentheses::Yes;
+  if (parentheses == 0) options.parentheses = NumberOptions::Parentheses::No;
+  options.isGrouped = ReadTristate(args, 4) != 0;
   return options;
 }
 
-// The digits that the number shows, so that 2.345 rounds as it is read. Error 13 for Null too.
+// Rounding starts from the digits that CStr shows, so that 2.345 rounds to 2.35. Null is error 13 here, as
+// anything that is no number.
 DecimalDigits NumberToFormat(Args args) {
-  if (TakesNull(args, 0)) Raise(ErrorNumber::TypeMismatch);
+  if (IsNullArgument(args, 0)) Raise(ErrorNumber::TypeMismatch);
   const Variant& value = args[0];
   if (value.Type() == VarType::Currency) return DecimalDigits::Of(value.CurrencyValue());
   if (value.Type() == VarType::Decimal) return DecimalDigits::Of(value.DecimalValue());
@@ -53,25 +58,52 @@ DecimalDigits NumberToFormat(Args args) {
   return DecimalDigits::Of(number, value.Type() == VarType::Single ? kSingleDigits : kDoubleDigits);
 }
 
-/// How a number and what goes with it stand together: 'n' for the digits, '$' for the symbol.
-struct Forms {
+// The order of a number, its sign and its symbol: 'n' for the digits, '$' for the symbol.
+struct NumberForms {
   std::u16string_view positive, negative, negativeInParentheses, negativeWithSign;
 };
 
-std::u16string_view Choose(const Forms& forms, const Options& options, bool isNegative) noexcept {
+std::u16string_view Choose(const NumberForms& forms, const NumberOptions& options, bool isNegative) noexcept {
   if (!isNegative) return forms.positive;
   switch (options.parentheses) {
-    case Options::Parentheses::Yes: return forms.negativeInParentheses;
-    case Options::Parentheses::No: return forms.negativeWithSign;
-    case Options::Parentheses::AsLocale: return forms.negative;
+    case NumberOptions::Parentheses::Yes: return forms.negativeInParentheses;
+    case NumberOptions::Parentheses::No: return forms.negativeWithSign;
+    case NumberOptions::Parentheses::AsLocale: return forms.negative;
   }
   return forms.negative;
 }
 
+void AppendGroups(std::u16string& text, const std::string& whole, bool isGrouped, char16_t separator) {
+  constexpr std::size_t kGroup = 3;
+  for (std::size_t i = 0; i < whole.size(); ++i) {
+    if (isGrouped && i != 0 && (whole.size() - i) % kGroup == 0) text += separator;
+    text += static_cast<char16_t>(whole[i]);
+  }
+}
+
+// The number without its sign, rounded half away from zero.
+std::u16string DigitsText(DecimalDigits number, const NumberOptions& options, const Locale& locale) {
+  number.RoundAwayTo(-options.decimals);
+  const auto decimals = static_cast<std::size_t>(options.decimals);
+  std::string digits = number.digits;
+  if (!digits.empty()) digits.append(static_cast<std::size_t>(number.exponent + options.decimals), '0');
+  if (digits.size() <= decimals) digits.insert(0, decimals + 1 - digits.size(), '0');
+  std::string whole = digits.substr(0, digits.size() - decimals);
+  if (whole == "0" && !options.hasLeadingZero && decimals > 0) whole.clear();
+
+  std::u16string text;
+  AppendGroups(text, whole, options.isGrouped, locale.group);
+  if (decimals > 0) {
+    text += locale.decimal;
+    text.append(digits.end() - static_cast<std::ptrdiff_t>(decimals), digits.end());
+  }
+  return text;
+}
+
 // The sign stays where all digits round to zero, as in "-0.00": reports tell a small loss from none by it.
-Variant Format(const Context& context, const DecimalDigits& number, const Options& options,
-               const Forms& forms) {
-  const std::u16string digits = ShapeNumber(number, options.shape, *context.locale);
+Variant FormatWith(const Context& context, const DecimalDigits& number, const NumberOptions& options,
+                   const NumberForms& forms) {
+  const std::u16string digits = DigitsText(number, options, *context.locale);
   std::u16string text;
   for (const char16_t c : Choose(forms, options, number.negative)) {
     if (c == u'n') {
@@ -85,17 +117,20 @@ Variant Format(const Context& context, const DecimalDigits& number, const Option
   return Text(text);
 }
 
+// FormatNumber(expression[, decimals[, leadingzero[, parentheses[, group]]]])
 Variant FormatNumberFunction(Context& context, Args args) {
   const DecimalDigits number = NumberToFormat(args);
-  return Format(context, number, ReadOptions(args), {u"n", u"-n", u"(n)", u"-n"});
+  return FormatWith(context, number, ReadNumberOptions(args), {u"n", u"-n", u"(n)", u"-n"});
 }
 
+// FormatPercent: the same arguments.
 Variant FormatPercentFunction(Context& context, Args args) {
   DecimalDigits number = NumberToFormat(args);
   number.exponent += 2;
-  return Format(context, number, ReadOptions(args), {u"n%", u"-n%", u"(n%)", u"-n%"});
+  return FormatWith(context, number, ReadNumberOptions(args), {u"n%", u"-n%", u"(n%)", u"-n%"});
 }
 
+// FormatCurrency: the same arguments.
 Variant FormatCurrencyFunction(Context& context, Args args) {
   const DecimalDigits number = NumberToFormat(args);
   const std::u16string_view positive = context.locale->currencyForm;
@@ -103,16 +138,17 @@ Variant FormatCurrencyFunction(Context& context, Args args) {
   const std::u16string inParentheses = u"(" + std::u16string(positive) + u")";
   const std::u16string signedForm = u"-" + std::u16string(positive);
   const bool usesParentheses = negative.find(u'(') != negative.npos;
-  return Format(context, number, ReadOptions(args),
-                {positive, negative, inParentheses, usesParentheses ? signedForm : negative});
+  return FormatWith(context, number, ReadNumberOptions(args),
+                    {positive, negative, inParentheses, usesParentheses ? signedForm : negative});
 }
 
 enum NamedFormat { kGeneralDate, kLongDate, kShortDate, kLongTime, kShortTime };
 
+// FormatDateTime(date[, format])
 Variant FormatDateTimeFunction(Context& context, Args args) {
   const std::int32_t format = LongOr(args, 1, kGeneralDate);
   if (format < kGeneralDate || format > kShortTime) Raise(ErrorNumber::InvalidCall);
-  if (TakesNull(args, 0)) Raise(ErrorNumber::TypeMismatch);
+  if (IsNullArgument(args, 0)) Raise(ErrorNumber::TypeMismatch);
   const Date date = ToDate(args[0]);
   const CalendarTime time = ToCalendar(date);
   const Locale& locale = *context.locale;

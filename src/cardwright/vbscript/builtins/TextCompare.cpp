@@ -4,7 +4,7 @@
 #include <bit>
 
 #include "cardwright/automation/TwoWayFind.h"
-#include "cardwright/vbscript/builtins/TextArguments.h"
+#include "cardwright/vbscript/builtins/BuiltinArguments.h"
 
 namespace cardwright::vbscript {
 
@@ -25,7 +25,7 @@ int CompareFolded(std::u16string_view a, std::u16string_view b) noexcept {
 }  // namespace
 
 CompareMode CompareModeOf(Args args, std::size_t index) {
-  const std::int32_t mode = WholeNumberOr(args, index, 0);
+  const std::int32_t mode = LongOr(args, index, 0);
   if (mode != 0 && mode != 1) Raise(ErrorNumber::InvalidCall);
   return static_cast<CompareMode>(mode);
 }

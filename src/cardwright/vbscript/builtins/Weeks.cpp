@@ -1,8 +1,8 @@
 #include "cardwright/vbscript/builtins/Weeks.h"
 
 #include "cardwright/automation/Errors.h"
-#include "cardwright/vbscript/builtins/Arguments.h"
-#include "cardwright/vbscript/builtins/DateLine.h"
+#include "cardwright/vbscript/builtins/BuiltinArguments.h"
+#include "cardwright/vbscript/builtins/LinearDate.h"
 
 namespace cardwright::vbscript {
 
@@ -14,7 +14,7 @@ constexpr int kWeekdayOfDayZero = 6;  // 1899-12-30 was a Saturday
 bool IsLeap(int year) noexcept { return year % 4 == 0 && (year % 100 != 0 || year % 400 == 0); }
 int DaysInYear(int year) noexcept { return IsLeap(year) ? 366 : 365; }
 
-// Days that the day is behind the first of its week.
+// Days from the first day of its week to the day.
 int DaysIntoWeek(std::int64_t day, int firstDay) noexcept {
   const std::int64_t shifted = day + kWeekdayOfDayZero - firstDay;
   return static_cast<int>(shifted - FloorDivide(shifted, kDaysPerWeek) * kDaysPerWeek);
@@ -55,8 +55,8 @@ int WeekOfYear(const CalendarTime& time, std::int64_t day, int firstDay, FirstWe
     start = StartOfWeekOne(january1 - DaysInYear(time.year - 1), firstDay, firstWeek);
   } else if (firstWeek == FirstWeek::FourDays) {
     const std::int64_t next = StartOfWeekOne(january1 + DaysInYear(time.year), firstDay, firstWeek);
-    // The language has always called the last Monday before a leap year week 53 (2003-12-29, 2007-12-31), and
-    // the rest of that week 1. Scripts that know look for 53 and put it right themselves.
+    // Kept for scripts that know and correct it: the language calls the Monday on which week 1 of a leap year
+    // begins week 53 (2003-12-29, 2007-12-31), and the rest of that week 1.
     const bool isOddMonday = day == next && IsLeap(time.year + 1);
     if (day >= next) return isOddMonday ? 53 : 1;
   }

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
+#include <initializer_list>
 #include <string>
 #include <vector>
 
@@ -15,16 +15,15 @@
 
 namespace cardwright::vbscript {
 
-/// Calls one family of the library's functions as a script of one locale would.
-class FamilyCalls {
+/// Calls functions of the library as a script of one locale would.
+class LibraryCalls {
  public:
-  explicit FamilyCalls(std::span<const Builtin> family, ScriptHost& host = NoHost())
-      : m_Family(family), m_Before(Locale::Current()), m_Context(host) {
+  explicit LibraryCalls(ScriptHost& host = NoHost()) : m_Before(Locale::Current()), m_Context(host) {
     SetLocale(u"en-us");
   }
-  FamilyCalls(const FamilyCalls&) = delete;
-  FamilyCalls& operator=(const FamilyCalls&) = delete;
-  ~FamilyCalls() { Locale::SetCurrent(m_Before); }
+  LibraryCalls(const LibraryCalls&) = delete;
+  LibraryCalls& operator=(const LibraryCalls&) = delete;
+  ~LibraryCalls() { Locale::SetCurrent(m_Before); }
 
   vbscript::Context& Context() noexcept { return m_Context; }
   void SetLocale(std::u16string_view name) {
@@ -33,14 +32,19 @@ class FamilyCalls {
   }
 
   Variant Call(std::u16string_view name, std::vector<Variant> args = {}) {
-    const auto found = std::ranges::find(m_Family, name, &Builtin::name);
-    if (found == m_Family.end()) {
+    const Builtin* found = FindBuiltin(name);
+    if (!found) {
       ADD_FAILURE() << "no function " << Text(name).ToUtf8();
       return {};
     }
     EXPECT_GE(args.size(), found->minArguments) << Text(name).ToUtf8();
     EXPECT_LE(args.size(), found->maxArguments) << Text(name).ToUtf8();
     return found->call(m_Context, args);
+  }
+
+  /// Type and text of the result as Outcome has them.
+  std::string Try(std::u16string_view name, std::vector<Variant> args) {
+    return Outcome([&] { return Call(name, std::move(args)); });
   }
 
   /// Type and text of the answer, as "Integer 12", or "Error 13".
@@ -73,9 +77,21 @@ class FamilyCalls {
     }
   }
 
-  std::span<const Builtin> m_Family;
   const Locale& m_Before;
   vbscript::Context m_Context;
 };
+
+struct CallCase {
+  const char16_t* function;
+  std::vector<Variant> arguments;
+  const char* outcome;
+};
+
+inline void ExpectCalls(std::initializer_list<CallCase> cases) {
+  LibraryCalls calls;
+  for (const CallCase& c : cases) {
+    EXPECT_EQ(calls.Try(c.function, c.arguments), c.outcome) << Text(c.function).ToUtf8();
+  }
+}
 
 }  // namespace cardwright::vbscript

@@ -1,4 +1,4 @@
-#include "cardwright/vbscript/builtins/DateLine.h"
+#include "cardwright/vbscript/builtins/LinearDate.h"
 
 #include <chrono>
 #include <optional>
@@ -13,15 +13,15 @@ namespace chrono = std::chrono;
 
 constexpr chrono::sys_days kDayZero{chrono::year{1899} / 12 / 30};
 constexpr int kMonthsPerYear = 12;
-// Beyond that no number of days that a script can give leads back to the year 9999.
+// From a later year no number of days that a script can give leads back to the year 9999.
 constexpr std::int64_t kLastYear = 10100;
 
-struct Month {
+struct MonthOfYear {
   int year, month;
 };
 
-// The month that many months behind year 0's January. Error 5 where its year is far off.
-Month MonthOf(std::int64_t months) {
+// The month that is `months` after January of year 0. Error 5 where its year is far off.
+MonthOfYear MonthOf(std::int64_t months) {
   const std::int64_t year = FloorDivide(months, kMonthsPerYear);
   if (year < 0 || year > kLastYear) Raise(ErrorNumber::InvalidCall);
   return {static_cast<int>(year), static_cast<int>(months - year * kMonthsPerYear) + 1};
@@ -48,18 +48,18 @@ Date DateOfSeconds(std::int64_t seconds) {
 }
 
 Date DateOfDay(std::int64_t year, std::int64_t month, std::int64_t day) {
-  // Days may lead back from the year after the last, or on from the one before the first.
-  const Month place = MonthOf(year * kMonthsPerYear + month - 1);
-  const chrono::sys_days first{chrono::year{place.year} / place.month / 1};
+  // The days may lead into the range of dates from a month outside.
+  const MonthOfYear target = MonthOf(year * kMonthsPerYear + month - 1);
+  const chrono::sys_days first{chrono::year{target.year} / target.month / 1};
   return DateOfSeconds(((first - kDayZero).count() + day - 1) * kSecondsPerDay);
 }
 
 Date AddMonths(const CalendarTime& time, std::int64_t months) {
-  const Month place = MonthOf(std::int64_t{time.year} * kMonthsPerYear + time.month - 1 + months);
+  const MonthOfYear target = MonthOf(std::int64_t{time.year} * kMonthsPerYear + time.month - 1 + months);
   std::optional<double> days;
   for (int day = time.day; !days; --day) {
     if (day == 0) Raise(ErrorNumber::InvalidCall);
-    days = DaysOf(place.year, place.month, day);
+    days = DaysOf(target.year, target.month, day);
   }
   return Join(*days, SecondOfDay(time));
 }

@@ -4,8 +4,8 @@
 
 #include "cardwright/automation/Calendar.h"
 
-/// Dates on one even line of seconds. The days of a Date are no such line: before day 0 its fraction counts
-/// forward from the day, against the sign.
+/// Dates as a number of seconds, which arithmetic needs. The number in a Date is not linear: before day 0 its
+/// fraction counts forward from the day, against the sign.
 namespace cardwright::vbscript {
 
 inline constexpr std::int64_t kSecondsPerDay = 86400;
@@ -21,10 +21,10 @@ std::int64_t DayNumber(const CalendarTime& time) noexcept;
 std::int64_t SecondNumber(const CalendarTime& time) noexcept;
 /// The date of such seconds; error 5 outside the years 100 to 9999.
 Date DateOfSeconds(std::int64_t seconds);
-/// The day that many days behind the first of a month, which may be any number of months from January of the
-/// year. Error 5 outside the years 100 to 9999.
+/// The day `day` of the month `month` of a year; both count from 1 and may lie outside their range, as in
+/// DateSerial. Error 5 outside the years 100 to 9999.
 Date DateOfDay(std::int64_t year, std::int64_t month, std::int64_t day);
-/// A date moved by months; a day that its new month does not have becomes the last one. Error 5 outside the
+/// A date moved by months; a day that the new month lacks becomes its last one. Error 5 outside the
 /// years 100 to 9999.
 Date AddMonths(const CalendarTime& time, std::int64_t months);
 

@@ -1,18 +1,43 @@
-#include "cardwright/vbscript/builtins/DateArithmetic.h"
-
+#include <algorithm>
+#include <iterator>
 #include <limits>
+#include <string_view>
 
 #include "cardwright/automation/Calendar.h"
 #include "cardwright/automation/Conversions.h"
 #include "cardwright/automation/Errors.h"
-#include "cardwright/vbscript/builtins/Arguments.h"
-#include "cardwright/vbscript/builtins/DateLine.h"
-#include "cardwright/vbscript/builtins/Intervals.h"
+#include "cardwright/vbscript/Context.h"
+#include "cardwright/vbscript/builtins/Builtin.h"
+#include "cardwright/vbscript/builtins/BuiltinArguments.h"
+#include "cardwright/vbscript/builtins/LinearDate.h"
 #include "cardwright/vbscript/builtins/Weeks.h"
 
+// Arithmetic with dates in units from years to seconds.
 namespace cardwright::vbscript {
 
 namespace {
+
+enum class Interval { Year, Quarter, Month, DayOfYear, Day, Weekday, Week, Hour, Minute, Second };
+
+struct IntervalName {
+  std::u16string_view name;
+  Interval interval;
+};
+constexpr IntervalName kIntervalNames[] = {
+    {u"yyyy", Interval::Year},   {u"q", Interval::Quarter}, {u"m", Interval::Month},
+    {u"y", Interval::DayOfYear}, {u"d", Interval::Day},     {u"w", Interval::Weekday},
+    {u"ww", Interval::Week},     {u"h", Interval::Hour},    {u"n", Interval::Minute},
+    {u"s", Interval::Second},
+};
+
+// Error 5 for another name than those above, in any case; 94 for Null.
+Interval ReadInterval(const Variant& value) {
+  const Text text = ToText(value);
+  const auto* found = std::ranges::find_if(
+      kIntervalNames, [&](const IntervalName& row) { return EqualsNoCase(row.name, text); });
+  if (found == std::end(kIntervalNames)) Raise(ErrorNumber::InvalidCall);
+  return found->interval;
+}
 
 constexpr std::int64_t kSecondsPerHour = 3600;
 constexpr std::int64_t kSecondsPerMinute = 60;
@@ -23,7 +48,8 @@ std::int64_t QuartersOf(const CalendarTime& time) noexcept {
   return std::int64_t{time.year} * 4 + QuarterOf(time);
 }
 
-Date Add(Interval interval, std::int64_t count, const CalendarTime& time) {
+// "y" and "w" add days like "d": only DatePart tells them apart.
+Date AddUnits(Interval interval, std::int64_t count, const CalendarTime& time) {
   const auto later = [&](std::int64_t unit) { return DateOfSeconds(SecondNumber(time) + count * unit); };
   switch (interval) {
     case Interval::Year: return AddMonths(time, count * 12);
@@ -31,7 +57,7 @@ Date Add(Interval interval, std::int64_t count, const CalendarTime& time) {
     case Interval::Month: return AddMonths(time, count);
     case Interval::DayOfYear:
     case Interval::Day:
-    case Interval::Weekday: return later(kSecondsPerDay);  // every day is a weekday here
+    case Interval::Weekday: return later(kSecondsPerDay);
     case Interval::Week: return later(7 * kSecondsPerDay);
     case Interval::Hour: return later(kSecondsPerHour);
     case Interval::Minute: return later(kSecondsPerMinute);
@@ -40,7 +66,8 @@ Date Add(Interval interval, std::int64_t count, const CalendarTime& time) {
   return {};
 }
 
-// How often a unit begins between the two, which for "w" are whole weeks.
+// How often a unit begins between the two dates. "w" counts whole weeks from the first date instead, "ww" the
+// first days of weeks.
 std::int64_t UnitsBetween(Interval interval, const CalendarTime& from, const CalendarTime& to, int firstDay) {
   const auto crossed = [&](std::int64_t unit) {
     return FloorDivide(SecondNumber(to), unit) - FloorDivide(SecondNumber(from), unit);
@@ -60,7 +87,7 @@ std::int64_t UnitsBetween(Interval interval, const CalendarTime& from, const Cal
   return 0;
 }
 
-int Part(Interval interval, const CalendarTime& time, int firstDay, FirstWeek firstWeek) noexcept {
+int PartOf(Interval interval, const CalendarTime& time, int firstDay, FirstWeek firstWeek) noexcept {
   switch (interval) {
     case Interval::Year: return time.year;
     case Interval::Quarter: return QuarterOf(time);
@@ -76,20 +103,21 @@ int Part(Interval interval, const CalendarTime& time, int firstDay, FirstWeek fi
   return 0;
 }
 
-}  // namespace
-
+// DateAdd(interval, number, date): the day of a month that lacks it becomes the last one. Null for the date
+// gives Null.
 Variant DateAddFunction(Context&, Args args) {
   const Interval interval = ReadInterval(args[0]);
   const std::int32_t count = ToLong(args[1]);
-  if (TakesNull(args, 2)) return Variant::Null();
-  return Add(interval, count, ToCalendar(ToDate(args[2])));
+  if (IsNullArgument(args, 2)) return Variant::Null();
+  return AddUnits(interval, count, ToCalendar(ToDate(args[2])));
 }
 
+// DateDiff(interval, date1, date2[, firstdayofweek[, firstweekofyear]]): Null for a date gives Null.
 Variant DateDiffFunction(Context& context, Args args) {
   const Interval interval = ReadInterval(args[0]);
   const int firstDay = ReadFirstDay(context, args, 3);
-  ReadFirstWeek(context, args, 4);  // counts for nothing here, but must be right
-  if (TakesNull(args, 1) || TakesNull(args, 2)) return Variant::Null();
+  ReadFirstWeek(context, args, 4);  // has no effect, but is checked
+  if (IsNullArgument(args, 1) || IsNullArgument(args, 2)) return Variant::Null();
   const CalendarTime from = ToCalendar(ToDate(args[1]));
   const CalendarTime to = ToCalendar(ToDate(args[2]));
   const std::int64_t count = UnitsBetween(interval, from, to, firstDay);
@@ -98,12 +126,23 @@ Variant DateDiffFunction(Context& context, Args args) {
   return static_cast<std::int32_t>(count);
 }
 
+// DatePart(interval, date[, firstdayofweek[, firstweekofyear]]): Null for the date gives Null.
 Variant DatePartFunction(Context& context, Args args) {
   const Interval interval = ReadInterval(args[0]);
   const int firstDay = ReadFirstDay(context, args, 2);
   const FirstWeek firstWeek = ReadFirstWeek(context, args, 3);
-  if (TakesNull(args, 1)) return Variant::Null();
-  return static_cast<std::int16_t>(Part(interval, ToCalendar(ToDate(args[1])), firstDay, firstWeek));
+  if (IsNullArgument(args, 1)) return Variant::Null();
+  return static_cast<std::int16_t>(PartOf(interval, ToCalendar(ToDate(args[1])), firstDay, firstWeek));
 }
+
+constexpr Builtin kDateIntervalFunctions[] = {
+    {u"DateAdd", DateAddFunction, 3, 3},
+    {u"DateDiff", DateDiffFunction, 3, 5},
+    {u"DatePart", DatePartFunction, 2, 4},
+};
+
+}  // namespace
+
+std::span<const Builtin> DateIntervalFunctions() { return kDateIntervalFunctions; }
 
 }  // namespace cardwright::vbscript

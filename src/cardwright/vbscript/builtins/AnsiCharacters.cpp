@@ -1,4 +1,4 @@
-#include "cardwright/vbscript/builtins/CodePage.h"
+#include "cardwright/vbscript/builtins/AnsiCharacters.h"
 
 #include <algorithm>
 #include <iterator>
@@ -20,11 +20,11 @@ static_assert(std::size(kUpper) == 0x20);
 
 }  // namespace
 
-char16_t FromCodePage(std::uint8_t byte) noexcept {
+char16_t FromAnsi(std::uint8_t byte) noexcept {
   return byte >= kFirst && byte < kFirst + 0x20 ? kUpper[byte - kFirst] : byte;
 }
 
-std::uint8_t ToCodePage(char16_t character) noexcept {
+std::uint8_t ToAnsi(char16_t character) noexcept {
   if (character < kFirst || (character >= 0xA0 && character <= 0xFF)) {
     return static_cast<std::uint8_t>(character);
   }

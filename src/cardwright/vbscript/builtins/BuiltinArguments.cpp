@@ -1,4 +1,4 @@
-#include "cardwright/vbscript/builtins/TextArguments.h"
+#include "cardwright/vbscript/builtins/BuiltinArguments.h"
 
 namespace cardwright::vbscript {
 

@@ -6,8 +6,8 @@
 namespace cardwright::vbscript {
 
 /// The character of a byte.
-char16_t FromCodePage(std::uint8_t byte) noexcept;
+char16_t FromAnsi(std::uint8_t byte) noexcept;
 /// The byte of a character; that of a question mark where the code page has none.
-std::uint8_t ToCodePage(char16_t character) noexcept;
+std::uint8_t ToAnsi(char16_t character) noexcept;
 
 }  // namespace cardwright::vbscript

@@ -2,10 +2,11 @@
 #include <optional>
 
 #include "cardwright/vbscript/Context.h"
-#include "cardwright/vbscript/builtins/TextArguments.h"
-#include "cardwright/vbscript/builtins/TextLibrary.h"
+#include "cardwright/vbscript/builtins/Builtin.h"
+#include "cardwright/vbscript/builtins/BuiltinArguments.h"
 
-namespace cardwright::vbscript::builtin {
+// Escape and Unescape: the encoding that scripts of web pages pass texts in.
+namespace cardwright::vbscript {
 
 namespace {
 
@@ -13,6 +14,7 @@ constexpr std::u16string_view kHexDigits = u"0123456789ABCDEF";
 constexpr std::size_t kShortSize = 3;  // "%20"
 constexpr std::size_t kLongSize = 6;   // "%u20AC"
 
+// Characters that stay as they are.
 constexpr std::array<bool, 128> PlainCharacters() {
   std::array<bool, 128> plain{};
   constexpr std::u16string_view kPlain =
@@ -44,6 +46,7 @@ char16_t* AppendEscaped(char16_t* to, char16_t c) noexcept {
   return AppendHex(to, c, 4);
 }
 
+// The value of the first `count` hexadecimal digits, if there are that many.
 std::optional<char16_t> HexValue(std::u16string_view digits, std::size_t count) noexcept {
   if (digits.size() < count) return {};
   unsigned value = 0;
@@ -60,13 +63,13 @@ std::optional<char16_t> HexValue(std::u16string_view digits, std::size_t count) 
   return static_cast<char16_t>(value);
 }
 
-struct Unit {
+struct EscapedUnit {
   char16_t character;
-  std::size_t size;  // characters that it was written with
+  std::size_t size;  // of its notation
 };
 
-// What the text begins with. A percent sign that begins no escape stands for itself.
-Unit FirstUnit(std::u16string_view text) noexcept {
+// The first character of the text. A percent sign that begins no escape is a character like others.
+EscapedUnit FirstUnit(std::u16string_view text) noexcept {
   if (text.front() == u'%') {
     if (text.size() > 1 && text[1] == u'u') {
       if (const auto value = HexValue(text.substr(2), 4)) return {*value, kLongSize};
@@ -83,9 +86,8 @@ std::size_t UnescapedSize(std::u16string_view text) noexcept {
   return size;
 }
 
-}  // namespace
-
-Variant Escape(Context& context, Args args) {
+// Escape(string): all but letters, digits and @*_+-./ as %XX or %uXXXX. Error 94 for Null.
+Variant EscapeFunction(Context& context, Args args) {
   const std::u16string_view text = RequireText(args[0]);
   std::size_t size = 0;
   for (const char16_t c : text) size += EscapedSize(c);
@@ -96,17 +98,27 @@ Variant Escape(Context& context, Args args) {
   });
 }
 
-Variant Unescape(Context&, Args args) {
+// Unescape(string): error 94 for Null.
+Variant UnescapeFunction(Context&, Args args) {
   std::u16string_view text = RequireText(args[0]);
   const std::size_t size = UnescapedSize(text);
   if (size == text.size()) return std::move(args[0]);
   return Text::OfSize(size, [&](char16_t* to) {
     while (!text.empty()) {
-      const Unit unit = FirstUnit(text);
+      const EscapedUnit unit = FirstUnit(text);
       *to++ = unit.character;
       text.remove_prefix(unit.size);
     }
   });
 }
 
-}  // namespace cardwright::vbscript::builtin
+constexpr Builtin kEscapeFunctions[] = {
+    {u"Escape", EscapeFunction, 1, 1},
+    {u"Unescape", UnescapeFunction, 1, 1},
+};
+
+}  // namespace
+
+std::span<const Builtin> EscapeFunctions() { return kEscapeFunctions; }
+
+}  // namespace cardwright::vbscript

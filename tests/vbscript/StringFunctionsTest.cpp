@@ -1,20 +1,20 @@
 #include "automation/Printing.h"
 #include "cardwright/automation/Collection.h"
-#include "vbscript/FamilyCalls.h"
+#include "vbscript/LibraryCalls.h"
 
 namespace cardwright::vbscript {
 namespace {
 
-struct TextRow {
+struct StringRow {
   const char16_t* name;
   std::vector<Variant> args;
   const char* answer;
 };
 
-class TextFunction : public testing::TestWithParam<TextRow> {};
+class StringFunction : public testing::TestWithParam<StringRow> {};
 
-TEST_P(TextFunction, Answers) {
-  FamilyCalls calls(TextFunctions());
+TEST_P(StringFunction, Answers) {
+  LibraryCalls calls;
   EXPECT_EQ(calls.Answer(GetParam().name, GetParam().args), GetParam().answer)
       << Text(GetParam().name).ToUtf8();
 }
@@ -22,8 +22,8 @@ TEST_P(TextFunction, Answers) {
 const Variant kList = Array::FromValues({});
 const Variant kNothing = Variant::Nothing();
 
-INSTANTIATE_TEST_SUITE_P(Parts, TextFunction,
-                         testing::ValuesIn<TextRow>({
+INSTANTIATE_TEST_SUITE_P(Parts, StringFunction,
+                         testing::ValuesIn<StringRow>({
                              {u"Len", {u"abc"}, "Long 3"},
                              {u"Len", {u""}, "Long 0"},
                              {u"Len", {Variant()}, "Long 0"},
@@ -88,8 +88,8 @@ INSTANTIATE_TEST_SUITE_P(Parts, TextFunction,
                              {u"Trim", {kMissing}, "Error 13"},
                          }));
 
-INSTANTIATE_TEST_SUITE_P(Bytes, TextFunction,
-                         testing::ValuesIn<TextRow>({
+INSTANTIATE_TEST_SUITE_P(Bytes, StringFunction,
+                         testing::ValuesIn<StringRow>({
                              {u"LenB", {u"abc"}, "Long 6"},
                              {u"LenB", {12}, "Long 4"},
                              {u"LenB", {kNull}, "Null"},
@@ -119,8 +119,8 @@ INSTANTIATE_TEST_SUITE_P(Bytes, TextFunction,
                              {u"InStrB", {u"abc", kNull}, "Null"},
                          }));
 
-INSTANTIATE_TEST_SUITE_P(Search, TextFunction,
-                         testing::ValuesIn<TextRow>({
+INSTANTIATE_TEST_SUITE_P(Search, StringFunction,
+                         testing::ValuesIn<StringRow>({
                              {u"InStr", {u"abcabc", u"c"}, "Long 3"},
                              {u"InStr", {u"abcabc", u"x"}, "Long 0"},
                              {u"InStr", {4, u"abcabc", u"c"}, "Long 6"},
@@ -185,8 +185,8 @@ INSTANTIATE_TEST_SUITE_P(Search, TextFunction,
                              {u"StrComp", {u"a", u"a", kMissing}, "Integer 0"},
                          }));
 
-INSTANTIATE_TEST_SUITE_P(Replacing, TextFunction,
-                         testing::ValuesIn<TextRow>({
+INSTANTIATE_TEST_SUITE_P(Replacing, StringFunction,
+                         testing::ValuesIn<StringRow>({
                              {u"Replace", {u"banana", u"an", u"AN"}, "String bANANa"},
                              {u"Replace", {u"banana", u"a", u""}, "String bnn"},
                              {u"Replace", {u"banana", u"a", u"xyz"}, "String bxyznxyznxyz"},
@@ -216,8 +216,8 @@ INSTANTIATE_TEST_SUITE_P(Replacing, TextFunction,
                              {u"Replace", {u"a", u"a", kMissing}, "Error 13"},
                          }));
 
-INSTANTIATE_TEST_SUITE_P(Forms, TextFunction,
-                         testing::ValuesIn<TextRow>({
+INSTANTIATE_TEST_SUITE_P(Forms, StringFunction,
+                         testing::ValuesIn<StringRow>({
                              {u"LCase", {u"AbC1Ä"}, "String abc1ä"},
                              {u"UCase", {u"aBc1ä"}, "String ABC1Ä"},
                              {u"UCase", {u"ß"}, "String ß"},
@@ -266,7 +266,7 @@ INSTANTIATE_TEST_SUITE_P(Forms, TextFunction,
                              {u"Unescape", {kNull}, "Error 94"},
                          }));
 
-TEST(TextFunctions, TakeTheDefaultValueOfAnObject) {
+TEST(StringFunctions, TakeTheDefaultValueOfAnObject) {
   class Holder final : public TableObject {
    public:
     Text TypeName() const override { return u"Holder"; }
@@ -279,14 +279,14 @@ TEST(TextFunctions, TakeTheDefaultValueOfAnObject) {
       return table;
     }
   };
-  FamilyCalls calls(TextFunctions());
+  LibraryCalls calls;
   EXPECT_EQ(calls.Answer(u"Len", {MakeRef<Holder>()}), "Long 4");
   EXPECT_EQ(calls.Answer(u"String", {2, MakeRef<Holder>()}), "String hh");
   EXPECT_EQ(calls.Answer(u"Len", {MakeRef<Collection>()}), "Error 450");
 }
 
-TEST(TextFunctions, FindAnExcerptWhereverItStands) {
-  FamilyCalls calls(TextFunctions());
+TEST(StringFunctions, FindAnExcerptWhereverItStands) {
+  LibraryCalls calls;
   for (std::int32_t at = 0; at < 100; ++at) {
     std::u16string characters(100, u'-');
     characters.replace(static_cast<std::size_t>(at), 3, u"aBc");
@@ -298,8 +298,8 @@ TEST(TextFunctions, FindAnExcerptWhereverItStands) {
   }
 }
 
-TEST(TextFunctions, ShareTheCharactersOfAWalkThroughAText) {
-  FamilyCalls calls(TextFunctions());
+TEST(StringFunctions, ShareTheCharactersOfAWalkThroughAText) {
+  LibraryCalls calls;
   const Variant text = u"banana";
   const Variant second = calls.Call(u"Mid", {text, 2, 1});
   const Variant fourth = calls.Call(u"Mid", {text, 4, 1});
@@ -307,8 +307,8 @@ TEST(TextFunctions, ShareTheCharactersOfAWalkThroughAText) {
   EXPECT_EQ(calls.Call(u"Left", {u"ab", 1}).StringView().data(), second.StringView().data());
 }
 
-TEST(TextFunctions, PassOnATextThatStaysAsItIs) {
-  FamilyCalls calls(TextFunctions());
+TEST(StringFunctions, PassOnATextThatStaysAsItIs) {
+  LibraryCalls calls;
   const Variant text = u"just so";
   const char16_t* const characters = text.StringView().data();
   EXPECT_EQ(calls.Call(u"Trim", {text}).StringView().data(), characters);
@@ -317,8 +317,8 @@ TEST(TextFunctions, PassOnATextThatStaysAsItIs) {
   EXPECT_EQ(calls.Call(u"Left", {text, 7}).StringView().data(), characters);
 }
 
-TEST(TextFunctions, RefuseResultsBeyondTheLimit) {
-  FamilyCalls calls(TextFunctions());
+TEST(StringFunctions, RefuseResultsBeyondTheLimit) {
+  LibraryCalls calls;
   calls.Context().maxTextUnits = 10;
   EXPECT_EQ(calls.Answer(u"Space", {10}), "String           ");
   EXPECT_EQ(calls.Answer(u"Space", {11}), "Error 14");
@@ -328,15 +328,15 @@ TEST(TextFunctions, RefuseResultsBeyondTheLimit) {
   EXPECT_EQ(calls.Answer(u"Escape", {u"    "}), "Error 14");
 }
 
-TEST(TextFunctions, UnescapeWhatTheyEscaped) {
-  FamilyCalls calls(TextFunctions());
+TEST(StringFunctions, UnescapeWhatTheyEscaped) {
+  LibraryCalls calls;
   std::u16string all;
   for (unsigned c = 0; c < 0x10000; c += c < 0x200 ? 1 : 251) all += static_cast<char16_t>(c);
   EXPECT_EQ(calls.Call(u"Unescape", {calls.Call(u"Escape", {Text(all)})}).StringView(), all);
 }
 
-TEST(TextFunctions, ReplaceMoreThanAFewHundredPlaces) {
-  FamilyCalls calls(TextFunctions());
+TEST(StringFunctions, ReplaceMoreThanAFewHundredPlaces) {
+  LibraryCalls calls;
   const Variant text = Text(std::u16string(5000, u'a'));
   EXPECT_EQ(calls.Call(u"Replace", {text, u"a", u"bc"}).StringView().size(), 10000u);
   EXPECT_EQ(calls.Call(u"Replace", {text, u"a", u""}).StringView().size(), 0u);
