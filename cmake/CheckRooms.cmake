@@ -77,6 +77,7 @@ set(folders)
 
 # What a control is, its class tells in the room model. Whoever uses that room asks the class and compares no names.
 file(GLOB classFiles RELATIVE "${root}/src/cardwright/model" "${root}/src/cardwright/model/C[A-Z]*.h")
+list(FILTER classFiles EXCLUDE REGEX "^C(Form|Color|Items?)\\.h$")
 string(REGEX REPLACE "C([A-Za-z]+)\\.h" "\\1" kinds "${classFiles}")
 string(REPLACE ";" "|" kinds "${kinds}|MultilineTextBox|ListView")
 set(typeName "(TypeName\\(\\)|className|typeName)")

@@ -57,11 +57,33 @@ void WriteKey(std::ostream& out, const FileKey& key) {
   out << "\n";
 }
 
+void WriteDesign(std::ostream& out, const DesignTraits& design) {
+  static constexpr const char* kColors[] = {"none", "back", "back and fore"};
+  out << "design\n  identifier " << Utf8(design.identifier) << "\n  called " << design.displayName << ", "
+      << design.defaultWidth << " x " << design.defaultHeight << "\n";
+  if (design.captionPrefix) out << "  caption " << Utf8(design.captionPrefix) << " and a number\n";
+  out << "  colours of the surface: " << kColors[static_cast<int>(design.surfaceColors)] << "\n";
+  out << "  minimum height drawn " << design.minimumDrawnHeight << ", dragged " << design.minimumDraggedHeight
+      << "\n";
+  if (design.hasFixedHeight) out << "  fixed height\n";
+  if (!design.hasWindow) out << "  no window\n";
+  if (design.isContainer) out << "  container\n";
+  if (!design.refreshesWhenNew) out << "  no refresh when new\n";
+}
+
+void WriteValue(std::ostream& out, const ValueTraits& value) {
+  out << "value\n  row \"" << Utf8(value.row) << "\", required \"" << Utf8(value.requiredRow) << "\"\n";
+  if (value.followsOthers) out << "  follows others\n";
+}
+
 std::string Dump(const ClassTable& table) {
   std::ostringstream out;
   out << "class " << Utf8(table.className) << "\n";
   out << "identifier " << Utf8(table.widgetIdentifier) << "\n";
   out << "type " << Utf8(table.typeText) << "\n";
+  out << "number " << static_cast<int>(table.type) << "\n";
+  if (table.create) WriteDesign(out, table.design);
+  if (table.create) WriteValue(out, table.value);
   out << "rows\n";
   for (std::size_t i = 0; i < table.rows.size(); ++i) WriteRow(out, i, table.rows[i]);
   out << "hidden rows \"" << Utf8(table.hiddenNames) << "\"\n";

@@ -17,6 +17,7 @@ constinit const ClassTable CCommandButton::kTable =
          .type = ControlTypeEnum::ctCommandButton,
          .typeText = u"CommandButton",
          .widgetIdentifier = u"vb.commandbutton",
+         .widgetType = u"CommandButton",
          .create = MakeControl<CCommandButton>,
          .design = {.identifier = u"VB.CommandButton",
                     .displayName = "Button",

@@ -19,9 +19,6 @@ class CCommandButton final : public Control {
   Text Value(std::optional<Variant> = {}) const override { return {}; }
   bool TakeValue(Text&) const override { return false; }
 
- protected:
-  bool Accepts(const Widget& widget) const override { return widget.TypeName() == kTable.typeText; }
-
  private:
   struct Tables;
 };

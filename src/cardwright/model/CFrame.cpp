@@ -18,6 +18,7 @@ constinit const ClassTable CFrame::kTable =
          .type = ControlTypeEnum::ctFrame,
          .typeText = u"Frame",
          .widgetIdentifier = u"vb.frame",
+         .widgetType = u"Frame",
          .create = MakeControl<CFrame>,
          .design = {.identifier = u"VB.Frame",
                     .displayName = "Frame",

@@ -11,7 +11,6 @@ class CFrame final : public Control {
   CFrame() : Control(kTable) {}
 
  protected:
-  bool Accepts(const Widget& widget) const override { return widget.TypeName() == kTable.typeText; }
   void OnClick() override;
   void OnMouseDown(int button, int shift, float x, float y) override;
   void OnMouseMove(int button, int shift, float x, float y) override;

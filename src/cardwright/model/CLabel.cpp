@@ -18,6 +18,7 @@ constinit const ClassTable CLabel::kTable =
          .type = ControlTypeEnum::ctLabel,
          .typeText = u"Label",
          .widgetIdentifier = u"vb.label",
+         .widgetType = u"Label",
          .create = MakeControl<CLabel>,
          .design = {.identifier = u"VB.Label",
                     .displayName = "Label",

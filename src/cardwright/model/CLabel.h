@@ -10,9 +10,6 @@ class CLabel final : public Control {
   static const ClassTable kTable;
   CLabel() : Control(kTable) {}
 
- protected:
-  bool Accepts(const Widget& widget) const override { return widget.TypeName() == kTable.typeText; }
-
  private:
   struct Tables;
 };

@@ -27,6 +27,7 @@ constinit const ClassTable CTextBox::kTable =
          .type = ControlTypeEnum::ctTextBox,
          .typeText = u"TextBox",
          .widgetIdentifier = u"vb.textbox",
+         .widgetType = u"TextBox",
          .create = MakeControl<CTextBox>,
          .design = {.identifier = u"VB.TextBox",
                     .displayName = "Text box",
@@ -34,8 +35,6 @@ constinit const ClassTable CTextBox::kTable =
                     .defaultWidth = 144,
                     .defaultHeight = 24},
          .value = {.row = u"Text", .requiredRow = u"Text"}});
-
-bool CTextBox::Accepts(const Widget& widget) const { return EqualsNoCase(widget.TypeName(), u"TextBox"); }
 
 void CTextBox::ChooseInputMode() {
   if (Val(Bound()->Tag()) != 0) return;

@@ -11,7 +11,6 @@ class CTextBox final : public TextEntry {
   CTextBox() : TextEntry(kTable) {}
 
  protected:
-  bool Accepts(const Widget& widget) const override;
   void ChooseInputMode() override;
   void FinishRead(const CIni& ini, const Text& sectionName) override;
 

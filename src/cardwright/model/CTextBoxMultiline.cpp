@@ -23,15 +23,12 @@ constinit const ClassTable CTextBoxMultiline::kTable =
          .type = ControlTypeEnum::ctTextBoxMultiline,
          .typeText = u"textboxmultiline",
          .widgetIdentifier = u"CardwrightCtrl.MultilineTextBox",
+         .widgetType = u"MultilineTextBox",
          .create = MakeControl<CTextBoxMultiline>,
          .design = {.displayName = "Text box, lines",
                     .captionPrefix = u"Text",
                     .defaultWidth = 192,
                     .defaultHeight = 72},
          .value = {.row = u"Text", .requiredRow = u"Text"}});
-
-bool CTextBoxMultiline::Accepts(const Widget& widget) const {
-  return EqualsNoCase(widget.TypeName(), u"MultilineTextBox");
-}
 
 }  // namespace cardwright

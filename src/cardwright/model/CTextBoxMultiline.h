@@ -10,9 +10,6 @@ class CTextBoxMultiline final : public TextEntry {
   static const ClassTable kTable;
   CTextBoxMultiline() : TextEntry(kTable) {}
 
- protected:
-  bool Accepts(const Widget& widget) const override;
-
  private:
   struct Tables;
 };

@@ -87,7 +87,9 @@ struct ClassTable {
   ControlTypeEnum type = ControlTypeEnum::ctDefault;  ///< ctDefault for the form itself
   std::u16string_view typeText = {};                  ///< `Type` as written to a project
   std::u16string_view widgetIdentifier = {};          ///< passed to the widget factory by the reader
-  Ref<Control> (*create)() = nullptr;                 ///< null where there is no control to create
+  /// Type name of the widgets that the class controls, unless it overrides Accepts.
+  std::u16string_view widgetType = {};
+  Ref<Control> (*create)() = nullptr;  ///< null where there is no control to create
   DesignTraits design = {};
   ValueTraits value = {};
 

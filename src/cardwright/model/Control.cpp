@@ -74,6 +74,10 @@ void Control::BindObject(Ref<Object> object) {
   if (m_Obj) m_Obj->SetListener(this);
 }
 
+bool Control::Accepts(const Widget& widget) const {
+  return EqualsNoCase(widget.TypeName(), Table().widgetType);
+}
+
 bool Control::Read(const Text& filePath, const Text& sectionName) {
   if (!m_Obj || !FileExists(filePath)) return false;
   CIni ini;

@@ -66,8 +66,9 @@ class Control : public TableControl, protected WidgetListener {
   explicit Control(const ClassTable& table) : TableControl(table) {}
   ~Control() override;
 
-  /// True where the class can work with this widget; any other is not bound.
-  virtual bool Accepts(const Widget& widget) const = 0;
+  /// True where the class can work with this widget; any other is not bound. By default the type name
+  /// decides.
+  virtual bool Accepts(const Widget& widget) const;
   /// The class's last step of reading, when the keys of the table and the user name are read and the widget
   /// shows.
   virtual void FinishRead(const CIni& /*ini*/, const Text& /*sectionName*/) {}

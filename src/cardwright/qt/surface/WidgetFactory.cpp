@@ -1,7 +1,7 @@
 #include "cardwright/qt/surface/WidgetFactory.h"
 
 #include <algorithm>
-#include <array>
+#include <vector>
 
 #include "cardwright/automation/Errors.h"
 #include "cardwright/qt/selectors/QtAttributeSelector.h"
@@ -22,42 +22,44 @@ namespace cardwright::qt {
 
 namespace {
 
-struct Maker {
+struct Kind {
   std::u16string_view identifier;
-  Ref<Widget> (*make)(WidgetPlace place);
+  WidgetMaker make;
 };
 
-template <class T>
-Ref<Widget> Make(WidgetPlace place) {
-  return MakeRef<T>(std::move(place));
+std::vector<Kind>& Kinds() {
+  static std::vector<Kind> kinds = {
+      {u"VB.Label", MakeWidget<QtLabel>},
+      {u"VB.Frame", MakeWidget<QtFrame>},
+      {u"VB.CommandButton", MakeWidget<QtCommandButton>},
+      {u"VB.CheckBox", MakeWidget<QtCheckBox>},
+      {u"VB.OptionButton", MakeWidget<QtOptionButton>},
+      {u"VB.TextBox", MakeWidget<QtTextBox>},
+      {u"CardwrightCtrl.MultilineTextBox", MakeWidget<QtMultilineTextBox>},
+      {u"VB.ComboBox", MakeWidget<QtComboBox>},
+      {u"MSComctlLib.ListViewCtrl.2", MakeWidget<QtListView>},
+      {u"CardwrightCtrl.ResourceSelector", MakeWidget<QtResourceSelector>},
+      {u"CardwrightCtrl.ThemeSelector", MakeWidget<QtThemeSelector>},
+      {u"CardwrightCtrl.AttributeSelector", MakeWidget<QtAttributeSelector>},
+      {u"CardwrightCtrl.FontSelector", MakeWidget<QtFontSelector>},
+      {u"CardwrightCtrl.ColorSelector", MakeWidget<QtColorSelector>},
+      {u"VB.PictureBox", MakeWidget<QtPictureBox>},
+      {u"CardwrightCtrl.DbTableViewer", MakeWidget<QtDbTableViewer>},
+  };
+  return kinds;
 }
-
-constexpr std::array kMakers = {
-    Maker{u"VB.Label", &Make<QtLabel>},
-    Maker{u"VB.Frame", &Make<QtFrame>},
-    Maker{u"VB.CommandButton", &Make<QtCommandButton>},
-    Maker{u"VB.CheckBox", &Make<QtCheckBox>},
-    Maker{u"VB.OptionButton", &Make<QtOptionButton>},
-    Maker{u"VB.TextBox", &Make<QtTextBox>},
-    Maker{u"CardwrightCtrl.MultilineTextBox", &Make<QtMultilineTextBox>},
-    Maker{u"VB.ComboBox", &Make<QtComboBox>},
-    Maker{u"MSComctlLib.ListViewCtrl.2", &Make<QtListView>},
-    Maker{u"CardwrightCtrl.ResourceSelector", &Make<QtResourceSelector>},
-    Maker{u"CardwrightCtrl.ThemeSelector", &Make<QtThemeSelector>},
-    Maker{u"CardwrightCtrl.AttributeSelector", &Make<QtAttributeSelector>},
-    Maker{u"CardwrightCtrl.FontSelector", &Make<QtFontSelector>},
-    Maker{u"CardwrightCtrl.ColorSelector", &Make<QtColorSelector>},
-    Maker{u"VB.PictureBox", &Make<QtPictureBox>},
-    Maker{u"CardwrightCtrl.DbTableViewer", &Make<QtDbTableViewer>},
-};
 
 }  // namespace
 
+void AddWidgetKind(std::u16string_view identifier, WidgetMaker make) {
+  Kinds().push_back({identifier, make});
+}
+
 Ref<Widget> CreateWidget(std::u16string_view identifier, WidgetPlace place) {
-  const auto maker = std::find_if(kMakers.begin(), kMakers.end(),
-                                  [&](const Maker& m) { return EqualsNoCase(m.identifier, identifier); });
-  if (maker == kMakers.end()) Raise(ErrorNumber::CannotCreateObject);
-  return maker->make(std::move(place));
+  const auto kind = std::ranges::find_if(
+      Kinds(), [&](const Kind& known) { return EqualsNoCase(known.identifier, identifier); });
+  if (kind == Kinds().end()) Raise(ErrorNumber::CannotCreateObject);
+  return kind->make(std::move(place));
 }
 
 }  // namespace cardwright::qt
