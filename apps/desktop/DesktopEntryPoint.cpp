@@ -1,7 +1,7 @@
 #include <QtGlobal>
 
 #include "desktop/DesktopCommands.h"
-#include "desktop/ScriptWindows.h"
+#include "desktop/QtScriptDesktop.h"
 #include "launcher/DesktopModule.h"
 
 namespace cardwright::desktop {
@@ -24,7 +24,7 @@ int Run(const std::string& command, std::span<const std::string> words) {
 }
 
 std::unique_ptr<ScriptDesktop> Start(app::ScriptDisplay display, ScriptSurroundings& surroundings) {
-  return std::make_unique<ScriptWindows>(display, surroundings);
+  return std::make_unique<QtScriptDesktop>(display, surroundings);
 }
 
 }  // namespace

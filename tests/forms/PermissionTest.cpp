@@ -3,7 +3,7 @@
 #include <QSettings>
 
 #include "cardwright/hosting/ClassPermissions.h"
-#include "cardwright/robot/AttendedDesktop.h"
+#include "cardwright/robot/dialogs/RecordingDesktop.h"
 #include "forms/FormScriptsFixture.h"
 
 namespace cardwright {
@@ -88,7 +88,7 @@ class ClassesOnLeave : private OwnSettings,
   }
 
   const std::string kClass = "Scripting.FileSystemObject";
-  std::optional<robot::AttendedDesktop> person{std::in_place};
+  std::optional<robot::RecordingDesktop> person{std::in_place};
 };
 
 TEST_P(ClassesOnLeave, AreRefusedUnlessTheUserAgrees) {

@@ -1,9 +1,9 @@
-#include "cardwright/robot/Keyboard.h"
+#include "cardwright/robot/input/Keyboard.h"
 
 #include <gtest/gtest.h>
 
 #include "cardwright/automation/Errors.h"
-#include "robot/Recorder.h"
+#include "robot/EventRecorder.h"
 
 namespace cardwright::robot {
 namespace {
@@ -49,13 +49,13 @@ TEST(KeyStrokes, FailForUnknownKeys) {
 }
 
 TEST(KeyboardTest, TypesEveryCharacter) {
-  Recorder window;
+  EventRecorder window;
   TypeText(window, u"aÈ\r\n\U0001F600");
   EXPECT_EQ(window.Take(), "key65[a] key200[È] key16777220[\r] key33554431[\U0001F600] ");
 }
 
 TEST(KeyboardTest, FailsWhereNothingTakesTheFocus) {
-  Recorder window;
+  EventRecorder window;
   window.setFocusPolicy(Qt::NoFocus);
   window.clearFocus();
   QWidget deaf(&window);

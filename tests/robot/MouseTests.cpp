@@ -1,4 +1,4 @@
-#include "cardwright/robot/Mouse.h"
+#include "cardwright/robot/input/Mouse.h"
 
 #include <gtest/gtest.h>
 
@@ -9,13 +9,13 @@
 #include <numeric>
 
 #include "cardwright/automation/Errors.h"
-#include "robot/Recorder.h"
+#include "robot/EventRecorder.h"
 
 namespace cardwright::robot {
 namespace {
 
 TEST(MouseTest, PressesAndReleasesWithTheButtonDownBetween) {
-  Recorder window;
+  EventRecorder window;
   Mouse mouse;
   mouse.Click(window, {5, 6});
   EXPECT_EQ(window.Take(), "press1/1@5,6 release1/0@5,6 ");
@@ -24,25 +24,25 @@ TEST(MouseTest, PressesAndReleasesWithTheButtonDownBetween) {
 }
 
 TEST(MouseTest, ClicksTwiceForADoubleClick) {
-  Recorder window;
+  EventRecorder window;
   Mouse().DoubleClick(window, {5, 6});
   EXPECT_EQ(window.Take(), "press1/1@5,6 release1/0@5,6 double1/1@5,6 release1/0@5,6 ");
 }
 
 TEST(MouseTest, OpensTheContextMenuWithTheRightButton) {
-  Recorder window;
+  EventRecorder window;
   Mouse().Click(window, {5, 6}, {Qt::RightButton, Qt::NoModifier});
   EXPECT_EQ(window.Take(), "press2/2@5,6 menu release2/0@5,6 ");
 }
 
 TEST(MouseTest, DragsInEqualSteps) {
-  Recorder window;
+  EventRecorder window;
   Mouse().Drag(window, {10, 10}, {30, 20}, {}, 2);
   EXPECT_EQ(window.Take(), "press1/1@10,10 move0/1@20,15 move0/1@30,20 release1/0@30,20 ");
 }
 
 TEST(MouseTest, ContinuesInsideALoopThatWaitsForTheRelease) {
-  Recorder window;
+  EventRecorder window;
   window.onPress = [] {
     QElapsedTimer waiting;
     waiting.start();
@@ -55,7 +55,7 @@ TEST(MouseTest, ContinuesInsideALoopThatWaitsForTheRelease) {
 }
 
 TEST(MouseTest, SendsAPollingLoopOneMoveATurn) {
-  Recorder window;
+  EventRecorder window;
   std::vector<std::size_t> turns;
   window.onPress = [&] {
     window.Take();
@@ -71,7 +71,7 @@ TEST(MouseTest, SendsAPollingLoopOneMoveATurn) {
 }
 
 TEST(MouseTest, FailsForHiddenTargets) {
-  Recorder window;
+  EventRecorder window;
   EXPECT_THROW(Mouse().Click(window, {5, 500}), Error);
   window.hide();
   EXPECT_THROW(Mouse().Click(window, {5, 5}), Error);
@@ -79,12 +79,12 @@ TEST(MouseTest, FailsForHiddenTargets) {
 }
 
 TEST(MouseTest, CanCloseTheWindowThatItPresses) {
-  auto* window = new Recorder;
+  auto* window = new EventRecorder;
   const QPointer<QWidget> watch = window;
   window->onPress = [window] { window->deleteLater(); };
   Mouse().Click(*window, {5, 5});
   EXPECT_FALSE(watch);
-  Recorder next;
+  EventRecorder next;
   Mouse().Click(next, {1, 1});
   EXPECT_EQ(next.Take(), "press1/1@1,1 release1/0@1,1 ");
 }

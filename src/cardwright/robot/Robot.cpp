@@ -10,14 +10,14 @@
 #include "cardwright/qt/surface/QtDesignSurface.h"
 #include "cardwright/qt/values/QtText.h"
 #include "cardwright/qt/widgets/WidgetCore.h"
-#include "cardwright/robot/Bag.h"
-#include "cardwright/robot/EventService.h"
-#include "cardwright/robot/ItemClicks.h"
-#include "cardwright/robot/Keyboard.h"
-#include "cardwright/robot/Pointer.h"
-#include "cardwright/robot/Sight.h"
-#include "cardwright/robot/Targets.h"
-#include "cardwright/robot/WidgetPart.h"
+#include "cardwright/robot/input/EventProcessing.h"
+#include "cardwright/robot/input/ItemClicks.h"
+#include "cardwright/robot/input/Keyboard.h"
+#include "cardwright/robot/widgets/MousePointer.h"
+#include "cardwright/robot/widgets/Screenshot.h"
+#include "cardwright/robot/widgets/TargetWidget.h"
+#include "cardwright/robot/widgets/WidgetPart.h"
+#include "cardwright/robot/windows/ControlProperties.h"
 #include "cardwright/scripting/Dictionary.h"
 #include "cardwright/shared/ModuleState.h"
 
@@ -28,10 +28,10 @@ using OptionalLong = std::optional<std::int32_t>;
 using std::chrono::milliseconds;
 
 constexpr milliseconds kWaitForWindow{1000};
-constexpr int kMovesOfDrag = 8;
+constexpr int kDefaultDragMoves = 8;
 
-MouseGrip GripOf(const OptionalLong& button, const OptionalLong& shift) {
-  MouseGrip grip;
+ClickOptions ClickOptionsOf(const OptionalLong& button, const OptionalLong& shift) {
+  ClickOptions grip;
   switch (button.value_or(MouseButton::Left)) {
     case MouseButton::Left: break;
     case MouseButton::Right: grip.button = Qt::RightButton; break;
@@ -50,38 +50,38 @@ QPoint PointIn(const QWidget& widget, const OptionalLong& x, const OptionalLong&
   return {x.value_or(centre.x()), y.value_or(centre.y())};
 }
 
-/// What went wrong in a procedure that a stroke has set off.
-void RaiseFailure(Robot& self) { self.Seat().attendant.RaiseFailure(); }
+/// Raises the error of a dialog's procedure that the input led to.
+void RaisePendingError(Robot& self) { self.Session().responder.RaisePendingError(); }
 
 void Click(Robot& self, const Variant& widget, OptionalLong x, OptionalLong y, OptionalLong button,
            OptionalLong shift) {
   QWidget& target = WidgetOf(widget);
-  self.Seat().mouse.Click(target, PointIn(target, x, y), GripOf(button, shift));
-  RaiseFailure(self);
+  self.Session().mouse.Click(target, PointIn(target, x, y), ClickOptionsOf(button, shift));
+  RaisePendingError(self);
 }
 
 void DoubleClick(Robot& self, const Variant& widget, OptionalLong x, OptionalLong y, OptionalLong button,
                  OptionalLong shift) {
   QWidget& target = WidgetOf(widget);
-  self.Seat().mouse.DoubleClick(target, PointIn(target, x, y), GripOf(button, shift));
-  RaiseFailure(self);
+  self.Session().mouse.DoubleClick(target, PointIn(target, x, y), ClickOptionsOf(button, shift));
+  RaisePendingError(self);
 }
 
 void Drag(Robot& self, const Variant& widget, std::int32_t x1, std::int32_t y1, std::int32_t x2,
           std::int32_t y2, OptionalLong button, OptionalLong steps) {
-  const std::int32_t moves = steps.value_or(kMovesOfDrag);
+  const std::int32_t moves = steps.value_or(kDefaultDragMoves);
   if (moves < 1) Raise(ErrorNumber::InvalidCall);
-  self.Seat().mouse.Drag(WidgetOf(widget), {x1, y1}, {x2, y2}, GripOf(button, {}), moves);
-  RaiseFailure(self);
+  self.Session().mouse.Drag(WidgetOf(widget), {x1, y1}, {x2, y2}, ClickOptionsOf(button, {}), moves);
+  RaisePendingError(self);
 }
 
 void Press(Robot& self, const Variant& widget, const Text& keys) {
   PressKey(WidgetOf(widget), ParseStroke(keys));
-  RaiseFailure(self);
+  RaisePendingError(self);
 }
 void Type(Robot& self, const Variant& widget, const Text& text) {
   TypeText(WidgetOf(widget), text);
-  RaiseFailure(self);
+  RaisePendingError(self);
 }
 void Focus(Robot&, const Variant& widget) { GiveFocus(WidgetOf(widget)); }
 
@@ -95,8 +95,8 @@ void SelectItem(Robot& self, const Variant& widget, std::int32_t row, std::optio
   const Text wanted = part.value_or(u"text");
   const bool isCheck = EqualsNoCase(wanted, u"check");
   if (!isCheck && !EqualsNoCase(wanted, u"text")) Raise(ErrorNumber::InvalidCall);
-  ClickItem(self.Seat().mouse, WidgetOf(widget), row, isCheck ? ItemPart::Check : ItemPart::Text);
-  RaiseFailure(self);
+  ClickItem(self.Session().mouse, WidgetOf(widget), row, isCheck ? ItemPart::Check : ItemPart::Text);
+  RaisePendingError(self);
 }
 
 bool IsReady(QWidget& window) {
@@ -113,26 +113,26 @@ void Show(Robot&, const Variant& control, OptionalLong width, OptionalLong heigh
   window.activateWindow();
   const QDeadlineTimer end(kWaitForWindow);
   do {
-    ServeEvents(milliseconds(1));
+    ProcessEvents(milliseconds(1));
   } while (!IsReady(window) && !end.hasExpired());
 }
 
-/// A part of a widget that is composed of several; nothing where it is not.
+/// A part of a composed widget; null for other widgets.
 Ref<Object> PartOf(QWidget& widget, const Text& name) {
   const qt::WidgetCore* const core = qt::WidgetCore::Of(widget);
   QWidget* const part = core && core->Native() == &widget ? core->Part(name) : nullptr;
   return part ? MakeRef<WidgetPart>(*part) : nullptr;
 }
 
-/// What stands on a visual control's surface, the designer's own widgets too.
+/// A widget on a visual control's surface, including the designer's own.
 Ref<Object> ChildOn(Surface& surface, const Text& name, const OptionalLong& index) {
   if (const auto* designed = dynamic_cast<qt::QtDesignSurface*>(&surface))
     if (Ref<Widget> own = designed->OwnWidget(name, index)) return own;
   return index ? nullptr : surface.Find(name);
 }
 
-/// The fixed buttons and whatever else stands on the control's surface, what stands in a dialog, or a part of
-/// a widget. The grab handles of a designer are the one array of widgets.
+/// A widget on a visual control, in a dialog, or a part of a composed widget. Only the grab handles of a
+/// designer are an array and take an index.
 Ref<Object> Child(Robot&, const Variant& parent, const Text& name, const OptionalLong& index) {
   Object& object = RequireObject(parent);
   auto* const form = dynamic_cast<FormOwner*>(&object);
@@ -146,17 +146,17 @@ Ref<Object> Child(Robot&, const Variant& parent, const Text& name, const Optiona
 }
 
 void WhenDialog(Robot& self, const Text& name, Ref<Object> procedure) {
-  self.Seat().attendant.SetProcedure(name, std::move(procedure));
+  self.Session().responder.SetProcedure(name, std::move(procedure));
 }
 
 void Pump(Robot& self, OptionalLong time) {
   const std::int32_t length = time.value_or(0);
   if (length < 0) Raise(ErrorNumber::InvalidCall);
-  ServeEvents(milliseconds(length));
-  RaiseFailure(self);
+  ProcessEvents(milliseconds(length));
+  RaisePendingError(self);
 }
 
-Answers& AnswersOf(Robot& self) { return self.Seat().attendant.Queues(); }
+Answers& AnswersOf(Robot& self) { return self.Session().responder.Queue(); }
 void Answer(Robot& self, std::int32_t number) { AnswersOf(self).boxes.push_back(number); }
 void ChooseMenu(Robot& self, const Text& name) { AnswersOf(self).menus.push_back(name); }
 void AnswerFile(Robot& self, const Text& path) { AnswersOf(self).files.push_back(path); }
@@ -168,10 +168,10 @@ void AnswerFont(Robot& self, const Text& name, std::optional<double> size) {
   AnswersOf(self).fonts.push_back({name, points});
 }
 
-Text LastMenu(Robot& self) { return self.Seat().attendant.LastMenu(); }
-Ref<Collection> Messages(Robot& self) { return self.Seat().desktop.Messages(); }
-Ref<Collection> Launches(Robot& self) { return self.Seat().desktop.Launches(); }
-std::int32_t Beeps(Robot& self) { return self.Seat().desktop.Beeps(); }
+Text LastMenu(Robot& self) { return self.Session().responder.LastMenu(); }
+Ref<Collection> Messages(Robot& self) { return self.Session().desktop.Messages(); }
+Ref<Collection> Launches(Robot& self) { return self.Session().desktop.Launches(); }
+std::int32_t Beeps(Robot& self) { return self.Session().desktop.Beeps(); }
 
 Text GetSetting(Robot&, const Text& app, const Text& section, const Text& key) {
   return Module().desktop->Settings().Get(app, section, key, {});
@@ -192,27 +192,28 @@ void LetDesignMode(Robot&, const Variant& control, bool designing) {
 }
 
 Ref<scripting::Dictionary> GetBag(Robot&, const Variant& control) {
-  return WriteBag(ContainedControl(control));
+  return WriteProperties(ContainedControl(control));
 }
 
 void LetBag(Robot&, const Variant& control, Ref<scripting::Dictionary> bag) {
   if (!bag) Raise(ErrorNumber::ObjectNotSet);
-  ReadBag(ContainedControl(control), *bag);
+  ReadProperties(ContainedControl(control), *bag);
 }
 
-// A designer knows its pointer by number; two numbers of the platform look the same on the screen.
+// A designer is asked for the number of its pointer, because two numbers of the platform look the same on the
+// screen.
 std::int32_t MousePointer(Robot&, const Variant& widget) {
   const QWidget& target = WidgetOf(widget);
   auto* const form = dynamic_cast<FormOwner*>(&RequireObject(widget));
   const auto* const designed = form ? dynamic_cast<DesignSurface*>(form->GetSurface()) : nullptr;
   return designed ? static_cast<std::int32_t>(designed->Pointer()) : PointerNumber(target);
 }
-Text Tooltip(Robot& self) { return self.Seat().attendant.LastTooltip(); }
+Text Tooltip(Robot& self) { return self.Session().tooltips.Last(); }
 std::int32_t Pixel(Robot&, const Variant& widget, std::int32_t x, std::int32_t y) {
   return PixelColor(WidgetOf(widget), {x, y});
 }
 void TakeScreenshot(Robot&, const Variant& widget, const Text& path) {
-  SavePicture(*WidgetOf(widget).window(), path);
+  SaveScreenshot(*WidgetOf(widget).window(), path);
 }
 
 constexpr Member kRobotMembers[] = {

@@ -1,25 +1,25 @@
 #pragma once
 
 #include "cardwright/automation/MemberTable.h"
-#include "cardwright/robot/Seat.h"
+#include "cardwright/robot/RobotSession.h"
 
 namespace cardwright::robot {
 
-/// `Cardwright.Robot`: an end user's hands and eyes for a script. What it does goes through the toolkit's
-/// real event path, and what is asked of the person meanwhile is answered from its queues. A widget is named
-/// by its control, by itself or by its visual control; points are pixels inside it.
+/// `Cardwright.Robot`: lets a script use a form as a person does. Its input takes the toolkit's real event
+/// path, and dialogs that open meanwhile are answered from its queues. A widget may be given as its control,
+/// as itself or as its visual control; points are pixels inside it.
 class Robot final : public TableObject {
  public:
-  Robot() : m_Seat(Seat::Take()) {}
+  Robot() : m_Session(RobotSession::OfThread()) {}
 
   Text TypeName() const override { return u"Robot"; }
-  robot::Seat& Seat() const noexcept { return *m_Seat; }
+  RobotSession& Session() const noexcept { return *m_Session; }
 
  protected:
   const MemberTable& Members() const override;
 
  private:
-  const Ref<robot::Seat> m_Seat;
+  const Ref<RobotSession> m_Session;
 };
 
 }  // namespace cardwright::robot

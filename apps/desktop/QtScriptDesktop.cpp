@@ -1,0 +1,30 @@
+#include "desktop/QtScriptDesktop.h"
+
+#include <QLoggingCategory>
+
+#include "cardwright/robot/input/EventProcessing.h"
+#include "desktop/Classes.h"
+
+namespace cardwright::desktop {
+
+QtScriptDesktop::QtScriptDesktop(app::ScriptDisplay display, ScriptSurroundings& surroundings)
+    : m_Session(display == app::ScriptDisplay::Required ? Display::Needed : Display::IfThere) {
+  // Closing windows must not end the script.
+  QApplication::setQuitOnLastWindowClosed(false);
+  m_Session.LeaveUnattended();
+  if (!m_Session.HasDisplay()) {
+    // Warnings of the platform plug-in about windows that nobody sees would only confuse.
+    QLoggingCategory::setFilterRules(QStringLiteral("default.warning=false"));
+    m_Unseen.emplace([&surroundings](const Text& line) {
+      if (surroundings.say) surroundings.say(line);
+    });
+  }
+  AddDesktopClasses(surroundings.classes);
+  m_Windows.AddClasses(surroundings.classes);
+}
+
+void QtScriptDesktop::Serve(std::chrono::milliseconds time) { robot::ProcessEvents(time); }
+
+bool QtScriptDesktop::HasDisplay() const { return m_Session.HasDisplay(); }
+
+}  // namespace cardwright::desktop

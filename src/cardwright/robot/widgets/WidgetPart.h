@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QPointer>
+#include <QWidget>
+
+#include "cardwright/automation/MemberTable.h"
+
+namespace cardwright::robot {
+
+/// A widget of the toolkit that is no widget of a form: a part of a selector, a dialog, or a widget in a
+/// dialog. A robot takes it like any other widget. Its members tell what can be seen of it; they raise error
+/// 91 once the widget was deleted. Default member: Text.
+class WidgetPart final : public TableObject {
+ public:
+  explicit WidgetPart(QWidget& widget) : m_Widget(&widget) {}
+
+  cardwright::Text TypeName() const override { return u"Widget"; }
+  /// Null once the widget was deleted.
+  QWidget* Native() const noexcept { return m_Widget; }
+  /// The widget of that name, in any case, inside this one; null where there is none.
+  Ref<WidgetPart> Child(std::u16string_view name) const;
+
+  cardwright::Text Name() const;
+  std::int32_t Left() const { return Alive().x(); }
+  std::int32_t Top() const { return Alive().y(); }
+  std::int32_t Width() const { return Alive().width(); }
+  std::int32_t Height() const { return Alive().height(); }
+  bool IsVisible() const { return Alive().isVisible(); }
+  bool IsEnabled() const { return Alive().isEnabled(); }
+  /// The text of an entry or a label, the caption of a button, the selected entry of a list, the title of a
+  /// dialog.
+  cardwright::Text Text() const;
+
+ protected:
+  const MemberTable& Members() const override;
+
+ private:
+  QWidget& Alive() const;
+
+  const QPointer<QWidget> m_Widget;
+};
+
+}  // namespace cardwright::robot

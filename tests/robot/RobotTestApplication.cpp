@@ -1,0 +1,27 @@
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <memory>
+
+namespace {
+
+/// One application for the whole program, made before the first test and destroyed before the program ends.
+class Application final : public testing::Environment {
+ public:
+  void SetUp() override {
+    m_Application = std::make_unique<QApplication>(m_Count, m_Arguments);
+    QApplication::setApplicationDisplayName(QStringLiteral("Robot tests"));
+    QApplication::setQuitOnLastWindowClosed(false);
+  }
+  void TearDown() override { m_Application.reset(); }
+
+ private:
+  int m_Count = 1;
+  char m_Name[12] = "robot_tests";
+  char* m_Arguments[2] = {m_Name, nullptr};
+  std::unique_ptr<QApplication> m_Application;
+};
+
+[[maybe_unused]] const auto* const kApplication = testing::AddGlobalTestEnvironment(new Application);
+
+}  // namespace
