@@ -1,6 +1,5 @@
 #include "desktop/DataSource.h"
 
-#include "cardwright/automation/Conversions.h"
 #include "cardwright/qt/values/QtText.h"
 #include "cardwright/shared/ModuleState.h"
 
@@ -25,10 +24,11 @@ void DataSource::Close() {
   m_Name.clear();
 }
 
-bool DataSource::HasFeature(const FeaturePlace& place, const Text& id) {
-  m_Log->Execute(commands::SelectByValue(place, id));
-  const bool found = Val(m_Log->Request(commands::SelectedNumber(place))) > 0;
-  m_Log->Execute(commands::SelectNone(place));
+bool DataSource::HasFeature(const FeatureClass& features, const Text& id) {
+  OrvClient host = Client();
+  host.SelectByValue(features, id);
+  const bool found = host.SelectedNumber(features) > 0;
+  host.SelectNone(features);
   return found;
 }
 

@@ -4,7 +4,7 @@
 
 #include "cardwright/orv/EmbeddedHost.h"
 #include "cardwright/qt/Library.h"
-#include "cardwright/runtime/HostCommands.h"
+#include "cardwright/shared/OrvClient.h"
 
 namespace cardwright::desktop {
 
@@ -26,10 +26,12 @@ class DataSource {
   /// The connection's handle; 0 where nothing is open.
   std::int32_t Handle() const noexcept { return m_Handle; }
 
+  /// For commands of the program's own, which the log shows too; it answers nothing where nothing is open.
+  OrvClient Client() const { return OrvClient::At(m_Handle); }
   /// The connection with its log, which must be open.
   LoggedConnection& Log() const noexcept { return *m_Log; }
   /// Whether the source has the feature. Ends the selection in its theme.
-  bool HasFeature(const FeaturePlace& place, const Text& id);
+  bool HasFeature(const FeatureClass& features, const Text& id);
   /// Reasons for which the source has refused changes, emptied by the call.
   QStringList TakeRefusals() { return std::exchange(m_Refusals, {}); }
 

@@ -2,7 +2,7 @@
 
 #include "cardwright/automation/Errors.h"
 #include "cardwright/qt/desktop/TerminalBreak.h"
-#include "cardwright/runtime/AttributeBinding.h"
+#include "cardwright/runtime/FormInput.h"
 #include "desktop/DesktopCommands.h"
 #include "desktop/DesktopSession.h"
 #include "desktop/FormWindow.h"
@@ -15,10 +15,6 @@ namespace {
 void ChooseTheme(qt::FormInput& form, const std::string& theme) {
   if (IControl* root = FindControl(form.Object()->Controls(), u"Form"))
     root->SetPropertyValue(u"ThemeName", Text::FromUtf8(theme));
-}
-
-bool ThemeExists(const DataSource& data, const std::string& theme) {
-  return Val(data.Log().Request(Text(u"THEME_NUMBER |") + Text::FromUtf8(theme) + u"|")) > 0;
 }
 
 }  // namespace
@@ -48,7 +44,8 @@ int RunFill(std::span<const std::string> words) {
   DataSource& data = session.Data();
   data.Open(QString::fromStdString(line.Value("data")));
   const std::string theme = line.Value("theme");
-  if (!ThemeExists(data, theme)) return line.Fail("the data source has no theme " + theme, app::kWrongUse);
+  if (!(data.Client().ThemeNumber(Text::FromUtf8(theme)) > 0))
+    return line.Fail("the data source has no theme " + theme, app::kWrongUse);
 
   FormWindow window(data);
   if (line.Has("debug")) {
@@ -58,7 +55,7 @@ int RunFill(std::span<const std::string> words) {
   if (!window.Form().ProjectRead(path)) return line.Fail("the form project " + file + " could not be read");
   ChooseTheme(window.Form(), theme);
   const std::string id = line.Value("id");
-  if (!data.HasFeature(PlaceOf(*window.Form().Object()), Text::FromUtf8(id)))
+  if (!data.HasFeature(window.Form().Object()->GetFeatureClass(), Text::FromUtf8(id)))
     return line.Fail("the theme " + theme + " has no feature " + id + " of the form's feature type",
                      app::kWrongUse);
   window.Form().SetNewFeature(line.Has("new"));

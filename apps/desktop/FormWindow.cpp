@@ -60,7 +60,7 @@ QString FormWindow::Failure() {
   const QStringList refusals = m_Data.TakeRefusals();
   if (!refusals.isEmpty()) return refusals.join(u'\n');
   const Ref<FormInput> form = m_Form->Object();
-  if (form->DebugMode() || m_Data.HasFeature(PlaceOf(*form), form->FeatureID())) return {};
+  if (form->DebugMode() || m_Data.HasFeature(form->GetFeatureClass(), form->FeatureID())) return {};
   return tr("Nothing was stored. The data source no longer has feature %1 of \"%2\".")
       .arg(qt::ToQString(form->FeatureID()), qt::ToQString(form->GetThemeName()));
 }

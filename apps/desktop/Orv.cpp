@@ -5,6 +5,7 @@
 
 #include "cardwright/orv/EmbeddedHost.h"
 #include "cardwright/qt/values/QtText.h"
+#include "cardwright/shared/OrvClient.h"
 #include "desktop/DesktopCommands.h"
 #include "launcher/CommandLine.h"
 
@@ -45,7 +46,7 @@ int RunOrv(std::span<const std::string> words) {
   };
   if (line.Operands().empty()) SendLines(*host);
   for (const std::string& command : line.Operands()) Send(*host, Text::FromUtf8(command));
-  host->Execute(u"APPLICATION_REDRAW");  // stores the values that still wait for their feature's other ones
+  OrvClient(host).Redraw();  // stores the values that still wait for their feature's other ones
   return allDone ? app::kDone : app::kFailed;
 }
 

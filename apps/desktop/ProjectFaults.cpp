@@ -6,13 +6,13 @@
 #include <QStringList>
 
 #include "cardwright/automation/Conversions.h"
-#include "cardwright/automation/Split.h"
 #include "cardwright/model/CForm.h"
 #include "cardwright/model/ControlClasses.h"
 #include "cardwright/model/Enums.h"
 #include "cardwright/model/RegKey.h"
 #include "cardwright/platform/Files.h"
 #include "cardwright/qt/values/QtText.h"
+#include "cardwright/shared/OrvClient.h"
 #include "cardwright/storage/CIni.h"
 #include "cardwright/storage/CodePage.h"
 #include "desktop/ScriptFaults.h"
@@ -86,8 +86,8 @@ class LineFaults {
 /// What the sections tell together.
 class SectionFaults {
  public:
-  SectionFaults(std::vector<Fault>& faults, const Text& file, EmbeddedHost* data)
-      : m_Faults(faults), m_Data(data) {
+  SectionFaults(std::vector<Fault>& faults, const Text& file, EmbeddedHost* data) : m_Faults(faults) {
+    if (data) m_Data.emplace(Ref<HostConnection>(data));
     m_Ini.SetFileName(file);
     m_Elements.push_back({QStringLiteral("Form"), CForm::kTable.events});
     LookAtForm();
@@ -108,7 +108,7 @@ class SectionFaults {
     LookAtNumbers();
     m_Theme = m_Ini.GetText(m_Section, u"ThemeName");
     if (!m_Data || m_Theme.IsEmpty()) return;
-    if (Val(m_Data->Request(Text(u"THEME_NUMBER |") + m_Theme + u"|")) > 0) {
+    if (m_Data->ThemeNumber(m_Theme) > 0) {
       LoadAttributeNames();
     } else {
       Add(QStringLiteral("the data has no theme %1").arg(qt::ToQString(m_Theme)));
@@ -117,9 +117,8 @@ class SectionFaults {
 
   void LoadAttributeNames() {
     const auto type = static_cast<FeatureTypeEnum>(Val(m_Ini.GetText(m_Section, u"FeatureType", u"-1")));
-    const Text names =
-        m_Data->Request(Text(u"THEME_ATTRIBUTE_NAMES |") + m_Theme + u"| |" + FeatureTypeText(type) + u"|");
-    for (const Text& name : Split(names, u',')) m_Attributes.insert(qt::ToQString(name).toLower());
+    for (const Text& name : m_Data->AttributeNames({m_Theme, type}))
+      m_Attributes.insert(qt::ToQString(name).toLower());
     m_KnowsAttributes = !m_Attributes.isEmpty();
     if (!m_KnowsAttributes)
       Add(QStringLiteral("the theme %1 has no features of the form's feature type")
@@ -228,7 +227,7 @@ class SectionFaults {
   }
 
   std::vector<Fault>& m_Faults;
-  EmbeddedHost* m_Data;
+  std::optional<OrvClient> m_Data;
   CIni m_Ini;
   Text m_Section;
   Text m_Theme;

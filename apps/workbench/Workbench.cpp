@@ -15,7 +15,6 @@
 
 #include "cardwright/qt/values/QtText.h"
 #include "cardwright/qt/widgets/WidgetCore.h"
-#include "cardwright/runtime/HostLists.h"
 #include "workbench/Preferences.h"
 #include "workbench/grid/PropertyGrid.h"
 #include "workbench/panes/ControlList.h"
@@ -278,7 +277,7 @@ void Workbench::Select(IControl* control) {
 
 QStringList Workbench::Themes() const {
   QStringList names;
-  for (const ListedTheme& theme : ListThemes(m_Data.Handle())) names += qt::ToQString(theme.name);
+  for (const ListedTheme& theme : m_Data.Client().ListThemes()) names += qt::ToQString(theme.name);
   return names;
 }
 
@@ -286,7 +285,7 @@ QStringList Workbench::Attributes() const {
   const cardwright::FormDesigner& designer = m_Document->Designer();
   QStringList names;
   for (const ListedAttribute& attribute :
-       ListAttributes(m_Data.Handle(), designer.GetThemeName(), designer.GetFeatureType()))
+       m_Data.Client().ListAttributes({designer.GetThemeName(), designer.GetFeatureType()}))
     names += qt::ToQString(attribute.name);
   return names;
 }

@@ -15,7 +15,6 @@
 #include "cardwright/qt/values/FeatureTypeIcon.h"
 #include "cardwright/qt/values/QtText.h"
 #include "cardwright/runtime/AttributeBinding.h"
-#include "cardwright/runtime/HostLists.h"
 #include "cardwright/shared/ModuleState.h"
 #include "workbench/Recent.h"
 #include "workbench/Workbench.h"
@@ -96,7 +95,7 @@ void Workbench::FillThemeMenu(QMenu& menu) {
   menu.clear();
   const QString present = qt::ToQString(m_Document->Designer().GetThemeName());
   auto* group = new QActionGroup(&menu);
-  for (const ListedTheme& theme : ListThemes(m_Data.Handle())) {
+  for (const ListedTheme& theme : m_Data.Client().ListThemes()) {
     const QString name = qt::ToQString(theme.name);
     const QIcon sign = qt::FeatureTypeIcon(static_cast<int>(theme.featureType),
                                            palette().color(QPalette::WindowText), devicePixelRatioF());
@@ -111,7 +110,7 @@ void Workbench::FillThemeMenu(QMenu& menu) {
 
 void Workbench::BindTo(const QString& theme) {
   cardwright::FormDesigner& designer = m_Document->Designer();
-  for (const ListedTheme& listed : ListThemes(m_Data.Handle())) {
+  for (const ListedTheme& listed : m_Data.Client().ListThemes()) {
     if (listed.name != qt::FromQString(theme)) continue;
     designer.SetThemeName(listed.name);
     designer.SetFeatureType(listed.featureType);
@@ -165,7 +164,7 @@ bool Workbench::StartRun(const QString& theme, const QString& id, RunKind kind) 
   }
   if (IControl* root = FindControl(form.Object()->Controls(), u"Form"))
     root->SetPropertyValue(u"ThemeName", qt::FromQString(theme));
-  if (!m_Data.HasFeature(PlaceOf(*form.Object()), qt::FromQString(id))) {
+  if (!m_Data.HasFeature(form.Object()->GetFeatureClass(), qt::FromQString(id))) {
     delete m_Run.data();
     QMessageBox::warning(this, tr("Fill in"),
                          tr("The theme %1 has no feature %2 of the form's feature type.").arg(theme, id));

@@ -174,6 +174,8 @@ class FormTest : public testing::Test {
 inline const std::string kOff = "X APPLICATION_FLAGREDRAW OFF";
 inline const std::string kOn = "X APPLICATION_FLAGREDRAW ON";
 inline const std::string kRedrawNow = "X APPLICATION_REDRAW";
+inline const std::string kTwoItems =
+    "ItemsNumber=2\r\nValue_Item_1=1\r\nText_Item_1=One\r\nValue_Item_2=2\r\nText_Item_2=Two\r\n";
 inline const std::string kPlace = " |wells| |POINT|";
 inline const std::string kSelect7 = "X THEME_SELECTION_BYVALUE |wells| |POINT| OVTARVOUNIQUEID = 7 NEW";
 inline const std::string kSelected = "R THEME_SELECTED_NUMBER |wells| |POINT|";

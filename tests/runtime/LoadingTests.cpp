@@ -210,13 +210,13 @@ TEST_F(Loading, ShowsTheReplyInTheOptionOfTheSameContainer) {
   EXPECT_EQ(WidgetOf<StateWidget>(u"b").State(), 1) << "nothing changes where none stands for the reply";
 }
 
-const std::string kItems =
+const std::string kThreeItems =
     "ItemsNumber=3\r\nValue_Item_1=A\r\nText_Item_1=Alpha\r\nValue_Item_2=B\r\nText_Item_2=Beta\r\n"
     "Value_Item_3=B\r\nText_Item_3=Other\r\n";
 
 TEST_F(Loading, ChoosesTheFirstEntryOfAComboBoxByItsValue) {
   host->SetTheme({{"name", 0, 5, 0, "B"}});
-  Read({{"ComboBox", "combo", "Attribute=name\r\nEditable=False\r\n" + kItems}});
+  Read({{"ComboBox", "combo", "Attribute=name\r\nEditable=False\r\n" + kThreeItems}});
   form->SetFeatureID("7");
   EXPECT_EQ(WidgetOf<ComboWidget>(u"combo").ListIndex(), 1);
   host->SetTheme({{"name", 0, 5, 0, "b"}});
@@ -227,8 +227,8 @@ TEST_F(Loading, ChoosesTheFirstEntryOfAComboBoxByItsValue) {
 
 TEST_F(Loading, ShowsAReplyThatIsNoEntryInAnEditableComboBox) {
   host->SetTheme({{"name", 0, 5, 0, "typed"}});
-  Read({{"ComboBox", "combo", "Attribute=name\r\nEditable=True\r\n" + kItems},
-        {"ComboBox", "fixed", "Attribute=name\r\nEditable=False\r\n" + kItems}});
+  Read({{"ComboBox", "combo", "Attribute=name\r\nEditable=True\r\n" + kThreeItems},
+        {"ComboBox", "fixed", "Attribute=name\r\nEditable=False\r\n" + kThreeItems}});
   form->SetFeatureID("7");
   EXPECT_EQ(Row(u"combo", u"Text"), u"typed");
   EXPECT_EQ(WidgetOf<ComboWidget>(u"combo").ListIndex(), -1);
@@ -237,7 +237,7 @@ TEST_F(Loading, ShowsAReplyThatIsNoEntryInAnEditableComboBox) {
 
 TEST_F(Loading, SelectsTheRowOfAListBoxByItsValue) {
   host->SetTheme({{"name", 0, 5, 0, "B"}});
-  Read({{"ListBox", "list", "Attribute=name\r\n" + kItems}});
+  Read({{"ListBox", "list", "Attribute=name\r\n" + kThreeItems}});
   form->SetFeatureID("7");
   EXPECT_EQ(WidgetOf<ListViewWidget>(u"list").SelectedRow(), 2);
 }

@@ -51,12 +51,8 @@ TEST_F(Required, LooksAtNoOtherWordThanTrue) {
   EXPECT_EQ(ClickAndTake(), kNothing);
 }
 
-const std::string kChoices =
-    "ItemsNumber=2\r\nValue_Item_1=1\r\nText_Item_1=One\r\nValue_Item_2=2\r\n"
-    "Text_Item_2=Two\r\n";
-
 TEST_F(Required, AsksForAChoiceWhereAComboBoxHasEntries) {
-  Read({{"ComboBox", "combo", "Attribute=C\r\nEditable=True\r\n" + kChoices + kNeeded}});
+  Read({{"ComboBox", "combo", "Attribute=C\r\nEditable=True\r\n" + kTwoItems + kNeeded}});
   EXPECT_EQ(ClickAndTake(), ForAttribute("C"));
   WidgetOf(u"combo").SetDisplayText(u"typed");
   EXPECT_EQ(ClickAndTake(), ForAttribute("C")) << "typed, but not chosen";
@@ -74,12 +70,12 @@ TEST_F(Required, TakesTheTypedTextWhereAComboBoxHasNoEntries) {
 // Kinds without a value of their own are judged by the needed field before them; forms live with that.
 TEST_F(Required, JudgesAListBoxByTheNeededFieldBeforeIt) {
   Read({{"TextBox", "text", "Text=x\r\n" + kNeeded},
-        {"ListBox", "list", "Attribute=L\r\n" + kChoices + kNeeded}});
+        {"ListBox", "list", "Attribute=L\r\n" + kTwoItems + kNeeded}});
   EXPECT_EQ(ClickAndTake(), kNothing) << "nothing is selected in the list";
 }
 
 TEST_F(Required, CountsAListBoxThatComesFirstAsEmpty) {
-  Read({{"ListBox", "list", "Attribute=L\r\nText=One\r\n" + kChoices + kNeeded},
+  Read({{"ListBox", "list", "Attribute=L\r\nText=One\r\n" + kTwoItems + kNeeded},
         {"TextBox", "text", "Text=x\r\n" + kNeeded}});
   EXPECT_EQ(WidgetOf<ListViewWidget>(u"list").SelectedRow(), 1);
   EXPECT_EQ(ClickAndTake(), ForAttribute("L"));

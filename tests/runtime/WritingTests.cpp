@@ -22,10 +22,6 @@ class Writing : public FormTest {
   }
 };
 
-const std::string kEntries =
-    "ItemsNumber=2\r\nValue_Item_1=1\r\nText_Item_1=One\r\nValue_Item_2=2\r\n"
-    "Text_Item_2=Two\r\n";
-
 TEST_F(Writing, PutsTextsBetweenBarsAndNumbersBare) {
   Read({{"TextBox", "a", "Attribute=a\r\nText=Some text\r\n"},
         {"textboxmultiline", "b", "Attribute=b\r\nText=more\r\n"},
@@ -58,17 +54,17 @@ TEST_F(Writing, WritesTheStateOfACheckBox) {
 }
 
 TEST_F(Writing, WritesTheValueOfTheChosenEntryAndElseTheTypedText) {
-  Read({{"ComboBox", "chosen", "Attribute=a\r\nText=Two\r\n" + kEntries},
-        {"ComboBox", "typed", "Attribute=b\r\nEditable=True\r\nText=None of them\r\n" + kEntries},
-        {"ComboBox", "empty", "Attribute=c\r\n" + kEntries}});
+  Read({{"ComboBox", "chosen", "Attribute=a\r\nText=Two\r\n" + kTwoItems},
+        {"ComboBox", "typed", "Attribute=b\r\nEditable=True\r\nText=None of them\r\n" + kTwoItems},
+        {"ComboBox", "empty", "Attribute=c\r\n" + kTwoItems}});
   EXPECT_EQ(Written(), (Lines{Set("a", "|2|"), Set("b", "|None of them|"), Set("c", "| |")}));
 }
 
 TEST_F(Writing, RepeatsTheValueBeforeForAListBoxWithoutASelection) {
-  Read({{"ListBox", "first", "Attribute=a\r\n" + kEntries},
+  Read({{"ListBox", "first", "Attribute=a\r\n" + kTwoItems},
         {"TextBox", "text", "Attribute=b\r\nText=kept\r\n"},
-        {"ListBox", "second", "Attribute=c\r\n" + kEntries},
-        {"ListBox", "selected", "Attribute=a\r\nText=Two\r\n" + kEntries}});
+        {"ListBox", "second", "Attribute=c\r\n" + kTwoItems},
+        {"ListBox", "selected", "Attribute=a\r\nText=Two\r\n" + kTwoItems}});
   EXPECT_EQ(Written(), (Lines{Set("a", "| |"), Set("b", "|kept|"), Set("c", "|kept|"), Set("a", "|2|")}));
 }
 

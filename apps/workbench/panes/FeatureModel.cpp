@@ -7,7 +7,6 @@
 
 #include "cardwright/automation/Conversions.h"
 #include "cardwright/qt/values/QtText.h"
-#include "cardwright/runtime/HostCommands.h"
 #include "cardwright/shared/ModuleState.h"
 
 namespace cardwright::workbench {
@@ -79,7 +78,7 @@ void FeatureModel::ReadTheme(const QString& theme) {
     if (listed.name != qt::FromQString(theme)) continue;
     m_Theme = theme;
     m_Type = listed.featureType;
-    for (const ListedAttribute& each : ListAttributes(m_Handle, listed.name, m_Type))
+    for (const ListedAttribute& each : OrvClient::At(m_Handle).ListAttributes({listed.name, m_Type}))
       m_Attributes.push_back(each.name);
     m_Ids = m_Host->FeatureIds(listed.name);
     break;
@@ -198,12 +197,12 @@ const QStringList& FeatureModel::ValuesOf(std::size_t place) const {
 }
 
 QStringList FeatureModel::Ask(std::size_t place) const {
-  const FeaturePlace theme{qt::FromQString(m_Theme), FeatureTypeText(m_Type)};
-  m_Host->Execute(commands::SelectByValue(theme, qt::FromQString(QString::number(m_Ids[place]))));
-  m_Host->Execute(commands::MoveFirst(theme));
+  const FeatureClass features{qt::FromQString(m_Theme), m_Type};
+  OrvClient host(m_Host);
+  host.SelectByValue(features, qt::FromQString(QString::number(m_Ids[place])));
+  host.MoveFirst(features);
   QStringList values;
-  for (const Text& attribute : m_Attributes)
-    values += qt::ToQString(m_Host->Request(commands::GetAttribute(theme, attribute)));
+  for (const Text& attribute : m_Attributes) values += qt::ToQString(host.GetAttribute(features, attribute));
   return values;
 }
 

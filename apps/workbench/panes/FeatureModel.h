@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "cardwright/orv/EmbeddedHost.h"
-#include "cardwright/runtime/HostLists.h"
+#include "cardwright/shared/OrvClient.h"
 
 namespace cardwright::workbench {
 
@@ -21,7 +21,7 @@ class FeatureModel final : public QAbstractTableModel {
 
   /// Looks at another source; "" for none. Error 53 with a description where it cannot be opened.
   void Open(const QString& source);
-  std::vector<ListedTheme> Themes() const { return ListThemes(m_Handle); }
+  std::vector<ListedTheme> Themes() const { return OrvClient::At(m_Handle).ListThemes(); }
   /// Shows the features of a theme, all in the store's order; none for a name that the source does not have.
   void Show(const QString& theme);
   const QString& Theme() const noexcept { return m_Theme; }

@@ -1,9 +1,8 @@
 #include "cardwright/model/CForm.h"
 
-#include "cardwright/automation/Split.h"
 #include "cardwright/model/CommonFields.h"
-#include "cardwright/shared/HostExecutor.h"
 #include "cardwright/shared/ModuleState.h"
+#include "cardwright/shared/OrvClient.h"
 
 namespace cardwright {
 
@@ -177,9 +176,7 @@ void CForm::RefreshAttributeList() {
     IControl* root = AsControl(Elements().Item(Variant(1)));
     if (!root) Raise(ErrorNumber::ObjectNotSet);
     const auto type = static_cast<FeatureTypeEnum>(ToLong(root->PropertyValue(u"FeatureType")));
-    const Text answer = SharedHost().ORVRequest(Text(u"THEME_ATTRIBUTE_NAMES |") + m_ThemeName + u"| |" +
-                                                FeatureTypeText(type) + u"|");
-    names = Split(answer, u',');
+    names = OrvClient::Shared().AttributeNames({m_ThemeName, type});
   }
   Designer()->RaiseAttribsList(std::move(names));
 }

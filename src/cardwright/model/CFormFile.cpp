@@ -7,8 +7,8 @@
 #include "cardwright/model/FileKeys.h"
 #include "cardwright/model/Steps.h"
 #include "cardwright/platform/Files.h"
-#include "cardwright/shared/HostExecutor.h"
 #include "cardwright/shared/ModuleState.h"
+#include "cardwright/shared/OrvClient.h"
 #include "cardwright/storage/IniBatch.h"
 #include "cardwright/storage/IniSnapshot.h"
 #include "cardwright/storage/ProjectFile.h"
@@ -114,10 +114,9 @@ void CForm::ReadTitle(const CIni& ini) {
 // projects so.
 void CForm::ReadTheme(const CIni& ini) {
   m_ThemeName = ToText(ini.GetValue(kForm, u"ThemeName", Variant(u"")));
-  HostExecutor& host = SharedHost();
-  if (m_ThemeName.IsEmpty() || !host.IsConnected()) return;
-  const Text count = host.ORVRequest(Text(u"THEME_NUMBER |") + m_ThemeName + u"|");
-  if (Val(count) == 0) m_ThemeName = host.ORVRequest(u"THEME_ACTIVE");
+  if (m_ThemeName.IsEmpty() || !SharedHost().IsConnected()) return;
+  OrvClient host = OrvClient::Shared();
+  if (host.ThemeNumber(m_ThemeName) == 0) m_ThemeName = host.ActiveTheme();
 }
 
 void CForm::ReadControl(const Text& filePath, const CIni& ini, int number) {

@@ -1,7 +1,8 @@
 #pragma once
 
 #include <cstdint>
-#include <string_view>
+
+#include "cardwright/shared/FeatureTypes.h"
 
 namespace cardwright {
 
@@ -46,24 +47,7 @@ enum class PropertyTypeEnum : std::int32_t {
   ptConnectionString = 15,  ///< declared for hosts that number it; no property has it
 };
 
-/// Geometry kind of a theme's features, as form projects store it.
-enum class FeatureTypeEnum : std::int32_t { ftNone = -1, ftPoint = 0, ftArc = 1, ftPolygon = 2 };
-
-/// Kind of a feature attribute.
-enum class AttributeTypeEnum : std::int32_t { atCharacter = 0, atNumeric = 1 };
-
 /// What may be typed into a text field; the number stands in the widget's Tag.
 enum class InputTypeEnum : std::int32_t { itString = 0, itInteger = 1, itFloat = 2 };
-
-/// The host's word for a feature type: "POINT", "ARC", "POLYGON", and "" for any other number.
-constexpr std::u16string_view FeatureTypeText(FeatureTypeEnum type) noexcept {
-  switch (type) {
-    case FeatureTypeEnum::ftPoint: return u"POINT";
-    case FeatureTypeEnum::ftArc: return u"ARC";
-    case FeatureTypeEnum::ftPolygon: return u"POLYGON";
-    case FeatureTypeEnum::ftNone: break;
-  }
-  return u"";
-}
 
 }  // namespace cardwright

@@ -1,160 +1,164 @@
 #include "cardwright/runtime/AttributeBinding.h"
 
-#include <vector>
-
 #include "cardwright/model/Control.h"
-#include "cardwright/runtime/FormInput.h"
 #include "cardwright/runtime/RedrawPause.h"
-#include "cardwright/shared/HostExecutor.h"
 #include "cardwright/shared/Messages.h"
 #include "cardwright/shared/ModuleState.h"
-#include "cardwright/shared/ScriptText.h"
+#include "cardwright/shared/OrvClient.h"
 
 namespace cardwright {
 namespace {
 
 bool IsBlank(const Text& text) { return Trim(text).empty(); }
 
-double RequestNumber(const Text& command) { return Val(SharedHost().ORVRequest(command)); }
+bool IsBound(const BoundFeature& feature) {
+  return SharedHost().IsConnected() && (!IsBlank(feature.id) || feature.isDebugging);
+}
 
 // Selects the feature in its theme and makes it current; the number of features found.
-double SelectFeature(const FeaturePlace& place, const Text& id) {
-  HostExecutor& host = SharedHost();
-  host.ORVExecute(commands::SelectByValue(place, id));
-  const double count = RequestNumber(commands::SelectedNumber(place));
+double SelectFeature(OrvClient& host, const BoundFeature& feature) {
+  host.SelectByValue(feature.features, feature.id);
+  const double count = host.SelectedNumber(feature.features);
   if (!(count > 0)) return count;
-  host.ORVExecute(commands::MoveFirst(place));
-  return RequestNumber(commands::CurrentIsValid(place)) == 0 ? 0 : count;
+  host.MoveFirst(feature.features);
+  return host.CurrentIsValid(feature.features) ? count : 0;
 }
 
-InputTypeEnum InputTypeOf(const CAttrib& attrib) {
-  if (attrib.m_AttribType == AttributeTypeEnum::atCharacter) return InputTypeEnum::itString;
-  return attrib.m_Decs < 1 ? InputTypeEnum::itInteger : InputTypeEnum::itFloat;
+InputTypeEnum InputTypeOf(const AttributeRecord& attribute) {
+  if (attribute.type == AttributeTypeEnum::atCharacter) return InputTypeEnum::itString;
+  return attribute.decimals < 1 ? InputTypeEnum::itInteger : InputTypeEnum::itFloat;
 }
 
-// Each control whose attribute the theme has, as it is bound when its turn comes.
+// Each control whose attribute the feature class has, as it is bound when its turn comes.
 template <class Use>
-void ForEachBound(FormInput& form, const CAttribs& attribs, Use&& use) {
-  for (const Ref<IControl>& each : ControlsOf(form.Controls())) {
+void ForEachBound(const Collection& controls, const CAttribs& attribs, Use&& use) {
+  for (const Ref<IControl>& each : ControlsOf(controls)) {
     auto* control = dynamic_cast<Control*>(each.get());
     const CAttrib* attrib = control ? attribs.Find(control->AttributeName()) : nullptr;
-    if (attrib) use(*control, *attrib);
+    if (attrib) use(*control, attrib->Record());
   }
 }
 
-/// Values whose controls may stand before those that fill their lists: a rename puts a control behind all
-/// others. They are shown again at the end, or OK would clear their attributes.
-class LateValues {
+/// Values of controls that can stand before those that fill their lists, as a renamed control moves to the
+/// end of the form. They are shown again at the end, or OK would clear their attributes.
+class DeferredValues {
  public:
-  void Note(Control& control, const Text& reply) {
-    if (control.Table().value.followsOthers) m_Values.push_back({Ref<Control>(&control), reply});
+  void Add(Control& control, const Text& value) {
+    if (control.Table().value.followsOthers) m_Values.push_back({Ref<Control>(&control), value});
   }
   void Show() const {
-    for (const Value& late : m_Values)
+    for (const Entry& each : m_Values)
       Attempt([&] {
-        if (!EqualsNoCase(late.control->DisplayText(), late.reply))
-          late.control->SetRow(u"Text", Variant(late.reply));
+        if (!EqualsNoCase(each.control->DisplayText(), each.value))
+          each.control->SetRow(u"Text", Variant(each.value));
       });
   }
 
  private:
-  struct Value {
+  struct Entry {
     Ref<Control> control;
-    Text reply;
+    Text value;
   };
-  std::vector<Value> m_Values;
+  std::vector<Entry> m_Values;
 };
-
-void LoadControls(FormInput& form, const FeaturePlace& place, const CAttribs& attribs) {
-  const bool limitsOnly = IsBlank(form.FeatureID()) || form.NewFeature();
-  LateValues late;
-  ForEachBound(form, attribs, [&](Control& control, const CAttrib& attrib) {
-    Attempt([&] { control.LimitInput(attrib.m_Length, InputTypeOf(attrib)); });
-    if (limitsOnly) return;
-    const Text reply = SharedHost().ORVRequest(commands::GetAttribute(place, attrib.m_Name));
-    Attempt([&] { control.ShowValue(attrib.m_Name, reply); });
-    late.Note(control, reply);
-  });
-  late.Show();
-}
-
-// The value as it stands in the command: texts between bars, a blank clearing the attribute; numbers with a
-// point.
-Text CommandValue(const CAttrib& attrib, const Text& value) {
-  if (attrib.m_AttribType == AttributeTypeEnum::atCharacter)
-    return Text(u"|") + (value.IsEmpty() ? std::u16string_view(u" ") : value.View()) + u"|";
-  return Replace(value, Module().decimalSeparator, u".");
-}
 
 void Print(const Text& text) {
   if (const Ref<Object> output = Module().debugOutput)
     Attempt([&] { LetProperty(*output, u"SelText", Variant(text)); });
 }
 
-const Text& Rule() {
-  static thread_local const Text rule(std::u16string(100, u'-'));
-  return rule;
-}
+constexpr int kInternalProcedure = 1082;
+constexpr int kStorageStart = 1083;
+constexpr int kStorageEnd = 1084;
+
+Text Rule() { return Text(std::u16string(100, u'-')); }
+Text Banner(int step) { return GetMessage(kInternalProcedure, {Variant(GetMessage(step))}) + u"\r\n"; }
 
 void PrintOpening() {
   Print(Text(u"\r\n\r\n") + Rule() + u"\r\n");
-  Print(GetMessage(1082, {Variant(GetMessage(1083))}) + u"\r\n");
+  Print(Banner(kStorageStart));
   Print(Rule() + u"\r\n");
 }
 
 void PrintClosing() {
   Print(Rule() + u"\r\n");
-  Print(GetMessage(1082, {Variant(GetMessage(1084))}) + u"\r\n");
+  Print(Banner(kStorageEnd));
   Print(Rule() + u"\r\n\r\n\r\n");
 }
 
-void WriteControls(FormInput& form, const FeaturePlace& place, const CAttribs& attribs) {
-  Text value;  // kept from control to control: a list box without a selection writes its predecessor's value
-               // again
-  ForEachBound(form, attribs, [&](Control& control, const CAttrib& attrib) {
-    if (!AttemptOr(false, [&] { return control.TakeValue(value); })) return;
-    const Text command = commands::SetAttribute(place, attrib.m_Name, CommandValue(attrib, value));
-    if (form.DebugMode()) {
-      Print(Text(u"     ") + command + u"\r\n");
-    } else {
-      SharedHost().ORVExecute(command);
-    }
+/// Prints the commands that a debugging run would send.
+class PrintingConnection final : public HostConnection {
+ public:
+  Text Execute(std::u16string_view command) override {
+    Print(Text(u"     ") + command + u"\r\n");
+    return {};
+  }
+  Text Request(std::u16string_view) override { return {}; }
+};
+
+void StoreControls(OrvClient& host, const Collection& controls, const FeatureClass& features,
+                   const CAttribs& attribs) {
+  Text value;  // kept from control to control: a list box without a selection writes the value before it
+  ForEachBound(controls, attribs, [&](Control& control, const AttributeRecord& attribute) {
+    if (AttemptOr(false, [&] { return control.TakeValue(value); }))
+      host.SetAttribute(features, attribute, value);
   });
 }
 
 }  // namespace
 
-FeaturePlace PlaceOf(const FormInput& form) {
-  return {form.GetThemeName(), FeatureTypeText(form.GetFeatureType())};
-}
-
-void LoadAttributes(FormInput& form) {
-  HostExecutor& host = SharedHost();
-  const bool hasFeature = !IsBlank(form.FeatureID());
-  if (!host.IsConnected() || (!hasFeature && !form.DebugMode())) return;
-  const FeaturePlace place = PlaceOf(form);
-  const RedrawPause pause(hasFeature, RedrawPause::End::Resume);
-  if (hasFeature && SelectFeature(place, form.FeatureID()) < 1) return;
-  LoadControls(form, place, *form.Attributes().Read(place));
-  if (hasFeature) host.ORVExecute(commands::SelectNone(place));
-}
-
-void WriteAttributes(FormInput& form) {
-  HostExecutor& host = SharedHost();
-  if (!host.IsConnected() || (IsBlank(form.FeatureID()) && !form.DebugMode())) return;
-  const FeaturePlace place = PlaceOf(form);
-  double count = 1;
-  if (form.DebugMode()) {
-    PrintOpening();
-  } else {
-    host.ORVExecute(commands::SelectByValue(place, form.FeatureID()));
-    count = RequestNumber(commands::SelectedNumber(place));
+Ref<CAttribs> AttributeBinding::AttributesOf(OrvClient& host, const FeatureClass& features) {
+  std::vector<AttributeRecord> records = host.Attributes(features);
+  if (!m_Attribs || records != m_Records) {
+    m_Attribs = MakeRef<CAttribs>();
+    for (const AttributeRecord& record : records) m_Attribs->Add(MakeRef<CAttrib>(record));
+    m_Records = std::move(records);
   }
-  if (!(count > 0)) return;
-  if (!form.DebugMode()) host.ORVExecute(commands::MoveFirst(place));
-  WriteControls(form, place, *form.Attributes().Read(place));
-  if (form.DebugMode()) PrintClosing();
-  form.RunEvent(BuildEventName(u"Form", u"AfterSetAttributes"));
+  return m_Attribs;
+}
+
+void AttributeBinding::Load(const Collection& controls, const BoundFeature& feature) {
+  if (!IsBound(feature)) return;
+  OrvClient host = OrvClient::Shared();
+  if (IsBlank(feature.id)) return LoadControls(host, controls, feature);
+  const RedrawPause pause(host, RedrawPause::End::Resume);
+  if (SelectFeature(host, feature) < 1) return;
+  LoadControls(host, controls, feature);
+  host.SelectNone(feature.features);
+}
+
+void AttributeBinding::LoadControls(OrvClient& host, const Collection& controls,
+                                    const BoundFeature& feature) {
+  const bool hasValues = !IsBlank(feature.id) && !feature.isNew;
+  const Ref<CAttribs> attribs = AttributesOf(host, feature.features);
+  DeferredValues deferred;
+  ForEachBound(controls, *attribs, [&](Control& control, const AttributeRecord& attribute) {
+    Attempt([&] { control.LimitInput(attribute.length, InputTypeOf(attribute)); });
+    if (!hasValues) return;
+    const Text value = host.GetAttribute(feature.features, attribute.name);
+    Attempt([&] { control.ShowValue(attribute.name, value); });
+    deferred.Add(control, value);
+  });
+  deferred.Show();
+}
+
+// Unlike loading it does not ask whether the current feature is valid: hosts count on the order of commands.
+bool AttributeBinding::Store(const Collection& controls, const BoundFeature& feature) {
+  if (!IsBound(feature)) return false;
+  OrvClient host = OrvClient::Shared();
+  const FeatureClass& features = feature.features;
+  if (feature.isDebugging) {
+    OrvClient printer(MakeRef<PrintingConnection>());
+    PrintOpening();
+    StoreControls(printer, controls, features, *AttributesOf(host, features));
+    PrintClosing();
+    return true;
+  }
+  host.SelectByValue(features, feature.id);
+  if (!(host.SelectedNumber(features) > 0)) return false;
+  host.MoveFirst(features);
+  StoreControls(host, controls, features, *AttributesOf(host, features));
+  return true;
 }
 
 }  // namespace cardwright

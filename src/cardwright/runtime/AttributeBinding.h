@@ -1,21 +1,39 @@
 #pragma once
 
-#include "cardwright/runtime/HostCommands.h"
+#include <vector>
+
+#include "cardwright/runtime/CAttrib.h"
 
 namespace cardwright {
 
-class FormInput;
+class OrvClient;
 
-/// @name The road between a feature's attributes and the controls of a form.
-/// @{
-/// Loads the attributes of the form's feature into its controls and limits what can be typed to what the
-/// attributes hold. Does nothing without a connection or, outside debugging, without a feature.
-void LoadAttributes(FormInput& form);
-/// Writes the controls' values to the feature's attributes and runs "AfterSetAttributes". In a debugging run
-/// the commands are only printed.
-void WriteAttributes(FormInput& form);
-/// The form's theme and feature type.
-FeaturePlace PlaceOf(const FormInput& form);
-/// @}
+/// The feature that a form is filled in for.
+struct BoundFeature {
+  FeatureClass features;     ///< that it is one of
+  Text id;                   ///< the host's unique identifier; blank for none
+  bool isNew = false;        ///< not stored yet: there are no values to load
+  bool isDebugging = false;  ///< values are not stored, the commands are printed to the debug output
+};
+
+/// Carries the values of a feature's attributes into the controls of a form and back.
+class AttributeBinding {
+ public:
+  /// Loads the values and limits what can be typed to what the attributes hold. Does nothing without a
+  /// connection or, outside debugging, without a feature.
+  void Load(const Collection& controls, const BoundFeature& feature);
+  /// Stores the controls' values. False where nothing was tried: without a connection, without a feature, or
+  /// with one that the host does not have.
+  bool Store(const Collection& controls, const BoundFeature& feature);
+
+ private:
+  /// The attributes as the host has them now. It nearly always answers what it answered before, so the
+  /// collection is kept for as long as it does.
+  Ref<CAttribs> AttributesOf(OrvClient& host, const FeatureClass& features);
+  void LoadControls(OrvClient& host, const Collection& controls, const BoundFeature& feature);
+
+  std::vector<AttributeRecord> m_Records;
+  Ref<CAttribs> m_Attribs;  // of the records; null before the first reading
+};
 
 }  // namespace cardwright

@@ -3,11 +3,25 @@
 namespace cardwright {
 namespace {
 
+// A field of the record as a property.
+template <auto Field, class T>
+T GetField(CAttrib& attrib) {
+  return attrib.Record().*Field;
+}
+template <auto Field, class T>
+void LetField(CAttrib& attrib, T value) {
+  attrib.Record().*Field = std::move(value);
+}
+template <auto Field, class T>
+constexpr Member RecordField(std::u16string_view name) {
+  return Property<&GetField<Field, T>, &LetField<Field, T>>(name);
+}
+
 constexpr Member kAttribMembers[] = {
-    PlainField<&CAttrib::m_Name>(u"Name"),
-    PlainField<&CAttrib::m_AttribType>(u"AttribType"),
-    PlainField<&CAttrib::m_Length>(u"Length"),
-    PlainField<&CAttrib::m_Decs>(u"Decs"),
+    RecordField<&AttributeRecord::name, Text>(u"Name"),
+    RecordField<&AttributeRecord::type, AttributeTypeEnum>(u"AttribType"),
+    RecordField<&AttributeRecord::length, std::int32_t>(u"Length"),
+    RecordField<&AttributeRecord::decimals, std::int32_t>(u"Decs"),
 };
 
 constexpr Member kAttribsMembers[] = {
@@ -41,7 +55,7 @@ CAttrib* CAttribs::Find(std::u16string_view name) const noexcept {
 }
 
 void CAttribs::Add(Ref<CAttrib> attrib) {
-  Attempt([&] { m_Attribs->Add(Variant(attrib), Variant(attrib->m_Name)); });
+  Attempt([&] { m_Attribs->Add(Variant(attrib), Variant(attrib->Record().name)); });
 }
 
 }  // namespace cardwright

@@ -2,22 +2,26 @@
 
 #include "cardwright/automation/Collection.h"
 #include "cardwright/automation/MemberTable.h"
-#include "cardwright/model/Enums.h"
+#include "cardwright/shared/FeatureTypes.h"
 
 namespace cardwright {
 
-/// Description of one attribute of a theme.
+/// Description of one attribute of a theme, as scripts see it.
 class CAttrib final : public TableObject {
  public:
+  CAttrib() = default;
+  explicit CAttrib(AttributeRecord record) : m_Record(std::move(record)) {}
+
   Text TypeName() const override { return u"CAttrib"; }
 
-  Text m_Name;
-  AttributeTypeEnum m_AttribType = AttributeTypeEnum::atCharacter;
-  std::int32_t m_Length = 0;  ///< characters
-  std::int32_t m_Decs = 0;    ///< decimals
+  AttributeRecord& Record() noexcept { return m_Record; }
+  const AttributeRecord& Record() const noexcept { return m_Record; }
 
  protected:
   const MemberTable& Members() const override;
+
+ private:
+  AttributeRecord m_Record;
 };
 
 /// The attributes of a theme by position or name.

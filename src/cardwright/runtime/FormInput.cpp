@@ -2,10 +2,8 @@
 
 #include "cardwright/model/Control.h"
 #include "cardwright/model/Rename.h"
-#include "cardwright/runtime/AttributeBinding.h"
 #include "cardwright/runtime/RedrawPause.h"
 #include "cardwright/runtime/ScriptRun.h"
-#include "cardwright/shared/HostExecutor.h"
 #include "cardwright/shared/Messages.h"
 #include "cardwright/shared/ModuleState.h"
 #include "cardwright/shared/ScriptText.h"
@@ -79,7 +77,7 @@ Ref<IControl> FormInput::Form() const {
 void FormInput::SetFeatureID(const Text& id) {
   const Ref<FormInput> keepAlive(this);  // a script may close the window when a value changes
   m_FeatureID = id;
-  if (CanRunScripts()) LoadAttributes(*this);
+  if (CanRunScripts()) m_Binding.Load(*m_Controls, Feature());
 }
 
 bool FormInput::ProjectRead(const Text& fileName) {
@@ -88,7 +86,7 @@ bool FormInput::ProjectRead(const Text& fileName) {
   m_ProjectFile = fileName;
   if (!form || !form->Read(fileName, {})) return false;
   if (!CanRunScripts()) return true;
-  if (m_DebugMode) LoadAttributes(*this);
+  if (m_DebugMode) m_Binding.Load(*m_Controls, Feature());
   RunScript(*this, Module().scriptContent, Module().scriptLanguage, m_DebugMode);
   RunFormEvent(u"Initialize");
   return true;
@@ -174,6 +172,13 @@ class Running {
   bool& m_Flag;
 };
 
+// Keeps the host from redrawing where the form may change its data.
+std::optional<RedrawPause> PauseRedraw(const FormInput& form) {
+  using Pause = std::optional<RedrawPause>;
+  return form.AttributesWritable() ? Pause(std::in_place, OrvClient::Shared(), RedrawPause::End::Redraw)
+                                   : Pause();
+}
+
 }  // namespace
 
 // A script that presses the button in an event of the same button would do so for ever: the inner press is
@@ -181,10 +186,10 @@ class Running {
 bool FormInput::RunOk() {
   if (m_RunsOk) return false;
   const Running running(m_RunsOk);
-  const RedrawPause pause(AttributesWritable(), RedrawPause::End::Redraw);
+  const std::optional<RedrawPause> pause = PauseRedraw(*this);
   if (!RunFormEvent(u"BeforeOkClick")) return false;
-  if (m_SetAttributesEnabled) WriteAttributes(*this);
-  if (AttributesWritable()) SharedHost().ORVExecute(commands::SelectNone(PlaceOf(*this)));
+  if (m_SetAttributesEnabled && m_Binding.Store(*m_Controls, Feature())) RunFormEvent(u"AfterSetAttributes");
+  if (AttributesWritable()) OrvClient::Shared().SelectNone(GetFeatureClass());
   return RunFormEvent(u"AfterOkClick");
 }
 
@@ -192,7 +197,7 @@ bool FormInput::RunCancel() {
   if (!CanRunScripts()) return true;
   if (m_RunsCancel) return false;
   const Running running(m_RunsCancel);
-  const RedrawPause pause(AttributesWritable(), RedrawPause::End::Redraw);
+  const std::optional<RedrawPause> pause = PauseRedraw(*this);
   return RunFormEvent(u"BeforeCancelClick");
 }
 

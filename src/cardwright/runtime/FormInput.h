@@ -2,7 +2,7 @@
 
 #include "cardwright/model/CForm.h"
 #include "cardwright/model/FormOwner.h"
-#include "cardwright/runtime/AttributeList.h"
+#include "cardwright/runtime/AttributeBinding.h"
 #include "cardwright/runtime/FormButton.h"
 
 namespace cardwright {
@@ -45,6 +45,8 @@ class FormInput final : public TableObject, public InputOwner {
   Text GetThemeName() const;
   FeatureTypeEnum GetFeatureType() const;
   Text GetFeatureTypeString() const { return FeatureTypeText(GetFeatureType()); }
+  /// Theme and feature type together.
+  FeatureClass GetFeatureClass() const { return {GetThemeName(), GetFeatureType()}; }
   std::int32_t WindowHandle() const;
   /// The host's window, as every container gives it to its controls under this name; null where there is
   /// none.
@@ -63,9 +65,6 @@ class FormInput final : public TableObject, public InputOwner {
   void PlaceButtonsForDesign();
   /// The surface ends: the form's objects stay for whoever holds them, without widgets.
   void DetachSurface();
-
-  /// The attributes of the form's theme, as the host last had them.
-  AttributeList& Attributes() noexcept { return m_Attributes; }
 
   Surface* GetSurface() override { return m_Surface; }
   float OuterWidth() const override;
@@ -91,6 +90,7 @@ class FormInput final : public TableObject, public InputOwner {
   bool RunOk();
   bool RunCancel();
   Ref<IControl> Form() const;
+  BoundFeature Feature() const { return {GetFeatureClass(), m_FeatureID, m_NewFeature, m_DebugMode}; }
 
   Surface* m_Surface;
   Ref<Collection> m_Controls = MakeRef<Collection>();
@@ -99,7 +99,7 @@ class FormInput final : public TableObject, public InputOwner {
   Text m_ProjectFile;
   Text m_FeatureID;
   Text m_Caption;
-  AttributeList m_Attributes;
+  AttributeBinding m_Binding;
   bool m_SetAttributesEnabled = true;
   bool m_RunsOk = false;
   bool m_RunsCancel = false;

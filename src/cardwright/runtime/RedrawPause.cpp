@@ -1,19 +1,16 @@
 #include "cardwright/runtime/RedrawPause.h"
 
 #include "cardwright/automation/Errors.h"
-#include "cardwright/runtime/HostCommands.h"
-#include "cardwright/shared/ModuleState.h"
 
 namespace cardwright {
 
-RedrawPause::RedrawPause(bool active, End end) : m_Active(active), m_End(end) {
-  if (m_Active) SharedHost().ORVExecute(Text(commands::kRedrawOff));
+RedrawPause::RedrawPause(OrvClient host, End end) : m_Host(std::move(host)), m_End(end) {
+  m_Host.SuspendRedraw();
 }
 
 RedrawPause::~RedrawPause() {
-  if (!m_Active) return;
-  Attempt([] { SharedHost().ORVExecute(Text(commands::kRedrawOn)); });
-  if (m_End == End::Redraw) Attempt([] { SharedHost().ORVExecute(Text(commands::kRedraw)); });
+  Attempt([&] { m_Host.ResumeRedraw(); });
+  if (m_End == End::Redraw) Attempt([&] { m_Host.Redraw(); });
 }
 
 }  // namespace cardwright

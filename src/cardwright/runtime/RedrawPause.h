@@ -1,5 +1,7 @@
 #pragma once
 
+#include "cardwright/shared/OrvClient.h"
+
 namespace cardwright {
 
 /// Keeps the host from redrawing for its life. The host redraws again even where a command in between failed:
@@ -9,14 +11,13 @@ class RedrawPause {
   /// What the end asks of the host: to redraw when it has to, or at once as well.
   enum class End { Resume, Redraw };
 
-  /// Does nothing unless `active`.
-  RedrawPause(bool active, End end);
+  RedrawPause(OrvClient host, End end);
   ~RedrawPause();
   RedrawPause(const RedrawPause&) = delete;
   RedrawPause& operator=(const RedrawPause&) = delete;
 
  private:
-  const bool m_Active;
+  OrvClient m_Host;
   const End m_End;
 };
 

@@ -3,8 +3,9 @@
 #include "cardwright/platform/Files.h"
 #include "cardwright/platform/Widget.h"
 #include "cardwright/runtime/FormControls.h"
-#include "cardwright/shared/HostExecutor.h"
 #include "cardwright/shared/ModuleState.h"
+#include "cardwright/shared/ObjectConnection.h"
+#include "cardwright/shared/OrvClient.h"
 #include "cardwright/shared/ResizeHandle.h"
 #include "cardwright/storage/ProjectFile.h"
 
@@ -100,10 +101,7 @@ void Vellum::SetTarvoHandle(std::int32_t handle) { SharedHost().SetHandle(handle
 
 void Vellum::AttachOVeditor(Ref<Object> editor) {
   Module().attachedEditor = editor;
-  if (editor) {
-    const Text handle = ToText(CallMethod(*editor, u"ORVExecute", {Variant(u"HWND_CONTROL")}));
-    SetTarvoHandle(ToLong(Variant(Val(handle))));
-  }
+  if (editor) SetTarvoHandle(OrvClient(MakeRef<ObjectConnection>(editor)).ConnectionHandle());
   SharedHost().SetEditor(editor);
 }
 

@@ -1,7 +1,5 @@
 #include "cardwright/shared/HostExecutor.h"
 
-#include "cardwright/shared/ModuleState.h"
-
 namespace cardwright {
 namespace {
 
@@ -21,14 +19,12 @@ Text HostExecutor::ORVExecute(const Text& command) {
     WriteDebugLine(command);
     return {};
   }
-  const Ref<HostConnection> connection = Module().connections.Find(m_Handle);
-  return connection ? connection->Execute(command) : Text();
+  return m_Connection->Execute(command);
 }
 
 Text HostExecutor::ORVRequest(const Text& command) {
   if (m_Mode == ExecutorMode::Debug) WriteDebugLine(command);
-  const Ref<HostConnection> connection = Module().connections.Find(m_Handle);
-  return connection ? connection->Request(command) : Text();
+  return m_Connection->Request(command);
 }
 
 void HostExecutor::WriteDebugLine(std::u16string_view command) {

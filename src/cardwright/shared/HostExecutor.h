@@ -1,6 +1,7 @@
 #pragma once
 
 #include "cardwright/automation/MemberTable.h"
+#include "cardwright/shared/ConnectionByHandle.h"
 
 namespace cardwright {
 
@@ -19,9 +20,11 @@ class HostExecutor final : public TableObject {
  public:
   Text TypeName() const override { return u"HostExecutor"; }
 
-  std::int32_t Handle() const noexcept { return m_Handle; }
-  void SetHandle(std::int32_t handle) noexcept { m_Handle = handle; }
-  bool IsConnected() const noexcept { return m_Handle != 0; }
+  std::int32_t Handle() const noexcept { return m_Connection->Handle(); }
+  void SetHandle(std::int32_t handle) noexcept { m_Connection->SetHandle(handle); }
+  bool IsConnected() const noexcept { return Handle() != 0; }
+  /// Sends to the host in debugging mode too, and follows the handle when it changes.
+  Ref<HostConnection> Connection() const noexcept { return m_Connection; }
 
   /// Sends a command and gives its reply.
   Text ORVExecute(const Text& command);
@@ -41,7 +44,7 @@ class HostExecutor final : public TableObject {
  private:
   void WriteDebugLine(std::u16string_view command);
 
-  std::int32_t m_Handle = 0;
+  const Ref<ConnectionByHandle> m_Connection = MakeRef<ConnectionByHandle>();
   ExecutorMode m_Mode = ExecutorMode::Normal;
   Ref<Object> m_DebugOutput;
   Ref<Object> m_Editor;

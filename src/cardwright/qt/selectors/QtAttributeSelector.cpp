@@ -3,7 +3,7 @@
 #include "cardwright/qt/selectors/QtThemeSelector.h"
 #include "cardwright/qt/values/QtText.h"
 #include "cardwright/qt/widgets/QtComboBox.h"
-#include "cardwright/runtime/HostLists.h"
+#include "cardwright/shared/OrvClient.h"
 
 namespace cardwright::qt {
 
@@ -27,10 +27,10 @@ Ref<T> AdapterOf(const Ref<Base>& widget) {
   return adapter;
 }
 
-QString TypeText(const CAttrib& attribute) {
-  if (attribute.m_AttribType == AttributeTypeEnum::atNumeric)
-    return attribute.m_Decs < 1 ? QObject::tr("Whole number") : QObject::tr("Number");
-  return attribute.m_Length > 0 ? QObject::tr("Text (%1)").arg(attribute.m_Length) : QObject::tr("Text");
+QString TypeText(const AttributeRecord& attribute) {
+  if (attribute.type == AttributeTypeEnum::atNumeric)
+    return attribute.decimals < 1 ? QObject::tr("Whole number") : QObject::tr("Number");
+  return attribute.length > 0 ? QObject::tr("Text (%1)").arg(attribute.length) : QObject::tr("Text");
 }
 
 }  // namespace
@@ -73,17 +73,16 @@ std::int32_t QtAttributeSelector::EffectiveType() const {
   return chosen >= 0 && chosen < kTypes ? chosen : m_FeatureType;
 }
 
-QtAttributeSelector::Source QtAttributeSelector::CurrentSource() const {
-  return {m_Themes && m_Themes->Native() ? m_Themes->DisplayText() : Text(), EffectiveType()};
+FeatureClass QtAttributeSelector::CurrentSource() const {
+  return {m_Themes && m_Themes->Native() ? m_Themes->DisplayText() : Text(), ToFeatureType(EffectiveType())};
 }
 
 void QtAttributeSelector::RefreshAttributes() {
   RequireAlive();
   const HandlerScope scope(*this);
-  const Source source = CurrentSource();
+  const FeatureClass source = CurrentSource();
   std::vector<ListEntry> entries;
-  for (const ListedAttribute& attribute :
-       ListAttributes(ConnectionHandle(), source.theme, ToFeatureType(source.featureType)))
+  for (const ListedAttribute& attribute : OrvClient::At(ConnectionHandle()).ListAttributes(source))
     entries.push_back({attribute.name, attribute.number});
   if (!Native()) return;
   m_Listed = source;
@@ -93,8 +92,7 @@ void QtAttributeSelector::RefreshAttributes() {
 QString QtAttributeSelector::Describe(const ListEntry& entry) const {
   QString text;
   Attempt([&] {
-    const Ref<CAttrib> attribute = DescribeAttribute(
-        ConnectionHandle(), m_Listed.theme, ToFeatureType(m_Listed.featureType), {entry.name, entry.data});
+    const auto attribute = OrvClient::At(ConnectionHandle()).Describe(m_Listed, {entry.name, entry.data});
     if (attribute) text = TypeText(*attribute);
   });
   return text;

@@ -4,6 +4,7 @@
 
 #include "cardwright/platform/SelectorWidgets.h"
 #include "cardwright/qt/selectors/QtHostList.h"
+#include "cardwright/shared/FeatureTypes.h"
 
 namespace cardwright::qt {
 
@@ -25,12 +26,7 @@ class QtAttributeSelector final : public QtHostList<AttributeSelectorWidget> {
 
  private:
   /// Whose attributes are listed.
-  struct Source {
-    Text theme;
-    std::int32_t featureType = 0;
-  };
-
-  Source CurrentSource() const;
+  FeatureClass CurrentSource() const;
   std::int32_t EffectiveType() const;
   QString Describe(const ListEntry& entry) const;
   void Follow(QMetaObject::Connection& link, const ChoiceNotice& choice);
@@ -38,7 +34,7 @@ class QtAttributeSelector final : public QtHostList<AttributeSelectorWidget> {
   Ref<QtThemeSelector> m_Themes;
   Ref<QtComboBox> m_Types;
   QMetaObject::Connection m_ThemeLink, m_TypeLink;
-  Source m_Listed;
+  FeatureClass m_Listed;
   std::int32_t m_FeatureType = 0;
 };
 

@@ -2,7 +2,7 @@
 
 #include "cardwright/qt/dialogs/NewThemeDialog.h"
 #include "cardwright/qt/values/QtText.h"
-#include "cardwright/runtime/HostLists.h"
+#include "cardwright/shared/OrvClient.h"
 
 namespace cardwright::qt {
 
@@ -39,7 +39,7 @@ void QtThemeSelector::RefreshThemes() {
   RequireAlive();
   const HandlerScope scope(*this);
   std::vector<ListEntry> entries;
-  for (const ListedTheme& theme : ListThemes(ConnectionHandle()))
+  for (const ListedTheme& theme : OrvClient::At(ConnectionHandle()).ListThemes())
     entries.push_back({theme.name, static_cast<std::int32_t>(theme.featureType)});
   if (Native()) SetEntries(std::move(entries));
 }
@@ -57,7 +57,9 @@ void QtThemeSelector::CreateNewTheme() {
   });
   if (!plan || !Native()) return;
   bool isCreated = false;
-  Attempt([&] { isCreated = CreateTheme(ConnectionHandle(), plan->name, plan->featureType); });
+  Attempt([&] {
+    isCreated = OrvClient::At(ConnectionHandle()).CreateTheme({plan->name, plan->featureType});
+  });
   if (!isCreated || !Native()) return;
   Attempt([&] { RefreshThemes(); });
   if (!Native()) return;
