@@ -7,7 +7,7 @@ namespace cardwright::vbscript {
 
 namespace {
 
-// Some dozens of microseconds.
+// Takes some dozens of microseconds.
 constexpr std::size_t kLongWork = std::size_t{1} << 16;
 
 }  // namespace

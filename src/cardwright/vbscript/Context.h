@@ -10,14 +10,14 @@
 
 namespace cardwright::vbscript {
 
-/// What the functions of the library share within one engine.
+/// State that the functions of the library share within one engine.
 class Context {
  public:
   explicit Context(ScriptHost& host) : m_Host(host) {}
 
   ScriptHost& Host() noexcept { return m_Host; }
 
-  /// A text of one character. Those of the first 256 code units are made once and shared.
+  /// A text of one character. Those of the first 256 code units are created once and shared.
   Text Character(char16_t unit);
 
   /// State of Rnd and Randomize: 24 bits.
@@ -26,7 +26,7 @@ class Context {
   const Locale* locale = &Locale::Current();
   /// Whether MsgBox and InputBox may show anything.
   bool allowUI = true;
-  /// Longest text that a script may make, in UTF-16 units; beyond it is error 14.
+  /// Length of the longest text that a script may create, in UTF-16 units; error 14 beyond it.
   std::size_t maxTextUnits = std::size_t{1} << 28;
 
   /// Error 14 where a text of that many units would be too long.

@@ -6,7 +6,7 @@
 
 namespace cardwright::vbscript {
 
-/// An error about a name: `Err.Description` has the bare text, the report to the host the name too.
+/// An error about a name. `Err.Description` is the standard text; the report to the host adds the name.
 class NamedError : public Error {
  public:
   NamedError(int number, Text name) : Error(number), m_Name(std::move(name)) {}

@@ -21,7 +21,7 @@ enum OperandFlags : std::uint8_t {
 
 /// How a call is made.
 enum CallFlags : std::uint16_t {
-  kDropResult = 1,  ///< a statement: nobody wants the result
+  kDropResult = 1,  ///< a statement: the result is not needed
   kAsSet = 2,       ///< an assignment by Set
 };
 

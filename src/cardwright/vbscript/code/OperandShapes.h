@@ -10,7 +10,7 @@ namespace cardwright::vbscript {
 /// Where an instruction keeps an operand: a field of the instruction, or of the word after it.
 enum class OperandField : std::uint8_t { N, A, B, C, BC, WordA, WordBC };
 
-/// What the number in a field stands for.
+/// The meaning of the number in a field.
 enum class OperandKind : std::uint8_t {
   None,
   Register,
@@ -41,7 +41,7 @@ struct OpcodeShape {
   std::u16string_view name;
   std::array<OperandShape, kMaxOperands> operands;
 
-  /// Words that an instruction takes up.
+  /// Length of an instruction, in words.
   constexpr std::size_t Length() const noexcept {
     for (const OperandShape operand : operands)
       if (operand.field >= OperandField::WordA) return 2;

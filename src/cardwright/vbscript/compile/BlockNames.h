@@ -6,11 +6,12 @@
 
 namespace cardwright::vbscript {
 
-/// What one source text defines outside procedures. It is known before any of it is compiled, so that every
-/// part of the text may use every other; it becomes the module's when all is compiled.
+/// A name that one source text defines outside procedures. These names are collected before anything is
+/// compiled, so that every part of the text may use every other. They are bound in the module when all is
+/// compiled.
 struct BlockName {
   SymbolKind kind = SymbolKind::Unbound;  ///< Variable, Constant, Procedure or Class
-  std::uint16_t variable = kNoRegister;   ///< Variable: its register in the outermost code
+  std::uint16_t variable = kNoRegister;   ///< Variable: its register in the code outside procedures
   const Variant* constant = nullptr;
 };
 using BlockNames = std::unordered_map<NameId, BlockName>;

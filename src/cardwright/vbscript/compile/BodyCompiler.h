@@ -12,7 +12,7 @@
 
 namespace cardwright::vbscript {
 
-/// What all bodies of one source text share.
+/// Shared by all bodies of one source text.
 struct CompileContext {
   Linkage& linkage;
   Module& module;

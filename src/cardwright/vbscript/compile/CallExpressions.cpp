@@ -80,7 +80,7 @@ void BodyCompiler::EmitElementReference(const CallExpr& call, const Binding& bin
   }
 }
 
-// Calls what a name stands for. The register of the result, where one is wanted, is among the last in use.
+// Calls whatever a name is bound to. `result` becomes the register of the result; null where nobody wants it.
 void BodyCompiler::EmitCall(const Binding& binding, Expressions arguments, std::uint16_t flags,
                             std::uint16_t* result) {
   if (binding.kind == BindingKind::Constant || binding.IsOwnVariable()) {

@@ -110,8 +110,8 @@ void BlockCompiler::CompileMember(ClassInfo& cls, const ProcedureDecl& declarati
   }
 }
 
-// Variables that the text declares are registers of its outermost code. One that the module has already stays
-// where it is.
+// Variables that the text declares are registers of the code outside procedures. A variable that the module
+// has already stays where it is.
 void BlockCompiler::CompileOutermost() {
   auto code = MakeRef<Procedure>();
   code->module = &m_Context.module;
@@ -130,7 +130,7 @@ void BlockCompiler::CompileOutermost() {
   }
   m_Block.code = code;
   compiler.AddOutermostNames(names);
-  // Procedures come first: they know the variables by name only, the outermost code needs their kinds.
+  // Procedures come first: they refer to the variables by name only.
   CompileProcedures();
   compiler.CompileBody(m_Tree.body);
 }
@@ -172,7 +172,7 @@ CompiledInScope CompileInScope(const SyntaxTree& tree, Linkage& linkage, const P
   };
   for (const NameId name : names.mentioned)
     if (isOuter(name)) refer(name);
-  // What the text declares, or assigns where the name is nothing yet, joins the procedure's scope.
+  // Names that the text declares, and unbound names that it assigns, join the scope of the procedure.
   for (const NameId name : names.variables) refer(name);
   for (const NameId name : names.assigned) {
     if (outer.owner && outer.owner->Find(name)) continue;

@@ -4,7 +4,7 @@
 // which nested statements allocate like a stack and clear at their end.
 namespace cardwright::vbscript {
 
-// The register that a loop counts in: the variable's own, or `reference`, which comes to refer to it.
+// The register of the loop's variable: its own, or `reference`, which is made to refer to the variable.
 std::uint16_t BodyCompiler::EmitControlVariable(const Binding& binding, std::uint16_t reference) {
   if (binding.kind == BindingKind::Register) return binding.r;
   const bool isFunction = binding.symbol == SymbolKind::Procedure || binding.symbol == SymbolKind::Builtin;

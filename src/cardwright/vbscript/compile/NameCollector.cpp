@@ -49,7 +49,7 @@ class Collector {
   }
   void Visit(const ReDimStmt& statement) {
     for (const ReDimTarget& target : statement.targets) {
-      // A ReDim declares the name that it dimensions.
+      // ReDim declares its name.
       if (target.array->kind == ExprKind::Name) {
         const NameId name = m_Names.Add(static_cast<const NameExpr*>(target.array)->name);
         Mention(name);

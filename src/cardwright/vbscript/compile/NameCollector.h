@@ -9,20 +9,20 @@
 
 namespace cardwright::vbscript {
 
-/// What a body of code says of names, found before it is compiled, since variables exist from the start
-/// wherever they are declared.
+/// The names in a body of code. They are collected before it is compiled: a variable exists from the start of
+/// the body, wherever its Dim is.
 struct NamesOfBody {
   struct Array {
     NameId name;
     std::span<const std::int32_t> bounds;
   };
   std::vector<NameId> variables;  ///< of Dim, in order, each once
-  std::vector<NameId> redimmed;   ///< of ReDim, which declares a name that nothing else does
-  std::vector<Array> arrays;      ///< those declared with brackets
+  std::vector<NameId> redimmed;   ///< of ReDim, which declares names that are declared nowhere else
+  std::vector<Array> arrays;      ///< variables declared with parentheses
   std::vector<std::pair<NameId, const Variant*>> constants;
-  std::vector<NameId> mentioned;  ///< every name used on its own, each once
+  std::vector<NameId> mentioned;  ///< every name used other than as a member, each once
   std::unordered_set<NameId> assigned;
-  std::uint16_t hidden = 0;  ///< registers that its nested loops, With and Select need at the same time
+  std::uint16_t hidden = 0;  ///< hidden registers that nested loops, With and Select need at the same time
 };
 
 /// Hidden registers that each kind of statement needs.

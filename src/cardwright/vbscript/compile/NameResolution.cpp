@@ -66,7 +66,7 @@ void BodyCompiler::AddOutermostNames(const NamesOfBody& names) {
   DimArrays(names);
 }
 
-// Arrays exist from the start, as all variables do.
+// Like all variables, arrays exist from the start.
 void BodyCompiler::DimArrays(const NamesOfBody& names) {
   for (const NamesOfBody::Array& array : names.arrays) {
     const Binding binding = Resolve(array.name);

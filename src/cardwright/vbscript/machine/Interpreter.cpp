@@ -18,14 +18,14 @@
 // Calls. The locals and the topmost frame are brought in line where frames change: an operation that may call
 // stores pc in the frame first, because the frame continues there afterwards. The function that it calls
 // either has the result already, as from the library or the host, or it has pushed a frame: then AFTER_CALL
-// loads the locals from the new frame and the loop goes on in the callee. Return pops the frame and loads
+// loads the locals from the new frame and the loop continues in the callee. Return pops the frame and loads
 // them from the caller's.
 //
 // Temporaries. An operation that reads a temporary clears it, or moves its value on (Procedure.h). The quick
 // paths here work on numbers, which need no clearing; all others do it.
 //
 // Errors are exceptions. They end in the handlers at the end of Run, outside the loop's quick paths, which
-// cost nothing there. Handle finds the frame that goes on, and the loop starts again with it.
+// cost nothing there. Handle finds the frame to continue, and the loop starts again with it.
 //
 // As an example, `x = a(i) + 1` with variables of the procedure and temporaries t0, t1 is
 //

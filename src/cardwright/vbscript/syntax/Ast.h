@@ -7,8 +7,9 @@
 #include "cardwright/automation/Variant.h"
 #include "cardwright/vbscript/syntax/Position.h"
 
-/// The parse tree: plain nodes that refer to each other and to the source's characters. A SyntaxTree owns all
-/// of them. Names keep the source's spelling (brackets taken off); names are equal whatever their case.
+/// The parse tree: plain nodes that refer to each other and to the characters of the source. A SyntaxTree
+/// owns all of them. Names keep the spelling of the source, without brackets; names that differ only in case
+/// are equal.
 namespace cardwright::vbscript {
 
 enum class UnaryOperator : std::uint8_t { Negate, Plus, Not };
@@ -57,12 +58,13 @@ struct MemberExpr : Expr {
   std::u16string_view name;
   Position namePosition;
 };
-/// `callee(arguments)`: an index, a call or a parameterised property, which only the run can tell.
+/// `callee(arguments)`: an index, a call or a property with parameters. Which of them is known only at run
+/// time.
 struct CallExpr : Expr {
   Expr* callee;
   std::span<Expr* const> arguments;  ///< an argument left out is Missing
 };
-/// Parentheses of the author's own. They matter: what stands in them is passed by value.
+/// Parentheses of the author's own. They matter: an argument in parentheses is passed by value.
 struct ParenExpr : Expr {
   Expr* inner;
 };
@@ -72,7 +74,7 @@ struct UnaryExpr : Expr {
 };
 struct BinaryExpr : Expr {
   BinaryOperator op;
-  Expr* left;  ///< chains are left-deep and may be very long: walk them with a loop
+  Expr* left;  ///< chains nest to the left and may be very long: walk them with a loop
   Expr* right;
 };
 struct NewExpr : Expr {
@@ -106,7 +108,7 @@ struct Stmt {
 };
 using Block = std::span<Stmt* const>;
 
-enum class Visibility : std::uint8_t { Unsaid, Public, Private };
+enum class Visibility : std::uint8_t { Default, Public, Private };
 
 /// One name of a Dim, Public or Private: `x`, `x()` or `x(3, 4)`.
 struct VariableDecl {
@@ -134,7 +136,7 @@ struct EraseStmt : Stmt {
 struct ConstDecl {
   std::u16string_view name;
   Position position;
-  const Variant* value;  ///< sign and parentheses worked in
+  const Variant* value;  ///< with its sign applied
   Expr* expression;      ///< as written
 };
 struct ConstStmt : Stmt {
@@ -150,7 +152,7 @@ struct AssignStmt : Stmt {
 /// A procedure call as a statement, with or without `Call`.
 struct CallStmt : Stmt {
   bool hasKeyword;
-  Expr* callee;  ///< Name, Member or Call; what it calls with is in `arguments`
+  Expr* callee;  ///< Name, Member or Call; `arguments` are not part of it
   std::span<Expr* const> arguments;
 };
 struct IfBranch {
@@ -208,7 +210,7 @@ struct OnErrorStmt : Stmt {
 };
 /// @}
 
-/// @name Declarations. They are hoisted, so they stand beside the statements, not among them.
+/// @name Declarations. They apply to the whole script, so they are kept apart from the statements.
 /// @{
 struct Parameter {
   std::u16string_view name;

@@ -9,7 +9,7 @@ Stmt* StatementParser::ParseSet() {
   } else if (!IsName(Current().kind) && !At(TokenKind::Dot)) {
     Fail(SyntaxErrorNumber::ExpectedIdentifier);
   }
-  Expr* target = ParseChain(ChainPlace::Expression);
+  Expr* target = ParseChain(ChainContext::Expression);
   if (!At(TokenKind::Equal)) Fail(SyntaxErrorNumber::ExpectedEquals);
   return ParseAssignment(start, true, target);
 }
@@ -19,13 +19,13 @@ Stmt* StatementParser::ParseAssignment(Position start, bool isSet, Expr* target)
   return Make<AssignStmt>(Stmt{StmtKind::Assign, start}, isSet, target, ParseExpression());
 }
 
-/// `Call f(a, b)`: the last parentheses hold the arguments.
+/// `Call f(a, b)`: the last parentheses contain the arguments.
 Stmt* StatementParser::ParseCallKeyword() {
   const Position start = Take().position;
   if (!IsName(Current().kind) && !At(TokenKind::Dot) && !At(TokenKind::Me)) {
     Fail(SyntaxErrorNumber::ExpectedIdentifier);
   }
-  Expr* callee = ParseChain(ChainPlace::Expression);
+  Expr* callee = ParseChain(ChainContext::Expression);
   std::span<Expr* const> arguments;
   if (callee->kind == ExprKind::Call) {
     const auto& call = *static_cast<CallExpr*>(callee);
@@ -38,7 +38,7 @@ Stmt* StatementParser::ParseCallKeyword() {
 
 Stmt* StatementParser::ParseCallOrAssignment() {
   const Position start = Where();
-  Expr* chain = ParseChain(ChainPlace::Statement);
+  Expr* chain = ParseChain(ChainContext::Statement);
   if (At(TokenKind::Equal) && chain->kind != ExprKind::Me) return ParseAssignment(start, false, chain);
   List<Expr*> arguments(*this);
   Expr* callee = chain->kind == ExprKind::Call
@@ -47,7 +47,7 @@ Stmt* StatementParser::ParseCallOrAssignment() {
   return Make<CallStmt>(Stmt{StmtKind::Call, start}, false, callee, arguments.Keep());
 }
 
-/// An object is no procedure of its own.
+/// `Me` alone cannot be called.
 void StatementParser::CheckCallee(const Expr& callee) {
   if (callee.kind == ExprKind::Me) Fail(SyntaxErrorNumber::InvalidMe, callee.position);
 }
@@ -62,12 +62,14 @@ Expr* StatementParser::ParseBareArguments(Expr* chain, List<Expr*>& arguments) {
   return chain;
 }
 
-/// `f (a)`, `f (a), b` and `f (a) + 1, b`: the parentheses belong to the first argument, which has to be one.
+/// `f (a)`, `f (a), b` and `f (a) + 1, b`: the parentheses belong to the first argument and enclose nothing
+/// else.
 Expr* StatementParser::ParseParenthesisedFirst(CallExpr& call, List<Expr*>& arguments) {
-  const bool goesOn = AtBinaryOperator() || At(TokenKind::Comma);
-  if (!goesOn && !AtEndOfStatement() && !At(TokenKind::End)) Fail(SyntaxErrorNumber::ExpectedEndOfStatement);
+  const bool continues = AtBinaryOperator() || At(TokenKind::Comma);
+  if (!continues && !AtEndOfStatement() && !At(TokenKind::End))
+    Fail(SyntaxErrorNumber::ExpectedEndOfStatement);
   CheckCallee(*call.callee);
-  if (call.arguments.empty() && !goesOn) return call.callee;
+  if (call.arguments.empty() && !continues) return call.callee;
   if (call.arguments.size() != 1) Fail(SyntaxErrorNumber::CannotUseParentheses, LastParenEnd());
   Expr* first = Make<ParenExpr>(Expr{ExprKind::Paren, LastParenStart()}, call.arguments[0]);
   if (AtBinaryOperator()) first = ContinueExpression(first);

@@ -4,7 +4,7 @@
 
 namespace cardwright::vbscript {
 
-Expr* ExpressionParser::ParseChain(ChainPlace place) { return ParsePostfix(ParseChainStart(), place); }
+Expr* ExpressionParser::ParseChain(ChainContext place) { return ParsePostfix(ParseChainStart(), place); }
 
 Expr* ExpressionParser::ParseChainStart() {
   m_Height = 0;
@@ -15,12 +15,13 @@ Expr* ExpressionParser::ParseChainStart() {
   return Make<NameExpr>(Expr{ExprKind::Name, name.position}, name.text);
 }
 
-/// The links are a loop here, but in the tree they hang one below the other: their height is limited.
-Expr* ExpressionParser::ParsePostfix(Expr* base, ChainPlace place) {
+/// The links are parsed in a loop, but in the tree each is the parent of the one before: the height is
+/// limited.
+Expr* ExpressionParser::ParsePostfix(Expr* base, ChainContext place) {
   for (;;) {
     // In a statement of a With block, `show .Name` passes a member of the block's object.
     const bool isMember =
-        At(TokenKind::Dot) && !(place == ChainPlace::Statement && m_WithDepth > 0 && Current().afterBlank);
+        At(TokenKind::Dot) && !(place == ChainContext::Statement && m_WithDepth > 0 && Current().afterBlank);
     if (!isMember && !At(TokenKind::LeftParen)) return base;
     if (m_Height >= kMaxNesting) Fail(SyntaxErrorNumber::OutOfMemory);
     base = isMember ? ParseMember(base) : ParseCall(base);

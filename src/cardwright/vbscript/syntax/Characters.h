@@ -24,8 +24,8 @@ constexpr bool Has(char16_t c, CharacterClass wanted) { return c < 128 && (kClas
 
 }  // namespace detail
 
-/// Letters beyond ASCII that names may hold: those of the European, Middle Eastern and East Asian scripts.
-/// Typographic quotes, dashes and blanks, which pasted code often holds, are none.
+/// Letters beyond ASCII that names may contain: those of the European, Middle Eastern and East Asian scripts.
+/// Typographic quotes, dashes and blanks, which pasted code often contains, are no letters.
 constexpr bool IsForeignLetter(char16_t c) {
   if (c < 0xAA) return false;
   if (c <= 0xFF) return c == 0xAA || c == 0xB5 || c == 0xBA || (c >= 0xC0 && c != 0xD7 && c != 0xF7);

@@ -11,15 +11,15 @@ void DeclarationParser::ParseClass() {
   ExpectEndOfStatement();
   ClassState state;
   m_Class = &state;
-  Surroundings outer =
-      std::exchange(m_Around, {.names = &state.names, .forVariables = {}, .closer = TokenKind::Class});
+  Enclosing outer =
+      std::exchange(m_Enclosing, {.names = &state.names, .forVariables = {}, .closer = TokenKind::Class});
   List<const DimStmt*> fields(*this);
   List<const ProcedureDecl*> procedures(*this);
   for (SkipSeparators(); !At(TokenKind::End) && !At(TokenKind::EndOfSource); SkipSeparators()) {
     ParseClassMember(fields, procedures);
   }
   m_Class = nullptr;
-  m_Around = std::move(outer);
+  m_Enclosing = std::move(outer);
   Expect(TokenKind::End, SyntaxErrorNumber::ExpectedEnd);
   Expect(TokenKind::Class, SyntaxErrorNumber::ExpectedClass);
   m_Classes.push_back(Make<ClassDecl>(name.text, start, name.position, fields.Keep(), procedures.Keep()));
@@ -29,23 +29,23 @@ void DeclarationParser::ParseClassMember(List<const DimStmt*>& fields,
                                          List<const ProcedureDecl*>& procedures) {
   if (At(TokenKind::Dim)) {
     const Position start = Take().position;
-    fields.Add(ParseDim(Visibility::Unsaid, start));
+    fields.Add(ParseDim(Visibility::Default, start));
     return CheckMemberEnd();
   }
   const Modifiers modifiers = ParseModifiers();
-  const bool isProperty = At(TokenKind::Property) && !IsMereName(LookAhead());
+  const bool isProperty = At(TokenKind::Property) && !IsPlainName(LookAhead());
   if (At(TokenKind::Sub) || At(TokenKind::Function) || isProperty) {
     CheckDefault(modifiers);
     procedures.Add(ParseProcedure(modifiers));
     return ExpectEndOfStatement();
   }
   if (modifiers.isDefault) Fail(SyntaxErrorNumber::DefaultOnlyOnProcedures);
-  if (modifiers.visibility == Visibility::Unsaid) Fail(SyntaxErrorNumber::SyntaxError);
+  if (modifiers.visibility == Visibility::Default) Fail(SyntaxErrorNumber::SyntaxError);
   fields.Add(ParseDim(modifiers.visibility, modifiers.start));
   CheckMemberEnd();
 }
 
-/// `Public x End Class` is one line to some authors.
+/// `Public x End Class` may be written in one line.
 void DeclarationParser::CheckMemberEnd() const {
   if (At(TokenKind::End) && PeekNext().kind == TokenKind::Class) return;
   ExpectEndOfStatement();
@@ -65,7 +65,7 @@ void DeclarationParser::CheckDefault(const Modifiers& modifiers) {
   m_Class->hasDefault = true;
 }
 
-/// A member's name and parameters against those of the other members.
+/// Checks a member's name and parameters against those of the other members.
 void DeclarationParser::CheckMember(const ProcedureDecl& member) {
   const bool isProperty = member.kind >= ProcedureKind::PropertyGet;
   if (!m_Class->names.Declare(member.name, UseOf(member.kind))) {
@@ -87,7 +87,7 @@ NameUse DeclarationParser::UseOf(ProcedureKind kind) {
   }
 }
 
-/// Let and Set take the value behind what Get takes.
+/// Let and Set have the parameters of Get and one more, the value.
 void DeclarationParser::CheckProperty(const ProcedureDecl& property) {
   const std::size_t values = property.kind == ProcedureKind::PropertyGet ? 0 : 1;
   if (property.parameters.size() < values)

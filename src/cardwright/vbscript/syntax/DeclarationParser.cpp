@@ -3,7 +3,7 @@
 namespace cardwright::vbscript {
 
 void DeclarationParser::ParseScript() {
-  m_Around.names = &m_Globals;
+  m_Enclosing.names = &m_Globals;
   SkipSeparators();
   if (At(TokenKind::Option)) ParseOptionExplicit();
   SyntaxTree& tree = Tree();
@@ -20,8 +20,8 @@ void DeclarationParser::ParseOptionExplicit() {
   Tree().optionExplicit = true;
 }
 
-bool DeclarationParser::IsMereName(Lexer place) {
-  const TokenKind next = place.Next().kind;
+bool DeclarationParser::IsPlainName(Lexer lexer) {
+  const TokenKind next = lexer.Next().kind;
   return IsSeparator(next) || next == TokenKind::Comma || next == TokenKind::LeftParen ||
          next == TokenKind::Equal || next == TokenKind::Dot || next == TokenKind::End;
 }
@@ -32,7 +32,7 @@ DeclarationParser::Declares DeclarationParser::WhatIsDeclared() const {
   if (token.kind == TokenKind::Public || token.kind == TokenKind::Private) {
     token = ahead.Next();
     if (token.kind == TokenKind::Class) Fail(SyntaxErrorNumber::ExpectedIdentifier, token.position);
-    if (token.kind == TokenKind::Default && !IsMereName(ahead)) {
+    if (token.kind == TokenKind::Default && !IsPlainName(ahead)) {
       Fail(SyntaxErrorNumber::MustBeInsideClass, token.position);
     }
   }
@@ -52,7 +52,7 @@ DeclarationParser::Declares DeclarationParser::WhatIsDeclared() const {
   }
 }
 
-/// A procedure or class of the script. An If may hold one; a loop and a procedure may not.
+/// A procedure or class of the script. It may be inside an If, but not inside a loop or a procedure.
 bool DeclarationParser::ParseDeclaration() {
   using enum TokenKind;
   switch (Current().kind) {
@@ -82,7 +82,7 @@ DeclarationParser::Modifiers DeclarationParser::ParseModifiers() {
     modifiers.visibility = At(TokenKind::Public) ? Visibility::Public : Visibility::Private;
     Advance();
   }
-  if (At(TokenKind::Default) && m_Class != nullptr && !IsMereName(LookAhead())) {
+  if (At(TokenKind::Default) && m_Class != nullptr && !IsPlainName(LookAhead())) {
     modifiers.isDefault = true;
     modifiers.defaultPosition = Take().position;
   }

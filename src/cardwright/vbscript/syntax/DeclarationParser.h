@@ -12,16 +12,16 @@ class DeclarationParser final : public StatementParser {
   void ParseScript();
 
  private:
-  /// What may stand in front of Sub, Function or Property.
+  /// The words before Sub, Function or Property.
   struct Modifiers {
     Position start;
-    Visibility visibility = Visibility::Unsaid;
+    Visibility visibility = Visibility::Default;
     bool isDefault = false;
     Position defaultPosition;
   };
   struct ClassState {
     NameScope names;
-    NameMap<std::size_t> indexes;  ///< of a property, without the value that Let and Set take last
+    NameMap<std::size_t> indexes;  ///< parameters of a property, without the value that Let and Set take last
     bool hasDefault = false;
   };
 
@@ -29,8 +29,8 @@ class DeclarationParser final : public StatementParser {
 
   bool ParseDeclaration() override;
   Declares WhatIsDeclared() const;
-  /// Whether the contextual keyword that `place` has just read is a mere name, by what follows it.
-  static bool IsMereName(Lexer place);
+  /// Whether the contextual keyword that `lexer` has just read is a plain name, judging by the next token.
+  static bool IsPlainName(Lexer lexer);
   void ParseOptionExplicit();
 
   Modifiers ParseModifiers();

@@ -21,7 +21,7 @@ constexpr ProcedureWords WordsOf(ProcedureKind kind) {
 
 constexpr std::u16string_view SpellingOf(Visibility visibility) {
   switch (visibility) {
-    case Visibility::Unsaid: return {};
+    case Visibility::Default: return {};
     case Visibility::Public: return u"Public ";
     case Visibility::Private: return u"Private ";
   }
@@ -30,7 +30,7 @@ constexpr std::u16string_view SpellingOf(Visibility visibility) {
 
 }  // namespace
 
-/// Declarations hold for the whole script, so they may as well come first.
+/// Declarations apply to the whole script, so they are written first.
 void StatementPrinter::WriteTree(const SyntaxTree& tree) {
   if (tree.expression != nullptr) *this << *tree.expression;
   if (tree.optionExplicit) *this << u"Option Explicit\n";
@@ -71,7 +71,7 @@ void StatementPrinter::WriteNumber(std::int32_t number) {
 }
 
 void StatementPrinter::Write(const DimStmt& dim) {
-  *this << (dim.visibility == Visibility::Unsaid ? u"Dim " : SpellingOf(dim.visibility));
+  *this << (dim.visibility == Visibility::Default ? u"Dim " : SpellingOf(dim.visibility));
   for (const VariableDecl& variable : dim.variables) {
     if (&variable != dim.variables.data()) *this << u", ";
     WriteName(variable.name);

@@ -11,13 +11,13 @@ namespace {
 
 struct BinaryRule {
   BinaryOperator op{};
-  int precedence = 0;  ///< 0 for what is no operator
+  int precedence = 0;  ///< 0 where the token is no operator
 };
 
 constexpr int kLowest = 1;
-constexpr int kComparison = 7;  ///< what Not reaches over
+constexpr int kComparison = 7;  ///< the lowest precedence within the operand of Not
 
-// All of them group from the left, the power too. A sign binds tighter than any.
+// All of them group from the left, even the power. A sign binds tighter than any of them.
 constexpr auto kRules = [] {
   using enum TokenKind;
   std::array<BinaryRule, kTokenKinds> rules{};
@@ -105,7 +105,7 @@ Expr* ExpressionParser::ParseOperand() {
     case Plus: return ParseUnary(UnaryOperator::Plus);
     case Not: return ParseUnary(UnaryOperator::Not);
     case New: return ParseNew();
-    case LeftParen: return ParsePostfix(ParseParen(), ChainPlace::Expression);
+    case LeftParen: return ParsePostfix(ParseParen(), ChainContext::Expression);
     case Number:
     case String:
     case Date:
@@ -114,7 +114,7 @@ Expr* ExpressionParser::ParseOperand() {
     case Empty:
     case Null:
     case Nothing: return ParseLiteral();
-    default: return ParseChain(ChainPlace::Expression);
+    default: return ParseChain(ChainContext::Expression);
   }
 }
 
@@ -167,7 +167,7 @@ Expr* ExpressionParser::ParseLiteral() {
   }
 }
 
-/// What looks like a number of another base but is none has come as the operator `&`.
+/// Something like `&hXY`, which is no number, comes from the lexer as the operator `&`.
 void ExpressionParser::FailNoOperand() const {
   if (At(TokenKind::Ampersand)) {
     const Token next = PeekNext();

@@ -4,7 +4,7 @@
 
 namespace cardwright::vbscript {
 
-/// Expressions, by climbing precedences: a chain of operators of any length is a loop.
+/// Expressions, by precedence climbing: a chain of operators is parsed in a loop, however long it is.
 class ExpressionParser : public ParserCore {
  public:
   using ParserCore::ParserCore;
@@ -14,25 +14,25 @@ class ExpressionParser : public ParserCore {
  protected:
   /// `left` and whatever operators follow it.
   Expr* ContinueExpression(Expr* left);
-  /// Whether an operator with two sides is at hand where one may stand.
+  /// Whether the current token is a binary operator.
   bool AtBinaryOperator();
-  /// Whether the token at hand can begin an expression.
+  /// Whether the current token can begin an expression.
   bool AtExpression() const;
 
-  /// Where a chain of names, members and calls stands decides what a blank before a dot means.
-  enum class ChainPlace { Expression, Statement };
-  /// `a`, `.b`, `a.b(c).d` and the like, as far as it goes.
-  Expr* ParseChain(ChainPlace place);
-  /// The parentheses of the last chain's last call: where they open, and behind where they close.
+  /// The context of a chain of names, members and calls decides what a blank before a dot means.
+  enum class ChainContext { Expression, Statement };
+  /// `a`, `.b`, `a.b(c).d` and the like, as many links as there are.
+  Expr* ParseChain(ChainContext place);
+  /// Start and end of the parentheses of the last call in the chain parsed last.
   Position LastParenStart() const { return m_LastParenStart; }
   Position LastParenEnd() const { return m_LastParenEnd; }
 
-  /// `expr {, expr}` where arguments may be left out, but not the last one.
+  /// `expr {, expr}`. Arguments may be omitted, but not the last one.
   void ParseArgument(List<Expr*>& list);
 
   Expr* ParseLiteral();
 
-  /// How many With blocks the place is in, within its procedure.
+  /// Enclosing With blocks within the procedure.
   int m_WithDepth = 0;
 
  private:
@@ -43,7 +43,7 @@ class ExpressionParser : public ParserCore {
   Expr* ParseNew();
   Expr* ParseParen();
   Expr* ParseChainStart();
-  Expr* ParsePostfix(Expr* base, ChainPlace place);
+  Expr* ParsePostfix(Expr* base, ChainContext place);
   Expr* ParseMember(Expr* object);
   Expr* ParseCall(Expr* callee);
   Expr* MakeLiteral(Variant value);
@@ -51,7 +51,7 @@ class ExpressionParser : public ParserCore {
 
   Position m_LastParenStart;
   Position m_LastParenEnd;
-  /// Of the expression parsed last: levels below it in the tree, a chain of operators counting as one.
+  /// Height of the tree of the expression parsed last; a chain of operators counts as one level.
   int m_Height = 0;
 };
 

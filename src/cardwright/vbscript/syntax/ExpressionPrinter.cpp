@@ -66,8 +66,8 @@ void ExpressionPrinter::Write(const Expr& expression) {
   }
 }
 
-/// The parser leans a chain of operators to the left, as long as it may be; the tree needs no parentheses but
-/// its own.
+/// The parser nests a chain of operators to the left, so the only parentheses needed are those in the tree.
+/// The chain may be too long for recursion.
 void ExpressionPrinter::WriteBinary(const BinaryExpr& binary) {
   std::vector<const BinaryExpr*> chain;
   const Expr* left = &binary;

@@ -6,10 +6,10 @@
 
 namespace cardwright::vbscript {
 
-/// An operator as programs write it.
+/// An operator as it is written in programs.
 std::u16string_view SpellingOf(BinaryOperator op);
 
-/// Writes expressions as their author wrote them, but with blanks of its own.
+/// Writes expressions as their author wrote them, except for blanks.
 class ExpressionPrinter {
  public:
   explicit ExpressionPrinter(std::u16string_view source) : m_Source(source) {}
@@ -24,7 +24,7 @@ class ExpressionPrinter {
   }
 
  protected:
-  /// A name of the tree, in brackets where the source has it so.
+  /// A name, in brackets where the source has them.
   void WriteName(std::u16string_view name);
   void WriteList(std::span<Expr* const> expressions);
 

@@ -4,7 +4,7 @@
 
 namespace cardwright::vbscript {
 
-/// Whatever stands behind Then in its line makes it an If of one line; colons alone do not.
+/// A statement after Then in the same line makes it an If of one line; colons alone do not.
 Stmt* StatementParser::ParseIf() {
   const Position start = Where();
   const IfBranch head = ParseIfHead();
@@ -22,7 +22,7 @@ IfBranch StatementParser::ParseIfHead() {
 
 Stmt* StatementParser::ParseInlineIf(IfBranch head, Position start) {
   const Nesting nesting(*this);
-  const bool outer = std::exchange(m_Around.inlineIf, true);
+  const bool outer = std::exchange(m_Enclosing.inlineIf, true);
   List<IfBranch> branches(*this);
   head.body = ParseInlineBody();
   branches.Add(head);
@@ -37,11 +37,11 @@ Stmt* StatementParser::ParseInlineIf(IfBranch head, Position start) {
     Advance();
     Advance();
   }
-  m_Around.inlineIf = outer;
+  m_Enclosing.inlineIf = outer;
   return Make<IfStmt>(Stmt{StmtKind::If, start}, branches.Keep(), otherwise, hasElse);
 }
 
-/// The statements up to the next word of the If or to the end of the line.
+/// Statements up to the next word of the If or to the end of the line.
 Block StatementParser::ParseInlineBody() {
   List<Stmt*> statements(*this);
   for (;;) {
@@ -58,7 +58,7 @@ Stmt* StatementParser::ParseBlockIf(IfBranch head, Position start) {
   while (At(TokenKind::ElseIf)) {
     ExpectFirstOnLine();
     IfBranch branch = ParseIfHead();
-    branch.body = ParseBlockBehindHead(TokenKind::EndOfSource);
+    branch.body = ParseBlockAfterHead(TokenKind::EndOfSource);
     branches.Add(branch);
   }
   const bool hasElse = At(TokenKind::Else);
@@ -66,7 +66,7 @@ Stmt* StatementParser::ParseBlockIf(IfBranch head, Position start) {
   if (hasElse) {
     ExpectFirstOnLine();
     Advance();
-    otherwise = ParseBlockBehindHead(TokenKind::EndOfSource);
+    otherwise = ParseBlockAfterHead(TokenKind::EndOfSource);
   }
   ExpectEndIf();
   return Make<IfStmt>(Stmt{StmtKind::If, start}, branches.Keep(), otherwise, hasElse);
@@ -109,7 +109,7 @@ Stmt* StatementParser::ParseSelect() {
   return Make<SelectStmt>(Stmt{StmtKind::Select, start}, subject, cases.Keep(), otherwise, hasElse);
 }
 
-/// `Case a, b` with its statements, or `Case Else` with its, which has no values.
+/// `Case a, b` or `Case Else`, which has no values, with its statements.
 SelectCase StatementParser::ParseCase() {
   SelectCase branch{Take().position, {}, {}};
   List<Expr*> values(*this);
@@ -119,7 +119,7 @@ SelectCase StatementParser::ParseCase() {
     } while (Accept(TokenKind::Comma));
   }
   branch.values = values.Keep();
-  branch.body = ParseBlockBehindHead(TokenKind::EndOfSource);
+  branch.body = ParseBlockAfterHead(TokenKind::EndOfSource);
   return branch;
 }
 

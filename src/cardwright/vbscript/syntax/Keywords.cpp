@@ -24,8 +24,8 @@ constexpr std::size_t kShortest = 2;
 constexpr std::size_t kLongest = 8;
 constexpr std::size_t kSlots = 256;
 
-// All keywords are ASCII letters, which this folds to lower case; what else it maps onto a letter is weeded
-// out by the comparison of Matches.
+// Lower case of an ASCII letter, which all characters of keywords are. Other characters may be mapped onto
+// letters too; Matches rejects them.
 constexpr char16_t LowerCase(char16_t c) { return c | 0x20; }
 
 constexpr std::size_t SlotOf(std::u16string_view word) {
@@ -34,7 +34,7 @@ constexpr std::size_t SlotOf(std::u16string_view word) {
   return mixed % kSlots;
 }
 
-// Open addressing: a word stands in its slot or in the first free one behind it.
+// Open addressing: a word is in its slot, or in the first free one after it.
 constexpr auto kTable = [] {
   std::array<std::uint8_t, kSlots> table{};
   for (std::size_t i = 0; i < std::size(kWords); ++i) {

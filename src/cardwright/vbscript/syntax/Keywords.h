@@ -6,7 +6,7 @@
 
 namespace cardwright::vbscript {
 
-/// The keyword that a word spells in any case; Identifier where it is none.
+/// The keyword that a word is, in any case; Identifier where it is none.
 TokenKind KeywordOf(std::u16string_view word) noexcept;
 
 }  // namespace cardwright::vbscript

@@ -30,7 +30,8 @@ Token Lexer::SplitAmpersand(const Token& token) {
   return ampersand;
 }
 
-/// White space, comments and continued lines; the end of a line stays. Tells whether there was any.
+/// Skips white space, comments and line continuations, but not the end of a line. Returns whether there was
+/// any.
 bool Lexer::SkipBlanks() {
   const std::size_t start = m_Next;
   for (;;) {
@@ -45,7 +46,7 @@ bool Lexer::SkipBlanks() {
   }
 }
 
-/// `_` with nothing but blanks behind it joins the next line to this one.
+/// `_` followed by nothing but blanks continues the line.
 bool Lexer::SkipContinuation() {
   std::size_t end = m_Next + 1;
   while (IsBlank(At(end))) ++end;
@@ -162,7 +163,7 @@ TokenKind Lexer::ScanDecimal(Token& token) {
     std::size_t exponent = end + 1;
     const bool isSigned = At(exponent) == u'+' || At(exponent) == u'-';
     if (isSigned) ++exponent;
-    // A word may follow a number at once: `x=1else` is two tokens.
+    // A word may follow a number immediately: `1else` is two tokens.
     if (IsDigit(At(exponent))) {
       end = exponent;
       while (IsDigit(At(end))) ++end;
@@ -173,7 +174,7 @@ TokenKind Lexer::ScanDecimal(Token& token) {
   return Emit(token, TokenKind::Number, end - m_Next);
 }
 
-/// `&hFF`, `&o17` and `&17`, with or without `&` behind; the operator where no such number stands.
+/// `&hFF`, `&o17` and `&17`, with or without a final `&`; the operator where there is no such number.
 TokenKind Lexer::ScanAmpersand(Token& token) {
   const char16_t base = At(m_Next + 1);
   const bool isHex = base == u'h' || base == u'H';
@@ -181,7 +182,7 @@ TokenKind Lexer::ScanAmpersand(Token& token) {
   const std::size_t digits = m_Next + (isHex || isOctal ? 2 : 1);
   std::size_t end = digits;
   while (isHex ? IsHexDigit(At(end)) : IsOctalDigit(At(end))) ++end;
-  // `a&height` joins two variables though its `he` begins like a number.
+  // `a&height` joins two variables, although `&he` begins like a number.
   if (end == digits || ((isHex || isOctal) && IsNamePart(At(end))))
     return Emit(token, TokenKind::Ampersand, 1);
   if (At(end) == u'&') ++end;

@@ -7,17 +7,17 @@
 
 namespace cardwright::vbscript {
 
-/// Cuts a source into tokens, one at a time. A copy goes on from the same place, which is how the parser
-/// looks ahead. Tokens refer to the source's characters.
+/// Splits a source into tokens, one at a time. A copy continues at the same position: so the parser looks
+/// ahead. Tokens refer to the characters of the source.
 class Lexer {
  public:
   explicit Lexer(std::u16string_view source) : m_Source(source) {}
 
-  /// The next token; EndOfSource again and again at the end. Throws SyntaxError.
+  /// The next token; at the end always EndOfSource. Throws SyntaxError.
   Token Next();
 
-  /// Takes back all but the first character of `token`, the one just read, which must be a number such as
-  /// `&17`: behind an operand it is the operator `&` and a decimal number.
+  /// Unreads all but the first character of `token`, the last one read, which must be a number such as `&17`:
+  /// after an operand this is the operator `&` and a decimal number.
   Token SplitAmpersand(const Token& token);
 
  private:

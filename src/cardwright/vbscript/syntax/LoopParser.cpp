@@ -29,22 +29,22 @@ Stmt* StatementParser::ParseForEach(Position start) {
   return Make<ForEachStmt>(Stmt{StmtKind::ForEach, start}, variable, collection, body, next);
 }
 
-/// A plain variable that no loop around it counts with.
+/// A plain variable that is not the variable of an enclosing loop.
 Expr* StatementParser::ParseForVariable() {
   if (At(TokenKind::Dot) || At(TokenKind::Me)) Fail(SyntaxErrorNumber::InvalidForVariable);
   const Token name = TakeName();
   const bool isPlain = !At(TokenKind::Dot) && !At(TokenKind::LeftParen);
   const bool isTaken = std::ranges::any_of(
-      m_Around.forVariables, [&](std::u16string_view outer) { return EqualsNoCase(outer, name.text); });
+      m_Enclosing.forVariables, [&](std::u16string_view outer) { return EqualsNoCase(outer, name.text); });
   if (!isPlain || isTaken) Fail(SyntaxErrorNumber::InvalidForVariable, name.position);
   return Make<NameExpr>(Expr{ExprKind::Name, name.position}, name.text);
 }
 
-/// The statements up to Next, which is at hand then.
+/// Statements up to Next, which is the current token afterwards.
 Block StatementParser::ParseForBody(const Expr& variable) {
-  m_Around.forVariables.push_back(static_cast<const NameExpr&>(variable).name);
+  m_Enclosing.forVariables.push_back(static_cast<const NameExpr&>(variable).name);
   const Block body = ParseBlock(TokenKind::EndOfSource);
-  m_Around.forVariables.pop_back();
+  m_Enclosing.forVariables.pop_back();
   if (!At(TokenKind::Next)) FailUnclosed(SyntaxErrorNumber::ExpectedNext);
   return body;
 }
@@ -53,16 +53,16 @@ Stmt* StatementParser::ParseDo() {
   const Position start = Take().position;
   LoopKind loop = LoopKind::Endless;
   Expr* condition = ParseDoCondition(loop, LoopKind::DoWhile, LoopKind::DoUntil);
-  ++m_Around.doLoops;
+  ++m_Enclosing.doLoops;
   const Block body = ParseBlock(TokenKind::EndOfSource);
-  --m_Around.doLoops;
+  --m_Enclosing.doLoops;
   if (!At(TokenKind::Loop)) FailUnclosed(SyntaxErrorNumber::ExpectedLoop);
   const Position end = Take().position;
   if (condition == nullptr) condition = ParseDoCondition(loop, LoopKind::LoopWhile, LoopKind::LoopUntil);
   return Make<LoopStmt>(Stmt{StmtKind::Loop, start}, loop, condition, body, end);
 }
 
-/// What may stand behind Do and Loop; null where nothing does.
+/// The condition after Do or Loop; null where there is none.
 Expr* StatementParser::ParseDoCondition(LoopKind& loop, LoopKind whileKind, LoopKind untilKind) {
   if (AtEndOfStatement()) return nullptr;
   if (!At(TokenKind::While) && !At(TokenKind::Until)) Fail(SyntaxErrorNumber::ExpectedWhileUntilOrEnd);
@@ -76,9 +76,9 @@ Expr* StatementParser::ParseDoCondition(LoopKind& loop, LoopKind whileKind, Loop
 Stmt* StatementParser::ParseWhile() {
   const Position start = Take().position;
   Expr* condition = ParseExpression();
-  ++m_Around.whileLoops;
-  const Block body = ParseBlockBehindHead(TokenKind::EndOfSource);
-  --m_Around.whileLoops;
+  ++m_Enclosing.whileLoops;
+  const Block body = ParseBlockAfterHead(TokenKind::EndOfSource);
+  --m_Enclosing.whileLoops;
   if (!At(TokenKind::Wend)) FailUnclosed(SyntaxErrorNumber::ExpectedWend);
   const Position end = Take().position;
   return Make<LoopStmt>(Stmt{StmtKind::Loop, start}, LoopKind::WhileWend, condition, body, end);

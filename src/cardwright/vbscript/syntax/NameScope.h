@@ -13,7 +13,7 @@ struct HashOfName {
 struct SameName {
   bool operator()(std::u16string_view a, std::u16string_view b) const noexcept { return EqualsNoCase(a, b); }
 };
-/// Values by name, whatever its case.
+/// Values by name, without regard to case.
 template <class T>
 using NameMap = std::unordered_map<std::u16string_view, T, HashOfName, SameName>;
 
@@ -29,7 +29,7 @@ enum class NameUse : unsigned char {
 /// The names that one scope declares: a script's, a class's or a procedure's.
 class NameScope {
  public:
-  /// Adds a use to a name. False, and nothing added, where the two do not go together.
+  /// Adds a use to a name. Returns false, and adds nothing, where the name has a use that excludes it.
   bool Declare(std::u16string_view name, NameUse use) {
     unsigned char& uses = m_Uses[name];
     if (uses != 0 && (!IsPropertyPart(uses) || !IsPropertyPart(Bit(use)) || (uses & Bit(use)) != 0))
@@ -37,7 +37,7 @@ class NameScope {
     uses = static_cast<unsigned char>(uses | Bit(use));
     return true;
   }
-  /// As Declare, but a procedure may follow another one of its name, which it replaces.
+  /// Like Declare, but a procedure may replace another one of its name.
   bool DeclareReplacing(std::u16string_view name) {
     unsigned char& uses = m_Uses[name];
     if (uses != 0 && uses != Bit(NameUse::Procedure)) return false;

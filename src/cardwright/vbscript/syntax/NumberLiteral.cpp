@@ -22,7 +22,7 @@ std::optional<Variant> BitsValue(std::u16string_view spelling) {
   return static_cast<std::int32_t>(bits);
 }
 
-/// The number where it has at most nine digits and nothing else, which most have; -1 for the others.
+/// The number where it consists of at most nine digits, as most do; -1 otherwise.
 std::int32_t SmallValue(std::u16string_view spelling) {
   constexpr std::size_t kDigits = 9;
   if (spelling.size() > kDigits) return -1;
@@ -41,7 +41,7 @@ std::string Ascii(std::u16string_view spelling) {
   return text;
 }
 
-/// Whether a number that no Double holds is too small for one: its first digit stands below the last place.
+/// Whether a number out of the range of a Double is too small, rather than too large.
 bool IsTiny(std::string_view number) {
   const std::size_t exponentMark = number.find_first_of("eE");
   const std::size_t firstDigit = number.find_first_of("123456789");

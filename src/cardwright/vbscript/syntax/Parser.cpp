@@ -16,7 +16,7 @@ std::unique_ptr<SyntaxTree> NewTree(Text source) {
   return std::make_unique<SyntaxTree>(std::move(source));
 }
 
-/// An expression that fills its source, but for lines without anything behind it.
+/// An expression that is the whole source, apart from empty lines after it.
 class LoneExpressionParser final : public ExpressionParser {
  public:
   using ExpressionParser::ExpressionParser;
@@ -29,7 +29,7 @@ class LoneExpressionParser final : public ExpressionParser {
   }
 };
 
-/// A tree that memory has no room for is too large a source.
+/// Running out of memory means that the source is too large: error 1001.
 template <class Parser, class Step>
 void ParseWith(Parser& parser, Step step) {
   try {

@@ -7,10 +7,10 @@
 
 namespace cardwright::vbscript {
 
-/// The whole tree of a source. Throws SyntaxError for the first error; any characters are safe to give, and
-/// nesting deeper than the parser goes is error 1001.
+/// Parses a source. Throws SyntaxError for the first error. Any characters are safe; nesting beyond the
+/// parser's limit is error 1001.
 std::unique_ptr<SyntaxTree> Parse(Text source);
-/// The tree of one expression, as Eval takes it; `=` compares in it. Errors as Parse.
+/// Parses one expression, as Eval does; `=` compares in it. Errors as for Parse.
 std::unique_ptr<SyntaxTree> ParseExpression(Text source);
 
 }  // namespace cardwright::vbscript

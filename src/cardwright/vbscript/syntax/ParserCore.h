@@ -8,21 +8,21 @@
 
 namespace cardwright::vbscript {
 
-/// What all parts of the parser stand on: the token at hand, the tree that grows, the limit of nesting.
+/// The base of all parts of the parser: the current token, the tree being built, the limit of nesting.
 class ParserCore {
  public:
   explicit ParserCore(SyntaxTree& tree);
 
-  /// Place of the token at hand.
+  /// Position of the current token.
   Position Where() const { return m_Token.position; }
 
  protected:
-  /// How deep parentheses, signs, calls and blocks go into each other. A level costs each who walks the tree
-  /// a dozen stack frames where operators of all ranks stand in it: half a megabyte, and two where addresses
-  /// are checked.
+  /// Limit of nested parentheses, signs, calls and blocks. A level with operators of all precedences takes a
+  /// dozen stack frames of whatever walks the tree. In all that is half a megabyte of stack, or two with
+  /// AddressSanitizer.
   static constexpr int kMaxNesting = 250;
 
-  /// One level of nesting as long as it lives; error 1001 beyond the limit.
+  /// Adds one level of nesting while it lives. Error 1001 beyond the limit.
   class Nesting {
    public:
     explicit Nesting(ParserCore& parser) : m_Parser(parser) {
@@ -36,8 +36,8 @@ class ParserCore {
     ParserCore& m_Parser;
   };
 
-  /// A list of unknown length on its way into the tree. The lists of one type share a stack, so only the list
-  /// opened last may grow; it leaves the stack with its end.
+  /// A list of unknown length, being built for the tree. All lists of one type share a stack, so only the
+  /// newest of them may grow; at its end it leaves the stack.
   template <class T>
   class List {
    public:
@@ -61,9 +61,9 @@ class ParserCore {
 
   const Token& Current() const { return m_Token; }
   bool At(TokenKind kind) const { return m_Token.kind == kind; }
-  /// The token behind the one at hand.
+  /// The token after the current one.
   Token PeekNext() const { return Lexer(m_Lexer).Next(); }
-  /// A reader of the tokens behind the one at hand.
+  /// A lexer for the tokens after the current one.
   Lexer LookAhead() const { return m_Lexer; }
   void Advance() { m_Token = m_Lexer.Next(); }
   Token Take() {
@@ -86,7 +86,7 @@ class ParserCore {
   [[noreturn]] void Fail(SyntaxErrorNumber error) const { Fail(error, Where()); }
   [[noreturn]] static void Fail(SyntaxErrorNumber error, Position where) { throw SyntaxError(error, where); }
 
-  /// `&17` at hand becomes the operator `&`, as it reads behind an operand.
+  /// Turns the current token, such as `&17`, into the operator `&`, which it is after an operand.
   void SplitAmpersand();
 
   template <class T, class... A>

@@ -4,7 +4,7 @@
 
 namespace cardwright::vbscript {
 
-/// A place in a source text, as script errors name it.
+/// A position in a source, as error messages state it.
 struct Position {
   std::int32_t line = 1;    ///< from 1
   std::int32_t column = 0;  ///< UTF-16 units before it in its line, from 0

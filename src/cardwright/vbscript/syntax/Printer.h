@@ -4,8 +4,8 @@
 
 namespace cardwright::vbscript {
 
-/// The program as text again, one statement a line, names and literals as they were written. Parsing it gives
-/// the same program.
+/// Writes the program as text, one statement a line, names and literals as in the source. Parsing the text
+/// gives the same program.
 Text Print(const SyntaxTree& tree);
 
 }  // namespace cardwright::vbscript

@@ -8,7 +8,7 @@ namespace {
 
 struct ProcedureWord {
   TokenKind word;
-  SyntaxErrorNumber missing;  ///< where another word follows End
+  SyntaxErrorNumber missing;  ///< where End is followed by another word
 };
 
 constexpr ProcedureWord WordOf(ProcedureKind kind) {
@@ -81,18 +81,18 @@ Parameter DeclarationParser::ParseParameter(NameScope& names) {
   return {name.text, name.position, byValue, isArray};
 }
 
-/// Behind the parentheses of its parameters the first statement may stand in the same line.
+/// After parentheses of parameters the first statement may be in the same line.
 void DeclarationParser::ParseProcedureBody(ProcedureDecl& procedure, NameScope& names, bool hasParentheses) {
   const ProcedureWord end = WordOf(procedure.kind);
-  Surroundings outer = std::exchange(m_Around, {.procedure = end.word, .names = &names, .forVariables = {}});
+  Enclosing outer = std::exchange(m_Enclosing, {.procedure = end.word, .names = &names, .forVariables = {}});
   const int outerWith = std::exchange(m_WithDepth, 0);
   if (!hasParentheses) ExpectEndOfStatement();
-  procedure.body = ParseBlockBehindHead(end.word);
+  procedure.body = ParseBlockAfterHead(end.word);
   if (At(TokenKind::EndOfSource)) Fail(SyntaxErrorNumber::ExpectedEnd);
   if (!At(TokenKind::End)) FailUnclosed(SyntaxErrorNumber::ExpectedStatement);
   procedure.endPosition = Take().position;
   Expect(end.word, end.missing);
-  m_Around = std::move(outer);
+  m_Enclosing = std::move(outer);
   m_WithDepth = outerWith;
 }
 

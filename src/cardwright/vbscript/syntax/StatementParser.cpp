@@ -19,7 +19,7 @@ bool StatementParser::AtBlockEnd() const {
   }
 }
 
-/// Whether a statement, as the rest of the line behind a head, is at hand.
+/// Whether the current token begins a statement, in the same line as the head before it.
 bool StatementParser::AtStatement() const {
   using enum TokenKind;
   switch (Current().kind) {
@@ -45,18 +45,18 @@ bool StatementParser::AtStatement() const {
 
 Block StatementParser::ParseBlock(TokenKind closer) {
   const Nesting nesting(*this);
-  const bool outerInline = std::exchange(m_Around.inlineIf, false);
-  const TokenKind outerCloser = std::exchange(m_Around.closer, closer);
+  const bool outerInline = std::exchange(m_Enclosing.inlineIf, false);
+  const TokenKind outerCloser = std::exchange(m_Enclosing.closer, closer);
   List<Stmt*> statements(*this);
   for (SkipSeparators(); !AtBlockEnd(); SkipSeparators()) {
     if (Stmt* statement = ParseStatement()) statements.Add(statement);
   }
-  m_Around.inlineIf = outerInline;
-  m_Around.closer = outerCloser;
+  m_Enclosing.inlineIf = outerInline;
+  m_Enclosing.closer = outerCloser;
   return statements.Keep();
 }
 
-Block StatementParser::ParseBlockBehindHead(TokenKind closer) {
+Block StatementParser::ParseBlockAfterHead(TokenKind closer) {
   if (!AtEndOfStatement() && !AtStatement()) Fail(SyntaxErrorNumber::ExpectedEndOfStatement);
   return ParseBlock(closer);
 }
@@ -82,11 +82,11 @@ Stmt* StatementParser::ParseStatementOfKind() {
   switch (Current().kind) {
     case Dim: {
       const Position start = Take().position;
-      return ParseDim(Visibility::Unsaid, start);
+      return ParseDim(Visibility::Default, start);
     }
     case Const: {
       const Position start = Take().position;
-      return ParseConst(Visibility::Unsaid, start);
+      return ParseConst(Visibility::Default, start);
     }
     case Public:
     case Private: return ParsePublicOrPrivate();
@@ -111,24 +111,24 @@ Stmt* StatementParser::ParseStatementOfKind() {
   }
 }
 
-/// Within an If of one line its other words end a statement too.
+/// In an If of one line, Else, ElseIf and End If end a statement too.
 bool StatementParser::AtEndOfStatement() const {
   if (IsSeparator(Current().kind)) return true;
-  if (!m_Around.inlineIf) return false;
+  if (!m_Enclosing.inlineIf) return false;
   if (At(TokenKind::Else) || At(TokenKind::ElseIf)) return true;
   return At(TokenKind::End) && PeekNext().kind == TokenKind::If;
 }
 
 void StatementParser::CheckEnd(const Stmt& statement) const {
   if (AtEndOfStatement()) return;
-  const bool isClosed = At(TokenKind::End) && MayCloseBehind(statement) &&
-                        m_Around.closer != TokenKind::EndOfSource && PeekNext().kind == m_Around.closer;
+  const bool isClosed = At(TokenKind::End) && MayBeClosedInLine(statement) &&
+                        m_Enclosing.closer != TokenKind::EndOfSource && PeekNext().kind == m_Enclosing.closer;
   if (!isClosed) Fail(SyntaxErrorNumber::ExpectedEndOfStatement);
 }
 
-/// `x = 1 End Sub` is a way to write it, `Foo End Sub` is not: there the End would be Foo's argument.
-bool StatementParser::MayCloseBehind(const Stmt& statement) const {
-  if (m_Around.inlineIf) return false;
+/// `x = 1 End Sub` is allowed, `Foo End Sub` is not: there End would be an argument of Foo.
+bool StatementParser::MayBeClosedInLine(const Stmt& statement) const {
+  if (m_Enclosing.inlineIf) return false;
   switch (statement.kind) {
     case StmtKind::Assign:
     case StmtKind::Const:
@@ -146,11 +146,11 @@ Stmt* StatementParser::ParseExit() {
   ExitKind exit{};
   switch (Current().kind) {
     case TokenKind::Do:
-      CheckExit(m_Around.doLoops > 0);
+      CheckExit(m_Enclosing.doLoops > 0);
       exit = ExitKind::Do;
       break;
     case TokenKind::For:
-      CheckExit(!m_Around.forVariables.empty());
+      CheckExit(!m_Enclosing.forVariables.empty());
       exit = ExitKind::For;
       break;
     case TokenKind::Sub: exit = ExitKind::Sub; break;
@@ -158,7 +158,7 @@ Stmt* StatementParser::ParseExit() {
     case TokenKind::Property: exit = ExitKind::Property; break;
     default: CheckExit(false);
   }
-  if (exit >= ExitKind::Sub) CheckExit(m_Around.procedure == Current().kind);
+  if (exit >= ExitKind::Sub) CheckExit(m_Enclosing.procedure == Current().kind);
   Advance();
   return Make<ExitStmt>(Stmt{StmtKind::Exit, start}, exit);
 }

@@ -5,8 +5,7 @@
 
 namespace cardwright::vbscript {
 
-/// Statements and blocks. Declarations of procedures and classes may stand among the statements of a script;
-/// the parser of declarations takes those.
+/// Statements and blocks. Declarations of procedures and classes among them are left to DeclarationParser.
 class StatementParser : public ExpressionParser {
  public:
   using ExpressionParser::ExpressionParser;
@@ -14,26 +13,27 @@ class StatementParser : public ExpressionParser {
  protected:
   ~StatementParser() = default;
 
-  /// What a statement's surroundings allow and forbid. A procedure's body starts with new ones.
-  struct Surroundings {
+  /// What encloses a statement, which decides what is allowed in it. The body of a procedure starts anew.
+  struct Enclosing {
     TokenKind procedure = TokenKind::EndOfSource;  ///< Sub, Function or Property; EndOfSource outside them
     NameScope* names = nullptr;                    ///< where Dim and Const declare
     std::vector<std::u16string_view> forVariables;
     int doLoops = 0;
     int whileLoops = 0;
     bool inlineIf = false;
-    /// What ends the block at hand behind `End`, where that may follow a statement with nothing between.
+    /// The word after `End` that closes the current block, where `End` may follow a statement in the same
+    /// line.
     TokenKind closer = TokenKind::EndOfSource;
   };
 
-  /// Takes a procedure, a class or what only looks like one. Nothing where a statement is at hand.
+  /// Parses a procedure or a class. Returns false where the current token begins a statement.
   virtual bool ParseDeclaration() = 0;
 
-  /// The statements up to a word that ends some block, or to the end of the source.
+  /// Statements up to a word that ends a block, or to the end of the source.
   Block ParseBlock(TokenKind closer);
-  /// As ParseBlock, but the first statement may stand right behind the block's head.
-  Block ParseBlockBehindHead(TokenKind closer);
-  /// A block met what does not end it. Some words have an error of their own.
+  /// Like ParseBlock, but the first statement may follow the head of the block in the same line.
+  Block ParseBlockAfterHead(TokenKind closer);
+  /// Fails at a token that does not end the current block. Some words have an error of their own.
   [[noreturn]] void FailUnclosed(SyntaxErrorNumber expected) const;
 
   DimStmt* ParseDim(Visibility visibility, Position start);
@@ -43,26 +43,26 @@ class StatementParser : public ExpressionParser {
   }
   bool AtBlockEnd() const;
   void Declare(const Token& name) {
-    if (!m_Around.names->Declare(name.text, NameUse::Value))
+    if (!m_Enclosing.names->Declare(name.text, NameUse::Value))
       Fail(SyntaxErrorNumber::NameRedefined, name.position);
   }
-  bool IsInProcedure() const { return m_Around.procedure != TokenKind::EndOfSource; }
+  bool IsInProcedure() const { return m_Enclosing.procedure != TokenKind::EndOfSource; }
   bool IsInLoop() const {
-    return !m_Around.forVariables.empty() || m_Around.doLoops > 0 || m_Around.whileLoops > 0;
+    return !m_Enclosing.forVariables.empty() || m_Enclosing.doLoops > 0 || m_Enclosing.whileLoops > 0;
   }
-  /// The end of a declaration's or a block's head.
+  /// At the end of the head of a declaration or block.
   void ExpectEndOfStatement() const {
     if (!AtEndOfStatement()) Fail(SyntaxErrorNumber::ExpectedEndOfStatement);
   }
   bool AtEndOfStatement() const;
 
-  Surroundings m_Around;
+  Enclosing m_Enclosing;
 
  private:
   Stmt* ParseStatement();
   Stmt* ParseStatementOfKind();
   void CheckEnd(const Stmt& statement) const;
-  bool MayCloseBehind(const Stmt& statement) const;
+  bool MayBeClosedInLine(const Stmt& statement) const;
   bool AtStatement() const;
 
   Stmt* ParsePublicOrPrivate();

@@ -90,8 +90,8 @@ void StatementPrinter::Write(const AssignStmt& assign) {
   *this << (assign.isSet ? u"Set " : u"") << *assign.target << u" = " << *assign.value;
 }
 
-/// Without Call the blank behind the callee keeps parentheses with the first argument. A callee that ends in
-/// parentheses of its own needs others to be one.
+/// Without Call, a blank after the callee makes parentheses part of the first argument. A callee that ends in
+/// parentheses of its own is followed by another pair.
 void StatementPrinter::Write(const CallStmt& call) {
   const bool isWrapped = call.arguments.empty() && call.callee->kind == ExprKind::Call;
   *this << (call.hasKeyword ? u"Call " : u"") << *call.callee;

@@ -32,7 +32,7 @@ class StatementPrinter : public ExpressionPrinter {
   void Write(const LoopStmt& loop);
   void Write(const WithStmt& with);
 
-  /// The start of a line within the blocks around it.
+  /// Starts a line with the indentation of the enclosing blocks.
   StatementPrinter& Line();
   void EndLine() { m_Text += u'\n'; }
 

@@ -5,9 +5,9 @@
 
 namespace cardwright::vbscript {
 
-/// Numbers of the compile errors, as authors know them. StandardErrorText has their texts.
+/// Numbers of the compile errors. StandardErrorText has their texts.
 enum class SyntaxErrorNumber : int {
-  OutOfMemory = 1001,  ///< also: nested deeper than the parser goes
+  OutOfMemory = 1001,  ///< also: nested beyond the parser's limit
   SyntaxError = 1002,
   ExpectedColon = 1003,
   ExpectedLeftParen = 1005,
@@ -62,7 +62,7 @@ enum class SyntaxErrorNumber : int {
   DefaultOnlyOnGet = 1058,
 };
 
-/// A text that is no program: the first error, where the offending token starts.
+/// The first error of a text that is no program, at the start of the offending token.
 class SyntaxError : public Error {
  public:
   SyntaxError(SyntaxErrorNumber number, Position position)

@@ -21,7 +21,7 @@ class SyntaxTree {
 
   bool optionExplicit = false;
   Block body;                  ///< the statements outside procedures
-  Expr* expression = nullptr;  ///< of ParseExpression, which has nothing else
+  Expr* expression = nullptr;  ///< set by ParseExpression, which sets nothing else
   std::span<ProcedureDecl* const> procedures;
   std::span<ClassDecl* const> classes;
 

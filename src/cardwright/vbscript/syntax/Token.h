@@ -12,7 +12,7 @@ enum class TokenKind : std::uint8_t {
   EndOfSource,
   EndOfLine,
   Colon,
-  Identifier,  ///< also a name in brackets, whatever stands in them
+  Identifier,  ///< also a name in brackets, whatever its characters
   Number,
   String,
   Date,
@@ -33,7 +33,7 @@ enum class TokenKind : std::uint8_t {
   LessOrEqual,
   Greater,
   GreaterOrEqual,
-  // Keywords from here on, in the order of the alphabet.
+  // From here on keywords, in alphabetical order.
   And,
   As,
   ByRef,
@@ -101,7 +101,7 @@ inline constexpr std::size_t kTokenKinds = static_cast<std::size_t>(TokenKind::X
 
 constexpr bool IsKeyword(TokenKind kind) { return kind >= TokenKind::And; }
 
-/// Keywords that mean something in one place only and are plain names everywhere else.
+/// Keywords that have a meaning in one context only and are plain names elsewhere.
 constexpr bool IsContextualKeyword(TokenKind kind) {
   switch (kind) {
     case TokenKind::Default:
@@ -114,18 +114,18 @@ constexpr bool IsContextualKeyword(TokenKind kind) {
   }
 }
 
-/// What may stand where a name is wanted.
+/// Whether the kind may be used as a name.
 constexpr bool IsName(TokenKind kind) { return kind == TokenKind::Identifier || IsContextualKeyword(kind); }
 
-/// What ends a statement by itself.
+/// Whether the kind ends a statement.
 constexpr bool IsSeparator(TokenKind kind) { return kind <= TokenKind::Colon; }
 
 struct Token {
   TokenKind kind = TokenKind::EndOfSource;
-  bool afterBlank = false;   ///< white space, or a continued line, stands before it
-  bool firstOnLine = false;  ///< nothing but colons stands before it in its line
+  bool afterBlank = false;   ///< after white space or a line continuation
+  bool firstOnLine = false;  ///< at the start of its line, or after nothing but colons
   Position position;
-  std::u16string_view text;  ///< its characters; those of a name without its brackets
+  std::u16string_view text;  ///< its characters, of a name without brackets
 };
 
 }  // namespace cardwright::vbscript

@@ -29,7 +29,7 @@ VariableDecl StatementParser::ParseVariable() {
   return variable;
 }
 
-/// Only numbers as such may stand there; ReDim is for all others.
+/// The bounds of Dim are numbers; only ReDim takes expressions.
 std::span<const std::int32_t> StatementParser::ParseFixedBounds() {
   Advance();
   List<std::int32_t> bounds(*this);
@@ -61,14 +61,13 @@ ConstDecl StatementParser::ParseConstant() {
   Declare(name);
   Expect(TokenKind::Equal, SyntaxErrorNumber::ExpectedEquals);
   Expr* expression = ParseConstantExpression();
-  // What goes on as an expression could have been a constant; that the language takes literals only is the
-  // news.
+  // An expression that continues after the literal gets an error of its own: a constant must be a literal.
   if (AtBinaryOperator() || At(TokenKind::LeftParen) || At(TokenKind::Dot))
     Fail(SyntaxErrorNumber::ExpectedLiteral);
   return {name.text, name.position, ConstantValue(*expression), expression};
 }
 
-/// A literal, with signs in front of a number and parentheses as the author likes.
+/// A literal in any parentheses; a number may have signs.
 Expr* StatementParser::ParseConstantExpression() {
   const Nesting nesting(*this);
   const Position start = Where();
@@ -100,7 +99,7 @@ Expr* StatementParser::ParseConstantExpression() {
 
 namespace {
 
-/// A number with its sign turned, in the type that holds it; none of what is no number.
+/// A number with its sign inverted, in a type that can hold it; none for anything but numbers.
 std::optional<Variant> NegatedConstant(const Variant& value) {
   switch (value.Type()) {
     case VarType::Integer:
@@ -144,7 +143,7 @@ ReDimTarget StatementParser::ParseReDimTarget() {
   if (!IsName(Current().kind) && !At(TokenKind::Dot) && !At(TokenKind::Me)) {
     Fail(SyntaxErrorNumber::ExpectedIdentifier);
   }
-  Expr* chain = ParseChain(ChainPlace::Expression);
+  Expr* chain = ParseChain(ChainContext::Expression);
   if (chain->kind != ExprKind::Call) Fail(SyntaxErrorNumber::ExpectedLeftParen);
   const auto& call = *static_cast<CallExpr*>(chain);
   const bool isPlain = call.callee->kind == ExprKind::Name || call.callee->kind == ExprKind::Member;
@@ -155,7 +154,7 @@ ReDimTarget StatementParser::ParseReDimTarget() {
   return {call.callee, start, call.arguments};
 }
 
-/// `Erase` is a name too: what follows it tells.
+/// `Erase` may be a name too: the next token decides.
 Stmt* StatementParser::ParseErase() {
   const Token next = PeekNext();
   const bool isStatement = IsName(next.kind) || next.kind == TokenKind::Me ||
@@ -167,7 +166,7 @@ Stmt* StatementParser::ParseErase() {
     if (!IsName(Current().kind) && !At(TokenKind::Dot) && !At(TokenKind::Me)) {
       Fail(SyntaxErrorNumber::ExpectedIdentifier);
     }
-    arrays.Add(ParseChain(ChainPlace::Expression));
+    arrays.Add(ParseChain(ChainContext::Expression));
   } while (Accept(TokenKind::Comma));
   return Make<EraseStmt>(Stmt{StmtKind::Erase, start}, arrays.Keep());
 }
