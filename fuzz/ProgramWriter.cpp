@@ -225,7 +225,7 @@ void ProgramWriter::Loop() {
       Line(u"Wend");
       break;
     default: {
-      // One variable of its own a level: a loop within must not take the same.
+      // A variable for each level: nested loops must not share one.
       static constexpr std::array<const char16_t*, kMostNested + 1> kVariables = {u"i", u"i", u"x", u"j"};
       const std::u16string variable = kVariables[static_cast<std::size_t>(m_Nesting)];
       Line(u"For " + variable + u" = " + Expression() + u" To " + Expression() +

@@ -6,9 +6,8 @@
 
 namespace cardwright::vbscript {
 
-/// Writes a valid program as the bytes want it: each choice takes one, and zeros follow behind their end. A
-/// small set of names stands for variables, arrays, objects and procedures alike, so that everything meets
-/// everything: what runs changes what is running.
+/// Writes a valid program from bytes: each choice takes one byte, and after the last one zeros. A few names
+/// are used for variables, arrays, objects and procedures alike, so that running code changes what is in use.
 class ProgramWriter {
  public:
   explicit ProgramWriter(std::span<const std::uint8_t> bytes) : m_Bytes(bytes) {}
@@ -45,7 +44,7 @@ class ProgramWriter {
   int m_Depth = 0;       // of expressions
   int m_Nesting = 0;     // of blocks
   int m_Statements = 0;  // written so far
-  int m_Sources = 0;     // texts to execute within each other
+  int m_Sources = 0;     // nested texts to execute
 };
 
 }  // namespace cardwright::vbscript

@@ -16,8 +16,9 @@ constexpr Limits kLimits{.callDepth = 200, .textUnits = 1 << 16, .memoryBytes = 
 constexpr std::int32_t kTimeout = 60;   // milliseconds
 constexpr int kMostStatements = 20000;  // of an observed run
 
-/// Allows what touches nothing outside. Dictionaries that hold each other would never end: reference counts
-/// do not find them, and they are the host's.
+/// Allows dictionaries only, which have no effects outside. It empties them at its end: dictionaries that
+/// contain each other are never freed by counting references, and the engine does not end objects of the
+/// host.
 class Host final : public ScriptHost {
  public:
   ~Host() override {
@@ -32,7 +33,7 @@ class Host final : public ScriptHost {
   std::vector<Ref<scripting::Dictionary>> m_Dictionaries;
 };
 
-/// Ends runs at a number of statements, so that they end at the same place each time.
+/// Ends runs after a number of statements, so that they are repeatable.
 class Counter final : public ScriptObserver {
  public:
   void Watch(ScriptEngine& engine) {
@@ -56,7 +57,7 @@ void Try(ScriptEngine& engine, Step&& step) {
     step();
     Require(engine.LastError().number == 0);
   } catch (const Error& error) {
-    // A name that is no procedure any more is the caller's mistake, which the engine does not note.
+    // A name that is no procedure any more is a mistake of the caller, which LastError does not report.
     const int noted = engine.LastError().number;
     Require(error.Number() != 0 && (noted == error.Number() || noted == 0));
   }

@@ -4,12 +4,12 @@
 
 namespace cardwright::vbscript {
 
-/// Ends the program, so that the fuzzer keeps the input.
+/// Aborts, so that the fuzzer keeps the input.
 void Require(bool holds);
 
-/// Runs the source as a stranger's, in an engine of its own with narrow limits, then each procedure that it
-/// defines, and unmakes the engine. Whatever fails fails by a number, and no memory is left behind.
-/// `isObserved` has the engine tell of each statement.
+/// Runs an untrusted source in an engine of its own with narrow limits, then each procedure that it defines,
+/// and ends the engine. Every failure must be a numbered error, and all memory must be released. With
+/// `isObserved` the engine reports each statement.
 void RunStranger(std::u16string_view source, bool isObserved);
 
 }  // namespace cardwright::vbscript

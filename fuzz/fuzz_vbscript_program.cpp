@@ -1,6 +1,6 @@
-// Bytes that choose what a VBScript program does. All of it is valid, so that inputs get to what programs do
-// to each other's data while it is in use: to arrays within loops over them, to variables within expressions
-// that read them, to procedures and classes that run.
+// Generates valid VBScript programs from the bytes, so that inputs reach code that changes what is in use:
+// arrays in a loop over them, variables in an expression that reads them, procedures and classes that are
+// running.
 
 #include <cstdint>
 

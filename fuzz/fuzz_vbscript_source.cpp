@@ -1,6 +1,6 @@
-// Any bytes are a VBScript source. It is read or refused by a number and a place; what is read prints as a
-// source that reads and prints the same; and it runs within its limits. The first byte tells whether the run
-// is observed.
+// Takes any bytes as a VBScript source. It must parse or fail with a number and a position. What parses must
+// print to a source that parses and prints the same, and run within its limits. The first byte decides
+// whether the run is observed.
 
 #include <algorithm>
 #include <cstdint>

@@ -5,14 +5,14 @@
 #include "cardwright/automation/MemoryBudget.h"
 #include "cardwright/vbscript/syntax/Parser.h"
 #include "cardwright/vbscript/syntax/Printer.h"
-#include "vbscript/Program.h"
+#include "vbscript/VbScriptProgram.h"
 
 namespace cardwright::vbscript {
 namespace {
 
-// The programs of ProgramsTest again, under other conditions.
+// The programs of VbScriptProgramsTest under other conditions.
 
-TEST(Corpus, RunsTheSameWithRegistersInManyBlocks) {
+TEST(Corpus, RunsTheSameWithSmallRegisterBlocks) {
   for (const std::size_t block : {1, 13}) {
     Limits limits;
     limits.registerBlock = block;
@@ -24,7 +24,7 @@ TEST(Corpus, RunsTheSameWithRegistersInManyBlocks) {
   }
 }
 
-TEST(Corpus, RunsTheSameWhenItIsPrintedAndReadAgain) {
+TEST(Corpus, RunsTheSamePrintedAndParsedAgain) {
   int programs = 0;
   for (const auto& file : ProgramFiles()) {
     Program program = ReadProgram(file);
@@ -41,8 +41,8 @@ TEST(Corpus, RunsTheSameWhenItIsPrintedAndReadAgain) {
   EXPECT_GT(programs, 500);
 }
 
-// Whether a program that runs out of memory has to stop there: it handles no error, which might keep it in a
-// loop, not even by a Class_Terminate, whose errors go nowhere.
+// Whether a program that runs out of memory has to stop there: it passes over no errors, which might keep it
+// in a loop, not even in a Class_Terminate, whose errors are ignored.
 bool StopsAtErrors(const Program& program) {
   return !program.expected.error && program.source.find("Resume Next") == std::string::npos &&
          program.source.find("Class_Terminate") == std::string::npos;
@@ -54,11 +54,11 @@ bool IsOutOfMemory(const ProgramOutcome& outcome) {
          (outcome.error->number == kWhileRunning || outcome.error->number == kWhileCompiling);
 }
 
-TEST(Corpus, EndsWellOrOutOfMemoryWhereMemoryIsShort) {
+TEST(Corpus, SucceedsOrRunsOutOfMemoryUnderAnyLimit) {
   int shortages = 0;
   for (const auto& file : ProgramFiles()) {
     const Program program = ReadProgram(file);
-    // Larger ones are about amounts, and take long.
+    // Larger ones are about large amounts of data, and take long.
     if (!StopsAtErrors(program) || program.source.size() > 4000 || file.parent_path().filename() == "limits")
       continue;
     const std::size_t before = MemoryBudget::Used();

@@ -24,7 +24,7 @@ TEST(Disassembly, ListsEachProcedureUnderItsName) {
   EXPECT_TRUE(Holds(list, u"12.5"));
 }
 
-TEST(Disassembly, NamesVariablesSymbolsMembersAndTargets) {
+TEST(Disassembly, NamesVariablesSymbolsMembersAndJumpTargets) {
   const Text list = Disassemble(
       u"Dim total\n"
       u"For i = 1 To 10\n"
@@ -36,7 +36,14 @@ TEST(Disassembly, NamesVariablesSymbolsMembersAndTargets) {
     EXPECT_TRUE(Holds(list, part)) << Text(part).ToUtf8() << " in\n" << list.ToUtf8();
 }
 
-TEST(Disassembly, RefusesWhatIsNoProgram) { EXPECT_THROW(Disassemble(u"If"), Error); }
+TEST(Disassembly, ShowsConstantIndices) {
+  const Text list =
+      Disassemble(u"Dim grid(3, 3)\nSub S(i)\nDim own(3, 3)\nown(i, 2) = grid(i, 3)\nEnd Sub\n");
+  EXPECT_TRUE(Holds(list, u"GetSymbolElement r3 i grid 3\n")) << list.ToUtf8();
+  EXPECT_TRUE(Holds(list, u"SetElement2 r2 own i 2\n")) << list.ToUtf8();
+}
+
+TEST(Disassembly, FailsForAnInvalidProgram) { EXPECT_THROW(Disassemble(u"If"), Error); }
 
 }  // namespace
 }  // namespace cardwright::vbscript

@@ -31,7 +31,7 @@ struct KindsRow {
   std::vector<TokenKind> kinds;
 };
 
-TEST(Lexer, CutsSourcesIntoTokens) {
+TEST(Lexer, SplitsSourcesIntoTokens) {
   using enum TokenKind;
   const KindsRow rows[] = {
       {u"", {}},
@@ -101,7 +101,7 @@ TEST(Lexer, CutsSourcesIntoTokens) {
   for (const KindsRow& row : rows) EXPECT_EQ(Kinds(row.source), row.kinds) << Text(row.source).ToUtf8();
 }
 
-TEST(Lexer, KnowsEachKeywordInAnyCase) {
+TEST(Lexer, RecognisesKeywordsInAnyCase) {
   using enum TokenKind;
   const std::u16string_view words[] = {
       u"And",     u"As",     u"ByRef",    u"ByVal",   u"Call",     u"Case",    u"Class", u"Const",
@@ -124,12 +124,12 @@ TEST(Lexer, KnowsEachKeywordInAnyCase) {
   EXPECT_EQ(kind, kTokenKinds);
 }
 
-TEST(Lexer, TakesNoOtherCharactersForTheLettersOfKeywords) {
+TEST(Lexer, AcceptsOnlyAsciiLettersInKeywords) {
   using enum TokenKind;
   EXPECT_EQ(Kinds(u"\u017Fet"), std::vector<TokenKind>{Identifier});
 }
 
-TEST(Lexer, KeepsSpellingsAndTakesBracketsOff) {
+TEST(Lexer, KeepsSpellingsWithoutBrackets) {
   const auto tokens = Tokens(u"Abc [D e] \"x\"\"y\" &hFF& 1.50 #1/1/2000#");
   const std::u16string_view texts[] = {u"Abc", u"D e", u"\"x\"\"y\"", u"&hFF&", u"1.50", u"#1/1/2000#"};
   for (std::size_t i = 0; i < std::size(texts); ++i) EXPECT_EQ(tokens[i].text, texts[i]);
@@ -143,19 +143,19 @@ TEST(Lexer, CountsLinesFromOneAndColumnsFromZero) {
   for (std::size_t i = 0; i < std::size(places); ++i) EXPECT_EQ(tokens[i].position, places[i]) << i;
 }
 
-TEST(Lexer, TellsWhetherABlankStandsBefore) {
+TEST(Lexer, FlagsTokensAfterABlank) {
   const auto tokens = Tokens(u"a.b .c _\n.d");
   const bool blanks[] = {false, false, false, true, false, true, false};
   for (std::size_t i = 0; i < std::size(blanks); ++i) EXPECT_EQ(tokens[i].afterBlank, blanks[i]) << i;
 }
 
-TEST(Lexer, TellsWhichTokenIsTheFirstOfItsLine) {
+TEST(Lexer, FlagsTheFirstTokenOfALine) {
   const auto tokens = Tokens(u": a : b\nc _\nd");
   const bool firsts[] = {true, true, false, false, false, true, false};
   for (std::size_t i = 0; i < std::size(firsts); ++i) EXPECT_EQ(tokens[i].firstOnLine, firsts[i]) << i;
 }
 
-TEST(Lexer, TakesANumberBehindAnOperandBackToAnAmpersand) {
+TEST(Lexer, SplitsANumberAfterAnOperandAtItsAmpersand) {
   using enum TokenKind;
   Lexer lexer(u"a&17 b");
   lexer.Next();
@@ -170,7 +170,7 @@ TEST(Lexer, TakesANumberBehindAnOperandBackToAnAmpersand) {
   EXPECT_EQ(lexer.Next().text, u"b");
 }
 
-TEST(Lexer, GoesOnFromACopy) {
+TEST(Lexer, ContinuesFromACopy) {
   Lexer lexer(u"a b c");
   lexer.Next();
   Lexer copy = lexer;
@@ -185,7 +185,7 @@ struct ErrorRow {
   Position where;
 };
 
-TEST(Lexer, RefusesWhatIsNoToken) {
+TEST(Lexer, FailsForInvalidTokens) {
   using enum TokenKind;
   const std::u16string longName(256, u'n');
   const ErrorRow rows[] = {
@@ -233,7 +233,7 @@ TEST(Lexer, RefusesWhatIsNoToken) {
   }
 }
 
-TEST(Lexer, TakesNamesOf255Characters) {
+TEST(Lexer, AcceptsNamesOf255Characters) {
   const std::u16string name(255, u'n');
   EXPECT_EQ(Tokens(name)[0].text, name);
   EXPECT_EQ(Tokens(u"[" + name + u"]")[0].text, name);

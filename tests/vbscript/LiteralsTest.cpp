@@ -13,7 +13,7 @@ const Variant& LiteralOf(const SyntaxTree& tree) {
   return *static_cast<const LiteralExpr*>(tree.expression)->value;
 }
 
-TEST(ParseExpression, GivesNumbersTheFirstTypeThatHoldsThem) {
+TEST(ParseExpression, GivesNumbersTheSmallestType) {
   const struct {
     const char16_t* source;
     Variant value;
@@ -64,7 +64,7 @@ TEST(ParseExpression, GivesNumbersTheFirstTypeThatHoldsThem) {
   }
 }
 
-TEST(ParseExpression, HalvesDoubledQuotes) {
+TEST(ParseExpression, ReadsDoubledQuotesAsOne) {
   const struct {
     const char16_t* source;
     const char* text;
@@ -98,7 +98,7 @@ TEST(ParseExpression, ReadsDatesInTheAmericanOrder) {
   Locale::SetCurrent(before);
 }
 
-TEST(ParseExpression, GivesWordsTheirValues) {
+TEST(ParseExpression, ReadsLiteralsThatAreWords) {
   EXPECT_TRUE(LiteralOf(*ParseExpression(u"True")).Boolean());
   EXPECT_FALSE(LiteralOf(*ParseExpression(u"fALSE")).Boolean());
   EXPECT_TRUE(LiteralOf(*ParseExpression(u"Null")).IsNull());
@@ -108,7 +108,7 @@ TEST(ParseExpression, GivesWordsTheirValues) {
   EXPECT_EQ(LiteralOf(*tree).ObjectPtr(), nullptr);
 }
 
-TEST(Parse, WorksSignsIntoConstants) {
+TEST(Parse, AppliesSignsOfConstants) {
   const struct {
     const char16_t* source;
     VarType type;

@@ -14,7 +14,7 @@ std::u16string Times(std::u16string_view part, int times) {
   return text;
 }
 
-TEST(ParserLimits, EndsNestingBeyondTheLimit) {
+TEST(ParserLimits, FailsForNestingBeyondTheLimit) {
   const std::u16string_view parts[] = {
       u"If a Then\n", u"If a Then ", u"Do\n", u"While a\n", u"With a\n", u"Select Case a\nCase b\n",
   };
@@ -40,7 +40,7 @@ TEST(ParserLimits, EndsNestingBeyondTheLimit) {
   }
 }
 
-TEST(ParserLimits, EndsChainsThatWouldMakeADeepTree) {
+TEST(ParserLimits, FailsForChainsThatMakeTheTreeTooDeep) {
   for (const std::u16string_view link : {u".b", u"(1)", u".b(1).c"}) {
     for (const std::u16string_view start : {u"x = a", u"a", u"Set a"}) {
       try {
@@ -51,7 +51,7 @@ TEST(ParserLimits, EndsChainsThatWouldMakeADeepTree) {
       }
     }
   }
-  // Chains in the arguments of chains count together.
+  // Chains in the arguments of chains add up.
   std::u16string source = u"x = ";
   for (int i = 0; i < 20; ++i) source += u"f(";
   source += u"1";
@@ -59,7 +59,7 @@ TEST(ParserLimits, EndsChainsThatWouldMakeADeepTree) {
   EXPECT_THROW(Parse(source), SyntaxError);
 }
 
-TEST(ParserLimits, TakesWhatStaysWithinTheLimit) {
+TEST(ParserLimits, AcceptsNestingUpToTheLimit) {
   const std::u16string opened = Times(u"(", 200) + u"1" + Times(u")", 200);
   const auto parenthesised = Parse(u"x = " + opened);
   EXPECT_EQ(Print(*parenthesised), Text(u"x = " + opened + u"\n"));
@@ -69,7 +69,7 @@ TEST(ParserLimits, TakesWhatStaysWithinTheLimit) {
   EXPECT_NO_THROW(Parse(Times(u"If a Then ", 200) + u"x"));
 }
 
-TEST(ParserLimits, TakesLongFlatSources) {
+TEST(ParserLimits, AcceptsLongFlatSources) {
   const auto sum = Parse(u"x = 1" + Times(u" + 1", 1000000));
   EXPECT_EQ(Print(*sum).Size(), 6u + 4u * 1000000u);
   EXPECT_NO_THROW(Parse(u"If a Then\n" + Times(u"ElseIf b Then\n", 100000) + u"End If"));
@@ -85,7 +85,7 @@ TEST(ParserLimits, TakesLongFlatSources) {
 }
 
 TEST(ParserLimits, IsSafeForAnyCharacters) {
-  // Characters of all sorts behind the beginnings that put the lexer into each of its states.
+  // All kinds of characters, after beginnings that put the lexer into each of its states.
   const std::u16string_view starts[] = {u"",    u"x = ", u"a",  u"1", u"1.", u"1e", u"&",
                                         u"&h",  u"&hF",  u"\"", u"#", u"[",  u"'",  u"_",
                                         u"a _", u"x.",   u"<",  u">", u"=",  u"Rem"};

@@ -97,7 +97,7 @@ TEST(ParseExpression, GroupsByPrecedence) {
   }
 }
 
-TEST(Parse, TellsAssignmentsFromCalls) {
+TEST(Parse, DistinguishesAssignmentsFromCalls) {
   const TreeRow rows[] = {
       {u"x = 1", "x := 1"},
       {u"x = y = z", "x := {y = z}"},
@@ -355,7 +355,7 @@ TEST(Parse, ReadsClasses) {
   ExpectTrees(rows);
 }
 
-TEST(Parse, KeepsThePlacesOfNodes) {
+TEST(Parse, KeepsThePositionsOfNodes) {
   const auto tree = Parse(
       u"' one\n"
       u"x = a + _\n"
@@ -385,7 +385,7 @@ TEST(Parse, KeepsThePlacesOfNodes) {
   EXPECT_EQ(sub.endPosition, (Position{8, 0}));
 }
 
-TEST(Parse, KeepsTheSourceItsNodesReferTo) {
+TEST(Parse, OwnsTheSourceOfItsNodes) {
   std::unique_ptr<SyntaxTree> tree;
   {
     Text source = u"Dim veryLongNameThatNoSmallStringHolds";

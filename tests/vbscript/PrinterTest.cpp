@@ -63,7 +63,7 @@ TEST(Print, WritesAnExpression) {
   EXPECT_EQ(Print(*ParseExpression(u"a=b  or\tnot c")).ToUtf8(), "a = b Or Not c");
 }
 
-TEST(Print, IsReadBackAsTheSameProgram) {
+TEST(Print, ParsesBackToTheSameProgram) {
   int programs = 0;
   for (const auto& file :
        std::filesystem::recursive_directory_iterator(CARDWRIGHT_SOURCE_DIR "/tests/vbscript")) {

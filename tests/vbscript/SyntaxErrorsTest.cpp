@@ -30,8 +30,8 @@ void ExpectError(const ErrorRow& row) {
   }
 }
 
-// The programs of compile-errors/ have one row for each kind of error; these are its further forms.
-TEST(SyntaxError, NamesTheFaultAndItsPlace) {
+// The programs of compile-errors/ cover each error once; these are further forms of them.
+TEST(SyntaxError, HasNumberAndPosition) {
   const ErrorRow rows[] = {
       {u"x = ", 1002, {1, 4}},
       {u"x = )", 1002, {1, 4}},
@@ -291,7 +291,7 @@ TEST(SyntaxError, HasATextForEachNumber) {
   EXPECT_EQ(static_cast<int>(texts.size()), numbers);
 }
 
-TEST(ParseExpression, RefusesWhatIsNoLoneExpression) {
+TEST(ParseExpression, FailsForAnythingButOneExpression) {
   const ErrorRow rows[] = {
       {u"", 1002, {1, 0}},          {u"1 2", 1025, {1, 2}},  {u"1 : 2", 1025, {1, 2}},
       {u"x = 1 : y", 1025, {1, 6}}, {u"1\n2", 1025, {2, 0}}, {u"Dim x", 1002, {1, 0}},

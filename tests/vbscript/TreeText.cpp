@@ -76,7 +76,7 @@ std::string ForText(const ForStmt& loop) {
 
 std::string ProcedureText(const ProcedureDecl& procedure) {
   std::string text =
-      procedure.visibility == Visibility::Unsaid ? "" : Word(kVisibility, procedure.visibility);
+      procedure.visibility == Visibility::Default ? "" : Word(kVisibility, procedure.visibility);
   text += std::string(procedure.isDefault ? " Default " : " ") + Word(kProcedures, procedure.kind) + " " +
           SourceText(procedure.name) + "(";
   for (const Parameter& parameter : procedure.parameters) {
@@ -128,7 +128,7 @@ std::string TreeText(const Stmt& statement) {
     case StmtKind::Const: {
       const auto& constants = static_cast<const ConstStmt&>(statement);
       std::string text =
-          constants.visibility == Visibility::Unsaid ? "Const" : Word(kVisibility, constants.visibility);
+          constants.visibility == Visibility::Default ? "Const" : Word(kVisibility, constants.visibility);
       for (const ConstDecl& constant : constants.constants) {
         text += " " + SourceText(constant.name) + " = " + TreeText(*constant.expression);
       }

@@ -6,9 +6,9 @@
 
 namespace cardwright::vbscript {
 
-/// A tree as text that shows how it groups: `{a + {b * c}}` for operators, `<a>` for the author's
-/// parentheses, `f[a, _]` for a call and an argument left out, `x := e` for an assignment, `f![a]` for a call
-/// statement. Statements are joined by `; `, blocks stand in `{ }`.
+/// A tree as text that shows its structure: `{a + {b * c}}` for operators, `<a>` for parentheses of the
+/// author, `f[a, _]` for a call with an omitted argument, `x := e` for an assignment, `f![a]` for a call
+/// statement. Statements are separated by `; `, blocks are enclosed in `{ }`.
 std::string TreeText(const Expr& expression);
 std::string TreeText(const Stmt& statement);
 std::string TreeText(Block block);

@@ -3,13 +3,13 @@
 #include <mutex>
 #include <thread>
 
-#include "vbscript/Program.h"
+#include "vbscript/VbScriptProgram.h"
 
 namespace cardwright::vbscript {
 namespace {
 
 constexpr unsigned kThreads = 4;
-// Each thread takes some of the programs, and all of them take these.
+// Each thread runs some of the programs, and all of them run these.
 constexpr std::size_t kOfAll = 7;
 
 TEST(EngineThreads, RunProgramsAtTheSameTime) {
@@ -20,7 +20,7 @@ TEST(EngineThreads, RunProgramsAtTheSameTime) {
   for (unsigned part = 0; part < kThreads; ++part) {
     threads.emplace_back([&, part] {
       for (std::size_t k = 0; k < files.size(); ++k) {
-        // Those that go to the limits of the thread's stack need one of the first thread's size.
+        // Programs about the limits of the stack need one as large as the first thread's.
         if (files[k].parent_path().filename() == "limits" || (k % kThreads != part && k % kOfAll != 0))
           continue;
         const Program program = ReadProgram(files[k]);

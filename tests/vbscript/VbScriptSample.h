@@ -15,12 +15,12 @@
 
 namespace cardwright::vbscript {
 
-/// An object that a program gives to its scripts: notes what they say, calls back, holds a value.
+/// An object that the host gives to scripts. It records what they say, calls back, and has a property.
 class Gadget final : public TableObject {
  public:
   Text TypeName() const override { return u"Gadget"; }
 
-  std::string said;  ///< UTF-8, what each Say had, separated by "; "
+  std::string said;  ///< arguments of the calls of Say in UTF-8, separated by "; "
   std::function<Variant(Args)> onCall;
   Variant value;
 
@@ -47,7 +47,7 @@ class Gadget final : public TableObject {
   static Variant Left(Object&, Args) { return u"the gadget's"; }
 };
 
-/// A program that embeds one engine, with a Gadget named Host.
+/// Embeds one engine, with a Gadget named Host.
 class EngineTest : public ::testing::Test {
  protected:
   explicit EngineTest(const Limits& limits = {}) { Start(limits); }
@@ -63,10 +63,10 @@ class EngineTest : public ::testing::Test {
   std::string Value(std::u16string_view expression, std::u16string_view module = {}) {
     return ToText(m_Engine->Evaluate(module, expression)).ToUtf8();
   }
-  /// What the scripts said since the last time.
+  /// What the scripts have said since the last call.
   std::string Said() { return std::exchange(m_Gadget->said, {}); }
 
-  /// Number of the error that a step ends with; 0 for none.
+  /// Number of the error that the step raises; 0 for none.
   template <class Step>
   static int ErrorOf(Step&& step) {
     try {

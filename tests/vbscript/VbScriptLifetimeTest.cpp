@@ -1,4 +1,4 @@
-#include "vbscript/EngineSample.h"
+#include "vbscript/VbScriptSample.h"
 
 namespace cardwright::vbscript {
 namespace {
@@ -12,7 +12,7 @@ class EngineLifetime : public EngineTest {
   EngineLifetime() { Add(kThing); }
 };
 
-TEST_F(EngineLifetime, ObjectsEndWhenTheLastReferenceGoes) {
+TEST_F(EngineLifetime, ObjectsEndWithTheirLastReference) {
   const struct {
     const char16_t* code;
     const char* said;
@@ -52,7 +52,7 @@ TEST_F(EngineLifetime, ObjectsEndWhenTheLastReferenceGoes) {
   }
 }
 
-TEST_F(EngineLifetime, WhatTheHostHoldsStays) {
+TEST_F(EngineLifetime, ObjectsHeldByTheHostStay) {
   Add(u"Set x = Make(1)");
   {
     const Variant held = m_Engine->Evaluate({}, u"x");
@@ -79,7 +79,7 @@ TEST_F(EngineLifetime, CyclesEndWithTheirEngine) {
   EXPECT_EQ(said.size(), std::string("end 1; end 2; end 2").size()) << said;
 }
 
-TEST_F(EngineLifetime, AnErrorInTheEndOfAnObjectHoldsNothingUp) {
+TEST_F(EngineLifetime, IgnoresErrorsInClassTerminate) {
   Add(u"Class Bad\nSub Class_Terminate: Host.Say \"bad\": x = 1 \\ 0: Host.Say \"never\": End Sub\nEnd "
       u"Class\n"
       u"Set x = New Bad: Set y = Make(1): Set c = New Bad");
@@ -90,7 +90,7 @@ TEST_F(EngineLifetime, AnErrorInTheEndOfAnObjectHoldsNothingUp) {
   EXPECT_EQ(said.find("never"), std::string::npos);
 }
 
-TEST_F(EngineLifetime, ObjectsMadeAtTheEndDoNotHoldItUp) {
+TEST_F(EngineLifetime, EndsDespiteObjectsCreatedMeanwhile) {
   Add(u"Class Phoenix\nSub Class_Terminate: Host.Say \"again\": Set g = New Phoenix: "
       u"ExecuteGlobal \"Dim \" & \"n\" & CLng(Rnd * 1000000): End Sub\nEnd Class\nDim g: Set g = New "
       u"Phoenix");
@@ -98,7 +98,7 @@ TEST_F(EngineLifetime, ObjectsMadeAtTheEndDoNotHoldItUp) {
   EXPECT_EQ(Said(), "again");
 }
 
-TEST_F(EngineLifetime, WhatOutlivesItsEngineRefusesCalls) {
+TEST_F(EngineLifetime, ObjectsThatOutliveTheEngineRefuseCalls) {
   Add(u"Function F: F = 1: End Function\nSet x = Make(1)");
   const Variant instance = m_Engine->Evaluate({}, u"x");
   const Variant function = m_Engine->Evaluate({}, u"GetRef(\"F\")");
@@ -112,7 +112,7 @@ TEST_F(EngineLifetime, WhatOutlivesItsEngineRefusesCalls) {
   EXPECT_EQ(ErrorOf([&] { DefaultValue(function); }), 17);
 }
 
-TEST_F(EngineLifetime, ARedefinedClassIsAnotherOne) {
+TEST_F(EngineLifetime, CallsUseTheCurrentDefinitionOfAClass) {
   Add(u"Sub Use(o): Host.Say o.Tell: End Sub");
   for (int k = 0; k < 20; ++k) {
     Add(u"ExecuteGlobal \"Class Again: Public a" + Text::FromUtf8(std::to_string(k)) +
@@ -133,27 +133,27 @@ class EnginePair : public EngineTest {
     m_Other->AddObject(u"Host", m_Gadget, false);
     m_Other->AddObject(u"Theirs", Ref<Object>(&RequireObject(m_Engine->Evaluate({}, u"New C"))), false);
     m_Other->AddObject(u"Func", Ref<Object>(&RequireObject(m_Engine->Evaluate({}, u"GetRef(\"F\")"))), false);
-    // Names of its own, so that the same number is another name here.
+    // More names, so that the same NameId is another name in this engine.
     m_Other->AddCode({}, u"Dim q, w, e, r, t, z, u, i, o, p: x = \"second's\"");
   }
   std::unique_ptr<ScriptEngine> m_Other = MakeEngine(m_ScriptHost);
 };
 
-TEST_F(EnginePair, WorksWithTheOthersObjects) {
+TEST_F(EnginePair, CallsObjectsOfTheOtherEngine) {
   m_Other->AddCode({},
                    u"Theirs.Field = 1: n = 5: s = Theirs.M(n): Theirs.P = \"p\"\n"
                    u"Host.Say TypeName(Theirs), Theirs.Field, s, n, Theirs(7), Func(8)");
   EXPECT_EQ(Said(), "C p! first's 6 7first's first's8");
 }
 
-TEST_F(EnginePair, MeetsTheOthersErrors) {
+TEST_F(EnginePair, GetsErrorsOfTheOtherEngine) {
   m_Other->AddCode({},
                    u"On Error Resume Next\nTheirs.Fail: Host.Say Err.Number: Theirs.Secret = 1: "
                    u"Host.Say Err.Number: Theirs.None: Host.Say Err.Number");
   EXPECT_EQ(Said(), "11; 438; 438");
 }
 
-TEST_F(EnginePair, MayOutliveTheOther) {
+TEST_F(EnginePair, OneMayOutliveTheOther) {
   m_Engine.reset();
   m_Other->AddCode({},
                    u"On Error Resume Next\nHost.Say TypeName(Theirs): x = Theirs.Field: "

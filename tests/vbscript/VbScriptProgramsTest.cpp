@@ -4,7 +4,7 @@
 #include <filesystem>
 #include <ostream>
 
-#include "vbscript/Program.h"
+#include "vbscript/VbScriptProgram.h"
 
 namespace cardwright::vbscript {
 namespace {
@@ -26,7 +26,7 @@ std::vector<ProgramFile> AllPrograms() {
   return files;
 }
 
-// Test names have letters, digits and underlines only: text/a-b.vbs is text_a_b.
+// Test names consist of letters, digits and underscores: text/a-b.vbs becomes text_a_b.
 std::string TestName(const ::testing::TestParamInfo<ProgramFile>& info) {
   std::string name = info.param.name;
   std::ranges::replace_if(
@@ -34,9 +34,9 @@ std::string TestName(const ::testing::TestParamInfo<ProgramFile>& info) {
   return name;
 }
 
-class ProgramsTest : public ::testing::TestWithParam<ProgramFile> {};
+class VbScriptPrograms : public ::testing::TestWithParam<ProgramFile> {};
 
-TEST_P(ProgramsTest, ShowsWhatItsCommentsSay) {
+TEST_P(VbScriptPrograms, DoWhatTheirCommentsExpect) {
   const Program program = ReadProgram(GetParam().Path());
   for (const std::string& fault : program.faults) ADD_FAILURE() << GetParam().Path() << ": " << fault;
   const ProgramOutcome actual = RunProgram(program);
@@ -45,7 +45,7 @@ TEST_P(ProgramsTest, ShowsWhatItsCommentsSay) {
                                               << actual;
 }
 
-INSTANTIATE_TEST_SUITE_P(Data, ProgramsTest, ::testing::ValuesIn(AllPrograms()), TestName);
+INSTANTIATE_TEST_SUITE_P(Data, VbScriptPrograms, ::testing::ValuesIn(AllPrograms()), TestName);
 
 }  // namespace
 }  // namespace cardwright::vbscript

@@ -1,4 +1,4 @@
-#include "vbscript/Program.h"
+#include "vbscript/VbScriptProgram.h"
 
 #include "cardwright/automation/Errors.h"
 #include "cardwright/scripting/Dictionary.h"

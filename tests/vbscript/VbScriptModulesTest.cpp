@@ -1,4 +1,4 @@
-#include "vbscript/EngineSample.h"
+#include "vbscript/VbScriptSample.h"
 
 namespace cardwright::vbscript {
 namespace {
@@ -9,7 +9,7 @@ class EngineModules : public EngineTest {
   void AddTo(std::u16string_view module, std::u16string_view code) { m_Engine->AddCode(module, code); }
 };
 
-TEST_F(EngineModules, SeeTheGlobalOnesNamesAndNotEachOthers) {
+TEST_F(EngineModules, SeeGlobalNamesButNotEachOthers) {
   Add(u"shared = 1\nFunction F: F = \"global\": End Function\nConst K = 7\nClass C\nPublic v\nEnd Class");
   AddTo(u"Init", u"own = 2\nHost.Say shared, F, K, TypeName(New C)");
   EXPECT_EQ(Said(), "1 global 7 C");
@@ -20,14 +20,14 @@ TEST_F(EngineModules, SeeTheGlobalOnesNamesAndNotEachOthers) {
   EXPECT_EQ(Said(), "Empty");
 }
 
-TEST_F(EngineModules, ChangeTheGlobalOnesVariables) {
+TEST_F(EngineModules, AssignGlobalVariables) {
   Add(u"Dim bound, f(2)");
   AddTo(u"Init", u"Sub Main()\nbound = 5\nf(1) = 6\nEnd Sub");
   m_Engine->Run(u"Init", u"Main", {});
   EXPECT_EQ(Value(u"bound & f(1)"), "56");
 }
 
-TEST_F(EngineModules, FindTheirOwnNamesFirst) {
+TEST_F(EngineModules, PreferTheirOwnNames) {
   Add(u"x = \"global\"\nFunction F: F = \"global F\": End Function\nFunction G: G = F & x: End Function");
   AddTo(u"Init", u"Dim x\nx = \"own\"\nFunction F: F = \"own F\": End Function\nHost.Say x, F, G");
   EXPECT_EQ(Said(), "own own F global Fglobal");
@@ -35,14 +35,14 @@ TEST_F(EngineModules, FindTheirOwnNamesFirst) {
   EXPECT_EQ(Value(u"x"), "global");
 }
 
-TEST_F(EngineModules, FindNamesThatTheGlobalOneGetsLater) {
+TEST_F(EngineModules, SeeGlobalNamesAddedLater) {
   AddTo(u"Init", u"Function Ask: Ask = TypeName(later) & Missing(): End Function");
   EXPECT_EQ(ErrorOf([&] { m_Engine->Run(u"Init", u"Ask", {}); }), 13);
   Add(u"later = 1\nFunction Missing: Missing = \"!\": End Function");
   EXPECT_EQ(ToText(m_Engine->Run(u"Init", u"Ask", {})).ToUtf8(), "Integer!");
 }
 
-TEST_F(EngineModules, AreKnownByNameWhateverItsCase) {
+TEST_F(EngineModules, AreFoundInAnyCase) {
   EXPECT_EQ(ErrorOf([&] { m_Engine->AddModule(u"INIT"); }), 5);
   EXPECT_EQ(ErrorOf([&] { m_Engine->AddModule(u""); }), 5) << "the global module";
   AddTo(u"iNIT", u"Function F: F = 1: End Function");
@@ -62,7 +62,7 @@ TEST_F(EngineModules, ExecutedCodeBelongsToTheModuleThatExecutesIt) {
   EXPECT_EQ(Said(), "Empty");
 }
 
-TEST_F(EngineModules, TellTheirProcedures) {
+TEST_F(EngineModules, ListTheirProcedures) {
   Add(u"Sub First(a, b): End Sub\nFunction Second: End Function\nClass C\nSub Method: End Sub\nEnd Class\n"
       u"Private Function Third(ByVal x): End Function");
   const std::vector<ScriptProcedure> procedures = m_Engine->Procedures({});
@@ -80,7 +80,7 @@ TEST_F(EngineModules, TellTheirProcedures) {
   EXPECT_TRUE(m_Engine->Procedures(u"Init").empty());
 }
 
-TEST_F(EngineModules, TellAReplacedProcedureAsItIsNow) {
+TEST_F(EngineModules, ListRedefinedProceduresAsTheyAreNow) {
   Add(u"Sub A: End Sub\nSub B: End Sub");
   Add(u"Function a(x): End Function");
   ASSERT_EQ(m_Engine->Procedures({}).size(), 2u);
@@ -88,7 +88,7 @@ TEST_F(EngineModules, TellAReplacedProcedureAsItIsNow) {
   EXPECT_TRUE(m_Engine->Procedures({})[0].returnsValue);
 }
 
-TEST_F(EngineModules, CodeThatDoesNotCompileLeavesThemAsTheyWere) {
+TEST_F(EngineModules, CodeThatDoesNotCompileChangesNothing) {
   Add(u"x = 1");
   EXPECT_EQ(ErrorOfCode(u"x = 2\nSub S: End Sub\ny = = 3"), 1002);
   EXPECT_EQ(Value(u"x"), "1");
@@ -103,21 +103,21 @@ TEST_F(EngineRun, CallsAProcedureByNameWithArguments) {
   EXPECT_TRUE(Run(u"S").IsEmpty()) << "a Sub gives nothing";
 }
 
-TEST_F(EngineRun, RefusesWhatIsNoProcedure) {
+TEST_F(EngineRun, FailsForAnythingButAProcedure) {
   Add(u"Dim v\nConst K = 1\nClass C\nEnd Class\nFunction F(a): F = a: End Function");
   for (const char16_t* name : {u"v", u"K", u"C", u"None", u"", u"Len", u"Host", u"F(1)"})
     EXPECT_EQ(ErrorOf([&] { Run(name); }), 5) << Text(name).ToUtf8();
   EXPECT_EQ(m_Engine->LastError().number, 0);
 }
 
-TEST_F(EngineRun, RefusesAWrongCountOfArguments) {
+TEST_F(EngineRun, FailsForAWrongNumberOfArguments) {
   Add(u"Function F(a): F = a: End Function");
   EXPECT_EQ(ErrorOf([&] { Run(u"F"); }), 450);
   EXPECT_EQ(ErrorOf([&] { Run(u"F", {1, 2}); }), 450);
   EXPECT_EQ(ToLong(Run(u"F", {3})), 3);
 }
 
-TEST_F(EngineRun, WritesBackWhatIsPassedByReference) {
+TEST_F(EngineRun, WritesBackArgumentsPassedByReference) {
   Add(u"Sub Change(a, ByVal b, c): a = a + 1: b = b + 1: c(0) = \"new\": End Sub");
   const std::vector<Text> texts{u"old"};
   Variant a = 1, b = 1, c = Array::FromTexts(texts);
@@ -130,7 +130,7 @@ TEST_F(EngineRun, WritesBackWhatIsPassedByReference) {
   EXPECT_EQ(ToLong(plain[0]), 1) << "a plain argument is the script's own";
 }
 
-TEST_F(EngineRun, GivesArraysAndObjects) {
+TEST_F(EngineRun, ReturnsArraysAndObjects) {
   Add(u"Class C\nPublic v\nEnd Class\nFunction A: A = Array(1, 2): End Function\n"
       u"Function O: Set O = New C: O.v = 5: End Function");
   EXPECT_EQ(Run(u"A").ArrayPtr()->Find(1)->Long(), 2);
@@ -149,13 +149,13 @@ TEST_F(EngineRun, EvaluatesExpressions) {
 
 using EngineObjects = EngineTest;
 
-TEST_F(EngineObjects, AreThereByName) {
+TEST_F(EngineObjects, AreFoundByName) {
   m_Gadget->value = 3;
   Add(u"HOST.Value = host.value + 1\nSet alias = Host\nalias.Say TypeName(Host), Host.Value");
   EXPECT_EQ(Said(), "Gadget 4");
 }
 
-TEST_F(EngineObjects, TakeEachNameOnce) {
+TEST_F(EngineObjects, NeedNamesOfTheirOwn) {
   EXPECT_EQ(ErrorOf([&] { m_Engine->AddObject(u"HOST", m_Gadget, false); }), 5);
   EXPECT_EQ(ErrorOf([&] { m_Engine->AddObject(u"Err", m_Gadget, false); }), 5);
   EXPECT_EQ(ErrorOf([&] { m_Engine->AddObject(u"", m_Gadget, false); }), 5);
@@ -166,7 +166,7 @@ TEST_F(EngineObjects, TakeEachNameOnce) {
   EXPECT_EQ(Said(), "True");
 }
 
-TEST_F(EngineObjects, LendTheirMembersWhereAsked) {
+TEST_F(EngineObjects, MayMakeTheirMembersGlobal) {
   EXPECT_EQ(ErrorOfCode(u"Say 1"), 13);
   m_Engine->AddObject(u"Open", m_Gadget, true);
   Add(u"Value = 5\nSay Value, Host.Value\nValue = Value & \"!\"\nCall Say(Value)");
@@ -176,7 +176,7 @@ TEST_F(EngineObjects, LendTheirMembersWhereAsked) {
   EXPECT_EQ(ToLong(m_Gadget->value), 1);
 }
 
-TEST_F(EngineObjects, ComeAfterTheScriptsOwnNames) {
+TEST_F(EngineObjects, AreHiddenByNamesOfTheScript) {
   m_Engine->AddObject(u"Open", m_Gadget, true);
   Add(u"Function Say(x): Host.Say \"own\", x: End Function\nSay 1\nSub S\nDim Value\nValue = 2\nEnd Sub\nS");
   EXPECT_EQ(Said(), "own 1");
@@ -185,7 +185,7 @@ TEST_F(EngineObjects, ComeAfterTheScriptsOwnNames) {
   EXPECT_EQ(Value(u"Open"), "1");
 }
 
-TEST_F(EngineObjects, ComeBeforeTheLibrary) {
+TEST_F(EngineObjects, HideNamesOfTheLibrary) {
   EXPECT_EQ(Value(u"Left(\"abc\", 1)"), "a");
   m_Engine->AddObject(u"Open", m_Gadget, true);
   EXPECT_EQ(Value(u"Left(\"abc\", 1)"), "the gadget's") << "though the script has used the library's before";
@@ -194,7 +194,7 @@ TEST_F(EngineObjects, ComeBeforeTheLibrary) {
   EXPECT_EQ(Value(u"TypeName(Len)"), "Gadget");
 }
 
-TEST_F(EngineObjects, ShowNothingWhereThatIsForbidden) {
+TEST_F(EngineObjects, ShowNoBoxesWithoutAllowUI) {
   m_Engine->SetAllowUI(false);
   Add(u"Host.Say MsgBox(\"x\"), TypeName(InputBox(\"x\"))");
   EXPECT_EQ(Said(), "0 Empty");

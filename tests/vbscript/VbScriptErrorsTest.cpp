@@ -1,11 +1,11 @@
-#include "vbscript/EngineSample.h"
+#include "vbscript/VbScriptSample.h"
 
 namespace cardwright::vbscript {
 namespace {
 
 using EngineErrors = EngineTest;
 
-TEST_F(EngineErrors, TellTheirPlace) {
+TEST_F(EngineErrors, HaveThePositionOfTheStatement) {
   const struct {
     const char16_t* code;
     int number, line, column;
@@ -32,7 +32,7 @@ TEST_F(EngineErrors, TellTheirPlace) {
   }
 }
 
-TEST_F(EngineErrors, TellTheirSource) {
+TEST_F(EngineErrors, HaveASource) {
   ErrorOfCode(u"x = 1 \\ 0");
   EXPECT_EQ(m_Engine->LastError().source.ToUtf8(), "Microsoft VBScript runtime error");
   ErrorOfCode(u"Err.Raise 1000, \"me\"");
@@ -41,7 +41,7 @@ TEST_F(EngineErrors, TellTheirSource) {
   EXPECT_EQ(m_Engine->LastError().source.ToUtf8(), "Microsoft VBScript compilation error");
 }
 
-TEST_F(EngineErrors, StayUntilTheNextCallOrAreCleared) {
+TEST_F(EngineErrors, StayUntilTheNextCallOrClearError) {
   ErrorOfCode(u"x = 1 \\ 0");
   EXPECT_EQ(m_Engine->LastError().number, 11);
   EXPECT_EQ(ErrorOf([&] { Run(u"None"); }), 5);
@@ -56,12 +56,12 @@ TEST_F(EngineErrors, StayUntilTheNextCallOrAreCleared) {
   EXPECT_EQ(m_Engine->LastError().number, 0);
 }
 
-TEST_F(EngineErrors, ThatTheScriptHandlesAreNotTold) {
+TEST_F(EngineErrors, HandledByTheScriptAreNotReported) {
   Add(u"On Error Resume Next\nx = 1 \\ 0");
   EXPECT_EQ(m_Engine->LastError().number, 0);
 }
 
-/// Its scripts call `Again`, which runs the procedure that it names.
+/// Scripts call `Again`, which runs the procedure of the given name.
 class EngineNesting : public EngineTest {
  protected:
   EngineNesting() {
@@ -72,26 +72,26 @@ class EngineNesting : public EngineTest {
   }
 };
 
-TEST_F(EngineNesting, GoesAsDeepAsTheScriptsLike) {
+TEST_F(EngineNesting, CallsOfHostAndScriptNest) {
   Add(u"Function Sum(n)\nIf n = 0 Then Sum = 0 Else Sum = n + Host.Callback(\"Sum\", n - 1)\nEnd Function");
   EXPECT_EQ(ToLong(Run(u"Sum", {20})), 210);
   EXPECT_EQ(Value(u"Sum(10)"), "55");
 }
 
-TEST_F(EngineNesting, WithoutEndIsOutOfStackSpace) {
+TEST_F(EngineNesting, EndlessNestingIsOutOfStackSpace) {
   Add(u"Sub S: Host.Callback \"S\": End Sub");
   EXPECT_EQ(ErrorOf([&] { Run(u"S"); }), 28);
   Add(u"Host.Say 1");
   EXPECT_EQ(Said(), "1");
 }
 
-TEST_F(EngineNesting, LetsErrorsThroughWithTheInnermostPlace) {
+TEST_F(EngineNesting, ErrorsKeepTheInnermostPosition) {
   Add(u"Sub Inner\n  x = 1 \\ 0\nEnd Sub\nSub Outer\n  Host.Callback \"Inner\"\nEnd Sub");
   EXPECT_EQ(ErrorOf([&] { Run(u"Outer"); }), 11);
   EXPECT_EQ(m_Engine->LastError().line, 2);
 }
 
-TEST_F(EngineNesting, ErrorsInsideCanBePassedOverOutside) {
+TEST_F(EngineNesting, ErrorsOfInnerCallsCanBePassedOver) {
   Add(u"Sub Inner: Err.Raise 77, \"s\", \"d\": End Sub\nSub Outer\nOn Error Resume Next\n"
       u"Host.Callback \"Inner\"\nHost.Say Err.Number, Err.Source, Err.Description\nEnd Sub");
   Run(u"Outer");
@@ -99,7 +99,7 @@ TEST_F(EngineNesting, ErrorsInsideCanBePassedOverOutside) {
   EXPECT_EQ(m_Engine->LastError().number, 0) << "the latest call went well";
 }
 
-TEST_F(EngineNesting, EachLevelHasAnErrOfItsOwn) {
+TEST_F(EngineNesting, EachCallHasAnErrOfItsOwn) {
   Add(u"Sub Inner\nOn Error Resume Next\nHost.Say Err.Number\nx = CInt(\"x\")\nHost.Say Err.Number\nEnd Sub\n"
       u"Sub Outer\nOn Error Resume Next\nx = 1 \\ 0\nHost.Callback \"Inner\"\n"
       u"Host.Say Err.Number, Err.Description\nEnd Sub");
@@ -107,7 +107,7 @@ TEST_F(EngineNesting, EachLevelHasAnErrOfItsOwn) {
   EXPECT_EQ(Said(), "0; 13; 11 Division by zero");
 }
 
-TEST_F(EngineNesting, AnErrorOfTheHostIsTheScripts) {
+TEST_F(EngineNesting, ErrorsOfTheHostAreRaisedInTheScript) {
   m_Gadget->onCall = [](Args) -> Variant { Raise(4711, u"said so", u"the host"); };
   Add(u"On Error Resume Next\nHost.Callback\nHost.Say Err.Number, Err.Source, Err.Description");
   EXPECT_EQ(Said(), "4711 the host said so");
@@ -116,7 +116,7 @@ TEST_F(EngineNesting, AnErrorOfTheHostIsTheScripts) {
   EXPECT_EQ(m_Engine->LastError().column, 1);
 }
 
-TEST_F(EngineNesting, AnErrorOfAnotherEngineHasItsPlaceWhereThisOneCalledOut) {
+TEST_F(EngineNesting, ErrorsOfAnotherEngineHaveThePositionOfTheCall) {
   const auto other = MakeEngine(m_ScriptHost);
   other->AddCode({}, u"\n\n\nSub Fail\n  x = y.z\nEnd Sub");
   m_Gadget->onCall = [&](Args) { return other->Run({}, u"Fail", {}); };
@@ -126,7 +126,7 @@ TEST_F(EngineNesting, AnErrorOfAnotherEngineHasItsPlaceWhereThisOneCalledOut) {
   EXPECT_EQ(other->LastError().line, 5);
 }
 
-TEST_F(EngineNesting, CodeMayBeAddedFromInside) {
+TEST_F(EngineNesting, ACalledHostMayAddCode) {
   m_Gadget->onCall = [this](Args args) {
     m_Engine->AddCode({}, ToText(args[0]));
     m_Engine->AddModule(ToText(args[1]));
@@ -138,7 +138,7 @@ TEST_F(EngineNesting, CodeMayBeAddedFromInside) {
   EXPECT_EQ(Said(), "2 2; late; 5");
 }
 
-TEST_F(EngineNesting, AVariableHandedOutByReferenceIsWritten) {
+TEST_F(EngineNesting, TheHostWritesVariablesPassedByReference) {
   m_Gadget->onCall = [](Args args) {
     for (Variant& arg : args) arg.Deref() = u"written";
     return Variant();
@@ -148,7 +148,7 @@ TEST_F(EngineNesting, AVariableHandedOutByReferenceIsWritten) {
   EXPECT_EQ(Said(), "written written Empty written");
 }
 
-/// Writes down what it is told.
+/// Records the reports.
 class Log final : public ScriptObserver {
  public:
   void OnStatement(std::u16string_view module, int line, int column) override {
@@ -159,7 +159,7 @@ class Log final : public ScriptObserver {
 
 using EngineObserver = EngineTest;
 
-TEST_F(EngineObserver, IsToldOfEachStatement) {
+TEST_F(EngineObserver, ReportsEachStatement) {
   Log log;
   m_Engine->SetObserver(&log);
   m_Engine->AddModule(u"M");

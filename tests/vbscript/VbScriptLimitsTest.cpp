@@ -2,7 +2,7 @@
 #include <thread>
 
 #include "cardwright/automation/MemoryBudget.h"
-#include "vbscript/EngineSample.h"
+#include "vbscript/VbScriptSample.h"
 
 namespace cardwright::vbscript {
 namespace {
@@ -12,7 +12,7 @@ using std::chrono::steady_clock;
 
 constexpr int kInterrupted = 18;
 
-// Programs that never end, each by another kind of step.
+// Programs that never end, each with another kind of step.
 constexpr const char16_t* kEndless[] = {
     u"Do: Loop",
     u"While True: Wend",
@@ -31,12 +31,12 @@ constexpr const char16_t* kEndless[] = {
     u"Sub S(n)\nIf n > 0 Then r n - 1: r n - 1\nEnd Sub\nSet r = GetRef(\"S\")\nr 200",
     u"Function F(n)\nIf n > 0 Then x = Eval(\"F(n - 1)\"): y = Eval(\"F(n - 1)\")\nEnd Function\nx = F(50)",
     u"Sub S\nOn Error Resume Next\nDo: Host.Callback: Loop\nEnd Sub\nS",
-    // No step of these is long, but there is none that would count.
+    // The steps of these are short, and none of them counts as a jump or a call.
     u"Class C\nPublic n\nPublic Default Property Get V\nn = n + 1\nIf n < 200 Then V = Me + Me\n"
     u"n = n - 1\nEnd Property\nEnd Class\nSet o = New C\nx = o + 1",
     u"Class C\nSub Class_Terminate\nSet a = New C\nSet a = New C\nEnd Sub\nEnd Class\nSet o = New C\n"
     u"Set o = Nothing",
-    // Each step of these is long.
+    // The steps of these take long.
     u"On Error Resume Next\nSet r = New RegExp\nr.Pattern = \"(a+)+$\"\n"
     u"Do: x = r.Test(String(4000, \"a\") & \"b\"): Loop",
     u"s = String(3000000, \"a\")\nDo: x = InStr(s, \"b\"): Loop",
@@ -61,7 +61,7 @@ class EngineStops : public EngineTest, public ::testing::WithParamInterface<cons
   }
 };
 
-TEST_P(EngineStops, WhenAnotherThreadSaysSo) {
+TEST_P(EngineStops, WhenAnotherThreadInterrupts) {
   std::thread other([this] {
     std::this_thread::sleep_for(milliseconds(15));
     m_Engine->Interrupt();
@@ -71,7 +71,7 @@ TEST_P(EngineStops, WhenAnotherThreadSaysSo) {
   ExpectWorking();
 }
 
-TEST_P(EngineStops, AfterItsTime) {
+TEST_P(EngineStops, AtTheTimeout) {
   m_Engine->SetTimeout(15);
   EXPECT_EQ(ErrorOfCode(GetParam()), kInterrupted);
   m_Engine->SetTimeout(-1);
@@ -82,13 +82,13 @@ INSTANTIATE_TEST_SUITE_P(Endless, EngineStops, ::testing::ValuesIn(kEndless));
 
 using EngineInterrupt = EngineTest;
 
-TEST_F(EngineInterrupt, OfAnIdleEngineStopsNothing) {
+TEST_F(EngineInterrupt, OfAnIdleEngineHasNoEffect) {
   m_Engine->Interrupt();
   Add(u"For i = 1 To 10000: Next: Host.Say i");
   EXPECT_EQ(Said(), "10001");
 }
 
-TEST_F(EngineInterrupt, CannotBeCaughtByAnyLevel) {
+TEST_F(EngineInterrupt, CannotBeCaughtByAnyCall) {
   Add(u"Sub Inner\nOn Error Resume Next\nHost.Callback 1\nHost.Say \"inner goes on\"\nEnd Sub\n"
       u"Sub Outer\nOn Error Resume Next\nHost.Callback 0\nHost.Say \"outer goes on\"\nEnd Sub");
   m_Gadget->onCall = [this](Args args) {
@@ -100,7 +100,7 @@ TEST_F(EngineInterrupt, CannotBeCaughtByAnyLevel) {
   EXPECT_EQ(Said(), "");
 }
 
-TEST_F(EngineInterrupt, StopsBehindALongLibraryCall) {
+TEST_F(EngineInterrupt, StopsAfterALongLibraryCall) {
   m_Gadget->onCall = [this](Args) {
     m_Engine->Interrupt();
     return Variant(u"a");
@@ -110,7 +110,7 @@ TEST_F(EngineInterrupt, StopsBehindALongLibraryCall) {
   EXPECT_EQ(Said(), "");
 }
 
-TEST_F(EngineInterrupt, OfOneEngineLeavesTheOthersAlone) {
+TEST_F(EngineInterrupt, DoesNotStopOtherEngines) {
   const auto other = MakeEngine(m_ScriptHost);
   other->Interrupt();
   m_Gadget->onCall = [&](Args) {
@@ -123,7 +123,7 @@ TEST_F(EngineInterrupt, OfOneEngineLeavesTheOthersAlone) {
 
 using EngineTimeout = EngineTest;
 
-TEST_F(EngineTimeout, IsThatOfTheOutermostCall) {
+TEST_F(EngineTimeout, AppliesToTheOutermostCall) {
   m_Gadget->onCall = [this](Args) { return m_Engine->Run({}, u"Brief", {}); };
   Add(u"Sub Brief: For k = 1 To 100: Next: End Sub\nSub Long: Do: Host.Callback: Loop: End Sub");
   m_Engine->SetTimeout(30);
@@ -152,7 +152,7 @@ class EngineLimits : public EngineTest {
   }
 };
 
-TEST_F(EngineLimits, OfDepthIsError28) {
+TEST_F(EngineLimits, CallDepthIsError28) {
   const char16_t* const programs[] = {
       u"Sub S: S: End Sub\nS",
       u"Function F: F = F() + 1: End Function\nx = F",
@@ -166,13 +166,13 @@ TEST_F(EngineLimits, OfDepthIsError28) {
   }
 }
 
-TEST_F(EngineLimits, OfDepthIsExact) {
+TEST_F(EngineLimits, CallDepthIsExact) {
   Add(u"Function D(n)\nIf n > 1 Then D = D(n - 1)\nEnd Function");
   EXPECT_EQ(ErrorOf([&] { Run(u"D", {50}); }), 0);
   EXPECT_EQ(ErrorOf([&] { Run(u"D", {51}); }), 28);
 }
 
-TEST_F(EngineLimits, OfTextsIsError14) {
+TEST_F(EngineLimits, TextLengthIsError14) {
   const char16_t* const programs[] = {
       u"s = String(1001, \"x\")",
       u"s = Space(1001)",
@@ -189,7 +189,7 @@ TEST_F(EngineLimits, OfTextsIsError14) {
   }
 }
 
-TEST_F(EngineLimits, OfMemoryIsError7) {
+TEST_F(EngineLimits, MemoryIsError7) {
   const char16_t* const programs[] = {
       u"ReDim a(1000000)",
       u"Dim b(): ReDim b(1): Do: ReDim Preserve b(2 * UBound(b)): Loop",
@@ -214,7 +214,7 @@ TEST_F(EngineLimits, OfMemoryIsError7) {
   }
 }
 
-TEST_F(EngineLimits, OfMemoryHoldsForTheVariablesOfRunningProcedures) {
+TEST_F(EngineLimits, MemoryIncludesVariablesOfRunningProcedures) {
   std::u16string code = u"Sub Deep(n)\nDim v0";
   for (int k = 1; k < 3000; ++k) code += u", v" + std::u16string(Text::FromUtf8(std::to_string(k)).View());
   Add(code + u"\nIf n > 0 Then Deep n - 1\nEnd Sub");
@@ -223,7 +223,7 @@ TEST_F(EngineLimits, OfMemoryHoldsForTheVariablesOfRunningProcedures) {
   ExpectWorking();
 }
 
-TEST_F(EngineLimits, OfMemoryHoldsForSourcesThatAreExecuted) {
+TEST_F(EngineLimits, MemoryIncludesExecutedSources) {
   Limits limits = Small();
   limits.textUnits = 1 << 20;
   limits.memoryBytes = 4 << 20;
@@ -232,7 +232,7 @@ TEST_F(EngineLimits, OfMemoryHoldsForSourcesThatAreExecuted) {
   ExpectWorking();
 }
 
-TEST_F(EngineLimits, OfMemoryHoldsForThePlacesOfAReplacement) {
+TEST_F(EngineLimits, MemoryIncludesMatchesOfAReplacement) {
   Limits limits = Small();
   limits.textUnits = 1 << 20;
   limits.memoryBytes = 4 << 20;
@@ -241,20 +241,20 @@ TEST_F(EngineLimits, OfMemoryHoldsForThePlacesOfAReplacement) {
   ExpectWorking();
 }
 
-TEST_F(EngineLimits, ExecutedTextsLeaveNoMemoryBehind) {
+TEST_F(EngineLimits, ExecutedTextsReleaseTheirMemory) {
   Add(u"For i = 1 To 10: Execute \"x = 1: Dim y: y = 2\": Next");
   const std::size_t used = MemoryBudget::Used();
   Add(u"For i = 1 To 2000: Execute \"x = 1: Dim y: y = 2\": Next");
   EXPECT_EQ(MemoryBudget::Used(), used);
 }
 
-TEST_F(EngineLimits, CanBePassedOver) {
+TEST_F(EngineLimits, TheirErrorsCanBePassedOver) {
   Add(u"On Error Resume Next\nSub S: S: End Sub\nS\nHost.Say Err.Number\nErr.Clear\nx = Space(2000)\n"
       u"Host.Say Err.Number\nErr.Clear\nReDim a(1000000)\nHost.Say Err.Number");
   EXPECT_EQ(Said(), "28; 14; 7");
 }
 
-TEST_F(EngineLimits, OfMemoryIsGivenBackWithTheEngine) {
+TEST_F(EngineLimits, MemoryIsReleasedWithTheEngine) {
   const std::size_t before = MemoryBudget::Used();
   Start(Small());
   const std::size_t empty = MemoryBudget::Used();
