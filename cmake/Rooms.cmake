@@ -41,7 +41,7 @@ set(CARDWRIGHT_INSTALLED_hosting ClassRegistry.h FormScripts.h)
 set(CARDWRIGHT_INSTALLED_orv EmbeddedHost.h)
 set(CARDWRIGHT_INSTALLED_model CForm.h ClassTable.h Control.h Enums.h FormOwner.h IControl.h Steps.h TableControl.h)
 set(CARDWRIGHT_INSTALLED_designer DesignClipboard.h DesignGrid.h DesignMenu.h FormDesigner.h
-    GrabHandles.h OutlineDrag.h)
+    GrabHandles.h OuterSize.h Placement.h Placer.h Selection.h StackOrder.h)
 set(CARDWRIGHT_INSTALLED_runtime AttributeList.h CAttrib.h FormButton.h FormInput.h HostCommands.h Vellum.h)
 set(CARDWRIGHT_INSTALLED_qt FormDesigner.h FormInput.h Library.h VisualControl.h desktop/QtDesktop.h
     desktop/QtSettings.h values/QtText.h)

@@ -264,7 +264,7 @@ class Studio {
   }
 
   void RequireRest() const {
-    Require(!Module().designDragging && !m_Object->IsTracking() && !m_Object->IsIntoFrame());
+    Require(!Module().designDragging && !m_Object->IsBusy());
     Require(!QApplication::overrideCursor());
     if (!m_Designer || !m_Object->GetSurface()) {
       Require(m_Object->Controls().Count() == 0);

@@ -60,12 +60,12 @@ TEST_F(SelectTest, FollowsClickAndFocusOnAWidget) {
   EXPECT_EQ(surface->pointer, PointerShape::Arrow);
 }
 
-TEST_F(SelectTest, SelectsTheFormByAClickUnlessTracking) {
+TEST_F(SelectTest, SelectsTheFormByAClickUnlessEventsAreSuspended) {
   const Ref<IControl> label = DrawLabel();
-  designer->SetTracking(true);
+  designer->SuspendEvents(true);
   surface->listener->OnClick();
   EXPECT_EQ(designer->CurrentControl().get(), label.get());
-  EXPECT_FALSE(designer->IsTracking());
+  EXPECT_FALSE(designer->IsBusy());
   surface->listener->OnClick();
   EXPECT_EQ(designer->CurrentControl()->UserName(), u"Form");
 }
@@ -154,7 +154,6 @@ TEST_F(ClipboardTest, PastesACopyAtTheCornerAndTellsInOrder) {
   EXPECT_EQ(WidgetOf(*pasted).DisplayText(), u"Depth");
   EXPECT_EQ(pasted->BackColor(), 0x123456);
   EXPECT_EQ(surface->screenPointers, (std::vector<int>{11, 0}));
-  EXPECT_FALSE(designer->IsIntoFrame());
   designer->Paste();
   EXPECT_EQ(Names(), "Form, object_1, object_2, object_3");
   EXPECT_EQ(BoxOf(*designer->CurrentControl()), "0,0,100,30");

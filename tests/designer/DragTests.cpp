@@ -15,7 +15,7 @@ class DragTest : public DesignerTest {
     return label;
   }
   void ExpectIdle() {
-    EXPECT_FALSE(designer->IsTracking());
+    EXPECT_FALSE(designer->IsBusy());
     EXPECT_FALSE(Module().designDragging);
     EXPECT_FALSE(surface->outline.has_value());
     EXPECT_FALSE(surface->tooltip.has_value());
@@ -159,7 +159,7 @@ TEST_F(DragTest, HidesTheHandlesAndTakesTheFocusForItsLength) {
   Press(70, 45);
   surface->focusHolder->calls = Text();
   surface->Then([&] {
-    EXPECT_TRUE(designer->IsTracking());
+    EXPECT_TRUE(designer->IsBusy());
     EXPECT_TRUE(Module().designDragging);
     EXPECT_FALSE(surface->handles[0]->IsVisible());
     EXPECT_EQ(surface->focusHolder->calls, u"focus ");
@@ -178,9 +178,8 @@ TEST_F(DragTest, KeepsWhatHappensMeanwhileFromSelectingOrPlacing) {
   surface->Then([&] { surface->listener->OnMouseUp(MouseButton::Left, 0, 5, 5); });
   surface->Then([&] {
     surface->listener->OnClick();
-    EXPECT_FALSE(designer->IsTracking());
+    EXPECT_TRUE(designer->IsBusy());
   });
-  surface->Then([&] { EXPECT_TRUE(designer->IsTracking()); });  // each turn sets it again
   surface->Then([&] { PressHandle(1); });
   surface->Then([&] { surface->listener->OnMouseDown(MouseButton::Right, 0, 5, 5); });
   PressHandle(0);
@@ -228,6 +227,20 @@ TEST_F(DragTest, EndsWhereTheFrameThatIsDrawnInIsDeleted) {
   ExpectIdle();
 }
 
+TEST_F(DragTest, IgnoresTheReleaseOnTheFrameThatIsDrawnIn) {
+  const Ref<IControl> frame = Draw(ctFrame, 50, 50, 250, 250);
+  WidgetListener* listener = FakeDesignSurface::At(WidgetOf(*frame)).listener;
+  designer->SetControlTypeToAdd(ctLabel);
+  Press(60, 60);
+  ThenMove(110, 90);
+  surface->Then([&] { listener->OnMouseUp(MouseButton::Left, 0, 60, 40); });
+  listener->OnMouseDown(MouseButton::Left, 0, 10, 10);
+  EXPECT_EQ(Names(), "Form, object_1, object_2");
+  EXPECT_EQ(BoxOf(*designer->CurrentControl()), "10,10,50,30");
+  EXPECT_EQ(WidgetOf(*designer->CurrentControl()).Container().get(), &WidgetOf(*frame));
+  ExpectIdle();
+}
+
 TEST_F(DragTest, EndsWithTheSurface) {
   DrawLabel();
   Press(70, 45);
@@ -238,7 +251,7 @@ TEST_F(DragTest, EndsWithTheSurface) {
   });
   handle->OnMouseDown(MouseButton::Left, 0, 3, 3);
   EXPECT_FALSE(Module().designDragging);
-  EXPECT_FALSE(designer->IsTracking());
+  EXPECT_FALSE(designer->IsBusy());
 }
 
 TEST_F(DragTest, BearsAHostThatDeletesTheControlWhenItHearsOfTheMove) {

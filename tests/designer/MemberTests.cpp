@@ -204,7 +204,7 @@ TEST_F(MemberTest, BearASurfaceThatEndsInTheMiddleOfThem) {
       if (Text(told).ToUtf8() == event) each->DetachSurface();
     });
     each->SetControlTypeToAdd(ctAttributeSelector);
-    each->SurfaceMouseUp(MouseButton::Left, 0, 50, 50);
+    own.listener->OnMouseUp(MouseButton::Left, 0, 50, 50);
     const Ref<IControl> control = each->CurrentControl();
     if (control) Attempt([&] { each->ChangeControlName(control, u"chosen"); });
     Attempt([&] { each->Copy(); });
@@ -215,6 +215,22 @@ TEST_F(MemberTest, BearASurfaceThatEndsInTheMiddleOfThem) {
     EXPECT_EQ(each->GetSurface(), nullptr) << event;
     EXPECT_EQ(each->Controls().Count(), 0) << event;
     EXPECT_EQ(own.screenPointers.back(), 0) << event;
+  }
+}
+
+TEST_F(MemberTest, BearASurfaceThatEndsAtAPressOnAControl) {
+  for (const int button : {MouseButton::Left, MouseButton::Right}) {
+    FakeDesignSurface own;
+    const Ref<FormDesigner> each = FormDesigner::Create(own);
+    each->Place({.type = ctFrame, .rectangle = {10, 10, 100, 80}, .container = {}, .source = nullptr});
+    const Ref<IControl> frame = each->CurrentControl();
+    each->SetCtrl(ControlsOf(each->Controls())[0]);
+    each->SetControlTypeToAdd(button == MouseButton::Left ? ctLabel : ctDefault);
+    each->Connect([&](std::u16string_view, Args) { each->DetachSurface(); });
+    Attempt([&] { FakeDesignSurface::At(WidgetOf(*frame)).listener->OnMouseDown(button, 0, 5, 5); });
+    EXPECT_EQ(each->GetSurface(), nullptr);
+    EXPECT_FALSE(each->IsBusy());
+    EXPECT_FALSE(Module().designDragging);
   }
 }
 

@@ -14,23 +14,23 @@ void PrintTo(const ScreenRect& rect, std::ostream* out) {
 namespace {
 
 using enum DragMode;
-constexpr LeastSize kControl{7, 19};
-constexpr LeastSize kFrameMinimum{7, 0};
-constexpr LeastSize kNew{};
-constexpr ScreenRect kRoom{0, 0, 400, 300};
-constexpr ScreenRect kBox{100, 100, 160, 140};
+constexpr MinimumSize kAnyControl{7, 19};
+constexpr MinimumSize kFrameOrList{7, 0};
+constexpr MinimumSize kNewControl{};
+constexpr ScreenRect kContainer{0, 0, 400, 300};
+constexpr ScreenRect kStart{100, 100, 160, 140};
 
-struct Turn {
+struct Step {
   DragMode mode;
   int dx, dy;
   ScreenRect expected;
 };
 
-void ExpectMoves(const std::vector<Turn>& moves, LeastSize least, int gridStep = 0, ScreenRect start = kBox,
-                 ScreenRect container = kRoom) {
-  for (const Turn& move : moves) {
+void ExpectMoves(const std::vector<Step>& moves, MinimumSize minimum, int gridStep = 0,
+                 ScreenRect start = kStart, ScreenRect container = kContainer) {
+  for (const Step& move : moves) {
     const ScreenPoint grip{start.left + 13, start.top + 7};
-    OutlineDrag drag({move.mode, start, grip, container, gridStep, least});
+    OutlineDrag drag({move.mode, start, grip, container, gridStep, minimum});
     const bool changed = drag.MoveTo({grip.x + move.dx, grip.y + move.dy});
     EXPECT_EQ(drag.Current(), move.expected)
         << "mode " << static_cast<int>(move.mode) << " by " << move.dx << ',' << move.dy;
@@ -49,10 +49,10 @@ TEST(OutlineDrag, MovesTheEdgesThatTheModeNames) {
                {Right, 10, 5, {100, 100, 170, 140}},
                {BottomLeft, 10, 5, {110, 100, 160, 145}},
                {Bottom, 10, 5, {100, 100, 160, 145}}},
-              kControl);
+              kAnyControl);
 }
 
-TEST(OutlineDrag, RefusesAControlNarrowerThanSevenOrLowerThanNineteenOnThatAxisOnly) {
+TEST(OutlineDrag, KeepsTheMinimumSizePerAxis) {
   ExpectMoves({{BottomRight, -53, 3, {100, 100, 107, 143}}, {BottomRight, -54, 3, {100, 100, 160, 143}},
                {BottomRight, 3, -21, {100, 100, 163, 119}}, {BottomRight, 3, -22, {100, 100, 163, 140}},
                {TopLeft, 53, 3, {153, 103, 160, 140}},      {TopLeft, 54, 3, {100, 103, 160, 140}},
@@ -63,10 +63,10 @@ TEST(OutlineDrag, RefusesAControlNarrowerThanSevenOrLowerThanNineteenOnThatAxisO
                {Right, -53, 0, {100, 100, 107, 140}},       {Right, -54, 0, {100, 100, 160, 140}},
                {BottomLeft, 54, 3, {100, 100, 160, 143}},   {BottomLeft, 3, -22, {103, 100, 160, 140}},
                {Bottom, 0, -21, {100, 100, 160, 119}},      {Bottom, 0, -22, {100, 100, 160, 140}}},
-              kControl);
+              kAnyControl);
 }
 
-TEST(OutlineDrag, RefusesAnEdgeOutsideTheContainerOnThatAxisOnly) {
+TEST(OutlineDrag, StaysInsideTheContainerPerAxis) {
   ExpectMoves({{DragMode::Move, -100, -100, {0, 0, 60, 40}},
                {DragMode::Move, -101, 3, {100, 103, 160, 143}},
                {DragMode::Move, 3, -101, {103, 100, 163, 140}},
@@ -87,37 +87,37 @@ TEST(OutlineDrag, RefusesAnEdgeOutsideTheContainerOnThatAxisOnly) {
                {BottomLeft, -101, 3, {100, 100, 160, 143}},
                {BottomLeft, 3, 161, {103, 100, 160, 140}},
                {Bottom, 0, 161, {100, 100, 160, 140}}},
-              kControl);
+              kAnyControl);
 }
 
-TEST(OutlineDrag, TurnsTheHeightOfAFrameOverWhereTheEdgesCross) {
+TEST(OutlineDrag, SwapsTopAndBottomOfAFrameWhenTheyCross) {
   ExpectMoves({{Top, 0, 60, {100, 140, 160, 160}},
                {Bottom, 0, -60, {100, 80, 160, 100}},
                {TopLeft, 3, 60, {103, 140, 160, 160}},
                {BottomRight, 3, -60, {100, 80, 163, 100}},
                {TopRight, 3, 60, {100, 140, 163, 160}},
                {BottomLeft, 3, -60, {103, 80, 160, 100}},
-               // The width is refused before it could turn over.
+               // The minimum width is tested before the edges are put in order.
                {Right, -70, 0, {100, 100, 160, 140}},
                {Left, 70, 0, {100, 100, 160, 140}}},
-              kFrameMinimum);
+              kFrameOrList);
 }
 
-TEST(OutlineDrag, TurnsANewRectangleOverInBothAxes) {
+TEST(OutlineDrag, SwapsTheEdgesOfANewRectangleInBothAxes) {
   ExpectMoves({{BottomRight, -30, -20, {170, 130, 200, 150}},
                {BottomRight, 30, -20, {200, 130, 230, 150}},
                {BottomRight, -30, 20, {170, 150, 200, 170}},
                {BottomRight, 1, 0, {200, 150, 201, 150}},
                {BottomRight, -201, -151, {200, 150, 200, 150}}},
-              kNew, 0, {200, 150, 200, 150});
+              kNewControl, 0, {200, 150, 200, 150});
 }
 
 // The container's corner is at 10, 20: columns of the grid at 10, 18 and so on, rows at 20, 28.
-TEST(OutlineDrag, StandsStillUntilTheMouseReachesAPointOfTheGrid) {
-  const ScreenRect room{10, 20, 410, 320};
-  const ScreenRect box{103, 100, 163, 140};  // left off the grid, right too, top on it, bottom on it
+TEST(OutlineDrag, StaysPutUntilTheMouseReachesAGridPoint) {
+  const ScreenRect container{10, 20, 410, 320};
+  const ScreenRect start{103, 100, 163, 140};  // left off the grid, right too, top on it, bottom on it
   ExpectMoves({{DragMode::Move, 2, 0, {103, 100, 163, 140}},
-               {DragMode::Move, 3, 0, {106, 100, 166, 140}},  // the right edge may stand anywhere
+               {DragMode::Move, 3, 0, {106, 100, 166, 140}},  // a move ignores the right edge
                {DragMode::Move, 4, 0, {103, 100, 163, 140}},
                {DragMode::Move, 3, 7, {106, 100, 166, 140}},
                {DragMode::Move, 3, 8, {106, 108, 166, 148}},
@@ -132,11 +132,11 @@ TEST(OutlineDrag, StandsStillUntilTheMouseReachesAPointOfTheGrid) {
                {Right, 8, 0, {103, 100, 163, 140}},
                {BottomLeft, -5, 8, {98, 100, 163, 148}},
                {Bottom, 0, -8, {103, 100, 163, 132}}},
-              kControl, 8, box, room);
+              kAnyControl, 8, start, container);
 }
 
-TEST(OutlineDrag, CountsTheGridFromTheCornerForANewRectangleToo) {
-  OutlineDrag drag({BottomRight, {104, 104, 104, 104}, {104, 104}, kRoom, 8, kNew});
+TEST(OutlineDrag, SnapsANewRectangleToTheContainersGrid) {
+  OutlineDrag drag({BottomRight, {104, 104, 104, 104}, {104, 104}, kContainer, 8, kNewControl});
   EXPECT_FALSE(drag.MoveTo({109, 104}));
   EXPECT_TRUE(drag.MoveTo({112, 121}));
   EXPECT_EQ(drag.Current(), (ScreenRect{104, 104, 112, 104}));
@@ -144,8 +144,8 @@ TEST(OutlineDrag, CountsTheGridFromTheCornerForANewRectangleToo) {
   EXPECT_EQ(drag.Current(), (ScreenRect{88, 104, 104, 120}));
 }
 
-TEST(OutlineDrag, TakesRefusedEdgesFromWhereTheOutlineStandsAndNotFromTheStart) {
-  OutlineDrag drag({DragMode::Move, kBox, {120, 120}, kRoom, 0, kControl});
+TEST(OutlineDrag, KeepsTheLastAcceptedPosition) {
+  OutlineDrag drag({DragMode::Move, kStart, {120, 120}, kContainer, 0, kAnyControl});
   EXPECT_TRUE(drag.MoveTo({50, 110}));
   EXPECT_TRUE(drag.MoveTo({10, 100}));
   EXPECT_EQ(drag.Current(), (ScreenRect{30, 80, 90, 120}));
@@ -154,12 +154,12 @@ TEST(OutlineDrag, TakesRefusedEdgesFromWhereTheOutlineStandsAndNotFromTheStart) 
   EXPECT_EQ(drag.Current(), (ScreenRect{0, 80, 60, 120}));
 }
 
-TEST(OutlineDrag, LetsAControlThatStandsOutsideComeBackAxisByAxis) {
+TEST(OutlineDrag, LetsAControlOutsideTheContainerReturnPerAxis) {
   const ScreenRect outside{380, 100, 440, 140};
   ExpectMoves({{DragMode::Move, -10, 5, {380, 105, 440, 145}},
                {DragMode::Move, -40, 5, {340, 105, 400, 145}},
                {BottomRight, -41, 0, {380, 100, 399, 140}}},
-              kControl, 0, outside);
+              kAnyControl, 0, outside);
 }
 
 }  // namespace

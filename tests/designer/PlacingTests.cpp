@@ -128,7 +128,6 @@ TEST_F(PlacingTest, PutsWhatIsDrawnOnAFrameIntoIt) {
   const Ref<IControl> label = DrawInside(*frame, ctLabel, 10, 10, 60, 40);
   EXPECT_EQ(BoxOf(*label), "10,10,50,30");
   EXPECT_EQ(WidgetOf(*label).Container().get(), &WidgetOf(*frame));
-  EXPECT_FALSE(designer->IsIntoFrame());
   EXPECT_EQ(designer->CurrentControl().get(), label.get());
   EXPECT_EQ(BoxOf(*DrawInside(*frame, ctLabel, 195, 190, 195, 190)), "195,190,5,10");
   EXPECT_EQ(BoxOf(*Draw(ctLabel, 60, 60, 90, 90)), "60,60,30,30");
@@ -139,11 +138,11 @@ TEST_F(PlacingTest, LeavesThePressOnAFrameWithoutAToolAlone) {
   const Ref<IControl> frame = Draw(ctFrame, 50, 50, 250, 250);
   Take();
   WidgetListener* listener = FakeDesignSurface::At(WidgetOf(*frame)).listener;
-  designer->SetIntoFrame(true);
   listener->OnMouseDown(MouseButton::Left, 0, 10, 10);
-  EXPECT_TRUE(designer->IsIntoFrame());
+  listener->OnMouseUp(MouseButton::Left, 0, 10, 10);
   EXPECT_EQ(Names(), "Form, object_1");
   EXPECT_EQ(Take(), Lines{});
+  EXPECT_EQ(WidgetOf(*Draw(ctLabel, 60, 60, 90, 90)).Container(), nullptr);
 }
 
 TEST_F(PlacingTest, MakesAWidgetWithoutAnObjectForTheTableViewer) {
@@ -164,7 +163,6 @@ TEST_F(PlacingTest, LeavesTheFrameAgainWithATableViewerOrADrawingThatCameToNothi
   const Ref<IControl> frame = Draw(ctFrame, 50, 50, 250, 250);
   DrawInside(*frame, ctDbTableViewer, 10, 10, 60, 40);
   EXPECT_EQ(surface->Find(u"object_2")->Container().get(), &WidgetOf(*frame));
-  EXPECT_FALSE(designer->IsIntoFrame());
   EXPECT_EQ(BoxOf(*Draw(ctLabel, 300, 100, 350, 130)), "300,100,50,30");
   EXPECT_EQ(WidgetOf(*designer->CurrentControl()).Container(), nullptr);
 
@@ -173,7 +171,9 @@ TEST_F(PlacingTest, LeavesTheFrameAgainWithATableViewerOrADrawingThatCameToNothi
   Press(60, 60);
   surface->Then([&] { surface->Remove(frame->Name()); });
   FakeDesignSurface::At(WidgetOf(*frame)).listener->OnMouseDown(MouseButton::Left, 0, 10, 10);
-  EXPECT_FALSE(designer->IsIntoFrame());
+  EXPECT_EQ(designer->ControlTypeToAdd(), ctLabel);
+  EXPECT_EQ(BoxOf(*Draw(ctLabel, 300, 100, 350, 130)), "300,100,50,30");
+  EXPECT_EQ(WidgetOf(*designer->CurrentControl()).Container(), nullptr);
 }
 
 // A numbered error of the host's handler.
@@ -196,7 +196,6 @@ TEST_F(PlacingTest, ComesToItsEndWhereAHandlerFails) {
     };
     designer->Paste();
     onEvent = nullptr;
-    EXPECT_FALSE(designer->IsIntoFrame()) << failing;
     EXPECT_EQ(surface->lockDepth, 0) << failing;
     EXPECT_EQ(surface->screenPointers.back(), 0) << failing;
     designer->SetCtrl(frame);

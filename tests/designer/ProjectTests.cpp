@@ -74,7 +74,7 @@ TEST_F(ProjectTest, TellsTheHostOfItsSizeAndItsRows) {
   EXPECT_EQ(heard.back(), "RefreshPropertyList");
   EXPECT_EQ(surface->Scale(), ScaleMode::Twips);
   EXPECT_EQ(surface->host->caption, u"Well inspection");
-  EXPECT_FALSE(designer->IsTracking());
+  EXPECT_FALSE(designer->IsBusy());
 }
 
 TEST_F(ProjectTest, HoldsWhatWasDrawn) {

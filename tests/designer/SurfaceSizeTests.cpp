@@ -19,11 +19,11 @@ TEST_F(SurfaceSizeTest, LeavesTheFormsRowsAloneWhileAControlIsSelected) {
   EXPECT_EQ(Take(), (Lines{"Resize", "NeedResize 7500 5250"}));
 }
 
-TEST_F(SurfaceSizeTest, TellsNothingWhileTracking) {
-  designer->SetTracking(true);
+TEST_F(SurfaceSizeTest, TellsNothingWhileEventsAreSuspended) {
+  designer->SuspendEvents(true);
   surface->Resize(500, 350);
   EXPECT_EQ(Take(), Lines{});
-  EXPECT_TRUE(designer->IsTracking());
+  EXPECT_TRUE(designer->IsBusy());
 }
 
 TEST_F(SurfaceSizeTest, IsGuardedAgainstAHostThatResizesInAnswer) {
@@ -33,7 +33,7 @@ TEST_F(SurfaceSizeTest, IsGuardedAgainstAHostThatResizesInAnswer) {
   surface->Resize(500, 350);
   EXPECT_EQ(Take(),
             (Lines{"PropertyChanged 3 500", "PropertyChanged 4 350", "Resize", "NeedResize 7500 5250"}));
-  EXPECT_FALSE(designer->IsTracking());
+  EXPECT_FALSE(designer->IsBusy());
 }
 
 TEST_F(SurfaceSizeTest, TellsWhatComesAfterAHandlerThatFails) {
@@ -45,7 +45,7 @@ TEST_F(SurfaceSizeTest, TellsWhatComesAfterAHandlerThatFails) {
     const Lines heard = Take();
     EXPECT_EQ(heard[heard.size() - 2], "Resize") << failing;
     EXPECT_EQ(heard.back(), failing[0] == 'P' ? "NeedResize 7500 5250" : "NeedResize 9000 5250");
-    EXPECT_FALSE(designer->IsTracking()) << failing;
+    EXPECT_FALSE(designer->IsBusy()) << failing;
   }
 }
 
@@ -88,9 +88,9 @@ TEST_F(SurfaceSizeTest, CountsInTwipsWhereTheFormDoes) {
 
 TEST_F(SurfaceSizeTest, DoesNothingForASizeThatIsStoredAlready) {
   designer->SetOuterSize(600, 400);
-  designer->SetTracking(true);
+  designer->SuspendEvents(true);
   surface->Resize(100, 100);
-  designer->SetTracking(false);
+  designer->SuspendEvents(false);
   Take();
   designer->SetOuterSize(600, 400);
   EXPECT_EQ(surface->Width(), 100);

@@ -11,7 +11,7 @@ namespace {
 std::string NameOf(const IControl& control) { return control.UserName().ToUtf8(); }
 std::string NumberOf(double number) { return FormatDouble(number).ToUtf8(); }
 
-std::string Mouse(const char* what, int button, int shift, float x, float y) {
+std::string Mouse(const std::string& what, int button, int shift, float x, float y) {
   return what + std::to_string(button) + "+" + std::to_string(shift) + "@" + NumberOf(x) + "," + NumberOf(y);
 }
 
@@ -74,24 +74,14 @@ void FakeDesigner::OpenControlMenu(IControl& control) {
   if (onMenu) onMenu(control);
 }
 
-void FakeDesigner::SurfaceMouseDown(int button, int shift, float x, float y) {
-  Write(Mouse("down", button, shift, x, y));
+void FakeDesigner::FrameMouseDown(IControl& frame, int button, int shift, float x, float y) {
+  Write(Mouse("down on " + NameOf(frame) + " ", button, shift, x, y));
 }
-void FakeDesigner::SurfaceMouseMove(int button, int shift, float x, float y) {
+void FakeDesigner::FrameMouseMove(int button, int shift, float x, float y) {
   Write(Mouse("move", button, shift, x, y));
 }
-void FakeDesigner::SurfaceMouseUp(int button, int shift, float x, float y) {
+void FakeDesigner::FrameMouseUp(int button, int shift, float x, float y) {
   Write(Mouse("up", button, shift, x, y));
-}
-
-void FakeDesigner::SetTracking(bool tracking) {
-  Write(tracking ? "tracking on" : "tracking off");
-  isTracking = tracking;
-}
-
-void FakeDesigner::SetIntoFrame(bool intoFrame) {
-  Write(intoFrame ? "into frame" : "out of frame");
-  isIntoFrame = intoFrame;
 }
 
 void FakeDesigner::ApplyScaleAndGrid() {

@@ -54,13 +54,10 @@ class FakeDesigner final : public TableObject, public DesignerOwner, public Owne
   void ShowArrowPointer() override { Write("arrow"); }
   void ShowHandles(bool show) override { Write(show ? "handles" : "no handles"); }
   void OpenControlMenu(IControl& control) override;
-  void SurfaceMouseDown(int button, int shift, float x, float y) override;
-  void SurfaceMouseMove(int button, int shift, float x, float y) override;
-  void SurfaceMouseUp(int button, int shift, float x, float y) override;
-  bool IsTracking() const override { return isTracking; }
-  void SetTracking(bool tracking) override;
-  bool IsIntoFrame() const override { return isIntoFrame; }
-  void SetIntoFrame(bool intoFrame) override;
+  void FrameMouseDown(IControl& frame, int button, int shift, float x, float y) override;
+  void FrameMouseMove(int button, int shift, float x, float y) override;
+  void FrameMouseUp(int button, int shift, float x, float y) override;
+  void SuspendEvents(bool suspend) override { Write(suspend ? "events suspended" : "events resumed"); }
   void ApplyScaleAndGrid() override;
   void RepaintGrid() override { Write("grid"); }
   std::vector<Ref<IControl>> ZList() const override { return m_ZList; }
@@ -72,8 +69,6 @@ class FakeDesigner final : public TableObject, public DesignerOwner, public Owne
   void RaiseNeedResize(float width, float height) override;
 
   ControlTypeEnum typeToAdd = ControlTypeEnum::ctDefault;
-  bool isTracking = false;
-  bool isIntoFrame = false;
   std::function<void(IControl&)> onMenu;
 
  protected:

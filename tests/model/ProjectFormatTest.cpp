@@ -36,8 +36,9 @@ TEST(Project, TellsTheDesignerInOrderWhatItReads) {
   const TempFolder folder;
   DesignForm on;
   EXPECT_TRUE(on.form->Read(folder.Put("a.frm", Example()), {}));
-  EXPECT_EQ(on.owner->Take(),
-            "scale and grid; tracking on; grid; tracking off; NeedResize 4800 x 2700; RefreshPropertyList");
+  EXPECT_EQ(
+      on.owner->Take(),
+      "scale and grid; events suspended; grid; events resumed; NeedResize 4800 x 2700; RefreshPropertyList");
   EXPECT_EQ(on.Names(), "Form, lblDepth, txtDepth");
   EXPECT_EQ(Module().formScaleMode, ScaleMode::Twips);
   EXPECT_EQ(Module().scriptLanguage, u"VBScript");

@@ -573,8 +573,8 @@ TEST_F(DesignerTest, AThousandFramesWithinEachOtherAreShownSavedAndDeleted) {
 
 TEST_F(DesignerTest, FiveThousandControlsAreSelectedAndMoved) {
   for (int i = 0; i < 5000; ++i) {
-    Object().SetControlTypeToAdd(ControlTypeEnum::ctLabel);
-    Object().SurfaceMouseUp(MouseButton::Left, 0, 20, 20);
+    Object().Place(
+        {.type = ControlTypeEnum::ctLabel, .rectangle = {0, 0, 20, 20}, .container = {}, .source = nullptr});
   }
   EXPECT_EQ(Object().Controls().Count(), 5001);
   const Ref<IControl> latest = Object().CurrentControl();

@@ -190,24 +190,23 @@ void Document::Insert(ControlTypeEnum type) {
   const bool intoFrame = current && ClassOf(*current).design.isContainer;
   const ClassTable* const known = FindControlClass(type);
   if (!known) return;
-  const QSize size(known->design.defaultWidth, known->design.defaultHeight);
   const ScaleMode scale = m_Designer->GetSurface()->Scale();
-  m_Designer->SetIntoFrame(intoFrame);
-  m_Designer->SetControlTypeToAdd(type);
-  m_Designer->SurfaceMouseUp(MouseButton::Left, 0, PixelsToScale(static_cast<float>(size.width()), scale),
-                             PixelsToScale(static_cast<float>(size.height()), scale));
-  m_Designer->SetIntoFrame(false);
+  const auto pixels = [&](float count) { return PixelsToScale(count, scale); };
+  const float width = pixels(static_cast<float>(known->design.defaultWidth));
+  const float height = pixels(static_cast<float>(known->design.defaultHeight));
+  m_Designer->Place({.type = type,
+                     .rectangle = {0, 0, width, height},
+                     .container = intoFrame ? BoundWidget(*current) : nullptr,
+                     .source = nullptr});
   const Ref<IControl> made = m_Designer->CurrentControl();
   if (!made || made == current) return;
   // Below the control that was selected, so that one after the other forms a column.
-  const auto pixels = [&](float count) { return PixelsToScale(count, scale); };
   const bool beside = current && !intoFrame && ClassOf(*current).type != ControlTypeEnum::ctDefault;
-  const float height = pixels(static_cast<float>(size.height()));
   const float below = beside ? current->Top() + current->Height() + pixels(8) : 0;
   const bool hasRoom = beside && below + height <= m_Designer->GetSurface()->Height();
   made->SetLeft(hasRoom ? current->Left() : pixels(16));
   made->SetTop(hasRoom ? below : pixels(intoFrame ? 24 : 16));
-  made->SetWidth(pixels(static_cast<float>(size.width())));
+  made->SetWidth(width);
   made->SetHeight(height);
   m_Designer->SetCtrl(made);
 }

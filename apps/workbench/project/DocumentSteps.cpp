@@ -47,7 +47,7 @@ void Document::NoteSoon() {
 
 void Document::NoteNow() {
   if (m_IsLoading || m_History.IsEmpty()) return m_Soon.stop();
-  if (m_Designer->IsTracking() || Module().designDragging) return m_Soon.start();
+  if (m_Designer->IsBusy() || Module().designDragging) return m_Soon.start();
   TakeTyped();
   TakeForm();
   Q_EMIT Changed();
@@ -95,13 +95,13 @@ void Document::TakeTyped() {
 }
 
 void Document::Undo() {
-  if (m_Designer->IsTracking()) return;
+  if (m_Designer->IsBusy()) return;
   NoteNow();
   if (m_History.CanUndo()) Go(&History::Undo);
 }
 
 void Document::Redo() {
-  if (m_Designer->IsTracking()) return;
+  if (m_Designer->IsBusy()) return;
   NoteNow();
   if (m_History.CanRedo()) Go(&History::Redo);
 }

@@ -7,9 +7,9 @@ namespace cardwright {
 
 void FormDesigner::Copy() {
   const Ref<FormDesigner> keepAlive(this);
-  const Ref<IControl> control = m_Current;
+  const Ref<IControl> control = m_Selection.Current();
   if (!control || IsForm(*control)) return;
-  const Ref<Widget> widget(dynamic_cast<Widget*>(control->BoundObject().get()));
+  const Ref<Widget> widget = BoundWidget(*control);
   if (!widget) return;
   m_Clipboard.Copy(*control, *widget);
   SetMenuState(u"mnuPaste", !m_Clipboard.IsEmpty());
@@ -19,21 +19,17 @@ void FormDesigner::Cut() {
   const Ref<FormDesigner> keepAlive(this);
   Copy();
   Delete();
-  m_IntoFrame = false;
 }
 
-// The placing of a drawn control does the work, with a rectangle at the corner.
 void FormDesigner::Paste() {
   if (m_Clipboard.IsEmpty()) return;
-  const Ref<FormDesigner> keepAlive(this);
-  m_IntoFrame = true;
-  m_TypeToAdd = m_Clipboard.Type();
-  m_MouseDownX = 0;
-  m_MouseDownY = 0;
-  m_PasteMode = true;
-  SurfaceMouseUp(MouseButton::Left, 0, m_Clipboard.Width(), m_Clipboard.Height());
-  m_PasteMode = false;
-  m_IntoFrame = false;
+  const DesignClipboard source = m_Clipboard;  // a handler may copy something else meanwhile
+  const Ref<IControl> selected = m_Selection.Current();
+  const bool isContainer = selected && ClassOf(*selected).design.isContainer;
+  Place({.type = source.Type(),
+         .rectangle = {},
+         .container = isContainer ? BoundWidget(*selected) : nullptr,
+         .source = &source});
 }
 
 void FormDesigner::TakeClipboard(const FormDesigner& other) {
@@ -44,18 +40,17 @@ void FormDesigner::TakeClipboard(const FormDesigner& other) {
 // Hosts know a deleted control by its widget's name: ObjectRemoved tells that one, not the author's.
 void FormDesigner::Delete() {
   const Ref<FormDesigner> keepAlive(this);
-  const Ref<IControl> control = m_Current;
+  const Ref<IControl> control = m_Selection.Current();
   if (!control || IsForm(*control)) return;
   const Text name = AttemptOr(Text(), [&] { return control->Name(); });
   const Ref<IControl> form = Form();
   if (form && form->Name() == ToLower(name)) return;
-  const Ref<Widget> widget(dynamic_cast<Widget*>(control->BoundObject().get()));
+  const Ref<Widget> widget = BoundWidget(*control);
   if (widget && ClassOf(*control).design.isContainer) RemoveChildren(*widget);
   RemoveFromLists(*control);
-  ShowHandles(false);
-  Attempt([&] { Handles().PutInto(nullptr); });  // a frame would take them with it
+  m_Selection.ReleaseHandles();
   Attempt([&] { Canvas().Remove(name); });
-  m_Current = nullptr;
+  m_Selection.Store(nullptr);
   Attempt([&] {
     Variant removed(name);
     Variant args[] = {Variant::ByRef(removed)};
@@ -74,15 +69,15 @@ void FormDesigner::RemoveFromLists(const IControl& control) {
     const Text key = ToLower(control.UserName());
     if (FindControl(*m_Controls, key) == &control) m_Controls->Remove(Variant(key));
   });
-  Attempt([&] { m_ZList->Remove(Variant(control.Name())); });
+  Attempt([&] { m_StackOrder.Remove(control); });
 }
 
-// One level only: what stands in a frame inside the frame loses its widget and stays in the lists, and a
-// project saved then counts it still.
-void FormDesigner::RemoveChildren(const Widget& frame) {
+// One level only: a control in a frame inside the frame loses its widget and stays in the lists, and a
+// project saved then still counts it.
+void FormDesigner::RemoveChildren(const Widget& container) {
   for (const Ref<IControl>& child : ControlsOf(*m_Controls)) {
-    const Ref<Widget> widget(dynamic_cast<Widget*>(child->BoundObject().get()));
-    const bool isInside = widget && AttemptOr(false, [&] { return widget->Container() == &frame; });
+    const Ref<Widget> widget = BoundWidget(*child);
+    const bool isInside = widget && AttemptOr(false, [&] { return widget->Container() == &container; });
     if (!isInside) continue;
     Attempt([&] { child->Delete(); });
     RemoveFromLists(*child);
@@ -90,34 +85,28 @@ void FormDesigner::RemoveChildren(const Widget& frame) {
 }
 
 void FormDesigner::SetForeground() {
-  if (m_Locked || !m_Current) return;
   const Ref<FormDesigner> keepAlive(this);
-  ChangeZOrder(*m_Current, StackPosition::Front);
-  Attempt([&] { Handles().RaiseMover(); });
+  Restack(StackPosition::Front);
 }
 
 void FormDesigner::SetBackground() {
-  if (m_Locked || !m_Current) return;
   const Ref<FormDesigner> keepAlive(this);
-  ChangeZOrder(*m_Current, StackPosition::Back);
+  Restack(StackPosition::Back);
 }
 
-// To the end of the list in both cases: projects are stacked anew by replaying it in its order.
-void FormDesigner::ChangeZOrder(IControl& control, StackPosition position) {
-  const Ref<IControl> restacked(&control);
-  Attempt([&] { m_ZList->Remove(Variant(restacked->Name())); });
-  Attempt([&] { AppendToZList(restacked); });
-  Attempt([&] { restacked->SetZOrder(static_cast<std::int16_t>(position)); });
-  if (auto* widget = dynamic_cast<Widget*>(restacked->BoundObject().get()))
-    Attempt([&] { widget->SetZOrder(position); });
+void FormDesigner::Restack(StackPosition position) {
+  const Ref<IControl> control = m_Selection.Current();
+  if (m_Selection.IsLocked() || !control) return;
+  m_StackOrder.Restack(control, position);
+  if (position == StackPosition::Front) m_Selection.RaiseMoveHandle();
 }
 
 void FormDesigner::LockUnlock() {
   const Ref<FormDesigner> keepAlive(this);
   if (m_Controls->Count() <= 1) return ShowHandles(false);
-  const bool locks = !m_Menu.Lock().m_Checked;
+  const bool locks = !m_Selection.IsLocked();
   m_Menu.Lock().m_Checked = locks;
-  m_Locked = locks;
+  m_Selection.SetLocked(locks);
   SetMenuState(u"mnuForeground", !locks);
   SetMenuState(u"mnuBackground", !locks);
   ShowHandles(true);
@@ -126,29 +115,20 @@ void FormDesigner::LockUnlock() {
   RaiseEvent(u"ControlsLocked", args);
 }
 
-float FormDesigner::RoomFor(const IControl& control, float (Widget::*ofWidget)() const,
-                            float (Surface::*ofSurface)() const) const {
-  const auto* widget = dynamic_cast<Widget*>(control.BoundObject().get());
-  if (!widget) Raise(ErrorNumber::ObjectNotSet);
-  const Ref<Widget> container = widget->Container();
-  return container ? (container.get()->*ofWidget)() : (Canvas().*ofSurface)();
-}
+void FormDesigner::CenterLeft() { Center(&IControl::SetLeft, &IControl::Width, &FormExtent::width); }
+void FormDesigner::CenterTop() { Center(&IControl::SetTop, &IControl::Height, &FormExtent::height); }
 
 // Handles that were hidden stay so.
-void FormDesigner::CenterLeft() {
+void FormDesigner::Center(void (IControl::*set)(float), float (IControl::*size)() const,
+                          float FormExtent::*room) {
   const Ref<FormDesigner> keepAlive(this);
-  const Ref<IControl> control = m_Current;
+  const Ref<IControl> control = m_Selection.Current();
   if (!dynamic_cast<Control*>(control.get())) return;
-  control->SetLeft((RoomFor(*control, &Widget::Width, &Surface::Width) - control->Width()) / 2);
-  ShowHandles(m_Handles && m_Handles->IsShown());
-}
-
-void FormDesigner::CenterTop() {
-  const Ref<FormDesigner> keepAlive(this);
-  const Ref<IControl> control = m_Current;
-  if (!dynamic_cast<Control*>(control.get())) return;
-  control->SetTop((RoomFor(*control, &Widget::Height, &Surface::Height) - control->Height()) / 2);
-  ShowHandles(m_Handles && m_Handles->IsShown());
+  const Ref<Widget> widget = BoundWidget(*control);
+  if (!widget) Raise(ErrorNumber::ObjectNotSet);
+  const FormExtent extent = RoomIn(widget->Container().get(), Canvas());
+  (control.get()->*set)((extent.*room - (control.get()->*size)()) / 2);
+  ShowHandles(m_Selection.AreHandlesShown());
 }
 
 }  // namespace cardwright

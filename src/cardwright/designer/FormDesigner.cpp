@@ -21,6 +21,17 @@ Ref<Collection> FilterByName(FormDesigner& designer, ControlTypeEnum type) {
   return found;
 }
 
+// Until a host has set two default colours that differ, a new form has the system's.
+DesignSurface& Prepared(DesignSurface& surface) {
+  ModuleState& module = Module();
+  module.formScaleMode = ScaleMode::Pixels;
+  surface.SetScale(ScaleMode::Pixels);
+  const bool hasDefaults = module.defaultBackColor != module.defaultForeColor;
+  surface.SetBackColor(hasDefaults ? module.defaultBackColor : ToOleColor(SystemColor::ButtonFace));
+  surface.SetForeColor(hasDefaults ? module.defaultForeColor : ToOleColor(SystemColor::ButtonText));
+  return surface;
+}
+
 using D = FormDesigner;
 constexpr Member kMembers[] = {
     Method<&D::SetCtrl>(u"SetCtrl"),
@@ -61,17 +72,8 @@ const MemberTable& FormDesigner::Members() const {
   return table;
 }
 
-// Until a host has set two default colours that differ, a new form has the system's.
-FormDesigner::FormDesigner(DesignSurface& surface) : m_Surface(&surface) {
-  ModuleState& module = Module();
-  module.formScaleMode = ScaleMode::Pixels;
-  surface.SetScale(ScaleMode::Pixels);
-  const bool hasDefaults = module.defaultBackColor != module.defaultForeColor;
-  surface.SetBackColor(hasDefaults ? module.defaultBackColor : ToOleColor(SystemColor::ButtonFace));
-  surface.SetForeColor(hasDefaults ? module.defaultForeColor : ToOleColor(SystemColor::ButtonText));
-  SetControlTypeToAdd(ControlTypeEnum::ctDefault);
-  m_Handles.emplace(surface, static_cast<HandleListener&>(*this), module.resizeHandleDims);
-}
+FormDesigner::FormDesigner(DesignSurface& surface)
+    : m_Surface(&Prepared(surface)), m_Selection(surface, *this, Module().resizeHandleDims) {}
 
 Ref<FormDesigner> FormDesigner::Create(DesignSurface& surface) {
   Ref<FormDesigner> designer(new FormDesigner(surface));
@@ -94,15 +96,14 @@ void FormDesigner::DetachSurface() {
     if (m_Surface && dynamic_cast<Control*>(table)) Attempt([&] { m_Surface->Remove(control->Name()); });
     table->ForgetOwner();
   }
-  m_Handles.reset();
+  m_Selection.Detach();
   if (m_Surface) {
     Attempt([&] { m_Surface->SetListener(nullptr); });
     Attempt([&] { m_Surface->SetScreenPointer(PointerShape::Default); });  // in the middle of a paste
   }
   m_Surface = nullptr;
   m_Controls = MakeRef<Collection>();  // whoever holds the old one keeps its objects
-  m_ZList->Clear();
-  m_Current = nullptr;
+  m_StackOrder.Clear();
 }
 
 DesignSurface& FormDesigner::Canvas() const {
@@ -110,16 +111,34 @@ DesignSurface& FormDesigner::Canvas() const {
   return *m_Surface;
 }
 
-GrabHandles& FormDesigner::Handles() {
-  if (!m_Handles) Raise(ErrorNumber::ObjectNotSet);
-  return *m_Handles;
-}
-
 Ref<IControl> FormDesigner::Form() const {
   return m_Controls->Count() > 0 ? Ref<IControl>(AsControl(m_Controls->Item(Variant(1)))) : nullptr;
 }
 
 std::int32_t FormDesigner::WindowHandle() const { return m_Surface ? m_Surface->WindowHandle() : 0; }
+
+bool FormDesigner::IsForm(const IControl& control) {
+  const Ref<Object> object = control.BoundObject();
+  return dynamic_cast<const FormDesigner*>(object.get());
+}
+
+bool FormDesigner::IsAlive(const IControl& control) const {
+  const Ref<Object> widget = control.BoundObject();
+  if (!m_Surface || !widget) return false;
+  return AttemptOr(false, [&] { return m_Surface->Find(control.Name()).get() == widget.get(); });
+}
+
+void FormDesigner::SetCtrl(Ref<IControl> control) {
+  if (!control) Raise(ErrorNumber::ObjectNotSet);
+  const Ref<FormDesigner> keepAlive(this);
+  if (control != m_Selection.Current()) {
+    Variant selected{Ref<Object>(control)};
+    Variant args[] = {Variant::ByRef(selected)};
+    RaiseEvent(u"CurrObjectChanged", args);
+  }
+  if (IsForm(*control)) SetControlTypeToAdd(ControlTypeEnum::ctDefault);
+  m_Selection.Select(control);
+}
 
 void FormDesigner::SetControlTypeToAdd(ControlTypeEnum type) {
   if (type == ControlTypeEnum::ctDefault || FindDrawable(type)) m_TypeToAdd = type;

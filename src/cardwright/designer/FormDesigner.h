@@ -5,14 +5,17 @@
 #include "cardwright/designer/DesignClipboard.h"
 #include "cardwright/designer/DesignGrid.h"
 #include "cardwright/designer/DesignMenu.h"
-#include "cardwright/designer/GrabHandles.h"
-#include "cardwright/designer/OutlineDrag.h"
+#include "cardwright/designer/OuterSize.h"
+#include "cardwright/designer/Placer.h"
+#include "cardwright/designer/Selection.h"
+#include "cardwright/designer/StackOrder.h"
 #include "cardwright/model/CForm.h"
-#include "cardwright/model/Control.h"
 #include "cardwright/model/FormOwner.h"
 #include "cardwright/platform/PropertyBag.h"
 
 namespace cardwright {
+
+class DesignTool;
 
 /// The surface on which an author draws a form: it owns the form's objects, shows which one is selected, and
 /// moves, sizes, makes, renames and deletes them. One control at most is selected, and nothing can be undone.
@@ -46,7 +49,7 @@ class FormDesigner final : public TableObject,
   /// @{
   void Cut();
   void Copy();
-  /// Into the selected frame, or onto the form; always at the left top corner.
+  /// Into the selected frame, or onto the form; always at the top left corner.
   void Paste();
   /// Takes what another designer has copied, for a host that shows a project in a new designer.
   void TakeClipboard(const FormDesigner& other);
@@ -62,23 +65,29 @@ class FormDesigner final : public TableObject,
   /// whose menus follow. The menu opens in either state.
   void SetMenuState(const Text& menuName, bool state);
 
+  /// Puts a control on the surface, selects it and chooses the selection tool again. While the designer is
+  /// busy, the class is chosen and nothing placed. Failures are passed over; where no widget can be created,
+  /// the class stays chosen.
+  void Place(const Placement& placement);
+
   /// To be called when the surface was resized.
   void UserControl_Resize();
   /// Step of the grid, in the surface's scale. Setting only stores it.
   std::int16_t GridStep() const noexcept { return m_GridStep; }
   void SetGridStep(std::int16_t step) noexcept { m_GridStep = step; }
-  /// Whether a drag is held to the grid.
+  /// Whether a drag snaps to the grid.
   bool GridAlignment() const noexcept { return m_GridAlignment; }
   void SetGridAlignment(bool align) noexcept { m_GridAlignment = align; }
-  /// Whether a drag counts the mouse as having been at each point between two places where it is seen.
-  /// Without it, as at first, a hand that is quicker than the grid is fine passes grid points unseen. For a
-  /// host; no script sees it.
+  /// Whether a drag counts the mouse as having been at each point between two positions where it is polled.
+  /// Without it, which is the default, a quick hand passes grid points unseen. For hosts; scripts do not see
+  /// it.
+  bool TracesMouse() const noexcept { return m_TracesMouse; }
   void SetTracesMouse(bool traces) noexcept { m_TracesMouse = traces; }
 
   Collection& Controls() override { return *m_Controls; }
   Ref<Collection> ControlCollection() const { return m_Controls; }
-  Ref<IControl> CurrentControl() const override { return m_Current; }
-  /// The kind that the next press on the surface draws; a number that names none is ignored.
+  Ref<IControl> CurrentControl() const override { return m_Selection.Current(); }
+  /// The class of control that the next press on the surface draws; a number that names none is ignored.
   ControlTypeEnum ControlTypeToAdd() const override { return m_TypeToAdd; }
   void SetControlTypeToAdd(ControlTypeEnum type);
   std::int32_t WindowHandle() const;
@@ -104,33 +113,39 @@ class FormDesigner final : public TableObject,
   /// The controls of a class, by their order; none for the selection tool and the table viewer.
   std::vector<Ref<IControl>> FilterControls(ControlTypeEnum type) const override;
 
+  /// Whether a tool is in use, or the surface is being resized or a project read. Mouse and resize are not
+  /// answered then.
+  bool IsBusy() const noexcept { return m_Tool || m_AreEventsSuspended; }
+  /// Whether the control's widget is on the surface.
+  bool IsAlive(const IControl& control) const;
+
   /// The surface ends: the form's objects stay for whoever holds them, without widgets, and the designer is
   /// an empty one.
   void DetachSurface();
 
-  Surface* GetSurface() override { return m_Surface; }
-  float OuterWidth() const override;
-  float OuterHeight() const override;
+  /// @name For the elements of the form
+  /// @{
+  DesignSurface* GetSurface() override { return m_Surface; }
+  float OuterWidth() const override { return m_Surface ? OuterSize::Of(*m_Surface).width : 0; }
+  float OuterHeight() const override { return m_Surface ? OuterSize::Of(*m_Surface).height : 0; }
   void SetOuterSize(float width, float height) override;
   void ShowArrowPointer() override;
-  void ShowHandles(bool show) override;
+  void ShowHandles(bool show) override { m_Selection.ShowHandles(show); }
   void OpenControlMenu(IControl& control) override;
-  void SurfaceMouseDown(int button, int shift, float x, float y) override;
-  void SurfaceMouseMove(int button, int shift, float x, float y) override;
-  void SurfaceMouseUp(int button, int shift, float x, float y) override;
-  bool IsTracking() const override { return m_Tracking; }
-  void SetTracking(bool tracking) override { m_Tracking = tracking; }
-  bool IsIntoFrame() const override { return m_IntoFrame; }
-  void SetIntoFrame(bool intoFrame) override { m_IntoFrame = intoFrame; }
+  void FrameMouseDown(IControl& frame, int button, int shift, float x, float y) override;
+  void FrameMouseMove(int button, int shift, float x, float y) override { OnMouseMove(button, shift, x, y); }
+  void FrameMouseUp(int button, int shift, float x, float y) override { OnMouseUp(button, shift, x, y); }
+  void SuspendEvents(bool suspend) override { m_AreEventsSuspended = suspend; }
   void ApplyScaleAndGrid() override;
   void RepaintGrid() override { SetGrid({}, true); }
-  std::vector<Ref<IControl>> ZList() const override;
-  void ResetZList() override;
-  void AppendToZList(Ref<IControl> control) override;
+  std::vector<Ref<IControl>> ZList() const override { return m_StackOrder.Controls(); }
+  void ResetZList() override { m_StackOrder.Clear(); }
+  void AppendToZList(Ref<IControl> control) override { m_StackOrder.Append(control); }
   void RaisePropertyChanged(int propertyIndex, const Variant& value) override;
   void RaiseRefreshPropertyList() override { RaiseEvent(u"RefreshPropertyList"); }
   void RaiseAttribsList(std::vector<Text> names) override;
   void RaiseNeedResize(float width, float height) override;
+  /// @}
 
  protected:
   explicit FormDesigner(DesignSurface& surface);
@@ -138,95 +153,58 @@ class FormDesigner final : public TableObject,
   const MemberTable& Members() const override;
 
  private:
-  class Drag;
-  class Tracking;
-  struct NewControl {
-    const ClassTable* kind = nullptr;
-    Ref<Widget> container;
-    Ref<Widget> widget;
-    Ref<Control> control;  ///< null for a kind without a class
-  };
-
   /// Error 91 once the surface has ended.
   DesignSurface& Canvas() const;
-  GrabHandles& Handles();
   /// First object of the form; null where a script took it away.
   Ref<IControl> Form() const;
   static bool IsForm(const IControl& control);
-  /// Whether the control's widget stands on the surface.
-  bool IsAlive(const IControl& control) const;
   /// Whether the next press draws a new control.
   bool IsAdding() const noexcept { return m_TypeToAdd != ControlTypeEnum::ctDefault; }
-  void ParkFocus();
+  /// Chooses the selection tool again.
+  void EndAdding();
   /// Lets the controls that follow others find them again.
   void AttachLinks();
 
-  // Events of the surface itself.
+  // Events of the surface and of the handles.
   void OnClick() override;
   void OnMouseDown(int button, int shift, float x, float y) override {
-    SurfaceMouseDown(button, shift, x, y);
+    Press(nullptr, button, shift, {x, y});
   }
-  void OnMouseMove(int button, int shift, float x, float y) override {
-    SurfaceMouseMove(button, shift, x, y);
-  }
-  void OnMouseUp(int button, int shift, float x, float y) override { SurfaceMouseUp(button, shift, x, y); }
+  void OnMouseMove(int button, int shift, float x, float y) override;
+  void OnMouseUp(int button, int shift, float x, float y) override;
   void OnKeyDown(int& keyCode, int& shift) override;
   void OnResize() override { UserControl_Resize(); }
   void OnHandleDown(int index, int button) override;
   void OnHandleMove(int index) override;
-
-  /// Runs a drag until the mouse button is let go: of a control, or of a new one's rectangle for null.
-  void TrackControl(Ref<IControl> control, DragMode mode);
-  void ApplyDrag(const Drag& drag);
-  void PlaceDrawn(const Drag& drag);
-
-  void PlaceControl(int button, float x, float y);
-  Text NextObjectName();
-  /// The frame that a new control goes into; null for the surface.
-  Ref<Widget> FrameForNew() const;
-  NewControl CreateControl();
-  Ref<Widget> AddWidget(std::u16string_view identifier, Widget* container);
-  void BindNew(const NewControl& made);
-  void SizeDrawn(const NewControl& made, float x, float y);
-  void FillPasted(const NewControl& made);
-  void HoldPastedSize(const NewControl& made);
-  void AdoptNew(const NewControl& made);
+  void Press(Ref<Widget> container, int button, int shift, FormPoint at);
+  void Draw(Ref<Widget> container);
 
   void RemoveFromLists(const IControl& control);
-  void RemoveChildren(const Widget& frame);
-  void ChangeZOrder(IControl& control, StackPosition position);
-  /// The room that a control has in its container, by one of the sizes.
-  float RoomFor(const IControl& control, float (Widget::*ofWidget)() const,
-                float (Surface::*ofSurface)() const) const;
+  void RemoveChildren(const Widget& container);
+  void Restack(StackPosition position);
+  void Center(void (IControl::*set)(float), float (IControl::*size)() const, float FormExtent::*room);
   void OpenSurfaceMenu();
   void ShowMenu();
   void Run(DesignCommand command);
-  bool AreControlsLocked() const noexcept { return m_Locked || m_Menu.Lock().m_Checked; }
 
-  DesignSurface* m_Surface;
+  DesignSurface* m_Surface;  // null once it has ended
   Ref<Collection> m_Controls = MakeRef<Collection>();
-  Ref<Collection> m_ZList = MakeRef<Collection>();  // by the widgets' names; the last restacked last
-  Ref<IControl> m_Current;
-  DesignMenu m_Menu;
+  Selection m_Selection;
+  StackOrder m_StackOrder;
+  Placer m_Placer{*this, m_Selection};
+  DesignTool* m_Tool = nullptr;  // in use; null while the mouse is not followed
   DesignClipboard m_Clipboard;
+  DesignMenu m_Menu;
   DesignGrid m_Grid;
-  std::optional<GrabHandles> m_Handles;  // none once the surface has ended
+  OuterSize m_OuterSize;
 
   ControlTypeEnum m_TypeToAdd = ControlTypeEnum::ctDefault;
-  float m_MouseDownX = 0;
-  float m_MouseDownY = 0;
-  std::int16_t m_NameCounter = 0;
+  FormPoint m_PressedAt;
   std::int16_t m_GridStep = 8;
   bool m_GridAlignment = false;
   bool m_TracesMouse = false;
   bool m_EnableKeyDelete = true;
-  bool m_Locked = false;
-  bool m_PasteMode = false;
-  bool m_IntoFrame = false;
-  bool m_Tracking = false;  // also set while a click must not select the form
-  bool m_Dragging = false;
-  float m_FormWidth = 0;
-  float m_FormHeight = 0;
+  bool m_AreEventsSuspended = false;
 };
 
 }  // namespace cardwright

@@ -21,18 +21,17 @@ OutlineDrag::OutlineDrag(const Setup& setup) : m_Setup(setup), m_Current(setup.s
 
 bool OutlineDrag::MoveTo(ScreenPoint cursor) {
   ScreenRect proposed = Proposed(cursor);
-  HoldToLeastSize(proposed);
-  // A rectangle may be dragged through itself.
+  KeepMinimumSize(proposed);
   if (proposed.right < proposed.left) std::swap(proposed.left, proposed.right);
   if (proposed.bottom < proposed.top) std::swap(proposed.top, proposed.bottom);
-  HoldToContainer(proposed);
-  HoldToGrid(proposed);
+  KeepInContainer(proposed);
+  SnapToGrid(proposed);
   if (proposed == m_Current) return false;
   m_Current = proposed;
   return true;
 }
 
-// Edges that the mode does not name stay as they were at the start.
+// Edges that the mode does not move stay as they were at the start.
 ScreenRect OutlineDrag::Proposed(ScreenPoint cursor) const {
   const int dx = cursor.x - m_Setup.grip.x;
   const int dy = cursor.y - m_Setup.grip.y;
@@ -63,15 +62,15 @@ ScreenRect OutlineDrag::Proposed(ScreenPoint cursor) const {
   return rect;
 }
 
-// Tested before edges that have crossed are put in order: a control dragged to nothing stands still rather
-// than turning over.
-void OutlineDrag::HoldToLeastSize(ScreenRect& proposed) const {
-  const LeastSize& least = m_Setup.least;
-  if (least.width > 0 && proposed.Width() < least.width) TakeColumns(proposed, m_Current);
-  if (least.height > 0 && proposed.Height() < least.height) TakeRows(proposed, m_Current);
+// Tested before crossed edges are put in order, so a control cannot be dragged through itself to its other
+// side; only sizes without a minimum can.
+void OutlineDrag::KeepMinimumSize(ScreenRect& proposed) const {
+  const MinimumSize& minimum = m_Setup.minimum;
+  if (minimum.width > 0 && proposed.Width() < minimum.width) TakeColumns(proposed, m_Current);
+  if (minimum.height > 0 && proposed.Height() < minimum.height) TakeRows(proposed, m_Current);
 }
 
-void OutlineDrag::HoldToContainer(ScreenRect& proposed) const {
+void OutlineDrag::KeepInContainer(ScreenRect& proposed) const {
   const ScreenRect& container = m_Setup.container;
   if (proposed.left < container.left) TakeColumns(proposed, m_Current);
   if (proposed.top < container.top) TakeRows(proposed, m_Current);
@@ -79,8 +78,8 @@ void OutlineDrag::HoldToContainer(ScreenRect& proposed) const {
   if (proposed.bottom > container.bottom) TakeRows(proposed, m_Current);
 }
 
-// A place off the grid is refused, not rounded: the outline stands until the mouse reaches the next point.
-void OutlineDrag::HoldToGrid(ScreenRect& proposed) const {
+// A position off the grid is refused, not rounded: the outline stays until the mouse reaches a grid point.
+void OutlineDrag::SnapToGrid(ScreenRect& proposed) const {
   const int step = m_Setup.gridStep;
   if (step <= 0) return;
   const bool moves = m_Setup.mode == DragMode::Move;

@@ -18,28 +18,28 @@ enum class DragMode {
   Bottom = 8,
 };
 
-/// Sizes in pixels under which a control is not made, each 0 where there is no such limit.
-struct LeastSize {
+/// The smallest size in pixels that a drag gives a control; 0 means no limit.
+struct MinimumSize {
   int width = 0;
   int height = 0;
 };
 
-/// The arithmetic of a drag: where the outline stands after each move of the mouse. It knows rectangles on
-/// the screen and nothing else.
+/// The arithmetic of a drag: computes the outline after each move of the mouse. It knows rectangles on the
+/// screen and nothing else.
 class OutlineDrag {
  public:
   struct Setup {
     DragMode mode = DragMode::Move;
     ScreenRect start;
-    ScreenPoint grip;      ///< where the mouse took hold
-    ScreenRect container;  ///< the outline never leaves it
+    ScreenPoint grip;      ///< the mouse at the press
+    ScreenRect container;  ///< bounds of the outline
     int gridStep = 0;      ///< 0 for no grid; counted from the container's corner
-    LeastSize least;
+    MinimumSize minimum;
   };
 
   explicit OutlineDrag(const Setup& setup);
 
-  /// Follows the mouse; true where the outline stands elsewhere than before.
+  /// Follows the mouse. Returns whether the outline changed.
   bool MoveTo(ScreenPoint cursor);
 
   DragMode Mode() const noexcept { return m_Setup.mode; }
@@ -48,9 +48,9 @@ class OutlineDrag {
 
  private:
   ScreenRect Proposed(ScreenPoint cursor) const;
-  void HoldToLeastSize(ScreenRect& proposed) const;
-  void HoldToContainer(ScreenRect& proposed) const;
-  void HoldToGrid(ScreenRect& proposed) const;
+  void KeepMinimumSize(ScreenRect& proposed) const;
+  void KeepInContainer(ScreenRect& proposed) const;
+  void SnapToGrid(ScreenRect& proposed) const;
 
   Setup m_Setup;
   ScreenRect m_Current;

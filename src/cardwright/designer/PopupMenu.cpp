@@ -28,8 +28,8 @@ void FormDesigner::OpenSurfaceMenu() {
 
 void FormDesigner::OpenControlMenu(IControl&) {
   const Ref<FormDesigner> keepAlive(this);
-  if (m_Dragging) return;
-  const bool locked = m_Locked;
+  if (m_Tool) return;
+  const bool locked = m_Selection.IsLocked();
   if (locked) {
     SetMenuState(u"mnuForeground", false);
     SetMenuState(u"mnuBackground", false);

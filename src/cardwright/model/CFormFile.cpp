@@ -77,7 +77,7 @@ void CForm::ReadAppearance(const CIni& ini) {
   Surface& surface = Canvas();
   if (Designer()) {
     step([&] { Designer()->ApplyScaleAndGrid(); });
-    Designer()->SetTracking(true);
+    Designer()->SuspendEvents(true);
   } else {
     step([&] { surface.SetScale(Module().formScaleMode); });
   }
@@ -93,7 +93,7 @@ void CForm::ReadAppearance(const CIni& ini) {
   });
   step([&] { ReadTitle(ini); });
   if (!Designer()) return;
-  Designer()->SetTracking(false);
+  Designer()->SuspendEvents(false);
   const ScaleMode scale = surface.Scale();
   Designer()->RaiseNeedResize(ScaleToTwips(Width(), scale), ScaleToTwips(Height(), scale));
 }

@@ -44,23 +44,17 @@ void CFrame::OnMouseDown(int button, int shift, float x, float y) {
   if (!Designer()) return;
   const Ref<Control> keepAlive(this);  // drawing runs its own loop, in which anything may happen
   m_ClickConsumed = IsDrawing();
-  if (m_ClickConsumed) {
-    Designer()->SetIntoFrame(true);
-    SelectInDesigner();
-    Designer()->SurfaceMouseDown(button, shift, x, y);
-  }
+  if (m_ClickConsumed) Designer()->FrameMouseDown(*this, button, shift, x, y);
   Control::OnMouseDown(button, shift, x, y);
 }
 
 void CFrame::OnMouseMove(int button, int shift, float x, float y) {
   Control::OnMouseMove(button, shift, x, y);
-  if (IsDrawing()) Designer()->SurfaceMouseMove(button, shift, x, y);
+  if (IsDrawing()) Designer()->FrameMouseMove(button, shift, x, y);
 }
 
 void CFrame::OnMouseUp(int button, int shift, float x, float y) {
-  if (!Designer() || (Designer()->IsIntoFrame() && Designer()->IsTracking())) return;
-  if (IsDrawing()) Designer()->SurfaceMouseUp(button, shift, x, y);
-  Designer()->SetIntoFrame(false);
+  if (IsDrawing()) Designer()->FrameMouseUp(button, shift, x, y);
 }
 
 }  // namespace cardwright

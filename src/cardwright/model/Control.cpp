@@ -142,7 +142,7 @@ void Control::OnMouseDown(int button, int shift, float, float) {
   if (!Designer() || button != MouseButton::Right || shift != 0) return;
   const Ref<Control> keepAlive(this);  // the menu can delete the very control that it is opened for
   SelectInDesigner();
-  OpenDesignerMenu();
+  if (Designer()) OpenDesignerMenu();  // a handler may have ended it
 }
 
 void Control::OnMouseMove(int, int, float, float) {
@@ -166,6 +166,10 @@ void Control::OpenDesignerMenu() {
   Attempt([&] { widget->SetEnabled(false); });
   Attempt([&] { Designer()->OpenControlMenu(*this); });
   Attempt([&] { widget->SetEnabled(true); });
+}
+
+Ref<Widget> BoundWidget(const IControl& control) {
+  return Ref<Widget>(dynamic_cast<Widget*>(control.BoundObject().get()));
 }
 
 bool FlagIsSet(const Text& flag) noexcept {

@@ -92,6 +92,9 @@ class Control : public TableControl, protected WidgetListener {
   Ref<Widget> m_Obj;
 };
 
+/// The widget that an element of a form is bound to; null for the form itself and for an unbound control.
+Ref<Widget> BoundWidget(const IControl& control);
+
 /// Boolean of a flag that is kept as text; a text that is none counts as false.
 bool FlagIsSet(const Text& flag) noexcept;
 

@@ -74,16 +74,15 @@ class DesignerOwner : public FormOwner {
   /// The popup menu of a control, with its items as the lock allows.
   virtual void OpenControlMenu(IControl& control) = 0;
 
-  /// @name A frame hands on what happens on it while a control is being drawn inside.
+  /// @name The mouse on a frame while a control is being added; coordinates are the frame's own.
   /// @{
-  virtual void SurfaceMouseDown(int button, int shift, float x, float y) = 0;
-  virtual void SurfaceMouseMove(int button, int shift, float x, float y) = 0;
-  virtual void SurfaceMouseUp(int button, int shift, float x, float y) = 0;
+  /// Selects the frame. The left button draws the control inside.
+  virtual void FrameMouseDown(IControl& frame, int button, int shift, float x, float y) = 0;
+  virtual void FrameMouseMove(int button, int shift, float x, float y) = 0;
+  virtual void FrameMouseUp(int button, int shift, float x, float y) = 0;
   /// @}
-  virtual bool IsTracking() const = 0;
-  virtual void SetTracking(bool tracking) = 0;
-  virtual bool IsIntoFrame() const = 0;
-  virtual void SetIntoFrame(bool intoFrame) = 0;
+  /// While suspended, a resize of the surface raises no events and a click on it selects nothing.
+  virtual void SuspendEvents(bool suspend) = 0;
 
   /// Gives the surface the form's scale and paints the grid in it.
   virtual void ApplyScaleAndGrid() = 0;

@@ -1,0 +1,21 @@
+#include "cardwright/designer/Placement.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace cardwright {
+
+FormRect RectBetween(FormPoint first, FormPoint second) {
+  second.x = std::max(second.x, 0.0F);
+  second.y = std::max(second.y, 0.0F);
+  if (second.x < first.x) std::swap(first.x, second.x);
+  if (second.y < first.y) std::swap(first.y, second.y);
+  return {first.x, first.y, second.x - first.x, second.y - first.y};
+}
+
+FormExtent RoomIn(const Widget* container, const Surface& surface) {
+  if (container) return {container->Width(), container->Height()};
+  return {surface.Width(), surface.Height()};
+}
+
+}  // namespace cardwright

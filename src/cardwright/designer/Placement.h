@@ -1,0 +1,44 @@
+#pragma once
+
+#include "cardwright/model/Enums.h"
+#include "cardwright/platform/Surface.h"
+
+namespace cardwright {
+
+class DesignClipboard;
+
+/// A point of the surface or of a container, in the surface's scale.
+struct FormPoint {
+  float x = 0;
+  float y = 0;
+};
+
+struct FormExtent {
+  float width = 0;
+  float height = 0;
+};
+
+/// A rectangle on the surface or in a container, in the surface's scale.
+struct FormRect {
+  float left = 0;
+  float top = 0;
+  float width = 0;
+  float height = 0;
+};
+
+/// The rectangle between two opposite corners. The second one is moved to the edge where it is negative.
+FormRect RectBetween(FormPoint first, FormPoint second);
+
+/// A control to be put on the surface.
+struct Placement {
+  ControlTypeEnum type = ControlTypeEnum::ctDefault;
+  FormRect rectangle;
+  Ref<Widget> container;  ///< null for the surface itself
+  const DesignClipboard* source =
+      nullptr;  ///< what is pasted, at the top left corner; null for a new control
+};
+
+/// Room for controls in a container, or on the surface for null.
+FormExtent RoomIn(const Widget* container, const Surface& surface);
+
+}  // namespace cardwright

@@ -1,0 +1,20 @@
+#include "cardwright/designer/StackOrder.h"
+
+#include "cardwright/model/Control.h"
+
+namespace cardwright {
+
+void StackOrder::Append(const Ref<IControl>& control) {
+  m_Controls->Add(Variant(Ref<Object>(control)), Variant(control->Name()));
+}
+
+void StackOrder::Remove(const IControl& control) { m_Controls->Remove(Variant(control.Name())); }
+
+void StackOrder::Restack(const Ref<IControl>& control, StackPosition position) {
+  Attempt([&] { Remove(*control); });
+  Attempt([&] { Append(control); });
+  Attempt([&] { control->SetZOrder(static_cast<std::int16_t>(position)); });
+  if (const Ref<Widget> widget = BoundWidget(*control)) Attempt([&] { widget->SetZOrder(position); });
+}
+
+}  // namespace cardwright
