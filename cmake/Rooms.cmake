@@ -35,6 +35,7 @@ set(CARDWRIGHT_INSTALLED_platform Color.h DesignSurface.h Desktop.h Files.h Font
     Picture.h PropertyBag.h Scale.h ScreenRect.h ScriptControl.h ScriptEngine.h ScriptLanguages.h Surface.h Widget.h
     WidgetListener.h)
 set(CARDWRIGHT_INSTALLED_storage CIni.h CodePage.h FileStamp.h IniFile.h IniName.h IniStore.h NameIndex.h)
+set(CARDWRIGHT_INSTALLED_shared FeatureTypes.h)
 set(CARDWRIGHT_INSTALLED_vbscript Engine.h)
 set(CARDWRIGHT_INSTALLED_jscript Engine.h)
 set(CARDWRIGHT_INSTALLED_hosting ClassRegistry.h FormScripts.h)
@@ -42,7 +43,7 @@ set(CARDWRIGHT_INSTALLED_orv EmbeddedHost.h)
 set(CARDWRIGHT_INSTALLED_model CForm.h ClassTable.h Control.h Enums.h FormOwner.h IControl.h Steps.h TableControl.h)
 set(CARDWRIGHT_INSTALLED_designer DesignClipboard.h DesignGrid.h DesignMenu.h FormDesigner.h
     GrabHandles.h OuterSize.h Placement.h Placer.h Selection.h StackOrder.h)
-set(CARDWRIGHT_INSTALLED_runtime AttributeList.h CAttrib.h FormButton.h FormInput.h HostCommands.h Vellum.h)
+set(CARDWRIGHT_INSTALLED_runtime AttributeBinding.h CAttrib.h FormButton.h FormInput.h Vellum.h)
 set(CARDWRIGHT_INSTALLED_qt FormDesigner.h FormInput.h Library.h VisualControl.h desktop/QtDesktop.h
     desktop/QtSettings.h values/QtText.h)
 
