@@ -23,8 +23,8 @@ int Run(const std::string& command, std::span<const std::string> words) {
   qFatal("the desktop module has no command %s", command.c_str());
 }
 
-std::unique_ptr<ScriptDesktop> Start(app::ScriptDisplay display, ScriptSurroundings& surroundings) {
-  return std::make_unique<QtScriptDesktop>(display, surroundings);
+std::unique_ptr<ScriptDesktop> Start(app::ScriptDisplay display, ScriptEnvironment& environment) {
+  return std::make_unique<QtScriptDesktop>(display, environment);
 }
 
 }  // namespace

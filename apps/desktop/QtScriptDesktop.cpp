@@ -7,7 +7,7 @@
 
 namespace cardwright::desktop {
 
-QtScriptDesktop::QtScriptDesktop(app::ScriptDisplay display, ScriptSurroundings& surroundings)
+QtScriptDesktop::QtScriptDesktop(app::ScriptDisplay display, ScriptEnvironment& environment)
     : m_Session(display == app::ScriptDisplay::Required ? Display::Needed : Display::IfThere) {
   // Closing windows must not end the script.
   QApplication::setQuitOnLastWindowClosed(false);
@@ -15,15 +15,15 @@ QtScriptDesktop::QtScriptDesktop(app::ScriptDisplay display, ScriptSurroundings&
   if (!m_Session.HasDisplay()) {
     // Warnings of the platform plug-in about windows that nobody sees would only confuse.
     QLoggingCategory::setFilterRules(QStringLiteral("default.warning=false"));
-    m_Unseen.emplace([&surroundings](const Text& line) {
-      if (surroundings.say) surroundings.say(line);
+    m_Unseen.emplace([&environment](const Text& line) {
+      if (environment.writeLine) environment.writeLine(line);
     });
   }
-  AddDesktopClasses(surroundings.classes);
-  m_Windows.AddClasses(surroundings.classes);
+  AddDesktopClasses(environment.classes);
+  m_Windows.AddClasses(environment.classes);
 }
 
-void QtScriptDesktop::Serve(std::chrono::milliseconds time) { robot::ProcessEvents(time); }
+void QtScriptDesktop::ProcessEvents(std::chrono::milliseconds time) { robot::ProcessEvents(time); }
 
 bool QtScriptDesktop::HasDisplay() const { return m_Session.HasDisplay(); }
 

@@ -14,9 +14,9 @@ namespace cardwright::desktop {
 class QtScriptDesktop final : public ScriptDesktop {
  public:
   /// Error 5 with a description where a display is required and there is none.
-  QtScriptDesktop(app::ScriptDisplay display, ScriptSurroundings& surroundings);
+  QtScriptDesktop(app::ScriptDisplay display, ScriptEnvironment& environment);
 
-  void Serve(std::chrono::milliseconds time) override;
+  void ProcessEvents(std::chrono::milliseconds time) override;
   bool HasDisplay() const override;
 
  private:

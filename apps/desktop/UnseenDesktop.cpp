@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "cardwright/hosting/MessageBoxes.h"
+#include "cardwright/hosting/DefaultButton.h"
 #include "cardwright/shared/ModuleState.h"
 
 namespace cardwright::desktop {

@@ -15,8 +15,8 @@ enum class ScriptDisplay { IfThere, Required };
 struct DesktopModule {
   /// Runs one of the commands that need the toolkit or the data library; gives the exit status.
   int (*run)(const std::string& command, std::span<const std::string> words);
-  /// Starts the toolkit for a script and adds the classes that need it. The surroundings outlive it.
-  std::unique_ptr<ScriptDesktop> (*startForScript)(ScriptDisplay display, ScriptSurroundings& surroundings);
+  /// Starts the toolkit for a script and adds the classes that need it. The environment outlives it.
+  std::unique_ptr<ScriptDesktop> (*startForScript)(ScriptDisplay display, ScriptEnvironment& environment);
 };
 
 /// Loads the module at the first call: its symbol `cardwrightDesktopModule`. Error 48 with the reason where

@@ -48,15 +48,15 @@ int RunScriptCommand(std::span<const std::string> words) {
   job.traces = line.Has("trace");
   job.profiles = line.Has("profile");
 
-  ScriptSurroundings surroundings{.languages = Languages(), .classes = {}};
-  surroundings.program = Text::FromUtf8(ProgramPath());
-  surroundings.hasDisplay = hasDisplay;
-  AddCoreClasses(surroundings.classes);
+  ScriptEnvironment environment{.languages = Languages(), .classes = {}};
+  environment.program = Text::FromUtf8(ProgramPath());
+  environment.hasDisplay = hasDisplay;
+  AddCoreClasses(environment.classes);
   const ScriptDisplay display = line.Has("display") ? ScriptDisplay::Required : ScriptDisplay::IfThere;
-  surroundings.classes.SetLoader(u"Cardwright.", [&surroundings, display](ClassRegistry&) {
-    surroundings.desktop = LoadDesktopModule().startForScript(display, surroundings);
+  environment.classes.SetLoader(u"Cardwright.", [&environment, display](ClassRegistry&) {
+    environment.desktop = LoadDesktopModule().startForScript(display, environment);
   });
-  return RunScript(job, surroundings);
+  return RunScript(job, environment);
 }
 
 }  // namespace cardwright::app

@@ -48,7 +48,7 @@ TEST(ClassRegistryLoader, RunsOnceAndOnlyForAnUnknownClassOfItsPrefix) {
   EXPECT_EQ(loads, 1);
 }
 
-TEST(ClassRegistryLoader, RunsWhenItIsToldTo) {
+TEST(ClassRegistryLoader, RunsOnLoad) {
   ClassRegistry classes;
   int loads = 0;
   classes.Load();

@@ -33,14 +33,14 @@ class EventSinksTest : public ::testing::Test {
   Variant m_Times = 1;
 };
 
-TEST_F(EventSinksTest, CallsThePrefixedProcedureAndBringsArgumentsBack) {
+TEST_F(EventSinksTest, CallsThePrefixedProcedureWithArgumentsByReference) {
   m_Sinks.Connect(*m_Bell, u"bell_");
   m_Bell->Ring(m_Times);
   EXPECT_EQ(m_Calls, std::vector<std::string>{"bell_Rung 1"});
   EXPECT_EQ(ToLong(m_Times), 2);
 }
 
-TEST_F(EventSinksTest, EndsAllConnectionsOfOneObject) {
+TEST_F(EventSinksTest, DisconnectEndsAllConnectionsOfTheObject) {
   const auto other = MakeRef<Bell>();
   m_Sinks.Connect(*m_Bell, u"a_");
   m_Sinks.Connect(*m_Bell, u"b_");
@@ -51,9 +51,9 @@ TEST_F(EventSinksTest, EndsAllConnectionsOfOneObject) {
   EXPECT_EQ(m_Calls, std::vector<std::string>{"c_Rung 1"});
 }
 
-TEST_F(EventSinksTest, IsSilentOnceCleared) {
+TEST_F(EventSinksTest, CallsNothingAfterDisconnectAll) {
   m_Sinks.Connect(*m_Bell, u"a_");
-  m_Sinks.Clear();
+  m_Sinks.DisconnectAll();
   m_Bell->Ring(m_Times);
   EXPECT_TRUE(m_Calls.empty());
 }

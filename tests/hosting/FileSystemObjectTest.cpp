@@ -46,7 +46,7 @@ void PrintTo(const PathCase& c, std::ostream* out) {
 }
 class PathPartsTest : public ::testing::TestWithParam<PathCase> {};
 
-TEST_P(PathPartsTest, GoesByTheTextAlone) {
+TEST_P(PathPartsTest, LooksAtTheTextOnly) {
   const auto files = MakeRef<FileSystemObject>();
   EXPECT_EQ(Utf8Of(CallMethod(*files, GetParam().member, {GetParam().path})), GetParam().result);
 }
@@ -76,7 +76,7 @@ TEST_F(FileSystemObjectTest, TakesRelativePathsFromTheCurrentFolder) {
   EXPECT_EQ(Utf8Of(Call(u"GetAbsolutePathName", {u"x"})), here.ToUtf8() + "/x");
 }
 
-TEST_F(FileSystemObjectTest, TellsFilesFromFolders) {
+TEST_F(FileSystemObjectTest, DistinguishesFilesFromFolders) {
   const Text file = m_Folder.Write("sub/a.txt", "");
   EXPECT_TRUE(ToBoolean(Call(u"FileExists", {file})));
   EXPECT_TRUE(ToBoolean(Call(u"FileExists", {Backslashed(file)})));
@@ -100,14 +100,14 @@ TEST_F(FileSystemObjectTest, RaisesThePlatformsErrorsForFilesThatCannotBeOpened)
   EXPECT_EQ(ErrorOfCall(u"CreateTextFile", {m_Folder / "none/none"}), 76);
 }
 
-TEST_F(FileSystemObjectTest, CreatesTextFilesInEitherCoding) {
+TEST_F(FileSystemObjectTest, CreatesTextFilesInEitherEncoding) {
   CallMethod(*ObjectOf(Call(u"CreateTextFile", {m_Folder / "a"})), u"Write", {u"è"});
   EXPECT_EQ(m_Folder.Read("a"), "\xE8");
   CallMethod(*ObjectOf(Call(u"CreateTextFile", {m_Folder / "a", true, true})), u"Write", {u"è"});
   EXPECT_EQ(m_Folder.Read("a"), std::string("\xFF\xFE\xE8\0", 4));
 }
 
-TEST_F(FileSystemObjectTest, ShowsAFile) {
+TEST_F(FileSystemObjectTest, ReturnsTheFactsOfAFile) {
   const Text path = m_Folder.Write("some name.TXT", "12345");
   const Ref<Object> file = ObjectOf(Call(u"GetFile", {Backslashed(path)}));
   EXPECT_EQ(Utf8Of(Variant(file)), path.ToUtf8());
@@ -121,7 +121,7 @@ TEST_F(FileSystemObjectTest, ShowsAFile) {
   EXPECT_EQ(ErrorOfCall(u"GetFile", {m_Folder / "none/none"}), 76);
 }
 
-TEST_F(FileSystemObjectTest, TellsWhenAFileWasChangedInLocalTime) {
+TEST_F(FileSystemObjectTest, ReturnsDateLastModifiedInLocalTime) {
   const Text path = m_Folder.Write("a", "");
   const std::timespec times[2] = {{86'400, 0}, {1'000'000'000, 0}};
   ASSERT_EQ(utimensat(AT_FDCWD, path.ToUtf8().c_str(), times, 0), 0);
@@ -231,7 +231,7 @@ TEST_F(FileSystemObjectTest, CreatesCopiesMovesAndDeletesFolders) {
   EXPECT_EQ(ErrorOfCall(u"DeleteFolder", {m_Folder / "moved"}), 76);
 }
 
-TEST_F(FileSystemObjectTest, ShowsAFolder) {
+TEST_F(FileSystemObjectTest, ReturnsTheFactsOfAFolder) {
   m_Folder.Write("top/b.txt", "12");
   m_Folder.Write("top/a.txt", "345");
   m_Folder.Write("top/sub/c.txt", "6789");

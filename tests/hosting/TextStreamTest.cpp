@@ -52,13 +52,13 @@ TEST_F(TextStreamTest, CountsLineAndColumnFromOne) {
   EXPECT_EQ(place(), "2:2");
 }
 
-TEST_F(TextStreamTest, ReadsAllThatIsLeft) {
+TEST_F(TextStreamTest, ReadAllReturnsTheRest) {
   const Ref<Object> stream = Reader("one\r\ntwo\r\n");
   CallMethod(*stream, u"SkipLine");
   EXPECT_EQ(Utf8Of(CallMethod(*stream, u"ReadAll")), "two\r\n");
 }
 
-TEST_F(TextStreamTest, ReadsAFileLargerThanItsBlocks) {
+TEST_F(TextStreamTest, ReadsAFileOfSeveralBlocks) {
   std::string bytes;
   for (int i = 0; i < 40'000; ++i) bytes += "line " + std::to_string(i) + "\n";
   const Ref<Object> stream = Reader(bytes);
@@ -67,7 +67,7 @@ TEST_F(TextStreamTest, ReadsAFileLargerThanItsBlocks) {
   EXPECT_EQ(ToText(CallMethod(*Reader(bytes), u"ReadAll")).Size(), bytes.size());
 }
 
-TEST_F(TextStreamTest, SkipsMoreThanItsBlocksHold) {
+TEST_F(TextStreamTest, SkipsMoreThanOneBlock) {
   const Ref<Object> stream = Reader(std::string(200'000, 'a') + std::string(100'000, 'b') + "\nlast");
   CallMethod(*stream, u"Skip", {199'999});
   EXPECT_EQ(Utf8Of(GetProperty(*stream, u"Column")), "200000");
@@ -77,7 +77,7 @@ TEST_F(TextStreamTest, SkipsMoreThanItsBlocksHold) {
   EXPECT_EQ(Utf8Of(CallMethod(*stream, u"ReadAll")), "last");
 }
 
-TEST_F(TextStreamTest, FailsBehindTheEnd) {
+TEST_F(TextStreamTest, RaisesInputPastEndAtTheEnd) {
   for (const char16_t* member : {u"ReadLine", u"ReadAll", u"SkipLine"})
     EXPECT_EQ(ErrorOf([&] { CallMethod(*Reader(""), member); }), 62);
   for (const char16_t* member : {u"Read", u"Skip"})
@@ -92,7 +92,7 @@ TEST_F(TextStreamTest, RefusesNegativeCounts) {
   EXPECT_EQ(ErrorOf([&] { CallMethod(*Open("out", kWriting), u"WriteBlankLines", {-1}); }), 5);
 }
 
-TEST_F(TextStreamTest, ServesOneDirectionOnly) {
+TEST_F(TextStreamTest, RefusesToWriteWhenOpenForReadingAndViceVersa) {
   for (const char16_t* member : {u"ReadLine", u"ReadAll", u"SkipLine"})
     EXPECT_EQ(ErrorOf([&] { CallMethod(*Open("out", kWriting), member); }), 54);
   EXPECT_EQ(ErrorOf([&] { GetProperty(*Open("out", kAppending), u"AtEndOfStream"); }), 54);
@@ -100,7 +100,7 @@ TEST_F(TextStreamTest, ServesOneDirectionOnly) {
     EXPECT_EQ(ErrorOf([&] { CallMethod(*Reader("ab"), member, {u"x"}); }), 54);
 }
 
-TEST_F(TextStreamTest, IsGoneOnceClosed) {
+TEST_F(TextStreamTest, RaisesObjectNotSetOnceClosed) {
   const Ref<Object> stream = Reader("ab");
   CallMethod(*stream, u"Close");
   CallMethod(*stream, u"Close");
@@ -118,12 +118,12 @@ TEST_F(TextStreamTest, WritesLinesThatEndInCrLf) {
   EXPECT_EQ(m_Folder.Read("out"), "ab\r\n\r\n\r\n\r\n");
 }
 
-TEST_F(TextStreamTest, WritesWhatWaitsWhenNobodyHoldsItAnyMore) {
+TEST_F(TextStreamTest, FlushesOnDestruction) {
   CallMethod(*Open("out", kWriting), u"Write", {u"kept"});
   EXPECT_EQ(m_Folder.Read("out"), "kept");
 }
 
-TEST_F(TextStreamTest, AppendsOrBeginsAnew) {
+TEST_F(TextStreamTest, AppendsOrTruncates) {
   m_Folder.Write("out", "old");
   CallMethod(*Open("out", kAppending), u"Write", {u"+new"});
   EXPECT_EQ(m_Folder.Read("out"), "old+new");
@@ -131,7 +131,7 @@ TEST_F(TextStreamTest, AppendsOrBeginsAnew) {
   EXPECT_EQ(m_Folder.Read("out"), "x");
 }
 
-TEST_F(TextStreamTest, HasOneByteACharacterByTheCodePage) {
+TEST_F(TextStreamTest, WritesOneByteForEachCharacterOfTheCodePage) {
   std::string all;
   for (int byte = 0; byte < 256; ++byte) all += static_cast<char>(byte);
   const Text text = ToText(CallMethod(*Reader(all), u"ReadAll"));
@@ -149,7 +149,7 @@ TEST_F(TextStreamTest, RefusesACharacterThatTheCodePageLacks) {
   EXPECT_EQ(m_Folder.Read("out"), "\xC6");
 }
 
-TEST_F(TextStreamTest, WritesUtf16BehindAMarkAndReadsItBack) {
+TEST_F(TextStreamTest, WritesUtf16WithAByteOrderMarkAndReadsItBack) {
   CallMethod(*Open("out", kWriting, kUnicode), u"Write", {u"Ж"});
   EXPECT_EQ(m_Folder.Read("out"), std::string("\xFF\xFE\x16\x04"));
   CallMethod(*Open("out", kAppending, kUnicode), u"Write", {u"!"});
@@ -157,11 +157,11 @@ TEST_F(TextStreamTest, WritesUtf16BehindAMarkAndReadsItBack) {
   EXPECT_EQ(Utf8Of(CallMethod(*Open("out", kReading, kUnicode), u"ReadAll")), "Ж!");
 }
 
-TEST_F(TextStreamTest, ShowsTheMarkToWhoReadsBytes) {
+TEST_F(TextStreamTest, ReadsTheByteOrderMarkAsCharactersInTheCodePage) {
   EXPECT_EQ(ToText(CallMethod(*Reader("\xFF\xFE"), u"ReadAll")), u"ÿþ");
 }
 
-TEST_F(TextStreamTest, ReadsUtf16WithoutAMarkToo) {
+TEST_F(TextStreamTest, ReadsUtf16WithoutAByteOrderMark) {
   EXPECT_EQ(Utf8Of(CallMethod(*Reader(std::string("a\0b\0", 4), kUnicode), u"ReadAll")), "ab");
 }
 

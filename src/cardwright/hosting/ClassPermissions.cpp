@@ -20,18 +20,18 @@ Text ClassPermissions::Key(std::u16string_view progid) const {
   return Canonical(m_File) + u" " + ToLower(progid);
 }
 
-// Of the path too, as the settings take names for the same whatever their case, and paths are not.
+// Includes the path, as the settings ignore the case of keys and the file system does not.
 Text ClassPermissions::Digest() const {
   return Module().desktop->Digest(Canonical(m_File) + u"\n" + m_Program);
 }
 
-bool ClassPermissions::IsKept(std::u16string_view progid) const {
+bool ClassPermissions::IsSaved(std::u16string_view progid) const {
   const SettingsStore& settings = Module().desktop->Settings();
   return settings.Get(kSettingsApp, kSettingsSection, Key(progid), {}) == Digest();
 }
 
-void ClassPermissions::Keep(std::u16string_view progid) const {
-  if (!Module().desktop) return;  // it can end while the box is open
+void ClassPermissions::Save(std::u16string_view progid) const {
+  if (!Module().desktop) return;  // the desktop can end while the box is open
   Module().desktop->Settings().Save(kSettingsApp, kSettingsSection, Key(progid), Digest());
 }
 
@@ -45,23 +45,23 @@ bool ClassPermissions::Ask(std::u16string_view progid) const {
   return Module().desktop->ShowMessage(question, kStyle, {}) == BoxAnswer::Yes;
 }
 
-bool ClassPermissions::Note(std::u16string_view progid, bool isYes) {
+bool ClassPermissions::Remember(std::u16string_view progid, bool isYes) {
   std::erase_if(m_Answers, [&](const Answer& one) { return EqualsNoCase(one.progid, progid); });
   m_Answers.push_back({Text(progid), isYes});
   return isYes;
 }
 
-bool ClassPermissions::Allow(std::u16string_view progid, bool mayAsk) {
+bool ClassPermissions::IsAllowed(std::u16string_view progid, bool mayAsk) {
   for (const Answer& one : m_Answers)
     if (EqualsNoCase(one.progid, progid)) return one.isYes;
   const Desktop* const desktop = Module().desktop;
   if (!desktop || Canonical(m_File).IsEmpty()) return false;
-  if (IsKept(progid)) return Note(progid, true);
+  if (IsSaved(progid)) return Remember(progid, true);
   if (!mayAsk || !desktop->IsAttended()) return false;
-  Note(progid, false);  // for what asks while the box is open
+  Remember(progid, false);  // for requests while the box is open
   if (!Ask(progid)) return false;
-  Keep(progid);
-  return Note(progid, true);
+  Save(progid);
+  return Remember(progid, true);
 }
 
 }  // namespace cardwright

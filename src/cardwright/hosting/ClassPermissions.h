@@ -7,22 +7,21 @@
 
 namespace cardwright {
 
-/// The classes that a user has allowed the script of one form project. An allowance is kept in the user's
-/// settings for the project file and the script as it was then: a changed script, or the same in another
-/// file, asks again. A refusal holds as long as the object lives.
+/// The classes that the user allowed the script of one form project. A permission is saved in the user's
+/// settings for this project file and this text of the script: after a change of the script, and for a copy
+/// of the file, the user is asked again. A refusal lasts as long as the object.
 class ClassPermissions {
  public:
-  /// @name Where allowances are kept: a key for each project file and class
+  /// @name Where permissions are saved: a key for each project file and class
   /// @{
   static constexpr std::u16string_view kSettingsApp = u"Cardwright", kSettingsSection = u"FormScripts";
   /// @}
 
-  /// `file` is the project's path, `program` all that its script runs.
+  /// `file` is the project's path, `program` the whole text that its script runs.
   ClassPermissions(Text file, Text program) : m_File(std::move(file)), m_Program(std::move(program)) {}
 
-  /// Asks the user where they have not answered yet, and if they are there to answer and `mayAsk`; otherwise
-  /// the answer is no.
-  bool Allow(std::u16string_view progid, bool mayAsk);
+  /// Asks the user if there is no answer yet, `mayAsk` is true and the desktop is attended; otherwise false.
+  bool IsAllowed(std::u16string_view progid, bool mayAsk);
 
  private:
   struct Answer {
@@ -30,9 +29,9 @@ class ClassPermissions {
     bool isYes = false;
   };
 
-  bool Note(std::u16string_view progid, bool isYes);
-  bool IsKept(std::u16string_view progid) const;
-  void Keep(std::u16string_view progid) const;
+  bool Remember(std::u16string_view progid, bool isYes);
+  bool IsSaved(std::u16string_view progid) const;
+  void Save(std::u16string_view progid) const;
   bool Ask(std::u16string_view progid) const;
   Text Key(std::u16string_view progid) const;
   Text Digest() const;

@@ -8,19 +8,19 @@
 
 namespace cardwright {
 
-/// The classes that a script can make objects of, by their programmatic identifiers, whatever the case.
+/// The classes that a script can create, by their programmatic identifiers in any case.
 class ClassRegistry {
  public:
   using Maker = std::function<Ref<Object>()>;
-  /// Adds the classes of a part of the program that is loaded when it is first needed.
+  /// Adds the classes of a module that is loaded when first needed.
   using Loader = std::function<void(ClassRegistry& classes)>;
 
   /// A second maker of an identifier replaces the first.
   void Add(std::u16string_view progid, Maker make);
-  /// The loader runs once, when a class is asked for whose identifier begins with `prefix` and is not known
-  /// yet. Where it fails, it runs again the next time.
+  /// The loader runs once, for the first unknown identifier that begins with `prefix`. If it fails, it runs
+  /// again the next time.
   void SetLoader(std::u16string_view prefix, Loader load);
-  /// Runs the loader if it has not run yet. Errors of the loader.
+  /// Runs the loader if it has not succeeded yet. Errors of the loader.
   void Load();
   /// Whether a class has the identifier. Errors of the loader.
   bool Has(std::u16string_view progid) { return Find(progid) != nullptr; }
@@ -46,7 +46,7 @@ class ClassRegistry {
   Loader m_Load;
 };
 
-/// Adds the classes that reach nothing of the machine, which every script may use: Scripting.Dictionary and
+/// Adds the classes that every script may use as they cannot reach the machine: Scripting.Dictionary and
 /// VBScript.RegExp.
 void AddSafeClasses(ClassRegistry& classes);
 /// Adds the classes that need no toolkit: Scripting.Dictionary, Scripting.FileSystemObject, VBScript.RegExp

@@ -10,7 +10,7 @@ std::u16string Digits(int number) {
   return {digits.begin(), digits.end()};
 }
 
-// The engines name themselves with a maker in front; the line goes without.
+// The engines put a maker in front of their names, which the line leaves out.
 Text Origin(std::u16string_view language, const ScriptError& error) {
   constexpr std::u16string_view kMaker = u"Microsoft ";
   const Text compilation = Text(language) + u" compilation error",

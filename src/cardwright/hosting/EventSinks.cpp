@@ -5,25 +5,26 @@
 namespace cardwright {
 
 void EventSinks::Connect(Object& object, std::u16string_view prefix) {
-  const int connection = object.Connect(
+  const int id = object.Connect(
       [this, start = Text(prefix)](std::u16string_view event, Args args) { m_Call(start + event, args); });
-  m_Sinks.push_back({Ref<Object>(&object), connection});
+  m_Connections.push_back({Ref<Object>(&object), id});
 }
 
 void EventSinks::Disconnect(const Object& object) {
-  std::vector<Sink> kept;
-  for (Sink& sink : m_Sinks) {
-    if (sink.object == &object) {
-      sink.object->Disconnect(sink.connection);
+  std::vector<Connection> kept;
+  for (Connection& connection : m_Connections) {
+    if (connection.object == &object) {
+      connection.object->Disconnect(connection.id);
     } else {
-      kept.push_back(std::move(sink));
+      kept.push_back(std::move(connection));
     }
   }
-  m_Sinks.swap(kept);
+  m_Connections.swap(kept);
 }
 
-void EventSinks::Clear() {
-  for (const Sink& sink : std::exchange(m_Sinks, {})) sink.object->Disconnect(sink.connection);
+void EventSinks::DisconnectAll() {
+  for (const Connection& connection : std::exchange(m_Connections, {}))
+    connection.object->Disconnect(connection.id);
 }
 
 }  // namespace cardwright

@@ -8,31 +8,31 @@
 
 namespace cardwright {
 
-/// The objects whose events call procedures of a script: event E of an object that was connected with a
-/// prefix calls the procedure `prefix & "E"`.
+/// The objects whose events call procedures of a script: the event E of an object connected with a prefix
+/// calls the procedure `prefix & "E"`.
 class EventSinks {
  public:
   /// Calls the procedure with the event's arguments.
   using Call = std::function<void(std::u16string_view procedure, Args args)>;
 
   explicit EventSinks(Call call) : m_Call(std::move(call)) {}
-  ~EventSinks() { Clear(); }
+  ~EventSinks() { DisconnectAll(); }
   EventSinks(const EventSinks&) = delete;
   EventSinks& operator=(const EventSinks&) = delete;
 
   void Connect(Object& object, std::u16string_view prefix);
-  /// Ends all connections of the object; one that has none is passed over.
+  /// Ends all connections of the object, if it has any.
   void Disconnect(const Object& object);
-  void Clear();
+  void DisconnectAll();
 
  private:
-  struct Sink {
+  struct Connection {
     Ref<Object> object;
-    int connection;
+    int id;
   };
 
   const Call m_Call;
-  std::vector<Sink> m_Sinks;
+  std::vector<Connection> m_Connections;
 };
 
 }  // namespace cardwright

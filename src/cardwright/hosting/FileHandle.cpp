@@ -18,7 +18,7 @@ void FileHandle::Close() noexcept {
 }
 
 std::size_t FileHandle::Read(char* bytes, std::size_t size) const {
-  // There may be no end to what is read.
+  // Ctrl+C must end the wait for input that never comes.
   while (!InterruptSignal::WasRaised()) {
     const ssize_t count = ::read(m_Descriptor, bytes, size);
     if (count >= 0) return static_cast<std::size_t>(count);

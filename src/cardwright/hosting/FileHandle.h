@@ -21,10 +21,10 @@ class FileHandle {
   bool IsTerminal() const noexcept;
   void Close() noexcept;
 
-  /// Reads what is there, at most `size` bytes, after waiting for some; 0 at the end. Error 57 where the
-  /// device fails, and after Ctrl+C, which ends a wait.
+  /// Waits for input and reads at most `size` bytes; 0 at the end. Error 57 where the device fails, and after
+  /// Ctrl+C, which ends the wait.
   std::size_t Read(char* bytes, std::size_t size) const;
-  /// Writes all bytes. Error 61 where there is no room, else 57.
+  /// Writes all bytes. Error 61 where the disk is full, 57 for other failures.
   void Write(std::string_view bytes) const;
 
  private:

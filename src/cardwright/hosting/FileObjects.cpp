@@ -56,9 +56,9 @@ Ref<FileEntry> MakeEntry(const Text& path, EntryKind kind) {
   return MakeRef<FolderObject>(path);
 }
 
-class PathWalk final : public Enumerator {
+class EntryEnumerator final : public Enumerator {
  public:
-  PathWalk(std::vector<Text> paths, EntryKind kind) : m_Paths(std::move(paths)), m_Kind(kind) {}
+  EntryEnumerator(std::vector<Text> paths, EntryKind kind) : m_Paths(std::move(paths)), m_Kind(kind) {}
   bool Next(Variant& value) override {
     if (m_Next == m_Paths.size()) return false;
     value = MakeEntry(m_Paths[m_Next++], m_Kind);
@@ -89,7 +89,7 @@ Ref<FolderObject> FileEntry::ParentFolder() const {
 
 void FileEntry::Copy(const Text& target, std::optional<bool> overwrite) {
   files::Copy(m_Path, target, Kind(),
-              overwrite.value_or(true) ? files::IfThere::Overwrite : files::IfThere::Fail);
+              overwrite.value_or(true) ? files::IfExists::Overwrite : files::IfExists::Fail);
 }
 
 void FileEntry::Move(const Text& target) {
@@ -98,7 +98,8 @@ void FileEntry::Move(const Text& target) {
 }
 
 void FileEntry::Delete(std::optional<bool> force) {
-  files::Delete(m_Path, Kind(), force.value_or(false) ? files::ReadOnly::Delete : files::ReadOnly::Keep);
+  files::Delete(m_Path, Kind(),
+                force.value_or(false) ? files::ReadOnlyFiles::Delete : files::ReadOnlyFiles::Keep);
 }
 
 Text FileObject::Type() const {
@@ -109,7 +110,7 @@ Text FileObject::Type() const {
 Ref<TextStream> FileObject::OpenAsTextStream(std::optional<std::int32_t> mode,
                                              std::optional<std::int32_t> format) {
   return files::Open(FilePath(Path()), files::ModeOf(mode.value_or(1)), files::IfMissing::Fail,
-                     files::CodingOf(format.value_or(0)));
+                     files::EncodingOf(format.value_or(0)));
 }
 
 const MemberTable& FileObject::Members() const {
@@ -149,7 +150,9 @@ Ref<FolderObject> FileEntries::Add(const Text& name) {
   return MakeRef<FolderObject>(path);
 }
 
-std::unique_ptr<Enumerator> FileEntries::Enumerate() { return std::make_unique<PathWalk>(Paths(), m_Kind); }
+std::unique_ptr<Enumerator> FileEntries::Enumerate() {
+  return std::make_unique<EntryEnumerator>(Paths(), m_Kind);
+}
 
 const MemberTable& FileEntries::Members() const {
   static const MemberTable table(kEntriesMembers, u"Item");
@@ -159,8 +162,8 @@ const MemberTable& FileEntries::Members() const {
 Ref<TextStream> FolderObject::CreateTextFile(const Text& name, std::optional<bool> overwrite,
                                              std::optional<bool> unicode) {
   return files::Create(FilePath(JoinPath(Path(), name)),
-                       overwrite.value_or(true) ? files::IfThere::Overwrite : files::IfThere::Fail,
-                       unicode.value_or(false) ? TextCoding::Utf16 : TextCoding::CodePage);
+                       overwrite.value_or(true) ? files::IfExists::Overwrite : files::IfExists::Fail,
+                       unicode.value_or(false) ? TextEncoding::Utf16 : TextEncoding::CodePage);
 }
 
 const MemberTable& FolderObject::Members() const {

@@ -7,26 +7,25 @@ namespace cardwright {
 
 class FolderObject;
 
-/// A file or folder by its complete path, as the file system object hands it out. It is looked at anew with
-/// each call.
+/// A file or folder by its absolute path. Each call looks at the disk.
 class FileEntry : public TableObject {
  public:
   explicit FileEntry(const Text& path) : m_Path(path) {}
 
   const Text& Path() const noexcept { return m_Path; }
   Text Name() const { return FileName(m_Path); }
-  /// Gives another name in the same folder.
+  /// Renames it within its folder.
   void SetName(const Text& name);
   /// Null for the root.
   Ref<FolderObject> ParentFolder() const;
   Variant Size() const { return files::SizeOf(FilePath(m_Path)); }
   std::int32_t Attributes() const { return files::Attributes(FilePath(m_Path)); }
   void SetAttributes(std::int32_t attributes) { files::SetAttributes(FilePath(m_Path), attributes); }
-  Date DateCreated() const { return files::TimeOf(FilePath(m_Path), files::Moment::Created); }
-  Date DateLastModified() const { return files::TimeOf(FilePath(m_Path), files::Moment::Changed); }
-  Date DateLastAccessed() const { return files::TimeOf(FilePath(m_Path), files::Moment::Used); }
+  Date DateCreated() const { return files::TimeOf(FilePath(m_Path), files::FileTime::Created); }
+  Date DateLastModified() const { return files::TimeOf(FilePath(m_Path), files::FileTime::Modified); }
+  Date DateLastAccessed() const { return files::TimeOf(FilePath(m_Path), files::FileTime::Accessed); }
   void Copy(const Text& target, std::optional<bool> overwrite);
-  /// The object then stands for the entry at its new place.
+  /// The object follows its entry.
   void Move(const Text& target);
   void Delete(std::optional<bool> force);
 
@@ -50,7 +49,7 @@ class FileObject final : public FileEntry {
   const MemberTable& Members() const override;
 };
 
-/// The files or the folders in a folder, by name. For Each meets those that were there when it began.
+/// The files or the folders in a folder, by name. For Each visits those that exist when it begins.
 class FileEntries final : public TableObject {
  public:
   FileEntries(const Text& folder, EntryKind kind) : m_Folder(folder), m_Kind(kind) {}

@@ -24,7 +24,7 @@ void Check(const std::error_code& error, const fs::path& path) {
   if (error) RaiseFileError(error, path);
 }
 
-// Calls `act` with each entry and the path that it gets.
+// Calls `act` with each matching entry and its target path.
 template <class Act>
 void ForEachTarget(std::u16string_view source, std::u16string_view target, EntryKind kind, Act act) {
   const std::vector<fs::path> entries = MatchingEntries(source, kind);
@@ -34,31 +34,31 @@ void ForEachTarget(std::u16string_view source, std::u16string_view target, Entry
   for (const fs::path& entry : entries) act(entry, isInto ? to / FilePath(FileName(FromPath(entry))) : to);
 }
 
-void CopyFile(const fs::path& from, const fs::path& to, IfThere ifThere) {
+void CopyFile(const fs::path& from, const fs::path& to, IfExists ifExists) {
   if (IsFolder(to) || IsProtected(to)) Raise(ErrorNumber::PermissionDenied);
-  if (Exists(to) && ifThere == IfThere::Fail) Raise(ErrorNumber::FileExists);
+  if (Exists(to) && ifExists == IfExists::Fail) Raise(ErrorNumber::FileExists);
   std::error_code error;
   fs::copy_file(from, to, fs::copy_options::overwrite_existing, error);
-  // The source is there: what is missing is the target's folder.
+  // The source exists, so the target's folder does not.
   if (error == std::errc::no_such_file_or_directory) Raise(ErrorNumber::PathNotFound);
   if (error == std::errc::file_exists) Raise(ErrorNumber::PermissionDenied);  // onto itself
   Check(error, to);
 }
 
-void CopyFolder(const fs::path& from, const fs::path& to, IfThere ifThere) {
+void CopyFolder(const fs::path& from, const fs::path& to, IfExists ifExists) {
   std::error_code error;
   const fs::path inside =
       fs::weakly_canonical(to, error).lexically_relative(fs::weakly_canonical(from, error));
-  // A folder copied into itself would never come to an end.
+  // Copying a folder into itself would never end.
   if (!inside.empty() && *inside.begin() != "..") Raise(ErrorNumber::PermissionDenied);
   if (Exists(to) && !IsFolder(to)) Raise(ErrorNumber::FileExists);
   if (!IsFolder(to)) CreateFolder(to);
   for (fs::directory_iterator entry(from, error), end; !error && entry != end; entry.increment(error)) {
     const fs::path target = to / entry->path().filename();
     if (IsFolder(entry->path())) {
-      CopyFolder(entry->path(), target, ifThere);
+      CopyFolder(entry->path(), target, ifExists);
     } else {
-      CopyFile(entry->path(), target, ifThere);
+      CopyFile(entry->path(), target, ifExists);
     }
   }
   Check(error, from);
@@ -74,12 +74,12 @@ void CheckUnprotected(const fs::path& folder) {
 
 }  // namespace
 
-void Copy(std::u16string_view source, std::u16string_view target, EntryKind kind, IfThere ifThere) {
+void Copy(std::u16string_view source, std::u16string_view target, EntryKind kind, IfExists ifExists) {
   ForEachTarget(source, target, kind, [&](const fs::path& from, const fs::path& to) {
     if (kind == EntryKind::File) {
-      CopyFile(from, to, ifThere);
+      CopyFile(from, to, ifExists);
     } else {
-      CopyFolder(from, to, ifThere);
+      CopyFolder(from, to, ifExists);
     }
   });
 }
@@ -90,7 +90,7 @@ void Move(std::u16string_view source, std::u16string_view target, EntryKind kind
     std::error_code error;
     fs::rename(from, to, error);
     if (error == std::errc::cross_device_link && kind == EntryKind::File) {
-      CopyFile(from, to, IfThere::Fail);
+      CopyFile(from, to, IfExists::Fail);
       fs::remove(from, error);
     }
     if (error == std::errc::no_such_file_or_directory) Raise(ErrorNumber::PathNotFound);
@@ -99,9 +99,9 @@ void Move(std::u16string_view source, std::u16string_view target, EntryKind kind
   });
 }
 
-void Delete(std::u16string_view source, EntryKind kind, ReadOnly readOnly) {
+void Delete(std::u16string_view source, EntryKind kind, ReadOnlyFiles readOnlyFiles) {
   for (const fs::path& entry : MatchingEntries(source, kind)) {
-    if (readOnly == ReadOnly::Keep) {
+    if (readOnlyFiles == ReadOnlyFiles::Keep) {
       if (IsProtected(entry)) Raise(ErrorNumber::PermissionDenied);
       if (kind == EntryKind::Folder) CheckUnprotected(entry);
     }

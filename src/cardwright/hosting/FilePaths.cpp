@@ -97,7 +97,7 @@ bool HasWildcards(std::u16string_view path) noexcept {
 
 bool MatchesWildcards(std::u16string_view name, std::u16string_view pattern) noexcept {
   if (pattern == u"*.*") pattern = u"*";
-  // On a mismatch behind a "*" that star takes one character more; earlier stars never need to.
+  // On a mismatch after a "*" that star takes one more character; earlier stars never need to.
   constexpr std::size_t kNone = std::u16string_view::npos;
   std::size_t at = 0, in = 0, star = kNone, taken = 0;
   while (at < name.size()) {

@@ -13,27 +13,27 @@
 
 namespace cardwright {
 
-/// One run of a script with all that belongs to it. What stops it stops it for good: nothing in the script
-/// can catch WScript.Quit, Ctrl+C or the failure of an event procedure.
+/// Runs one script file and is its host. WScript.Quit, Ctrl+C and an error in an event procedure end the run
+/// for good: nothing in the script can catch them.
 class FileScriptHost final : public ScriptHost {
  public:
-  FileScriptHost(const ScriptJob& job, const ScriptLanguage& language, ScriptSurroundings& surroundings,
+  FileScriptHost(const ScriptJob& job, const ScriptLanguage& language, ScriptEnvironment& environment,
                  const StandardStreams& streams);
   ~FileScriptHost() override;
 
-  /// Runs the source; gives the exit status.
+  /// Runs the source and returns the exit status.
   int Run(const Text& source);
 
-  /// @name What the object WScript does
+  /// @name For the object WScript
   /// @{
   const ScriptJob& Job() const noexcept { return m_Job; }
-  const Text& Program() const noexcept { return m_Surroundings.program; }
+  const Text& Program() const noexcept { return m_Environment.program; }
   const StandardStreams& Streams() const noexcept { return m_Streams; }
-  /// As the script's language shows it.
+  /// The value as the script's language displays it.
   Text TextOf(const Variant& value) { return m_Engine->TextOf(value); }
   EventSinks& Events() noexcept { return m_Events; }
-  Ref<Object> Create(std::u16string_view progid) { return m_Surroundings.classes.Create(progid); }
-  /// Waits and serves events meanwhile; a stop ends it.
+  Ref<Object> Create(std::u16string_view progid) { return m_Environment.classes.Create(progid); }
+  /// Processes events while it waits; ends early when the script stops.
   void Sleep(std::chrono::milliseconds time);
   void Quit(int status);
   /// @}
@@ -43,30 +43,31 @@ class FileScriptHost final : public ScriptHost {
   int ShowMessage(const Text& text, int style, const Text& title) override;
   Variant AskText(const Text& prompt, const Text& title, const Text& initial, const Variant& x,
                   const Variant& y) override;
-  /// After Ctrl+C, which may have come between two calls of the engine.
+  /// After Ctrl+C, which may come between two calls of the engine.
   bool ShouldStop() override { return InterruptSignal::WasRaised(); }
 
  private:
   bool IsStopping() const noexcept;
   int Status() const;
-  /// Notes an error that nothing in the script caught, and tells of it.
-  void Fail(const Error& error);
-  void CallEvent(std::u16string_view procedure, Args args);
-  /// The script's spelling of a procedure's name, the same one first; empty where it has no such procedure.
-  Text SpellingOf(std::u16string_view procedure) const;
-  /// Whether a message can be shown to a person in a window. Loads what that takes.
-  bool ShowsBoxes();
+  /// Writes an error that the script did not catch to standard error, and ends the run.
+  void ReportError(const Error& error);
+  void CallEventProcedure(std::u16string_view procedure, Args args);
+  /// The script's spelling of a procedure's name, an exact match first; empty where there is no such
+  /// procedure.
+  Text ProcedureSpelling(std::u16string_view procedure) const;
+  /// Whether a person can see a message box. Loads the desktop if need be.
+  bool CanShowMessages();
 
   const ScriptJob& m_Job;
   const ScriptLanguage& m_Language;
-  ScriptSurroundings& m_Surroundings;
+  ScriptEnvironment& m_Environment;
   const StandardStreams& m_Streams;
   EventSinks m_Events;
   std::optional<InterruptSignal> m_Signal;
   std::optional<int> m_Quit;
   bool m_HasFailed = false;
-  bool m_IsOver = false;
-  // Goes first, as objects of the script may use all the others at their end.
+  bool m_HasEnded = false;
+  // Destroyed first: the script's objects may use all other members when they end.
   const std::unique_ptr<ScriptEngine> m_Engine;
 };
 

@@ -13,11 +13,11 @@ using Self = FileSystemObject;
 using Flag = std::optional<bool>;
 using Number = std::optional<std::int32_t>;
 
-files::IfThere IfThereOf(Flag overwrite) {
-  return overwrite.value_or(true) ? files::IfThere::Overwrite : files::IfThere::Fail;
+files::IfExists IfExistsOf(Flag overwrite) {
+  return overwrite.value_or(true) ? files::IfExists::Overwrite : files::IfExists::Fail;
 }
-files::ReadOnly ReadOnlyOf(Flag force) {
-  return force.value_or(false) ? files::ReadOnly::Delete : files::ReadOnly::Keep;
+files::ReadOnlyFiles ReadOnlyOf(Flag force) {
+  return force.value_or(false) ? files::ReadOnlyFiles::Delete : files::ReadOnlyFiles::Keep;
 }
 
 bool FileIsThere(Self&, const Text& path) { return FileExists(WithSlashes(path)); }
@@ -54,7 +54,7 @@ Ref<FolderObject> SpecialFolder(Self&, std::int32_t which) {
   }
 }
 
-// A name that is hardly taken; it makes no file.
+// A random name; no file is created.
 Text TempName(Self&) {
   constexpr char16_t kDigits[] = u"0123456789ABCDEF";
   static std::mt19937 random{std::random_device{}()};
@@ -75,10 +75,10 @@ void DeleteFolder(Self&, const Text& path, Flag force) {
   files::Delete(path, EntryKind::Folder, ReadOnlyOf(force));
 }
 void CopyFile(Self&, const Text& source, const Text& target, Flag overwrite) {
-  files::Copy(source, target, EntryKind::File, IfThereOf(overwrite));
+  files::Copy(source, target, EntryKind::File, IfExistsOf(overwrite));
 }
 void CopyFolder(Self&, const Text& source, const Text& target, Flag overwrite) {
-  files::Copy(source, target, EntryKind::Folder, IfThereOf(overwrite));
+  files::Copy(source, target, EntryKind::Folder, IfExistsOf(overwrite));
 }
 void MoveFile(Self&, const Text& source, const Text& target) { files::Move(source, target, EntryKind::File); }
 void MoveFolder(Self&, const Text& source, const Text& target) {
@@ -88,12 +88,12 @@ void MoveFolder(Self&, const Text& source, const Text& target) {
 Ref<TextStream> OpenTextFile(Self&, const Text& path, Number mode, Flag create, Number format) {
   return files::Open(FilePath(path), files::ModeOf(mode.value_or(1)),
                      create.value_or(false) ? files::IfMissing::Create : files::IfMissing::Fail,
-                     files::CodingOf(format.value_or(0)));
+                     files::EncodingOf(format.value_or(0)));
 }
 
 Ref<TextStream> CreateTextFile(Self&, const Text& path, Flag overwrite, Flag unicode) {
-  return files::Create(FilePath(path), IfThereOf(overwrite),
-                       unicode.value_or(false) ? TextCoding::Utf16 : TextCoding::CodePage);
+  return files::Create(FilePath(path), IfExistsOf(overwrite),
+                       unicode.value_or(false) ? TextEncoding::Utf16 : TextEncoding::CodePage);
 }
 
 constexpr Member kFileSystemMembers[] = {

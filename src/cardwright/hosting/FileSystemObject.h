@@ -4,9 +4,8 @@
 
 namespace cardwright {
 
-/// The file system for trusted scripts. Paths may have slashes or backslashes; a drive is a folder's name
-/// like any other. Errors: 5, 52, 53, 58, 70, 76 as the platform's; `hosting/FileOperations.h` tells which
-/// when.
+/// `Scripting.FileSystemObject`, for trusted scripts. Paths may have slashes or backslashes; a drive letter
+/// is a folder's name like any other. For errors see `hosting/FileOperations.h`.
 class FileSystemObject final : public TableObject {
  public:
   Text TypeName() const override { return u"FileSystemObject"; }

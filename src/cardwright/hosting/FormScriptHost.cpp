@@ -5,15 +5,16 @@
 
 namespace cardwright {
 
-FormScriptHost::FormScriptHost(std::shared_ptr<ClassRegistry> onLeave)
-    : m_OnLeave(std::move(onLeave)), m_Permissions(Module().programFile, Module().program) {
+FormScriptHost::FormScriptHost(std::shared_ptr<ClassRegistry> restrictedClasses)
+    : m_RestrictedClasses(std::move(restrictedClasses)),
+      m_Permissions(Module().programFile, Module().program) {
   AddSafeClasses(m_Classes);
 }
 
 Ref<Object> FormScriptHost::CreateObject(std::u16string_view progid, std::u16string_view server) {
   if (!server.empty()) return ScriptHost::CreateObject(progid, server);
-  const bool isOnLeave = !m_Classes.Has(progid) && m_OnLeave->Has(progid);
-  if (isOnLeave && m_Permissions.Allow(progid, m_AllowUI)) return m_OnLeave->Create(progid);
+  const bool isRestricted = !m_Classes.Has(progid) && m_RestrictedClasses->Has(progid);
+  if (isRestricted && m_Permissions.IsAllowed(progid, m_AllowUI)) return m_RestrictedClasses->Create(progid);
   return m_Classes.Create(progid);
 }
 
@@ -30,7 +31,7 @@ Variant FormScriptHost::AskText(const Text& prompt, const Text& title, const Tex
 }
 
 bool FormScriptHost::ShouldStop() {
-  // Of a script run that drives the form.
+  // Ctrl+C of a script file that drives the form.
   if (InterruptSignal::WasRaised()) return true;
   Desktop* const desktop = Module().desktop;
   if (!desktop || !desktop->BreakPressed()) return false;

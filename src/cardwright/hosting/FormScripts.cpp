@@ -14,8 +14,8 @@ bool CanOwnDialogs(std::int32_t handle) {
 
 }  // namespace
 
-void ProvideFormScripts(ScriptLanguages languages, ClassRegistry onLeave) {
-  const auto makeHost = [classes = std::make_shared<ClassRegistry>(std::move(onLeave))] {
+void ProvideFormScripts(ScriptLanguages languages, ClassRegistry restrictedClasses) {
+  const auto makeHost = [classes = std::make_shared<ClassRegistry>(std::move(restrictedClasses))] {
     return std::make_unique<FormScriptHost>(classes);
   };
   Module().makeScriptControl = [languages = std::move(languages), makeHost]() -> Ref<ScriptControl> {

@@ -5,9 +5,10 @@
 
 namespace cardwright {
 
-/// Gives the forms of the calling thread script engines of these languages, under the trust that a form's
-/// script has. `onLeave` are classes that a user may allow a form's script, beside those that every script
-/// may use. To be called before the first application object is made; without it forms run no scripts.
-void ProvideFormScripts(ScriptLanguages languages, ClassRegistry onLeave = {});
+/// Gives the forms of the calling thread script engines of these languages, with the rights of a form's
+/// script (FormScriptHost). `restrictedClasses` are classes that the user may allow a form's script; the safe
+/// ones are always allowed. To be called before the first application object is made: otherwise forms run no
+/// scripts.
+void ProvideFormScripts(ScriptLanguages languages, ClassRegistry restrictedClasses = {});
 
 }  // namespace cardwright

@@ -21,8 +21,8 @@ InterruptSignal::InterruptSignal(ScriptEngine& engine) {
   s_Engine = &engine;
   struct sigaction action {};
   action.sa_handler = OnSignal;
-  // The default comes back with the first signal, so that nothing can hold the program; and a read that waits
-  // for input is not begun again.
+  // The first signal restores the default, so that a second one always ends the program. Without SA_RESTART a
+  // read that waits for input returns.
   action.sa_flags = static_cast<int>(SA_RESETHAND);
   sigaction(SIGINT, &action, &m_Before);
 }

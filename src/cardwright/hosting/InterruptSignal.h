@@ -6,7 +6,7 @@
 
 namespace cardwright {
 
-/// While it lives, Ctrl+C stops what the engine runs; a second Ctrl+C ends the program. One at a time.
+/// While it lives, Ctrl+C stops the engine's script; a second Ctrl+C ends the program. One at a time.
 class InterruptSignal {
  public:
   explicit InterruptSignal(ScriptEngine& engine);
@@ -14,7 +14,7 @@ class InterruptSignal {
   InterruptSignal(const InterruptSignal&) = delete;
   InterruptSignal& operator=(const InterruptSignal&) = delete;
 
-  /// Whether Ctrl+C came since the latest one was made.
+  /// Whether Ctrl+C was pressed since the latest object was made.
   static bool WasRaised() noexcept;
 
  private:

@@ -14,7 +14,7 @@ namespace {
 constexpr mode_t kNewFile = 0666;
 
 FileHandle OpenHandle(const std::filesystem::path& path, int flags) {
-  // A privileged user could write to a file that its owner protected.
+  // The system lets a privileged user write to a read-only file; scripts must not.
   if ((flags & O_ACCMODE) != O_RDONLY && IsReadOnly(FromPath(path))) Raise(ErrorNumber::PermissionDenied);
   const int descriptor = ::open(path.c_str(), flags | O_CLOEXEC, kNewFile);
   if (descriptor < 0) RaiseFileError(errno, path);
@@ -29,27 +29,27 @@ bool IsEmpty(const FileHandle& file) {
   return ::fstat(file.Descriptor(), &status) == 0 && status.st_size == 0;
 }
 
-Ref<TextStream> Writer(FileHandle file, TextCoding coding) {
-  if (coding == TextCoding::Utf16 && IsEmpty(file)) file.Write(kUtf16Mark);
-  return MakeRef<TextStream>(std::move(file), TextStream::Access::Write, coding);
+Ref<TextStream> Writer(FileHandle file, TextEncoding encoding) {
+  if (encoding == TextEncoding::Utf16 && IsEmpty(file)) file.Write(kUtf16ByteOrderMark);
+  return MakeRef<TextStream>(std::move(file), TextStream::Access::Write, encoding);
 }
 
-Ref<TextStream> Reader(FileHandle file, TextCoding coding) {
-  char mark[kUtf16Mark.size()];
-  const bool hasMark = coding == TextCoding::Utf16 &&
+Ref<TextStream> Reader(FileHandle file, TextEncoding encoding) {
+  char mark[kUtf16ByteOrderMark.size()];
+  const bool hasMark = encoding == TextEncoding::Utf16 &&
                        ::pread(file.Descriptor(), mark, sizeof mark, 0) == ssize_t{sizeof mark} &&
-                       std::string_view(mark, sizeof mark) == kUtf16Mark;
+                       std::string_view(mark, sizeof mark) == kUtf16ByteOrderMark;
   if (hasMark) file.Read(mark, sizeof mark);
-  return MakeRef<TextStream>(std::move(file), TextStream::Access::Read, coding);
+  return MakeRef<TextStream>(std::move(file), TextStream::Access::Read, encoding);
 }
 
 }  // namespace
 
-TextCoding CodingOf(std::int32_t format) {
+TextEncoding EncodingOf(std::int32_t format) {
   constexpr std::int32_t kUnicode = -1, kPlain = 0, kDefault = -2;
-  if (format == kUnicode) return TextCoding::Utf16;
+  if (format == kUnicode) return TextEncoding::Utf16;
   if (format != kPlain && format != kDefault) Raise(ErrorNumber::InvalidCall);
-  return TextCoding::CodePage;
+  return TextEncoding::CodePage;
 }
 
 OpenMode ModeOf(std::int32_t mode) {
@@ -58,19 +58,19 @@ OpenMode ModeOf(std::int32_t mode) {
 }
 
 Ref<TextStream> Open(const std::filesystem::path& path, OpenMode mode, IfMissing ifMissing,
-                     TextCoding coding) {
+                     TextEncoding encoding) {
   const int create = ifMissing == IfMissing::Create ? O_CREAT : 0;
   switch (mode) {
-    case OpenMode::Reading: return Reader(OpenHandle(path, O_RDONLY | create), coding);
-    case OpenMode::Writing: return Writer(OpenHandle(path, O_WRONLY | O_TRUNC | create), coding);
-    case OpenMode::Appending: return Writer(OpenHandle(path, O_WRONLY | O_APPEND | create), coding);
+    case OpenMode::Reading: return Reader(OpenHandle(path, O_RDONLY | create), encoding);
+    case OpenMode::Writing: return Writer(OpenHandle(path, O_WRONLY | O_TRUNC | create), encoding);
+    case OpenMode::Appending: return Writer(OpenHandle(path, O_WRONLY | O_APPEND | create), encoding);
   }
   Raise(ErrorNumber::InvalidCall);
 }
 
-Ref<TextStream> Create(const std::filesystem::path& path, IfThere ifThere, TextCoding coding) {
-  const int exclusive = ifThere == IfThere::Fail ? O_EXCL : 0;
-  return Writer(OpenHandle(path, O_WRONLY | O_CREAT | O_TRUNC | exclusive), coding);
+Ref<TextStream> Create(const std::filesystem::path& path, IfExists ifExists, TextEncoding encoding) {
+  const int exclusive = ifExists == IfExists::Fail ? O_EXCL : 0;
+  return Writer(OpenHandle(path, O_WRONLY | O_CREAT | O_TRUNC | exclusive), encoding);
 }
 
 }  // namespace cardwright::files

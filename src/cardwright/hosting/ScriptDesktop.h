@@ -9,24 +9,24 @@
 
 namespace cardwright {
 
-/// What a script run asks of the toolkit, once a class that needs it was asked for.
+/// The toolkit as a script run sees it, loaded when the script first creates a class that needs it.
 class ScriptDesktop {
  public:
   virtual ~ScriptDesktop() = default;
-  /// Serves the events of windows for that time.
-  virtual void Serve(std::chrono::milliseconds time) = 0;
-  /// Whether a person sees the windows.
+  /// Processes window events for that time.
+  virtual void ProcessEvents(std::chrono::milliseconds time) = 0;
+  /// Whether a person can see the windows.
   virtual bool HasDisplay() const = 0;
 };
 
-/// What surrounds a script run and outlives it.
-struct ScriptSurroundings {
+/// What a script run is given; outlives it.
+struct ScriptEnvironment {
   ScriptLanguages languages;
   ClassRegistry classes;
-  std::unique_ptr<ScriptDesktop> desktop = nullptr;  ///< null until a class or a message box has needed it
-  bool hasDisplay = false;                           ///< whether message boxes are worth loading the desktop
-  /// Writes a line where the script's output goes: what a box says that nobody sees.
-  std::function<void(const Text& line)> say = nullptr;
+  std::unique_ptr<ScriptDesktop> desktop = nullptr;  ///< null until a class or a message box needs it
+  bool hasDisplay = false;                           ///< whether a message box loads the desktop
+  /// Writes a line to the script's output: the text of a message box that nobody can see.
+  std::function<void(const Text& line)> writeLine = nullptr;
   Text program = {};  ///< path of the program that runs the script
 };
 

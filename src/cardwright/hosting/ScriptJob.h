@@ -19,11 +19,11 @@ struct ScriptJob {
     Disassemble,  ///< writes the compiled form to standard output
   };
 
-  Text file;                    ///< as the user named it; so it stands in messages
+  Text file;                    ///< as the user named it, for messages
   std::vector<Text> arguments;  ///< for the script
   Task task = Task::Run;
-  bool traces = false;    ///< tells each statement before it runs
-  bool profiles = false;  ///< tells in the end how long each line took
+  bool traces = false;    ///< writes each statement to standard error before it runs
+  bool profiles = false;  ///< writes the time of each line to standard error at the end
 };
 
 }  // namespace cardwright

@@ -9,7 +9,7 @@ using Access = TextStream::Access;
 using Buffering = TextStream::Buffering;
 
 Ref<TextStream> StreamOf(FileHandle file, Access access, Buffering buffering) {
-  return MakeRef<TextStream>(std::move(file), access, TextCoding::Utf8, TextStream::LineEnd::Lf, buffering);
+  return MakeRef<TextStream>(std::move(file), access, TextEncoding::Utf8, TextStream::LineEnd::Lf, buffering);
 }
 
 FileHandle Handle(int descriptor) { return {descriptor, FileHandle::Owner::Program}; }
@@ -18,7 +18,7 @@ FileHandle Handle(int descriptor) { return {descriptor, FileHandle::Owner::Progr
 
 StandardStreams StandardStreams::OfProcess() {
   FileHandle file = Handle(STDOUT_FILENO);
-  // A person wants to see what is written as it comes; a program is quicker served by blocks.
+  // A person wants to see output at once; for a program, blocks are faster.
   const Buffering buffering = file.IsTerminal() ? Buffering::None : Buffering::Blocks;
   const Ref<TextStream> out = StreamOf(std::move(file), Access::Write, buffering);
   const Ref<TextStream> in = StreamOf(Handle(STDIN_FILENO), Access::Read, Buffering::Blocks);
@@ -26,8 +26,8 @@ StandardStreams StandardStreams::OfProcess() {
   return {in, out, StreamOf(Handle(STDERR_FILENO), Access::Write, Buffering::None)};
 }
 
-void StandardStreams::Tell(std::u16string_view line) const {
-  // Streams that nobody reads any more are no reason to fail.
+void StandardStreams::WriteErrorLine(std::u16string_view line) const {
+  // A closed pipe at the other end must not fail the script.
   Attempt([&] { out->Flush(); });
   Attempt([&] { error->WriteLine(Text(line)); });
 }

@@ -4,13 +4,13 @@
 
 namespace cardwright {
 
-/// The program's own streams as text streams in UTF-8 with LF at the ends of lines.
+/// The program's own streams as text streams: UTF-8, lines end with LF.
 struct StandardStreams {
   Ref<TextStream> in, out, error;
 
   static StandardStreams OfProcess();
-  /// A line on standard error, behind all that was written to standard output before.
-  void Tell(std::u16string_view line) const;
+  /// Writes a line to standard error, after flushing standard output.
+  void WriteErrorLine(std::u16string_view line) const;
 };
 
 }  // namespace cardwright

@@ -46,14 +46,14 @@ void StatementLog::Trace(int line) {
   const std::string number = std::to_string(line);
   Text text = m_File + u":";
   text += Text::FromUtf8(number) + u": ";
-  m_Streams.Tell(text + m_Lines.Line(line));
+  m_Streams.WriteErrorLine(text + m_Lines.Line(line));
 }
 
 void StatementLog::EndStatement(Clock::time_point now) noexcept {
   if (m_Current != 0) m_Costs[m_Current].time += now - m_Begin;
 }
 
-void StatementLog::TellTimes() {
+void StatementLog::WriteProfile() {
   if (!m_Profiles) return;
   EndStatement(Clock::now());
   m_Current = 0;
@@ -61,7 +61,7 @@ void StatementLog::TellTimes() {
   std::iota(order.begin(), order.end(), std::size_t{0});
   std::ranges::stable_sort(order, std::ranges::greater{},
                            [&](std::size_t line) { return m_Costs[line].time; });
-  m_Streams.Tell(u"   time (ms)       count  line  source");
+  m_Streams.WriteErrorLine(u"   time (ms)       count  line  source");
   for (const std::size_t line : order) {
     const Cost& cost = m_Costs[line];
     if (cost.count == 0) continue;
@@ -69,7 +69,7 @@ void StatementLog::TellTimes() {
     std::snprintf(head, sizeof head, "%12.3f %11llu %5zu  ",
                   std::chrono::duration<double, std::milli>(cost.time).count(),
                   static_cast<unsigned long long>(cost.count), line);
-    m_Streams.Tell(Text::FromUtf8(head) + m_Lines.Line(static_cast<int>(line)));
+    m_Streams.WriteErrorLine(Text::FromUtf8(head) + m_Lines.Line(static_cast<int>(line)));
   }
 }
 

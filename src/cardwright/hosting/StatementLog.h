@@ -9,12 +9,12 @@
 
 namespace cardwright {
 
-/// The lines of a script for those who tell of them.
+/// The lines of a script, for messages.
 class SourceLines {
  public:
   explicit SourceLines(const Text& source);
   std::size_t Count() const noexcept { return m_Lines.size(); }
-  /// By number from 1, blanks cut off; empty where there is none.
+  /// By number from 1, without the blanks at both ends; empty where there is none.
   std::u16string_view Line(int number) const noexcept;
 
  private:
@@ -22,8 +22,8 @@ class SourceLines {
   std::vector<std::u16string_view> m_Lines;
 };
 
-/// Tells on standard error of each statement before it runs, "FILE:LINE: source text", and in the end of the
-/// time that each line took, as it was asked for.
+/// Writes to standard error, as wanted: each statement before it runs, "FILE:LINE: source text", and at the
+/// end the time that each line took.
 class StatementLog final : public ScriptObserver {
  public:
   StatementLog(const Text& file, const Text& source, const StandardStreams& streams, bool traces,
@@ -32,9 +32,9 @@ class StatementLog final : public ScriptObserver {
 
   void OnStatement(std::u16string_view module, int line, int column) override;
   void OnReturn(std::u16string_view module, int line, int column) override;
-  /// The table of times, the longest first. A line's time is that until the next statement begins, so that of
-  /// the procedures that it calls is not in it, but that of code that it makes and executes is.
-  void TellTimes();
+  /// The table of times, the longest first. A line's time ends when the next statement begins: it excludes
+  /// the procedures that the line calls, but includes code that it executes by Eval or Execute.
+  void WriteProfile();
 
  private:
   using Clock = std::chrono::steady_clock;
@@ -52,7 +52,7 @@ class StatementLog final : public ScriptObserver {
   const StandardStreams& m_Streams;
   const bool m_Traces, m_Profiles;
   std::vector<Cost> m_Costs;  // by line number
-  std::size_t m_Current = 0;  // line number of the statement under way, 0 before the first
+  std::size_t m_Current = 0;  // line number of the running statement, 0 before the first
   Clock::time_point m_Begin;
 };
 

@@ -8,7 +8,7 @@ namespace {
 
 constexpr std::size_t kBlock = std::size_t{1} << 16;
 constexpr std::size_t kAll = std::numeric_limits<std::size_t>::max();
-// As much as the engine lets a script put into one text.
+// The engines' limit for one string.
 constexpr std::size_t kMaxText = std::size_t{1} << 28;
 
 constexpr Member kTextStreamMembers[] = {
@@ -34,11 +34,11 @@ std::size_t RequireCount(std::int32_t count) {
 
 }  // namespace
 
-TextStream::TextStream(FileHandle file, Access access, TextCoding coding, LineEnd lineEnd,
+TextStream::TextStream(FileHandle file, Access access, TextEncoding encoding, LineEnd lineEnd,
                        Buffering buffering)
     : m_File(std::move(file)),
       m_Access(access),
-      m_Coding(coding),
+      m_Encoding(encoding),
       m_LineEnd(lineEnd),
       m_Buffering(buffering) {}
 
@@ -61,12 +61,12 @@ bool TextStream::Fill() {
     if (m_Prompt) m_Prompt->Flush();
     const std::size_t kept = m_Bytes.size();
     m_Bytes.resize(kept + kBlock);
-    // After a failure nothing more can be read.
+    // Stays so where the read fails: then nothing more can be read.
     m_AtEnd = true;
     const std::size_t count = m_File.Read(m_Bytes.data() + kept, kBlock);
     m_Bytes.resize(kept + count);
     m_AtEnd = count == 0;
-    m_Text = TakeCharacters(m_Coding, m_Bytes, m_AtEnd);
+    m_Text = DecodeAvailable(m_Encoding, m_Bytes, m_AtEnd);
     m_Next = 0;
   }
   return m_Next < m_Text.Size();
@@ -77,8 +77,8 @@ void TextStream::RequireMore() {
   if (!Fill()) Raise(ErrorNumber::InputPastEnd);
 }
 
-std::int32_t TextStream::Shown(std::int64_t place) noexcept {
-  return static_cast<std::int32_t>(std::min<std::int64_t>(place, std::numeric_limits<std::int32_t>::max()));
+std::int32_t TextStream::ToPosition(std::int64_t count) noexcept {
+  return static_cast<std::int32_t>(std::min<std::int64_t>(count, std::numeric_limits<std::int32_t>::max()));
 }
 
 void TextStream::Advance(std::u16string_view text) noexcept {
@@ -144,7 +144,7 @@ Text TextStream::ReadAll() {
 
 void TextStream::Skip(std::int32_t count) {
   Require(Access::Read);
-  // In blocks, as what is passed over need not fit into a text.
+  // In blocks, as the skipped text need not fit into one string.
   for (std::size_t wanted = RequireCount(count); wanted > 0;) {
     const std::size_t taken = Take(std::min(wanted, kBlock), false).size();
     if (taken == 0) Raise(ErrorNumber::InputPastEnd);
@@ -159,7 +159,7 @@ void TextStream::SkipLine() {
 }
 
 void TextStream::Put(std::u16string_view text) {
-  const auto bytes = ToBytes(m_Coding, text);
+  const auto bytes = EncodeText(m_Encoding, text);
   if (!bytes) Raise(ErrorNumber::InvalidCall);
   m_Bytes += *bytes;
   Advance(text);
@@ -188,7 +188,7 @@ void TextStream::Flush() {
 }
 
 void TextStream::Close() {
-  // Closed in any case, also where the last bytes cannot be written.
+  // Closes the file even where the last bytes cannot be written.
   const FileHandle closing = std::move(m_File);
   if (m_Access == Access::Write && closing.IsOpen()) closing.Write(std::exchange(m_Bytes, {}));
 }

@@ -4,27 +4,27 @@
 
 #include "cardwright/automation/MemberTable.h"
 #include "cardwright/hosting/FileHandle.h"
-#include "cardwright/hosting/TextCoding.h"
+#include "cardwright/hosting/TextEncoding.h"
 
 namespace cardwright {
 
-/// A text being read from a file or written to one, a program's own streams included. Errors for scripts: 54
-/// where a stream for reading is written to or the other way round, 62 for reading at the end, 14 for reading
-/// more at once than a text may hold, 91 once it is closed, 5 for a character that the code page lacks, 61
-/// for a full disk.
+/// The script object for reading or writing a file or one of the program's own streams. Errors: 54 for
+/// writing to a stream opened for reading and for reading the other way round, 62 for reading at the end, 14
+/// for reading more at once than a string may hold, 91 once it is closed, 5 for a character that the code
+/// page lacks, 61 for a full disk.
 class TextStream final : public TableObject {
  public:
   enum class Access { Read, Write };
   /// What WriteLine and WriteBlankLines put at the end of a line.
   enum class LineEnd { CrLf, Lf };
 
-  /// When what is written goes out: in blocks, or at once.
+  /// Whether output is written in blocks or at once.
   enum class Buffering { Blocks, None };
 
-  /// A stream over an open file, from where it stands.
-  TextStream(FileHandle file, Access access, TextCoding coding, LineEnd lineEnd = LineEnd::CrLf,
+  /// A stream over an open file, from its current position.
+  TextStream(FileHandle file, Access access, TextEncoding encoding, LineEnd lineEnd = LineEnd::CrLf,
              Buffering buffering = Buffering::Blocks);
-  /// Writes what waits to be written; a failure then is passed over.
+  /// Flushes; a failure is ignored.
   ~TextStream() override;
 
   Text TypeName() const override { return u"TextStream"; }
@@ -33,9 +33,9 @@ class TextStream final : public TableObject {
   /// @{
   bool AtEndOfStream();
   bool AtEndOfLine();
-  /// At most so many characters.
+  /// At most `count` characters.
   Text Read(std::int32_t count);
-  /// Up to the end of the line, which is passed over: LF, or CR LF.
+  /// Without the end of the line, which is skipped: LF or CR LF.
   Text ReadLine();
   Text ReadAll();
   void Skip(std::int32_t count);
@@ -48,35 +48,35 @@ class TextStream final : public TableObject {
   void WriteLine(std::optional<Text> text);
   void WriteBlankLines(std::int32_t count);
   void Flush();
-  /// Writes what waits in that stream whenever this one is about to wait for something to read.
+  /// Flushes that stream before this one waits for input.
   void SetPrompt(Ref<TextStream> prompt) { m_Prompt = std::move(prompt); }
   /// @}
 
   void Close();
-  /// @name Place of the next character, from 1
+  /// @name Position of the next character, from 1
   /// @{
-  std::int32_t Line() const noexcept { return Shown(m_Line); }
-  std::int32_t Column() const noexcept { return Shown(m_Column); }
+  std::int32_t Line() const noexcept { return ToPosition(m_Line); }
+  std::int32_t Column() const noexcept { return ToPosition(m_Column); }
   /// @}
 
  protected:
   const MemberTable& Members() const override;
 
  private:
-  /// Scripts know no larger numbers.
-  static std::int32_t Shown(std::int64_t place) noexcept;
+  /// Limited to the numbers of a Long.
+  static std::int32_t ToPosition(std::int64_t count) noexcept;
   void Require(Access access) const;
-  /// True where a character is there to be read.
+  /// Reads more if need be; false at the end.
   bool Fill();
   void RequireMore();
   void Advance(std::u16string_view text) noexcept;
-  /// Takes up to `count` characters, or where `toLine` up to behind a line end.
+  /// Reads up to `count` characters; with `toLine` only up to and including the end of the line.
   std::u16string Take(std::size_t count, bool toLine);
   void Put(std::u16string_view text);
 
   FileHandle m_File;
   const Access m_Access;
-  const TextCoding m_Coding;
+  const TextEncoding m_Encoding;
   const LineEnd m_LineEnd;
   const Buffering m_Buffering;
   Ref<TextStream> m_Prompt;

@@ -50,7 +50,7 @@ Ref<TextStream> StdOut(WScript& self) { return self.Host().Streams().out; }
 Ref<TextStream> StdErr(WScript& self) { return self.Host().Streams().error; }
 
 constexpr Member kWScriptMembers[] = {
-    Property<&WScript::Words>(u"Arguments"),
+    Property<&WScript::Arguments>(u"Arguments"),
     Method<&Connect>(u"ConnectObject"),
     Method<&Create>(u"CreateObject"),
     Method<&Disconnect>(u"DisconnectObject"),
@@ -70,7 +70,7 @@ constexpr Member kWScriptMembers[] = {
 }  // namespace
 
 WScript::WScript(FileScriptHost& host)
-    : m_Host(host), m_Words(MakeRef<WScriptArguments>(host.Job().arguments)) {}
+    : m_Host(host), m_Arguments(MakeRef<WScriptArguments>(host.Job().arguments)) {}
 
 const MemberTable& WScript::Members() const {
   static const MemberTable table(kWScriptMembers);

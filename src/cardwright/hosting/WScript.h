@@ -6,21 +6,21 @@ namespace cardwright {
 
 class FileScriptHost;
 
-/// The object through which a script meets its host.
+/// The host's object for scripts.
 class WScript final : public TableObject {
  public:
-  /// `run` outlives every call.
+  /// `host` outlives every call.
   explicit WScript(FileScriptHost& host);
   Text TypeName() const override { return u"Object"; }
   FileScriptHost& Host() const noexcept { return m_Host; }
-  Ref<WScriptArguments> Words() const { return m_Words; }
+  Ref<WScriptArguments> Arguments() const { return m_Arguments; }
 
  protected:
   const MemberTable& Members() const override;
 
  private:
   FileScriptHost& m_Host;
-  const Ref<WScriptArguments> m_Words;
+  const Ref<WScriptArguments> m_Arguments;
 };
 
 }  // namespace cardwright

@@ -1,4 +1,4 @@
-#include "cardwright/hosting/TextCoding.h"
+#include "cardwright/hosting/TextEncoding.h"
 
 #include <algorithm>
 
@@ -7,7 +7,7 @@
 namespace cardwright {
 namespace {
 
-constexpr std::string_view kUtf8Mark = "\xEF\xBB\xBF", kUtf16BigMark = "\xFE\xFF";
+constexpr std::string_view kUtf8ByteOrderMark = "\xEF\xBB\xBF", kUtf16BigEndianMark = "\xFE\xFF";
 
 Text FromUtf16(std::string_view bytes, std::size_t lowByte) {
   const auto byteAt = [&](std::size_t i) { return static_cast<unsigned char>(bytes[i]); };
@@ -23,7 +23,7 @@ std::size_t Utf8Length(unsigned char first) noexcept {
   return first >= 0xC0 ? 2 : 1;
 }
 
-// Bytes up to a character that is cut off at the end.
+// The number of bytes without an incomplete character at the end.
 std::size_t WholeUtf8(std::string_view bytes) noexcept {
   for (std::size_t back = 1; back <= std::min<std::size_t>(3, bytes.size()); ++back) {
     const auto byte = static_cast<unsigned char>(bytes[bytes.size() - back]);
@@ -35,24 +35,24 @@ std::size_t WholeUtf8(std::string_view bytes) noexcept {
 
 }  // namespace
 
-Text TakeCharacters(TextCoding coding, std::string& bytes, bool isAll) {
+Text DecodeAvailable(TextEncoding encoding, std::string& bytes, bool isAll) {
   std::size_t size = bytes.size();
-  if (coding == TextCoding::Utf16) size -= size % 2;
-  if (coding == TextCoding::Utf8 && !isAll) size = WholeUtf8(bytes);
+  if (encoding == TextEncoding::Utf16) size -= size % 2;
+  if (encoding == TextEncoding::Utf8 && !isAll) size = WholeUtf8(bytes);
   const std::string_view whole = std::string_view(bytes).substr(0, size);
   Text text;
-  switch (coding) {
-    case TextCoding::CodePage: text = CodePage::Current().Decode(whole); break;
-    case TextCoding::Utf16: text = FromUtf16(whole, 0); break;
-    case TextCoding::Utf8: text = Text::FromUtf8(whole); break;
+  switch (encoding) {
+    case TextEncoding::CodePage: text = CodePage::Current().Decode(whole); break;
+    case TextEncoding::Utf16: text = FromUtf16(whole, 0); break;
+    case TextEncoding::Utf8: text = Text::FromUtf8(whole); break;
   }
   bytes.erase(0, size);
   return text;
 }
 
-std::optional<std::string> ToBytes(TextCoding coding, std::u16string_view text) {
-  if (coding == TextCoding::Utf8) return Text(text).ToUtf8();
-  if (coding == TextCoding::CodePage) {
+std::optional<std::string> EncodeText(TextEncoding encoding, std::u16string_view text) {
+  if (encoding == TextEncoding::Utf8) return Text(text).ToUtf8();
+  if (encoding == TextEncoding::CodePage) {
     if (CodePage::Current().FirstLost(text)) return std::nullopt;
     return CodePage::Current().Encode(text);
   }
@@ -65,11 +65,11 @@ std::optional<std::string> ToBytes(TextCoding coding, std::u16string_view text) 
   return bytes;
 }
 
-Text DecodeSource(std::string_view bytes) {
-  if (bytes.starts_with(kUtf8Mark)) return Text::FromUtf8(bytes.substr(kUtf8Mark.size()));
-  if (bytes.starts_with(kUtf16Mark)) return FromUtf16(bytes.substr(kUtf16Mark.size()), 0);
-  if (bytes.starts_with(kUtf16BigMark)) return FromUtf16(bytes.substr(kUtf16BigMark.size()), 1);
-  // What is no UTF-8 does not come back as it was.
+Text DecodeScript(std::string_view bytes) {
+  if (bytes.starts_with(kUtf8ByteOrderMark)) return Text::FromUtf8(bytes.substr(kUtf8ByteOrderMark.size()));
+  if (bytes.starts_with(kUtf16ByteOrderMark)) return FromUtf16(bytes.substr(kUtf16ByteOrderMark.size()), 0);
+  if (bytes.starts_with(kUtf16BigEndianMark)) return FromUtf16(bytes.substr(kUtf16BigEndianMark.size()), 1);
+  // Bytes that are not valid UTF-8 do not survive the way there and back.
   Text text = Text::FromUtf8(bytes);
   return text.ToUtf8() == bytes ? text : CodePage::Current().Decode(bytes);
 }

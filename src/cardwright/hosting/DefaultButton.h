@@ -2,7 +2,7 @@
 
 namespace cardwright {
 
-/// Number of the button that Enter presses in a message box of a style: the first, or the one that the style
+/// The answer that Enter gives in a message box of a style: the first button, or the default that the style
 /// names.
 int DefaultButton(int style) noexcept;
 

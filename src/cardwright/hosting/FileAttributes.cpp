@@ -60,14 +60,14 @@ void SetAttributes(const fs::path& path, std::int32_t attributes) {
   if (after != before && ::chmod(path.c_str(), after) != 0) RaiseFileError(errno, path);
 }
 
-Date TimeOf(const fs::path& path, Moment moment) {
+Date TimeOf(const fs::path& path, FileTime which) {
   struct statx facts {};
   if (::statx(AT_FDCWD, path.c_str(), 0, STATX_BASIC_STATS | STATX_BTIME, &facts) != 0)
     RaiseFileError(errno, path);
   const bool knowsBirth = (facts.stx_mask & STATX_BTIME) != 0;
   statx_timestamp stamp = facts.stx_mtime;
-  if (moment == Moment::Used) stamp = facts.stx_atime;
-  if (moment == Moment::Created && knowsBirth) stamp = facts.stx_btime;
+  if (which == FileTime::Accessed) stamp = facts.stx_atime;
+  if (which == FileTime::Created && knowsBirth) stamp = facts.stx_btime;
   const std::time_t seconds = stamp.tv_sec;
   std::tm local{};
   if (!::localtime_r(&seconds, &local)) Raise(ErrorNumber::Overflow);

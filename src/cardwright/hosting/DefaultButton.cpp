@@ -1,4 +1,4 @@
-#include "cardwright/hosting/MessageBoxes.h"
+#include "cardwright/hosting/DefaultButton.h"
 
 #include <array>
 #include <cstddef>
