@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QCryptographicHash>
 #include <QInputDialog>
+#include <QKeyEvent>
 #include <QMessageBox>
 #include <QPointer>
 #include <QProcess>
@@ -12,7 +13,7 @@
 
 #include "cardwright/automation/Conversions.h"
 #include "cardwright/platform/Scale.h"
-#include "cardwright/qt/desktop/BreakWatch.h"
+#include "cardwright/qt/desktop/QtSettings.h"
 #include "cardwright/qt/values/Colors.h"
 #include "cardwright/qt/values/QtText.h"
 #include "cardwright/qt/values/WindowHandles.h"
@@ -53,7 +54,70 @@ QMessageBox::Icon IconOf(int style) {
   }
 }
 
+// What X11 makes of Ctrl+Pause; the toolkit has no name for it.
+constexpr quint32 kBreakSymbol = 0xFF6B;
+
+bool IsBreak(const QKeyEvent& key) {
+  return !key.isAutoRepeat() &&
+         (key.key() == Qt::Key_Cancel || key.nativeVirtualKey() == kBreakSymbol ||
+          (key.key() == Qt::Key_Pause && key.modifiers().testFlag(Qt::ControlModifier)));
+}
+
+bool IsHeldBack(QEvent::Type type) {
+  switch (type) {
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease:
+    case QEvent::Shortcut:
+    case QEvent::ShortcutOverride:
+    case QEvent::InputMethod:
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonRelease:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::MouseMove:
+    case QEvent::Wheel:
+    case QEvent::ContextMenu:
+    case QEvent::DragEnter:
+    case QEvent::DragMove:
+    case QEvent::Drop:
+    case QEvent::TouchBegin:
+    case QEvent::TouchUpdate:
+    case QEvent::TouchEnd:
+    case QEvent::TouchCancel:
+    case QEvent::TabletPress:
+    case QEvent::TabletMove:
+    case QEvent::TabletRelease:
+    case QEvent::NativeGesture:
+    case QEvent::Close:
+    case QEvent::Timer: return true;
+    default: return false;
+  }
+}
+
+/// While it lives, nothing that a person does reaches any widget: keys, clicks and the closing of windows are
+/// dropped, and timers are put off. It only notes whether Break was pressed: the key Cancel, or Ctrl+Pause.
+/// Windows still paint themselves.
+class BreakWatch final : public QObject {
+ public:
+  BreakWatch() { QCoreApplication::instance()->installEventFilter(this); }
+  bool WasPressed() const noexcept { return m_WasPressed; }
+
+ private:
+  bool eventFilter(QObject*, QEvent* event) override {
+    if (event->type() == QEvent::KeyPress && IsBreak(static_cast<QKeyEvent&>(*event))) m_WasPressed = true;
+    if (!IsHeldBack(event->type())) return false;
+    // The window system asks again whoever would close a window that was not closed.
+    event->setAccepted(event->type() != QEvent::Close);
+    return true;
+  }
+
+  bool m_WasPressed = false;
+};
+
 }  // namespace
+
+QtDesktop::QtDesktop() : m_Settings(std::make_unique<QtSettings>()) {}
+
+QtDesktop::~QtDesktop() = default;
 
 int QtDesktop::ShowMessage(const Text& text, int style, const Text& title) {
   const std::vector<Answer> answers = AnswersOf(style);

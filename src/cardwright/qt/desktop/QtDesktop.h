@@ -1,13 +1,17 @@
 #pragma once
 
+#include <memory>
+
 #include "cardwright/platform/Desktop.h"
-#include "cardwright/qt/desktop/QtSettings.h"
 
 namespace cardwright::qt {
 
 /// The user's desktop by way of the toolkit; needs a QApplication.
 class QtDesktop : public Desktop {
  public:
+  QtDesktop();
+  ~QtDesktop() override;
+
   /// Knows the platform's other button sets too: Abort 3, Retry 4, Ignore 5. A box that is closed is answered
   /// with Cancel or, where it has none, No or its only button.
   int ShowMessage(const Text& text, int style, const Text& title) override;
@@ -24,11 +28,11 @@ class QtDesktop : public Desktop {
   bool IsWindow(std::int32_t handle) const override;
   void Start(const Text& commandLine) override;
   Text Digest(const Text& text) const override;
-  SettingsStore& Settings() override { return m_Settings; }
+  SettingsStore& Settings() override { return *m_Settings; }
 
  private:
   bool m_IsLeft = false;
-  QtSettings m_Settings;
+  const std::unique_ptr<SettingsStore> m_Settings;
 };
 
 }  // namespace cardwright::qt

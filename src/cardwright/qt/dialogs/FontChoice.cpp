@@ -4,7 +4,7 @@
 #include <QFontInfo>
 
 #include "cardwright/qt/dialogs/RunDialog.h"
-#include "cardwright/qt/values/FontCache.h"
+#include "cardwright/qt/values/Fonts.h"
 #include "cardwright/qt/values/QtText.h"
 
 namespace cardwright::qt {

@@ -3,7 +3,7 @@
 #include <QKeyEvent>
 #include <algorithm>
 
-#include "cardwright/qt/values/PlainFont.h"
+#include "cardwright/qt/values/Fonts.h"
 
 namespace cardwright::qt {
 

@@ -19,7 +19,6 @@ struct ListEntry {
 /// something. Nothing is made for an entry until it is shown, so that a list of many thousands costs what its
 /// visible part costs.
 class EntryList final : public QAbstractListModel {
-  Q_OBJECT
  public:
   /// What an entry is, in a word or two beside its name.
   static constexpr int kDetailRole = Qt::UserRole;

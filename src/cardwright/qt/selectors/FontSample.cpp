@@ -8,8 +8,8 @@
 #include <QStylePainter>
 
 #include "cardwright/qt/selectors/ChoiceButton.h"
+#include "cardwright/qt/values/Fonts.h"
 #include "cardwright/qt/values/Keys.h"
-#include "cardwright/qt/values/PlainFont.h"
 #include "cardwright/qt/values/QtText.h"
 
 namespace cardwright::qt {

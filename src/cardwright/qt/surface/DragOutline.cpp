@@ -1,6 +1,7 @@
 #include "cardwright/qt/surface/DragOutline.h"
 
 #include <QPainter>
+#include <QWidget>
 #include <algorithm>
 
 namespace cardwright::qt {

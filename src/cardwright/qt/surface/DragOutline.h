@@ -1,9 +1,10 @@
 #pragma once
 
 #include <QPointer>
-#include <QRect>
-#include <QWidget>
 #include <array>
+
+class QRect;
+class QWidget;
 
 namespace cardwright::qt {
 

@@ -1,5 +1,6 @@
 #include "cardwright/qt/surface/DragTip.h"
 
+#include <QLabel>
 #include <QToolTip>
 
 namespace cardwright::qt {
@@ -24,6 +25,8 @@ QLabel* MakeTip(QWidget* owner) {
 }
 
 }  // namespace
+
+DragTip::DragTip(QWidget& owner) : m_Owner(&owner) {}
 
 void DragTip::Show(const QString& text, QPoint place) {
   if (!m_Owner) return;

@@ -1,9 +1,11 @@
 #pragma once
 
-#include <QLabel>
 #include <QPoint>
 #include <QPointer>
-#include <QWidget>
+
+class QLabel;
+class QString;
+class QWidget;
 
 namespace cardwright::qt {
 
@@ -12,7 +14,7 @@ namespace cardwright::qt {
 class DragTip {
  public:
   /// `owner` is the widget in whose window the drag runs.
-  explicit DragTip(QWidget& owner) : m_Owner(&owner) {}
+  explicit DragTip(QWidget& owner);
   ~DragTip() { Hide(); }
   DragTip(const DragTip&) = delete;
   DragTip& operator=(const DragTip&) = delete;

@@ -1,5 +1,6 @@
 #include "cardwright/qt/surface/GridLayer.h"
 
+#include <QPainter>
 #include <QPixmap>
 #include <algorithm>
 

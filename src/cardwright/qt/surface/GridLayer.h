@@ -1,8 +1,10 @@
 #pragma once
 
-#include <QPainter>
 #include <QRegion>
 #include <map>
+
+class QColor;
+class QPainter;
 
 namespace cardwright::qt {
 

@@ -1,13 +1,12 @@
 #include "cardwright/qt/surface/QtDesignSurface.h"
 
 #include <QApplication>
+#include <QMenu>
 #include <QPaintEvent>
 #include <QPainter>
 #include <cmath>
 
 #include "cardwright/automation/Errors.h"
-#include "cardwright/qt/surface/DesignPopup.h"
-#include "cardwright/qt/surface/Pointers.h"
 #include "cardwright/qt/values/QtText.h"
 #include "cardwright/qt/widgets/QtPictureBox.h"
 
@@ -31,6 +30,43 @@ const QWidget& NativeOf(const Widget& widget) {
   const QWidget* native = core ? core->Native() : nullptr;
   if (!native) Raise(ErrorNumber::ObjectNotSet);
   return *native;
+}
+
+/// The arrow for Default.
+Qt::CursorShape ToCursorShape(PointerShape pointer) noexcept {
+  switch (pointer) {
+    case PointerShape::Default:
+    case PointerShape::Arrow: return Qt::ArrowCursor;
+    case PointerShape::Cross: return Qt::CrossCursor;
+    case PointerShape::SizeAll: return Qt::SizeAllCursor;
+    case PointerShape::SizeNeSw: return Qt::SizeBDiagCursor;
+    case PointerShape::SizeNs: return Qt::SizeVerCursor;
+    case PointerShape::SizeNwSe: return Qt::SizeFDiagCursor;
+    case PointerShape::SizeWe: return Qt::SizeHorCursor;
+    case PointerShape::Hourglass: return Qt::WaitCursor;
+  }
+  return Qt::ArrowCursor;
+}
+
+void AddEntry(QMenu& menu, const MenuItem& item) {
+  if (!item.m_Visible) return;
+  QAction* const entry = item.IsSeparator() ? menu.addSeparator() : menu.addAction(ToQString(item.m_Caption));
+  entry->setObjectName(ToQString(item.m_Name));
+  entry->setEnabled(item.m_Enabled);
+  entry->setCheckable(item.m_Checked);
+  entry->setChecked(item.m_Checked);
+}
+
+/// Shows a menu and waits until it is closed: the name of the entry that was chosen, or "". The owner may be
+/// deleted meanwhile. Entries that are not visible are left out.
+Text RunPopupMenu(QWidget& owner, std::span<const Ref<MenuItem>> items, QPoint place) {
+  const QPointer<QMenu> menu = new QMenu(&owner);
+  menu->setSeparatorsCollapsible(false);
+  for (const Ref<MenuItem>& item : items) AddEntry(*menu, *item);
+  const QAction* const chosen = menu->exec(place);
+  const Text name = chosen ? FromQString(chosen->objectName()) : Text();
+  delete menu.data();
+  return name;
 }
 
 }  // namespace
@@ -108,6 +144,10 @@ void QtDesignSurface::LockRedraw(bool lock) {
 }
 
 PictureWidget& QtDesignSurface::Handle(int index) { return *m_Handles.at(static_cast<std::size_t>(index)); }
+
+void QtDesignSurface::Repaint() { m_Surface.Canvas().repaint(); }
+
+void QtDesignSurface::SetFocus() { m_Surface.Canvas().setFocus(Qt::OtherFocusReason); }
 
 PictureWidget& QtDesignSurface::FocusHolder() { return *m_FocusHolder; }
 

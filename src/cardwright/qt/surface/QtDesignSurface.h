@@ -52,13 +52,13 @@ class QtDesignSurface final : public QObject, public DesignSurface {
   void SetScreenPointer(PointerShape pointer) override;
   void Cls() override;
   void PaintPoints(const GridPoints& points) override;
-  void Repaint() override { m_Surface.Canvas().repaint(); }
+  void Repaint() override;
   void LockRedraw(bool lock) override;
 
   PictureWidget& Handle(int index) override;
   void PutHandlesInto(Widget* container) override;
   PictureWidget& FocusHolder() override;
-  void SetFocus() override { m_Surface.Canvas().setFocus(Qt::OtherFocusReason); }
+  void SetFocus() override;
 
   ScreenPoint CursorPosition() const override;
   bool IsLeftButtonDown() const override;

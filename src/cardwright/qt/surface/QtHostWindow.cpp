@@ -1,5 +1,6 @@
 #include "cardwright/qt/surface/QtHostWindow.h"
 
+#include <QWidget>
 #include <algorithm>
 #include <cmath>
 
@@ -25,6 +26,10 @@ FrameSize FrameOf(const QWidget& window) {
   return {static_cast<float>(outer.width() - window.width()),
           static_cast<float>(outer.height() - window.height())};
 }
+
+QtHostWindow::QtHostWindow(QWidget& window) : m_Window(&window) {}
+
+QWidget* QtHostWindow::Native() const noexcept { return m_Window; }
 
 QWidget& QtHostWindow::Window() const {
   if (!m_Window) Raise(ErrorNumber::ObjectNotSet);

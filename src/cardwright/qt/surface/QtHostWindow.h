@@ -1,9 +1,10 @@
 #pragma once
 
 #include <QPointer>
-#include <QWidget>
 
 #include "cardwright/platform/Surface.h"
+
+class QWidget;
 
 namespace cardwright::qt {
 
@@ -23,7 +24,7 @@ QWidget& WindowAround(const QWidget& canvas);
 /// A window around visual controls. Error 91 once it is gone.
 class QtHostWindow final : public HostWindow {
  public:
-  explicit QtHostWindow(QWidget& window) : m_Window(&window) {}
+  explicit QtHostWindow(QWidget& window);
 
   Text Caption() const override;
   void SetCaption(const Text& caption) override;
@@ -35,7 +36,7 @@ class QtHostWindow final : public HostWindow {
   void SetVisible(bool visible) override;
   void Close() override;
 
-  QWidget* Native() const noexcept { return m_Window; }
+  QWidget* Native() const noexcept;
 
  private:
   QWidget& Window() const;

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QEvent>
+#include <QWidget>
 #include <algorithm>
 #include <cmath>
 #include <utility>
@@ -42,6 +43,8 @@ QtSurface::~QtSurface() {
   for (const auto& [name, widget] : m_Widgets) CoreOf(*widget).Detach();
   for (const Ref<Widget>& widget : m_Own) CoreOf(*widget).Detach();
 }
+
+QWidget* QtSurface::Native() const noexcept { return m_Canvas; }
 
 QWidget& QtSurface::Canvas() const {
   if (!m_Canvas) Raise(ErrorNumber::ObjectNotSet);

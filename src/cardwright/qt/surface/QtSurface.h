@@ -2,13 +2,14 @@
 
 #include <QObject>
 #include <QPointer>
-#include <QWidget>
 #include <unordered_map>
 #include <vector>
 
 #include "cardwright/platform/Surface.h"
 #include "cardwright/qt/surface/QtHostWindow.h"
 #include "cardwright/qt/widgets/SurfaceState.h"
+
+class QWidget;
 
 namespace cardwright::qt {
 
@@ -47,7 +48,7 @@ class QtSurface final : public QObject, public Surface, private Font::User {
   /// The object that scripts know as the parent of the widgets. Not owned: it has to outlive the surface.
   void SetControl(Object* control) { m_State->control = control; }
   /// The canvas; null once it is gone.
-  QWidget* Native() const noexcept { return m_Canvas; }
+  QWidget* Native() const noexcept;
   /// Error 91 where it is gone.
   QWidget& Canvas() const;
   SurfaceState& State() const noexcept { return *m_State; }

@@ -11,7 +11,6 @@
 #include "cardwright/qt/selectors/QtThemeSelector.h"
 #include "cardwright/qt/widgets/CaptionWidgets.h"
 #include "cardwright/qt/widgets/QtComboBox.h"
-#include "cardwright/qt/widgets/QtDbTableViewer.h"
 #include "cardwright/qt/widgets/QtListView.h"
 #include "cardwright/qt/widgets/QtMultilineTextBox.h"
 #include "cardwright/qt/widgets/QtPictureBox.h"

@@ -1,5 +1,7 @@
 #include "cardwright/qt/values/WindowHandles.h"
 
+#include <QWidget>
+
 namespace cardwright::qt {
 
 WindowHandles& WindowHandles::Instance() {

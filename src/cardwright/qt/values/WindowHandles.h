@@ -1,9 +1,10 @@
 #pragma once
 
 #include <QPointer>
-#include <QWidget>
 #include <cstdint>
 #include <unordered_map>
+
+class QWidget;
 
 namespace cardwright::qt {
 

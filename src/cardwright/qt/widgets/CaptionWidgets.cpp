@@ -23,6 +23,9 @@ constexpr WidgetKind kCommandButton = {.typeName = u"CommandButton",
                                        .mouse = MouseUse::LeftButton,
                                        .click = ClickSource::Widget};
 
+constexpr WidgetKind kDbTableViewer =
+    MakeFieldKind(u"DbTableViewer", MouseUse::None, ClickSource::MouseRelease);
+
 /// A caption as it is read: '&' only marks a key, "&&" is the character itself.
 QString WithoutMarks(const QString& caption) {
   if (!caption.contains(u'&')) return caption;
@@ -90,5 +93,20 @@ QtCommandButton::QtCommandButton(WidgetPlace place)
 Text QtCommandButton::DisplayText() const { return FromQString(Live(m_Button)->text()); }
 
 void QtCommandButton::SetDisplayText(const Text& text) { Live(m_Button)->setText(ToQString(text)); }
+
+QtDbTableViewer::QtDbTableViewer(WidgetPlace place)
+    : QtWidget(kDbTableViewer, place), m_Sheet(new QLabel(place.parent)) {
+  m_Sheet->setTextFormat(Qt::PlainText);
+  m_Sheet->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
+  m_Sheet->setAlignment(Qt::AlignCenter);
+  m_Sheet->setBackgroundRole(QPalette::Base);
+  m_Sheet->setForegroundRole(QPalette::Text);
+  m_Sheet->setAutoFillBackground(true);
+  Adopt(*m_Sheet);
+}
+
+Text QtDbTableViewer::DisplayText() const { return FromQString(Live(m_Sheet)->text()); }
+
+void QtDbTableViewer::SetDisplayText(const Text& text) { Live(m_Sheet)->setText(ToQString(text)); }
 
 }  // namespace cardwright::qt

@@ -45,4 +45,15 @@ class QtCommandButton final : public QtWidget<CaptionWidget> {
   QPushButton* m_Button;
 };
 
+/// The viewer of a table, which authors draw for its own sake: an empty sheet. No form holds one.
+class QtDbTableViewer final : public QtWidget<CaptionWidget> {
+ public:
+  explicit QtDbTableViewer(WidgetPlace place);
+  Text DisplayText() const override;
+  void SetDisplayText(const Text& text) override;
+
+ private:
+  QLabel* m_Sheet;
+};
+
 }  // namespace cardwright::qt

@@ -1,8 +1,10 @@
 #include "cardwright/qt/widgets/SurfaceState.h"
 
+#include <QButtonGroup>
 #include <QCoreApplication>
 #include <QMetaObject>
 #include <QMouseEvent>
+#include <QWidget>
 #include <utility>
 
 #include "cardwright/qt/widgets/WidgetCore.h"

@@ -1,17 +1,17 @@
 #pragma once
 
-#include <QButtonGroup>
 #include <QPoint>
 #include <QPointer>
-#include <QWidget>
 #include <unordered_map>
 #include <vector>
 
 #include "cardwright/automation/Ref.h"
 #include "cardwright/platform/Surface.h"
-#include "cardwright/qt/values/FontCache.h"
+#include "cardwright/qt/values/Fonts.h"
 
+class QButtonGroup;
 class QMouseEvent;
+class QWidget;
 
 namespace cardwright::qt {
 

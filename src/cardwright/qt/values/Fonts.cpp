@@ -1,4 +1,4 @@
-#include "cardwright/qt/values/FontCache.h"
+#include "cardwright/qt/values/Fonts.h"
 
 #include <QApplication>
 #include <QFontDatabase>
@@ -28,6 +28,12 @@ QFont FontCache::Get(const FontValues& values) {
     if (known == values) return font;
   }
   return m_Fonts.emplace_back(values, MakeFont(values)).second;
+}
+
+QFont PlainFont() {
+  QFont font = QApplication::font();
+  font.setResolveMask(QFont::AllPropertiesResolved);
+  return font;
 }
 
 }  // namespace cardwright::qt
