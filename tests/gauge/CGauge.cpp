@@ -6,7 +6,8 @@
 namespace cardwright {
 
 struct CGauge::Tables {
-  static constexpr PropertyRow kLevel{u"Level", PropertyTypeEnum::ptInteger, 1024, rows::Text.field};
+  static constexpr PropertyRow kLevel{u"Level", PropertyTypeEnum::ptInteger, messages::ValueHelp,
+                                      rows::Text.field};
 
   static constexpr auto kRows = Rows(rows::Name, kLevel, rows::BackColor, rows::Left, rows::Top, rows::Width,
                                      rows::Height, rows::ForeColor, rows::Attribute, rows::IsNeeded);

@@ -1,31 +1,33 @@
 #include "cardwright/designer/DesignMenu.h"
 
+#include "cardwright/automation/Conversions.h"
 #include "cardwright/shared/Localisation.h"
+#include "cardwright/shared/Messages.h"
 
 namespace cardwright {
 namespace {
 
 struct Entry {
   std::u16string_view name;
-  std::u16string_view message;  ///< number of the caption; "" for a separator
+  int caption;  ///< number of the message; 0 for a separator
   std::optional<DesignCommand> command;
 };
 
 // The captions of mnuForeground and mnuBackground read opposite to what the two do. Translations and the
 // menus of hosts were made to the messages as they stand.
 constexpr Entry kEntries[] = {
-    {u"mnuCut", u"1025", DesignCommand::Cut},
-    {u"mnuCopy", u"1026", DesignCommand::Copy},
-    {u"mnuPaste", u"1027", DesignCommand::Paste},
-    {u"mnuSep", u"", {}},
-    {u"mnuDelete", u"1028", DesignCommand::Delete},
-    {u"mnuSep1", u"", {}},
-    {u"mnuForeground", u"1029", DesignCommand::SetForeground},
-    {u"mnuBackground", u"1030", DesignCommand::SetBackground},
-    {u"mnuSep2", u"", {}},
-    {u"mnuLock", u"1031", DesignCommand::LockUnlock},
-    {u"mnuSep3", u"", {}},
-    {u"mnuProps", u"1032", DesignCommand::Properties},
+    {u"mnuCut", messages::Cut, DesignCommand::Cut},
+    {u"mnuCopy", messages::Copy, DesignCommand::Copy},
+    {u"mnuPaste", messages::Paste, DesignCommand::Paste},
+    {u"mnuSep", 0, {}},
+    {u"mnuDelete", messages::Delete, DesignCommand::Delete},
+    {u"mnuSep1", 0, {}},
+    {u"mnuForeground", messages::SendToBack, DesignCommand::SetForeground},
+    {u"mnuBackground", messages::BringToFront, DesignCommand::SetBackground},
+    {u"mnuSep2", 0, {}},
+    {u"mnuLock", messages::LockControls, DesignCommand::LockUnlock},
+    {u"mnuSep3", 0, {}},
+    {u"mnuProps", messages::Properties, DesignCommand::Properties},
 };
 
 constexpr std::u16string_view kOfControls[] = {u"mnuDelete", u"mnuForeground", u"mnuBackground", u"mnuSep1",
@@ -36,7 +38,7 @@ constexpr std::u16string_view kOfControls[] = {u"mnuDelete", u"mnuForeground", u
 DesignMenu::DesignMenu() {
   std::vector<Ref<Object>> captioned;
   for (const Entry& entry : kEntries) {
-    m_Items.push_back(MakeRef<MenuItem>(entry.name, entry.message));
+    m_Items.push_back(MakeRef<MenuItem>(entry.name, entry.caption ? ToText(Variant(entry.caption)) : Text()));
     captioned.push_back(m_Items.back());
   }
   TranslateControls(captioned);

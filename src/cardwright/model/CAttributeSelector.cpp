@@ -44,20 +44,21 @@ struct CAttributeSelector::Tables {
         BoundAs<W>(c).SetFeatureType(named < 0 ? ToLong(Variant(Val(ToText(stored)))) : named);
       }};
 
-  static constexpr auto kRows = Rows(rows::Name, PropertyRow{u"Text", ptString, 1011, kText}, rows::BackColor,
-                                     rows::Font, rows::Left, rows::Top, rows::Width, rows::ForeColor,
-                                     PropertyRow{.name = u"ThemeSelectorName",
-                                                 .type = ptControls,
-                                                 .description = 1068,
-                                                 .field = Link<&CAttributeSelector::m_ThemeSelectorName>,
-                                                 .links = ControlTypeEnum::ctThemeSelector},
-                                     PropertyRow{u"FeatureType", ptList, 1069, kType, kTypes},
-                                     PropertyRow{.name = u"FeatureSelectorName",
-                                                 .type = ptControls,
-                                                 .description = 1073,
-                                                 .field = Link<&CAttributeSelector::m_FeatureSelectorName>,
-                                                 .links = ControlTypeEnum::ctComboBox},
-                                     rows::Attribute, rows::IsNeeded);
+  static constexpr auto kRows =
+      Rows(rows::Name, PropertyRow{u"Text", ptString, messages::SelectedTextHelp, kText}, rows::BackColor,
+           rows::Font, rows::Left, rows::Top, rows::Width, rows::ForeColor,
+           PropertyRow{.name = u"ThemeSelectorName",
+                       .type = ptControls,
+                       .description = messages::ThemeSelectorNameHelp,
+                       .field = Link<&CAttributeSelector::m_ThemeSelectorName>,
+                       .links = ControlTypeEnum::ctThemeSelector},
+           PropertyRow{u"FeatureType", ptList, messages::FeatureTypeHelp, kType, kTypes},
+           PropertyRow{.name = u"FeatureSelectorName",
+                       .type = ptControls,
+                       .description = messages::FeatureSelectorNameHelp,
+                       .field = Link<&CAttributeSelector::m_FeatureSelectorName>,
+                       .links = ControlTypeEnum::ctComboBox},
+           rows::Attribute, rows::IsNeeded);
   // Text is a choice: it is read last.
   static constexpr auto kKeys =
       Keys(keys::Key(u"Text", kStoredText), keys::BackColor, keys::Font, keys::GeometryWithoutHeight,

@@ -12,7 +12,8 @@ struct CCheckBox::Tables {
   static constexpr auto kRows =
       Rows(rows::Name, rows::Text, rows::BackColor, rows::Font, rows::Left, rows::Top, rows::Width,
            rows::Height, rows::ForeColor,
-           PropertyRow{u"Selected", PropertyTypeEnum::ptBoolean, 1010, {GetSelected, LetSelected}},
+           PropertyRow{
+               u"Selected", PropertyTypeEnum::ptBoolean, messages::SelectedHelp, {GetSelected, LetSelected}},
            rows::Attribute, rows::IsNeeded);
   static constexpr auto kHidden = Rows(PropertyRow{u"Value", PropertyTypeEnum::ptNone, 0, kValue});
   static constexpr auto kKeys =

@@ -13,12 +13,15 @@ struct CColorSelector::Tables {
   static constexpr Field kMask = Stored<&CColorSelector::m_MaskValue>;
   static constexpr Field kBorder = WidgetBorder<W>;
 
-  static constexpr auto kRows =
-      Rows(rows::Name, PropertyRow{u"Color", ptColor, 1061, kColor}, rows::BackColor, rows::Left, rows::Top,
-           rows::Width, rows::Height, PropertyRow{u"Title", ptString, 1058, kTitle},
-           PropertyRow{
-               .name = u"MaskValue", .type = ptString, .description = 1062, .field = kMask, .argument = 1064},
-           PropertyRow{u"Border", ptBoolean, 1066, kBorder}, rows::Attribute, rows::IsNeeded);
+  static constexpr auto kRows = Rows(
+      rows::Name, PropertyRow{u"Color", ptColor, messages::ColorHelp, kColor}, rows::BackColor, rows::Left,
+      rows::Top, rows::Width, rows::Height, PropertyRow{u"Title", ptString, messages::TitleHelp, kTitle},
+      PropertyRow{.name = u"MaskValue",
+                  .type = ptString,
+                  .description = messages::MaskValueHelp,
+                  .field = kMask,
+                  .argument = messages::ColorMaskParameters},
+      PropertyRow{u"Border", ptBoolean, messages::BorderHelp, kBorder}, rows::Attribute, rows::IsNeeded);
   static constexpr auto kKeys =
       Keys(keys::ColorKey(u"Color", kColor), keys::Geometry, keys::Attribute, keys::IsNeeded,
            keys::Key(u"Border", kBorder), keys::Key(u"Title", kTitle), keys::Key(u"MaskValue", kMask));

@@ -14,13 +14,13 @@ struct CComboBox::Tables {
       [](TableControl& c, const Variant& value) { As<CComboBox>(c).SetEditable(ToText(value)); }};
   static constexpr Field kMinusSign = Stored<&TextEntry::m_MinusSignEnabled>;
 
-  static constexpr auto kRows =
-      Rows(rows::Name, PropertyRow{u"Text", PropertyTypeEnum::ptString, 1011, kText}, rows::BackColor,
-           rows::Font, rows::Left, rows::Top, rows::Width, rows::ForeColor,
-           PropertyRow{u"Editable", PropertyTypeEnum::ptBoolean, 1070, kEditable},
-           PropertyRow{u"Items", PropertyTypeEnum::ptCollection, 1012, kItemsField<CComboBox>},
-           PropertyRow{u"MinusSignEnabled", PropertyTypeEnum::ptBoolean, 1053, kMinusSign}, rows::Attribute,
-           rows::IsNeeded);
+  static constexpr auto kRows = Rows(
+      rows::Name, PropertyRow{u"Text", PropertyTypeEnum::ptString, messages::SelectedTextHelp, kText},
+      rows::BackColor, rows::Font, rows::Left, rows::Top, rows::Width, rows::ForeColor,
+      PropertyRow{u"Editable", PropertyTypeEnum::ptBoolean, messages::EditableHelp, kEditable},
+      PropertyRow{u"Items", PropertyTypeEnum::ptCollection, messages::ComboItemsHelp, kItemsField<CComboBox>},
+      PropertyRow{u"MinusSignEnabled", PropertyTypeEnum::ptBoolean, messages::MinusSignHelp, kMinusSign},
+      rows::Attribute, rows::IsNeeded);
   // Text is a selection: it is read last, when the items are there.
   static constexpr auto kKeys =
       Keys(keys::Key(u"Text", ReadOnly(kText)), keys::BackColor, keys::Font, keys::GeometryWithoutHeight,

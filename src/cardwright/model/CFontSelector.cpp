@@ -15,14 +15,18 @@ struct CFontSelector::Tables {
   static constexpr Field kAutoSize = WidgetFlag<&W::AutoSize, &W::SetAutoSize>;
 
   static constexpr auto kRows =
-      Rows(rows::Name, PropertyRow{u"Font", ptFont, 1063, rows::Font.field},
-           PropertyRow{u"BackColor", ptColor, 1080, rows::BackColor.field},
-           PropertyRow{u"BackColorBkg", ptColor, 1001, kGround}, rows::Left, rows::Top, rows::Width,
-           rows::Height, rows::ForeColor, PropertyRow{u"Title", ptString, 1058, kTitle},
-           PropertyRow{
-               .name = u"MaskValue", .type = ptString, .description = 1062, .field = kMask, .argument = 1065},
-           PropertyRow{u"Border", ptBoolean, 1066, kBorder},
-           PropertyRow{u"AutoSize", ptBoolean, 1067, kAutoSize}, rows::Attribute);
+      Rows(rows::Name, PropertyRow{u"Font", ptFont, messages::FontSelectorHelp, rows::Font.field},
+           PropertyRow{u"BackColor", ptColor, messages::FontBackColorHelp, rows::BackColor.field},
+           PropertyRow{u"BackColorBkg", ptColor, messages::BackColorHelp, kGround}, rows::Left, rows::Top,
+           rows::Width, rows::Height, rows::ForeColor,
+           PropertyRow{u"Title", ptString, messages::TitleHelp, kTitle},
+           PropertyRow{.name = u"MaskValue",
+                       .type = ptString,
+                       .description = messages::MaskValueHelp,
+                       .field = kMask,
+                       .argument = messages::FontMaskParameters},
+           PropertyRow{u"Border", ptBoolean, messages::BorderHelp, kBorder},
+           PropertyRow{u"AutoSize", ptBoolean, messages::AutoSizeHelp, kAutoSize}, rows::Attribute);
   // Answered and saved as everywhere, but grids never showed it here.
   static constexpr auto kHidden = Rows(rows::IsNeeded);
   static constexpr auto kKeys =

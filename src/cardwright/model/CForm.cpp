@@ -51,12 +51,19 @@ struct CForm::Tables {
 
   using enum PropertyTypeEnum;
   static constexpr auto kRows = Rows(
-      PropertyRow{u"Text", ptString, 1016, kText}, PropertyRow{u"BackColor", ptColor, 1017, kBackColor},
-      PropertyRow{u"Font", ptFont, 1018, kFont}, PropertyRow{u"Width", ptInteger, 1019, kWidth},
-      PropertyRow{u"Height", ptInteger, 1020, kHeight}, PropertyRow{u"ThemeName", ptThemes, 1021, kThemeName},
-      PropertyRow{u"FeatureType", ptFeatureType, 1022, kFeatureType},
-      PropertyRow{u"StartMode", ptList, 1076, Stored<&CForm::m_StartMode>, kStartModes},
-      PropertyRow{.name = u"Image", .type = ptImage, .description = 1077, .field = kImage, .filter = 1078});
+      PropertyRow{u"Text", ptString, messages::FormTextHelp, kText},
+      PropertyRow{u"BackColor", ptColor, messages::FormBackColorHelp, kBackColor},
+      PropertyRow{u"Font", ptFont, messages::FormFontHelp, kFont},
+      PropertyRow{u"Width", ptInteger, messages::FormWidthHelp, kWidth},
+      PropertyRow{u"Height", ptInteger, messages::FormHeightHelp, kHeight},
+      PropertyRow{u"ThemeName", ptThemes, messages::ThemeNameHelp, kThemeName},
+      PropertyRow{u"FeatureType", ptFeatureType, messages::FormFeatureTypeHelp, kFeatureType},
+      PropertyRow{u"StartMode", ptList, messages::StartModeHelp, Stored<&CForm::m_StartMode>, kStartModes},
+      PropertyRow{.name = u"Image",
+                  .type = ptImage,
+                  .description = messages::ImageHelp,
+                  .field = kImage,
+                  .filter = messages::ImageFilter});
   static constexpr auto kHidden = Rows(PropertyRow{u"ShowMenu", ptNone, 0, kShowMenu});
   // The form's own section is written around its controls', in an order that no single list of keys tells.
   static constexpr std::array<FileKey, 0> kKeys{};

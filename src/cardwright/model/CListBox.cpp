@@ -23,12 +23,14 @@ struct CListBox::Tables {
   static constexpr Field kCurrentItem{
       [](const TableControl& c) -> Variant { return As<CListBox>(c).CurrentItem(); }};
 
-  static constexpr auto kRows =
-      Rows(rows::Name, PropertyRow{u"Text", PropertyTypeEnum::ptString, 1011, Stored<&CListBox::m_Text>},
-           rows::BackColor, rows::Font, rows::Left, rows::Top, rows::Width, rows::Height, rows::ForeColor,
-           PropertyRow{u"Items", PropertyTypeEnum::ptCollection, 1023, kItemsField<CListBox>},
-           PropertyRow{u"MultiSelect", PropertyTypeEnum::ptBoolean, 1075, kMultiSelect}, rows::Attribute,
-           rows::IsNeeded);
+  // MultiSelect has the help of another row, as grids have always shown it.
+  static constexpr auto kRows = Rows(
+      rows::Name,
+      PropertyRow{u"Text", PropertyTypeEnum::ptString, messages::SelectedTextHelp, Stored<&CListBox::m_Text>},
+      rows::BackColor, rows::Font, rows::Left, rows::Top, rows::Width, rows::Height, rows::ForeColor,
+      PropertyRow{u"Items", PropertyTypeEnum::ptCollection, messages::ListItemsHelp, kItemsField<CListBox>},
+      PropertyRow{u"MultiSelect", PropertyTypeEnum::ptBoolean, messages::InitializeHelp, kMultiSelect},
+      rows::Attribute, rows::IsNeeded);
   static constexpr auto kHidden =
       Rows(PropertyRow{u"CurrentItem", PropertyTypeEnum::ptNone, 0, kCurrentItem});
   static constexpr auto kKeys =

@@ -5,12 +5,13 @@
 namespace cardwright {
 
 struct COptionButton::Tables {
-  static constexpr auto kRows =
-      Rows(rows::Name, rows::Text, rows::BackColor, rows::Font, rows::Left, rows::Top, rows::Width,
-           rows::Height, rows::ForeColor,
-           PropertyRow{u"Value", PropertyTypeEnum::ptString, 1024, Stored<&COptionButton::m_Value>},
-           PropertyRow{u"Selected", PropertyTypeEnum::ptBoolean, 1010, {GetSelected, LetSelected}},
-           rows::Attribute);
+  static constexpr auto kRows = Rows(
+      rows::Name, rows::Text, rows::BackColor, rows::Font, rows::Left, rows::Top, rows::Width, rows::Height,
+      rows::ForeColor,
+      PropertyRow{u"Value", PropertyTypeEnum::ptString, messages::ValueHelp, Stored<&COptionButton::m_Value>},
+      PropertyRow{
+          u"Selected", PropertyTypeEnum::ptBoolean, messages::SelectedHelp, {GetSelected, LetSelected}},
+      rows::Attribute);
   static constexpr auto kKeys =
       Keys(keys::Text, keys::BackColor, keys::Font, keys::Geometry, keys::ForeColor, keys::Attribute,
            keys::Key(u"Selected", Stored<&StateControl::m_Selected>, u"False"),

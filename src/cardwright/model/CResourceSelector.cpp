@@ -28,17 +28,19 @@ struct CResourceSelector::Tables {
   static constexpr Field kTitle = WidgetText<&W::Title, &W::SetTitle>;
   static constexpr Field kSeveral = WidgetFlag<&W::MultiSelect, &W::SetMultiSelect>;
 
-  static constexpr auto kRows =
-      Rows(rows::Name, PropertyRow{u"Path", ptString, 1000, kPath},
-           PropertyRow{u"RegKey", ptString, 1071, kRegKey},
-           PropertyRow{u"BackColor", ptColor, 1081, rows::BackColor.field},
-           PropertyRow{u"BackColorBkg", ptColor, 1001, kGround}, rows::Font, rows::Left, rows::Top,
-           rows::Width, PropertyRow{u"Height", ptInteger, 1006, kHeight}, rows::ForeColor,
-           PropertyRow{u"BrowseForFolder", ptBoolean, 1054, kFolders},
-           PropertyRow{u"Filter", ptString, 1055, kFilter},
-           PropertyRow{u"InputTextEnabled", ptBoolean, 1056, kTyping},
-           PropertyRow{u"ShowSave", ptBoolean, 1057, kSave}, PropertyRow{u"Title", ptString, 1058, kTitle},
-           PropertyRow{u"MultiSelect", ptBoolean, 1059, kSeveral}, rows::Attribute, rows::IsNeeded);
+  static constexpr auto kRows = Rows(
+      rows::Name, PropertyRow{u"Path", ptString, messages::TextHelp, kPath},
+      PropertyRow{u"RegKey", ptString, messages::RegKeyHelp, kRegKey},
+      PropertyRow{u"BackColor", ptColor, messages::InputBackColorHelp, rows::BackColor.field},
+      PropertyRow{u"BackColorBkg", ptColor, messages::BackColorHelp, kGround}, rows::Font, rows::Left,
+      rows::Top, rows::Width, PropertyRow{u"Height", ptInteger, messages::HeightHelp, kHeight},
+      rows::ForeColor, PropertyRow{u"BrowseForFolder", ptBoolean, messages::BrowseForFolderHelp, kFolders},
+      PropertyRow{u"Filter", ptString, messages::FilterHelp, kFilter},
+      PropertyRow{u"InputTextEnabled", ptBoolean, messages::InputTextHelp, kTyping},
+      PropertyRow{u"ShowSave", ptBoolean, messages::ShowSaveHelp, kSave},
+      PropertyRow{u"Title", ptString, messages::TitleHelp, kTitle},
+      PropertyRow{u"MultiSelect", ptBoolean, messages::MultipleFilesHelp, kSeveral}, rows::Attribute,
+      rows::IsNeeded);
   static constexpr auto kKeys =
       Keys(keys::Key(u"Path", kPath), keys::Key(u"RegKey", kReadRegKey), keys::BackColor,
            keys::ColorKey(u"BackColorBkg", kGround), keys::Font, keys::Geometry, keys::ForeColor,

@@ -7,13 +7,14 @@ namespace cardwright {
 struct CTextBox::Tables {
   static constexpr std::u16string_view kInputTypes[] = {u"Text", u"Float", u"Integer"};
 
-  static constexpr auto kRows = Rows(
-      rows::Name, rows::Text, rows::BackColor, rows::Font, rows::Left, rows::Top, rows::Width, rows::Height,
-      rows::ForeColor,
-      PropertyRow{u"InputType", PropertyTypeEnum::ptList, 1074, Stored<&CTextBox::m_InputType>, kInputTypes},
-      PropertyRow{u"MinusSignEnabled", PropertyTypeEnum::ptBoolean, 1053,
-                  Stored<&TextEntry::m_MinusSignEnabled>},
-      rows::Attribute, rows::IsNeeded);
+  static constexpr auto kRows =
+      Rows(rows::Name, rows::Text, rows::BackColor, rows::Font, rows::Left, rows::Top, rows::Width,
+           rows::Height, rows::ForeColor,
+           PropertyRow{u"InputType", PropertyTypeEnum::ptList, messages::InputTypeHelp,
+                       Stored<&CTextBox::m_InputType>, kInputTypes},
+           PropertyRow{u"MinusSignEnabled", PropertyTypeEnum::ptBoolean, messages::MinusSignHelp,
+                       Stored<&TextEntry::m_MinusSignEnabled>},
+           rows::Attribute, rows::IsNeeded);
   static constexpr auto kKeys =
       Keys(keys::Text, keys::BackColor, keys::Font, keys::Geometry, keys::ForeColor, keys::Attribute,
            keys::IsNeeded, keys::Key(u"MinusSignEnabled", Stored<&TextEntry::m_MinusSignEnabled>),

@@ -6,11 +6,12 @@ namespace cardwright {
 
 struct CTextBoxMultiline::Tables {
   // MinusSignEnabled stands third here, unlike in the one-line box: grids show the rows in this order.
-  static constexpr auto kRows = Rows(rows::Name, rows::Text,
-                                     PropertyRow{u"MinusSignEnabled", PropertyTypeEnum::ptBoolean, 1053,
-                                                 Stored<&TextEntry::m_MinusSignEnabled>},
-                                     rows::BackColor, rows::Font, rows::Left, rows::Top, rows::Width,
-                                     rows::Height, rows::ForeColor, rows::Attribute, rows::IsNeeded);
+  static constexpr auto kRows =
+      Rows(rows::Name, rows::Text,
+           PropertyRow{u"MinusSignEnabled", PropertyTypeEnum::ptBoolean, messages::MinusSignHelp,
+                       Stored<&TextEntry::m_MinusSignEnabled>},
+           rows::BackColor, rows::Font, rows::Left, rows::Top, rows::Width, rows::Height, rows::ForeColor,
+           rows::Attribute, rows::IsNeeded);
   static constexpr auto kKeys =
       Keys(keys::Text, keys::BackColor, keys::Font, keys::Geometry, keys::ForeColor, keys::Attribute,
            keys::IsNeeded, keys::Key(u"MinusSignEnabled", Stored<&TextEntry::m_MinusSignEnabled>));

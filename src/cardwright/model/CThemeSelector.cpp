@@ -13,9 +13,9 @@ struct CThemeSelector::Tables {
   static constexpr Field kCreate = WidgetText<&W::CreateThemeText, &W::SetCreateThemeText>;
 
   static constexpr auto kRows =
-      Rows(rows::Name, PropertyRow{u"Text", ptString, 1011, kText}, rows::BackColor, rows::Font, rows::Left,
-           rows::Top, rows::Width, rows::ForeColor, rows::Attribute, rows::IsNeeded,
-           PropertyRow{u"CreateThemeText", ptString, 1079, kCreate});
+      Rows(rows::Name, PropertyRow{u"Text", ptString, messages::SelectedTextHelp, kText}, rows::BackColor,
+           rows::Font, rows::Left, rows::Top, rows::Width, rows::ForeColor, rows::Attribute, rows::IsNeeded,
+           PropertyRow{u"CreateThemeText", ptString, messages::CreateThemeTextHelp, kCreate});
   // Text is a choice: it is read last, when the list is there.
   static constexpr auto kKeys =
       Keys(keys::Key(u"Text", kStoredText), keys::BackColor, keys::Font, keys::GeometryWithoutHeight,

@@ -3,6 +3,7 @@
 #include <type_traits>
 
 #include "cardwright/model/Control.h"
+#include "cardwright/shared/Messages.h"
 
 namespace cardwright {
 
@@ -68,17 +69,21 @@ Variant GetHeight(const TableControl& control);
 void MoveHeight(TableControl& control, const Variant& value);
 
 using enum PropertyTypeEnum;
-inline constexpr PropertyRow Name{u"Name", ptName, 1060, {GetUserName, Rename}};
-inline constexpr PropertyRow Text{u"Text", ptString, 1000, {GetCaption, SetCaption}};
-inline constexpr PropertyRow BackColor{u"BackColor", ptColor, 1001, {GetBackColor, SetBackColor}};
-inline constexpr PropertyRow Font{u"Font", ptFont, 1002, {GetFont, SetFont}};
-inline constexpr PropertyRow Left{u"Left", ptInteger, 1013, {GetLeft, MoveLeft}};
-inline constexpr PropertyRow Top{u"Top", ptInteger, 1014, {GetTop, MoveTop}};
-inline constexpr PropertyRow Width{u"Width", ptInteger, 1005, {GetWidth, MoveWidth}};
-inline constexpr PropertyRow Height{u"Height", ptInteger, 1006, {GetHeight, MoveHeight}};
-inline constexpr PropertyRow ForeColor{u"ForeColor", ptColor, 1007, {GetForeColor, SetForeColor}};
-inline constexpr PropertyRow Attribute{u"Attribute", ptAttribute, 1008, Stored<&Control::m_Attribute>};
-inline constexpr PropertyRow IsNeeded{u"IsNeeded", ptBoolean, 1009, Stored<&Control::m_IsNeeded>};
+inline constexpr PropertyRow Name{u"Name", ptName, messages::NameHelp, {GetUserName, Rename}};
+inline constexpr PropertyRow Text{u"Text", ptString, messages::TextHelp, {GetCaption, SetCaption}};
+inline constexpr PropertyRow BackColor{
+    u"BackColor", ptColor, messages::BackColorHelp, {GetBackColor, SetBackColor}};
+inline constexpr PropertyRow Font{u"Font", ptFont, messages::FontHelp, {GetFont, SetFont}};
+inline constexpr PropertyRow Left{u"Left", ptInteger, messages::LeftHelp, {GetLeft, MoveLeft}};
+inline constexpr PropertyRow Top{u"Top", ptInteger, messages::TopHelp, {GetTop, MoveTop}};
+inline constexpr PropertyRow Width{u"Width", ptInteger, messages::WidthHelp, {GetWidth, MoveWidth}};
+inline constexpr PropertyRow Height{u"Height", ptInteger, messages::HeightHelp, {GetHeight, MoveHeight}};
+inline constexpr PropertyRow ForeColor{
+    u"ForeColor", ptColor, messages::ForeColorHelp, {GetForeColor, SetForeColor}};
+inline constexpr PropertyRow Attribute{u"Attribute", ptAttribute, messages::AttributeHelp,
+                                       Stored<&Control::m_Attribute>};
+inline constexpr PropertyRow IsNeeded{u"IsNeeded", ptBoolean, messages::IsNeededHelp,
+                                      Stored<&Control::m_IsNeeded>};
 
 }  // namespace rows
 /// @}

@@ -67,22 +67,20 @@ void Print(const Text& text) {
     Attempt([&] { LetProperty(*output, u"SelText", Variant(text)); });
 }
 
-constexpr int kInternalProcedure = 1082;
-constexpr int kStorageStart = 1083;
-constexpr int kStorageEnd = 1084;
-
 Text Rule() { return Text(std::u16string(100, u'-')); }
-Text Banner(int step) { return GetMessage(kInternalProcedure, {Variant(GetMessage(step))}) + u"\r\n"; }
+Text Banner(int step) {
+  return GetMessage(messages::InternalProcedure, {Variant(GetMessage(step))}) + u"\r\n";
+}
 
 void PrintOpening() {
   Print(Text(u"\r\n\r\n") + Rule() + u"\r\n");
-  Print(Banner(kStorageStart));
+  Print(Banner(messages::StorageStart));
   Print(Rule() + u"\r\n");
 }
 
 void PrintClosing() {
   Print(Rule() + u"\r\n");
-  Print(Banner(kStorageEnd));
+  Print(Banner(messages::StorageEnd));
   Print(Rule() + u"\r\n\r\n\r\n");
 }
 

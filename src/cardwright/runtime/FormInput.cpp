@@ -43,8 +43,8 @@ const MemberTable& FormInput::Members() const {
 FormInput::FormInput(Surface& surface) : m_Surface(&surface) {
   Module().formScaleMode = ScaleMode::Pixels;
   surface.SetScale(ScaleMode::Pixels);
-  m_OkButton.emplace(surface, u"cmdOK", 1051, [this] { Ok(); });
-  m_CancelButton.emplace(surface, u"cmdCancel", 1052, [this] { Cancel(); });
+  m_OkButton.emplace(surface, u"cmdOK", messages::Ok, [this] { Ok(); });
+  m_CancelButton.emplace(surface, u"cmdCancel", messages::Cancel, [this] { Cancel(); });
 }
 
 Ref<FormInput> FormInput::Create(Surface& surface) {
@@ -152,9 +152,10 @@ Ref<IControl> FormInput::FirstMissing() const {
 
 void FormInput::ReportMissing(IControl& control) {
   const Text attribute = control.AttributeName();
-  const Text message = attribute.IsEmpty() ? GetMessage(102, {Variant(control.Name())})
-                                           : GetMessage(101, {Variant(attribute)});
-  if (Module().desktop) Module().desktop->ShowMessage(message, BoxStyle::Exclamation, GetMessage(100));
+  const Text message = attribute.IsEmpty() ? GetMessage(messages::ControlMissing, {Variant(control.Name())})
+                                           : GetMessage(messages::AttributeMissing, {Variant(attribute)});
+  if (Module().desktop)
+    Module().desktop->ShowMessage(message, BoxStyle::Exclamation, GetMessage(messages::Warning));
   if (auto* widget = dynamic_cast<Widget*>(control.BoundObject().get())) Attempt([&] { widget->SetFocus(); });
 }
 

@@ -21,11 +21,12 @@ Ref<FormControls> ScriptControls() {
 Text FailureText(const Error& failure, bool startsScript) {
   const ScriptError inScript = Module().scriptControl->LastError();
   if (inScript.number != 0)
-    return GetMessage(98, {Variant(inScript.number), Variant(inScript.description),
-                           Variant(inScript.line - Module().scriptLineOffset), Variant(inScript.column)});
-  if (failure.Number() == kInvalidOwner) return GetMessage(1072);
-  if (startsScript) return GetMessage(1035);
-  return GetMessage(99, {Variant(failure.Number()), Variant(failure.Description())});
+    return GetMessage(messages::ScriptErrorAt,
+                      {Variant(inScript.number), Variant(inScript.description),
+                       Variant(inScript.line - Module().scriptLineOffset), Variant(inScript.column)});
+  if (failure.Number() == kInvalidOwner) return GetMessage(messages::ConnectionInvalid);
+  if (startsScript) return GetMessage(messages::MainMissing);
+  return GetMessage(messages::ScriptError, {Variant(failure.Number()), Variant(failure.Description())});
 }
 
 void ReportFailure(const Error& failure, bool startsScript) {
