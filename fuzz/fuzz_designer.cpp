@@ -1,16 +1,22 @@
-// The designer with real widgets, as an author and a host use it: an input is a project, and behind a line
-// "#orders" one order a line. Whatever comes, the designer is at rest between two orders: no drag, no
-// outline, no waiting pointer stays behind.
+// The designer with real widgets, as an author and a host use it. An input is a project, followed by a line
+// "#orders" and one order a line. Whatever the orders are, the designer is idle between two of them: no tool
+// in use, no outline, no hourglass pointer.
 //
-// An order is a letter and up to four numbers; any other letter counts as one of these, and a number that is
-// none as 0.
-//   d KIND X Y X2 Y2    draws a control           h HANDLE X Y X2 Y2    drags a handle of the selected
-//   control s N                 selects the Nth object    c N                   gives a command r NAME
-//   renames it                p N VALUE             sets its Nth property z W H               resizes the
-//   surface       o W H                 gives the form its outer size g STEP ALIGNED      paints the grid m N
-//   X Y               chooses the Nth entry of the menu there w                   saves and reads again     k
-//   KEY                 presses a key t N                 does that act of a host in the middle of the next
-//   drag or at its next event
+// An order is a letter and up to five numbers. Any other letter counts as d, and a missing number as 0.
+//
+//   d CLASS X Y X2 Y2   draws a control
+//   h HANDLE X Y X2 Y2  drags a handle of the selected control
+//   s N                 selects the Nth object
+//   c N                 runs the Nth command
+//   r NAME              renames the selected control
+//   p N VALUE           sets its Nth property
+//   z W H               resizes the surface
+//   o W H               sets the outer size of the form
+//   g STEP ALIGNED      sets and paints the grid
+//   m N X Y             right-clicks at a point and chooses the Nth entry of the menu
+//   w                   saves and reads again
+//   k KEY               presses a key
+//   t N                 performs the Nth act of a host during the next drag or at the next event
 
 #include <QMenu>
 #include <QPointer>

@@ -17,7 +17,7 @@ class CommandTest : public DesignerTest {
 
 using SelectTest = CommandTest;
 
-TEST_F(SelectTest, TellsOfAnotherControlBeforeItIsStored) {
+TEST_F(SelectTest, RaisesCurrObjectChangedBeforeTheSelectionChanges) {
   const Ref<IControl> label = DrawLabel();
   const Ref<IControl> form = ControlsOf(designer->Controls())[0];
   Text stored;
@@ -28,7 +28,7 @@ TEST_F(SelectTest, TellsOfAnotherControlBeforeItIsStored) {
   EXPECT_EQ(designer->CurrentControl().get(), form.get());
 }
 
-TEST_F(SelectTest, PlacesTheHandlesAgainForTheSameControlWithoutTelling) {
+TEST_F(SelectTest, MovesTheHandlesWithoutAnEventForTheSameControl) {
   const Ref<IControl> label = DrawLabel();
   WidgetOf(*label).Move(200, 200, 50, 20);
   designer->SetCtrl(label);
@@ -49,7 +49,7 @@ TEST_F(SelectTest, ShowsAHiddenControlAndParksTheFocus) {
   EXPECT_EQ(surface->focusHolder->Top(), -10);
 }
 
-TEST_F(SelectTest, FollowsClickAndFocusOnAWidget) {
+TEST_F(SelectTest, SelectsTheWidgetThatIsClickedOrGetsTheFocus) {
   const Ref<IControl> label = DrawLabel();
   const Ref<IControl> text = Draw(ctTextBox, 20, 90, 120, 120);
   FakeDesignSurface::At(WidgetOf(*label)).listener->OnClick();
@@ -70,21 +70,21 @@ TEST_F(SelectTest, SelectsTheFormByAClickUnlessEventsAreSuspended) {
   EXPECT_EQ(designer->CurrentControl()->UserName(), u"Form");
 }
 
-TEST_F(SelectTest, FollowsTheGridsMovesOfAControl) {
+TEST_F(SelectTest, MovesTheHandlesWhenAPropertyMovesTheControl) {
   const Ref<IControl> label = DrawLabel();
   label->SetPropertyValue(u"Left", 40);
   EXPECT_EQ(surface->handles[1]->Left(), 140);
   EXPECT_EQ(Take(), Lines{});
 }
 
-TEST_F(SelectTest, RefusesNothing) {
+TEST_F(SelectTest, RaisesError91ForNull) {
   EXPECT_EQ(ErrorOf([&] { designer->SetCtrl(nullptr); }), 91);
   EXPECT_EQ(designer->CurrentControl()->UserName(), u"Form");
 }
 
 using DeleteTest = CommandTest;
 
-TEST_F(DeleteTest, TellsTheWidgetsNameThenSelectsTheForm) {
+TEST_F(DeleteTest, RaisesObjectRemovedThenSelectsTheForm) {
   const Ref<IControl> label = DrawLabel();
   designer->ChangeControlName(label, u"lblDepth");
   Take();
@@ -96,7 +96,7 @@ TEST_F(DeleteTest, TellsTheWidgetsNameThenSelectsTheForm) {
   EXPECT_FALSE(surface->handles[0]->IsVisible());
 }
 
-TEST_F(DeleteTest, DoesNothingWithTheForm) {
+TEST_F(DeleteTest, IgnoresTheForm) {
   designer->Delete();
   int key = 46, shift = 0;
   surface->listener->OnKeyDown(key, shift);
@@ -104,7 +104,7 @@ TEST_F(DeleteTest, DoesNothingWithTheForm) {
   EXPECT_EQ(Names(), "Form");
 }
 
-TEST_F(DeleteTest, IsWhatTheDeleteKeyDoesWhereItIsEnabled) {
+TEST_F(DeleteTest, RunsOnTheDeleteKeyIfEnabled) {
   DrawLabel();
   int shift = 0;
   for (int key : {8, 13, 37, 39}) surface->listener->OnKeyDown(key, shift);
@@ -117,7 +117,7 @@ TEST_F(DeleteTest, IsWhatTheDeleteKeyDoesWhereItIsEnabled) {
   EXPECT_EQ(Names(), "Form");
 }
 
-TEST_F(DeleteTest, TakesAFramesControlsAlongOneLevelDeep) {
+TEST_F(DeleteTest, RemovesTheControlsOfAFrameOneLevelDeep) {
   const Ref<IControl> outer = Draw(ctFrame, 50, 50, 350, 280);
   DrawInside(*outer, ctLabel, 10, 10, 60, 40);
   const Ref<IControl> inner = DrawInside(*outer, ctFrame, 10, 60, 200, 200);
@@ -129,7 +129,7 @@ TEST_F(DeleteTest, TakesAFramesControlsAlongOneLevelDeep) {
   EXPECT_EQ(NamesOf(designer->ZList()), "Form, object_4");
   EXPECT_EQ(surface->WidgetCount(), 0);
   EXPECT_EQ(surface->handles[0]->Container(), nullptr);
-  // What is left without a widget is passed over everywhere.
+  // A control without a widget is passed over everywhere.
   designer->SetCtrl(lost);
   EXPECT_FALSE(surface->handles[0]->IsVisible());
   designer->LockUnlock();
@@ -139,7 +139,7 @@ TEST_F(DeleteTest, TakesAFramesControlsAlongOneLevelDeep) {
 
 using ClipboardTest = CommandTest;
 
-TEST_F(ClipboardTest, PastesACopyAtTheCornerAndTellsInOrder) {
+TEST_F(ClipboardTest, PastesACopyAtTheTopLeftCornerAndRaisesItsEventsInOrder) {
   const Ref<IControl> label = DrawLabel();
   label->SetPropertyValue(u"Text", u"Depth");
   WidgetOf(*label).SetBackColor(0x123456);
@@ -159,7 +159,7 @@ TEST_F(ClipboardTest, PastesACopyAtTheCornerAndTellsInOrder) {
   EXPECT_EQ(BoxOf(*designer->CurrentControl()), "0,0,100,30");
 }
 
-TEST_F(ClipboardTest, DoesNothingWithTheFormOrWithoutACopy) {
+TEST_F(ClipboardTest, IgnoresTheFormAndAnEmptyClipboard) {
   designer->Copy();
   designer->Paste();
   designer->Cut();
@@ -167,7 +167,7 @@ TEST_F(ClipboardTest, DoesNothingWithTheFormOrWithoutACopy) {
   EXPECT_EQ(Names(), "Form");
 }
 
-TEST_F(ClipboardTest, GivesEachKindBack) {
+TEST_F(ClipboardTest, CutsAndPastesEveryClass) {
   for (int type = 1; type <= 14; ++type) {
     const Ref<IControl> control = Draw(static_cast<ControlTypeEnum>(type), 10, 10, 110, 60);
     designer->Cut();
@@ -180,7 +180,7 @@ TEST_F(ClipboardTest, GivesEachKindBack) {
   }
 }
 
-TEST_F(ClipboardTest, TakesTheNameOfWhatWasCutWhereItIsFree) {
+TEST_F(ClipboardTest, PastesACutControlUnderItsNameIfFree) {
   const Ref<IControl> label = DrawLabel();
   designer->ChangeControlName(label, u"lblDepth");
   designer->Cut();
@@ -195,7 +195,7 @@ TEST_F(ClipboardTest, TakesTheNameOfWhatWasCutWhereItIsFree) {
   EXPECT_EQ(Names(), "Form, lblDepth, object_3");
 }
 
-TEST_F(ClipboardTest, CopiesAFrameWithoutWhatIsInIt) {
+TEST_F(ClipboardTest, CopiesAFrameWithoutItsControls) {
   const Ref<IControl> frame = Draw(ctFrame, 50, 50, 250, 250);
   DrawInside(*frame, ctLabel, 10, 10, 60, 40);
   designer->SetCtrl(frame);
@@ -206,7 +206,7 @@ TEST_F(ClipboardTest, CopiesAFrameWithoutWhatIsInIt) {
   EXPECT_EQ(surface->WidgetCount(), 1);
 }
 
-TEST_F(ClipboardTest, PastesIntoTheSelectedFrameAndHoldsTheSizeByAHandlesWidth) {
+TEST_F(ClipboardTest, PastesIntoTheSelectedFrameAndKeepsTheSizeInside) {
   Draw(ctTextBox, 10, 10, 210, 160);
   designer->Copy();
   const Ref<IControl> frame = Draw(ctFrame, 50, 50, 150, 100);
@@ -220,7 +220,7 @@ TEST_F(ClipboardTest, PastesIntoTheSelectedFrameAndHoldsTheSizeByAHandlesWidth) 
   EXPECT_EQ(BoxOf(*designer->CurrentControl()), "0,0,43,13");
 }
 
-TEST_F(ClipboardTest, HoldsTheHeightWhereNoWidthIsLeft) {
+TEST_F(ClipboardTest, LimitsTheHeightEvenIfTheWidthCannotBeLimited) {
   Draw(ctListBox, 0, 0, 400, 300);
   designer->Copy();
   surface->Resize(5, 96);  // narrower than a handle
@@ -229,7 +229,7 @@ TEST_F(ClipboardTest, HoldsTheHeightWhereNoWidthIsLeft) {
   EXPECT_EQ(BoxOf(*designer->CurrentControl()), "0,0,400,89");
 }
 
-TEST_F(ClipboardTest, SharesTheFontWithTheSourceUntilItIsPasted) {
+TEST_F(ClipboardTest, PastesTheFontAsItIsWhenPasted) {
   const Ref<IControl> label = DrawLabel();
   designer->Copy();
   FontValues values;
@@ -241,7 +241,7 @@ TEST_F(ClipboardTest, SharesTheFontWithTheSourceUntilItIsPasted) {
   EXPECT_NE(designer->CurrentControl()->GetFont().get(), label->GetFont().get());
 }
 
-TEST_F(ClipboardTest, CopiesItemsIntoACollectionOfItsOwn) {
+TEST_F(ClipboardTest, PastesCopiesOfTheItems) {
   const Ref<IControl> list = Draw(ctListBox, 10, 10, 110, 90);
   Variant held = list->PropertyValue(u"Items");
   const Ref<CItems> items = FromVariant<Ref<CItems>>(held);
@@ -262,7 +262,7 @@ TEST_F(ClipboardTest, CopiesItemsIntoACollectionOfItsOwn) {
   EXPECT_EQ(dynamic_cast<FakeList&>(WidgetOf(*designer->CurrentControl())).ColumnWidth(), 96);
 }
 
-TEST_F(ClipboardTest, PastesWhatIsGone) {
+TEST_F(ClipboardTest, PastesAControlThatWasDeletedMeanwhile) {
   Draw(ctTextBox, 10, 10, 110, 60);
   designer->Copy();
   designer->Delete();
@@ -270,9 +270,27 @@ TEST_F(ClipboardTest, PastesWhatIsGone) {
   EXPECT_EQ(BoxOf(*designer->CurrentControl()), "0,0,100,50");
 }
 
+TEST_F(ClipboardTest, AllowsAHandlerToCopyAnotherControlWhilePasting) {
+  const Ref<IControl> label = DrawLabel();
+  Draw(ctListBox, 10, 100, 110, 190);
+  designer->Copy();
+  designer->SetCtrl(label);
+  bool hasCopied = false;
+  onEvent = [&](std::string_view) {
+    if (std::exchange(hasCopied, true)) return;
+    designer->Copy();
+  };
+  designer->Paste();
+  EXPECT_TRUE(hasCopied);
+  EXPECT_EQ(designer->CurrentControl()->TypeName(), u"CListBox");
+  EXPECT_EQ(BoxOf(*designer->CurrentControl()), "0,0,100,90");
+  designer->Paste();
+  EXPECT_EQ(designer->CurrentControl()->TypeName(), u"CLabel");
+}
+
 using StackingTest = CommandTest;
 
-TEST_F(StackingTest, MovesTheControlToTheEndOfTheListForFrontAndBackAlike) {
+TEST_F(StackingTest, MovesTheControlToTheEndOfTheZListForFrontAndBack) {
   const Ref<IControl> first = Draw(ctLabel, 10, 10, 60, 40);
   const Ref<IControl> second = Draw(ctLabel, 10, 60, 60, 90);
   Draw(ctLabel, 10, 110, 60, 140);
@@ -302,7 +320,7 @@ TEST_F(StackingTest, DoesNothingWhileLocked) {
 
 using LockTest = CommandTest;
 
-TEST_F(LockTest, TellsTheMenusAndTheHost) {
+TEST_F(LockTest, UpdatesTheMenusAndRaisesControlsLocked) {
   DrawLabel();
   designer->LockUnlock();
   EXPECT_EQ(Take(), (Lines{"MenuStateChanged mnuForeground False", "MenuStateChanged mnuBackground False",
@@ -312,7 +330,7 @@ TEST_F(LockTest, TellsTheMenusAndTheHost) {
                            "ControlsLocked False"}));
 }
 
-TEST_F(LockTest, LeavesAFormWithoutControlsUnlocked) {
+TEST_F(LockTest, DoesNotLockAFormWithoutControls) {
   designer->LockUnlock();
   EXPECT_EQ(Take(), Lines{});
   DrawLabel();
@@ -336,7 +354,7 @@ TEST_F(CenterTest, CentersOnTheSurfaceAndInAFrame) {
   EXPECT_EQ(BoxOf(*inside), "75,85,50,30");
 }
 
-TEST_F(CenterTest, LeavesTheFormAndHiddenHandlesAlone) {
+TEST_F(CenterTest, IgnoresTheFormAndKeepsHiddenHandlesHidden) {
   designer->CenterLeft();
   designer->CenterTop();
   EXPECT_EQ(Take(), Lines{});

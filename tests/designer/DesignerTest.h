@@ -16,7 +16,7 @@ namespace cardwright {
 
 using Lines = std::vector<std::string>;
 
-/// A designer on a fake surface of 400 by 300 pixels, whose events are written down.
+/// A designer on a fake surface of 400 by 300 pixels that records its events.
 class DesignerTest : public testing::Test {
  protected:
   DesignerTest() {
@@ -33,8 +33,7 @@ class DesignerTest : public testing::Test {
     if (surface) designer->DetachSurface();
   }
 
-  /// Draws a control of a kind by a drag from corner to corner, inside the surface or the selected frame's
-  /// place on it.
+  /// Draws a control from corner to corner, in coordinates of the surface or of the frame.
   Ref<IControl> Draw(ControlTypeEnum type, int left, int top, int right, int bottom) {
     designer->SetControlTypeToAdd(type);
     Press(left, top);
@@ -54,13 +53,13 @@ class DesignerTest : public testing::Test {
     listener->OnMouseUp(MouseButton::Left, 0, Scaled(right), Scaled(bottom));
     return designer->CurrentControl();
   }
-  /// Puts the mouse, its button down, at a place inside the surface.
+  /// Presses the left button at a point of the surface.
   void Press(int x, int y) {
     surface->cursor = {surface->origin.x + x, surface->origin.y + y};
     surface->isButtonDown = true;
   }
   void ThenMove(int x, int y) { surface->ThenMove(surface->origin.x + x, surface->origin.y + y); }
-  /// Drags one of the selected control's handles, from one place inside the surface over others.
+  /// Drags a handle of the selected control from one point of the surface over others.
   void DragHandle(int index, std::vector<std::array<int, 2>> places) {
     Press(places[0][0], places[0][1]);
     for (std::size_t i = 1; i < places.size(); ++i) ThenMove(places[i][0], places[i][1]);

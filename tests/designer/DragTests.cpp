@@ -23,7 +23,7 @@ class DragTest : public DesignerTest {
   }
 };
 
-TEST_F(DragTest, MovesAControlByTheHandleOnItsCentre) {
+TEST_F(DragTest, MovesAControlByItsCentreHandle) {
   const Ref<IControl> label = DrawLabel();
   DragHandle(0, {{70, 45}, {80, 50}});
   EXPECT_EQ(BoxOf(*label), "30,35,100,30");
@@ -35,7 +35,7 @@ TEST_F(DragTest, MovesAControlByTheHandleOnItsCentre) {
   ExpectIdle();
 }
 
-TEST_F(DragTest, SizesAControlAndTellsItsSize) {
+TEST_F(DragTest, ResizesAControlAndShowsItsSize) {
   const Ref<IControl> label = DrawLabel();
   DragHandle(1, {{120, 60}, {130, 70}, {140, 80}});
   EXPECT_EQ(BoxOf(*label), "20,30,120,50");
@@ -44,7 +44,7 @@ TEST_F(DragTest, SizesAControlAndTellsItsSize) {
   EXPECT_EQ(BoxOf(*label), "10,20,130,60");
 }
 
-TEST_F(DragTest, LeavesAControlThatWasOnlyClicked) {
+TEST_F(DragTest, LeavesAClickedControlInPlace) {
   const Ref<IControl> label = DrawLabel();
   designer->ShowHandles(false);
   DragHandle(0, {{70, 45}});
@@ -55,13 +55,13 @@ TEST_F(DragTest, LeavesAControlThatWasOnlyClicked) {
   EXPECT_TRUE(surface->tooltips.empty());
 }
 
-TEST_F(DragTest, HoldsAControlInsideTheSurfaceOnThatAxisOnly) {
+TEST_F(DragTest, KeepsAControlInsideTheSurfacePerAxis) {
   const Ref<IControl> label = DrawLabel();
   DragHandle(0, {{70, 45}, {60, 50}, {10, 60}, {0, 90}});
   EXPECT_EQ(BoxOf(*label), "10,75,100,30");
 }
 
-TEST_F(DragTest, HoldsAControlInsideItsFrame) {
+TEST_F(DragTest, KeepsAControlInsideItsFrame) {
   const Ref<IControl> frame = Draw(ctFrame, 50, 50, 250, 250);
   const Ref<IControl> label = DrawInside(*frame, ctLabel, 10, 10, 60, 40);
   DragHandle(0, {{85, 75}, {55, 80}, {95, 300}});
@@ -69,7 +69,7 @@ TEST_F(DragTest, HoldsAControlInsideItsFrame) {
   EXPECT_EQ(WidgetOf(*label).Container().get(), &WidgetOf(*frame));
 }
 
-TEST_F(DragTest, HoldsToTheGridWhereAligned) {
+TEST_F(DragTest, SnapsToTheGridWithGridAlignment) {
   const Ref<IControl> label = DrawLabel();
   designer->SetGridAlignment(true);
   DragHandle(0, {{70, 45}, {72, 45}, {74, 45}, {75, 47}});
@@ -77,7 +77,7 @@ TEST_F(DragTest, HoldsToTheGridWhereAligned) {
   EXPECT_EQ(BoxOf(*label), "24,32,100,30");
 }
 
-TEST_F(DragTest, FindsTheGridUnderAQuickHandWhereTheMouseIsTraced) {
+TEST_F(DragTest, SnapsToTheGridUnderAQuickMouseWithTracing) {
   const Ref<IControl> label = DrawLabel();
   designer->SetGridAlignment(true);
   DragHandle(0, {{70, 45}, {127, 98}});
@@ -101,7 +101,7 @@ TEST_F(DragTest, KeepsFractionsOfAPixelInTwips) {
   EXPECT_EQ(surface->tooltips, (Lines{" 457, 450 @80,66"}));
 }
 
-TEST_F(DragTest, CountsTheGridInTwipsForADrag) {
+TEST_F(DragTest, SnapsToAGridStepInTwips) {
   Module().formScaleMode = ScaleMode::Twips;
   designer->ApplyScaleAndGrid();
   const Ref<IControl> label = DrawLabel();
@@ -115,7 +115,7 @@ TEST_F(DragTest, CountsTheGridInTwipsForADrag) {
   EXPECT_EQ(BoxOf(*label), "360,450,1500,450");
 }
 
-TEST_F(DragTest, LeavesTheHeightOfKindsThatTakeItFromTheirFont) {
+TEST_F(DragTest, KeepsTheHeightOfClassesWithAFixedHeight) {
   for (ControlTypeEnum kind : {ctComboBox, ctThemeSelector}) {
     const Ref<IControl> control = Draw(kind, 10, 10, 110, 40);
     EXPECT_EQ(BoxOf(*control), "10,10,100,21");
@@ -127,7 +127,7 @@ TEST_F(DragTest, LeavesTheHeightOfKindsThatTakeItFromTheirFont) {
   }
 }
 
-TEST_F(DragTest, MakesAFrameAndAListAsLowAsOneLikes) {
+TEST_F(DragTest, ResizesAFrameAndAListToAnyHeight) {
   for (ControlTypeEnum kind : {ctFrame, ctListBox}) {
     const Ref<IControl> control = Draw(kind, 50, 50, 250, 250);
     DragHandle(8, {{150, 250}, {150, 55}});
@@ -139,7 +139,7 @@ TEST_F(DragTest, MakesAFrameAndAListAsLowAsOneLikes) {
   EXPECT_EQ(BoxOf(*text), "50,50,200,40");
 }
 
-TEST_F(DragTest, StartsOnlyUnlockedAndWhileNothingIsAdded) {
+TEST_F(DragTest, DoesNotStartWhileLockedOrAdding) {
   DrawLabel();
   designer->LockUnlock();
   DragHandle(0, {{70, 45}, {90, 45}});
@@ -154,7 +154,7 @@ TEST_F(DragTest, StartsOnlyUnlockedAndWhileNothingIsAdded) {
   EXPECT_TRUE(TakeOutlines().empty());
 }
 
-TEST_F(DragTest, HidesTheHandlesAndTakesTheFocusForItsLength) {
+TEST_F(DragTest, HidesTheHandlesAndParksTheFocusWhileDragging) {
   DrawLabel();
   Press(70, 45);
   surface->focusHolder->calls = Text();
@@ -170,7 +170,7 @@ TEST_F(DragTest, HidesTheHandlesAndTakesTheFocusForItsLength) {
   ExpectIdle();
 }
 
-TEST_F(DragTest, KeepsWhatHappensMeanwhileFromSelectingOrPlacing) {
+TEST_F(DragTest, IgnoresOtherMouseEventsWhileDragging) {
   const Ref<IControl> other = Draw(ctTextBox, 200, 200, 260, 230);
   const Ref<IControl> label = DrawLabel();
   Press(70, 45);
@@ -188,7 +188,7 @@ TEST_F(DragTest, KeepsWhatHappensMeanwhileFromSelectingOrPlacing) {
   ExpectIdle();
 }
 
-TEST_F(DragTest, EndsWhereItsControlIsDeleted) {
+TEST_F(DragTest, EndsWhenItsControlIsDeleted) {
   DrawLabel();
   Press(70, 45);
   surface->Then([&] { designer->Delete(); });
@@ -199,7 +199,7 @@ TEST_F(DragTest, EndsWhereItsControlIsDeleted) {
   ExpectIdle();
 }
 
-TEST_F(DragTest, EndsWhereTheFrameOfItsControlIsDeleted) {
+TEST_F(DragTest, EndsWhenTheFrameOfItsControlIsDeleted) {
   const Ref<IControl> frame = Draw(ctFrame, 50, 50, 250, 250);
   DrawInside(*frame, ctLabel, 10, 10, 60, 40);
   Press(85, 75);
@@ -214,7 +214,7 @@ TEST_F(DragTest, EndsWhereTheFrameOfItsControlIsDeleted) {
   ExpectIdle();
 }
 
-TEST_F(DragTest, EndsWhereTheFrameThatIsDrawnInIsDeleted) {
+TEST_F(DragTest, EndsWhenTheFrameBeingDrawnInIsDeleted) {
   const Ref<IControl> frame = Draw(ctFrame, 50, 50, 250, 250);
   const Ref<Widget> widget(&WidgetOf(*frame));
   designer->SetControlTypeToAdd(ctLabel);
@@ -227,7 +227,7 @@ TEST_F(DragTest, EndsWhereTheFrameThatIsDrawnInIsDeleted) {
   ExpectIdle();
 }
 
-TEST_F(DragTest, IgnoresTheReleaseOnTheFrameThatIsDrawnIn) {
+TEST_F(DragTest, IgnoresTheReleaseOnTheFrameBeingDrawnIn) {
   const Ref<IControl> frame = Draw(ctFrame, 50, 50, 250, 250);
   WidgetListener* listener = FakeDesignSurface::At(WidgetOf(*frame)).listener;
   designer->SetControlTypeToAdd(ctLabel);
@@ -254,7 +254,7 @@ TEST_F(DragTest, EndsWithTheSurface) {
   EXPECT_FALSE(designer->IsBusy());
 }
 
-TEST_F(DragTest, BearsAHostThatDeletesTheControlWhenItHearsOfTheMove) {
+TEST_F(DragTest, AllowsAHandlerToDeleteTheControl) {
   DrawLabel();
   onEvent = [&](std::string_view event) {
     if (event == "PropertyChanged" && Names() != "Form") designer->Delete();
@@ -265,7 +265,7 @@ TEST_F(DragTest, BearsAHostThatDeletesTheControlWhenItHearsOfTheMove) {
   ExpectIdle();
 }
 
-TEST_F(DragTest, EndsWithNothingLeftOnTheScreenWhereItCannotBegin) {
+TEST_F(DragTest, LeavesNothingOnTheScreenWhenItCannotBegin) {
   const Ref<IControl> label = DrawLabel();
   WidgetOf(*label).Move(0, 0, 1e30F, 10);
   Press(10, 5);

@@ -12,7 +12,7 @@
 
 namespace cardwright {
 
-/// What a test does with a widget that the form model does not.
+/// What only a test does with a widget.
 class OnFakeSurface {
  public:
   virtual ~OnFakeSurface() = default;
@@ -110,7 +110,7 @@ class FakeHost final : public HostWindow {
   Text caption = u"Designer";
 };
 
-/// A design surface of plain fields: a script of steps moves its mouse, one at each turn of the loop that
+/// A design surface of plain fields. A list of steps moves its mouse: one for each pass of the loop that
 /// polls it.
 class FakeDesignSurface final : public DesignSurface {
  public:
@@ -158,7 +158,7 @@ class FakeDesignSurface final : public DesignSurface {
   Text ShowPopupMenu(std::span<const Ref<MenuItem>> items) override;
   void NotifyPropertyChanged(std::u16string_view name) override { told.emplace_back(name); }
 
-  /// Adds a turn of the polling loop. With no turn left, the button is let go.
+  /// Adds a pass of the polling loop. After the last one the button is released.
   void ThenMove(int x, int y) {
     turns.push_back([this, x, y] { cursor = {x, y}; });
   }
@@ -182,13 +182,13 @@ class FakeDesignSurface final : public DesignSurface {
   int releases = 0;
   std::deque<std::function<void()>> turns;
   std::optional<ScreenRect> outline;
-  std::vector<std::string> outlines;  ///< each that was shown, "l,t,r,b" inside the surface
+  std::vector<std::string> outlines;  ///< all that were shown, "l,t,r,b" inside the surface
   std::optional<std::string> tooltip;
   std::vector<std::string> tooltips;
   std::function<Text(std::span<const Ref<MenuItem>>)> onMenu;
   std::vector<std::string> menus;  ///< as shown: "name=caption", "!" before a disabled one, "-" a separator
   std::vector<Text> told;
-  std::set<std::u16string> reserved;  ///< names that the surface keeps without having a widget of that name
+  std::set<std::u16string> reserved;  ///< names for which Add fails
 
  private:
   std::map<std::u16string, Ref<Widget>> m_Widgets;

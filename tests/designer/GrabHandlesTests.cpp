@@ -8,14 +8,14 @@ namespace {
 using GrabHandlesTest = DesignerTest;
 using enum ControlTypeEnum;
 
-TEST(GrabHandlesPlaces, StandOutsideTheEdgesButTheFirstOnTheCentre) {
-  const auto places = HandlePlaces(100, 50, 60, 40, 7, 5);
-  const HandlePlace expected[] = {{126.5F, 67.5F}, {160, 90},    {93, 45}, {126.5F, 45}, {160, 45},
-                                  {93, 67.5F},     {160, 67.5F}, {93, 90}, {126.5F, 90}};
+TEST(GrabHandlesPlaces, AreOutsideTheEdgesExceptTheFirst) {
+  const auto places = HandlePositions(100, 50, 60, 40, 7, 5);
+  const HandlePosition expected[] = {{126.5F, 67.5F}, {160, 90},    {93, 45}, {126.5F, 45}, {160, 45},
+                                     {93, 67.5F},     {160, 67.5F}, {93, 90}, {126.5F, 90}};
   for (std::size_t i = 0; i < kHandleCount; ++i) EXPECT_EQ(places[i], expected[i]) << i;
 }
 
-TEST_F(GrabHandlesTest, AreSevenPixelsAndHiddenAtFirst) {
+TEST_F(GrabHandlesTest, AreSevenPixelsWideAndHiddenInitially) {
   for (const auto& handle : surface->handles) {
     EXPECT_FALSE(handle->IsVisible());
     EXPECT_EQ(handle->Width(), 7);
@@ -23,7 +23,7 @@ TEST_F(GrabHandlesTest, AreSevenPixelsAndHiddenAtFirst) {
   }
 }
 
-TEST_F(GrabHandlesTest, ShowAroundTheSelectedControlInTheHighlightColours) {
+TEST_F(GrabHandlesTest, ShowAroundTheSelectedControlInHighlightColors) {
   const Ref<IControl> label = Draw(ctLabel, 20, 30, 120, 60);
   EXPECT_TRUE(AreHandlesShown());
   EXPECT_EQ(surface->handles[1]->Left(), 120);
@@ -34,7 +34,7 @@ TEST_F(GrabHandlesTest, ShowAroundTheSelectedControlInTheHighlightColours) {
             "6.000000,6.000000:" + std::to_string(ToOleColor(SystemColor::HighlightText)));
 }
 
-TEST_F(GrabHandlesTest, ChangeTheirColoursWhileControlsAreLocked) {
+TEST_F(GrabHandlesTest, SwapTheirColorsWhileLocked) {
   Draw(ctLabel, 20, 30, 120, 60);
   designer->LockUnlock();
   EXPECT_EQ(surface->handles[4]->BackColor(), ToOleColor(SystemColor::HighlightText));
@@ -42,7 +42,7 @@ TEST_F(GrabHandlesTest, ChangeTheirColoursWhileControlsAreLocked) {
   EXPECT_EQ(surface->handles[4]->BackColor(), ToOleColor(SystemColor::Highlight));
 }
 
-TEST_F(GrabHandlesTest, ShowTheirPointersUnlessLocked) {
+TEST_F(GrabHandlesTest, ShowSizingPointersUnlessLocked) {
   Draw(ctLabel, 20, 30, 120, 60);
   const int expected[] = {5, 8, 8, 7, 6, 9, 9, 6, 7};
   for (std::size_t i = 0; i < kHandleCount; ++i) {
@@ -54,7 +54,7 @@ TEST_F(GrabHandlesTest, ShowTheirPointersUnlessLocked) {
   EXPECT_EQ(surface->pointer, PointerShape::Arrow);
 }
 
-TEST_F(GrabHandlesTest, StandInTheFrameOfTheirControl) {
+TEST_F(GrabHandlesTest, MoveIntoTheFrameOfTheirControl) {
   const Ref<IControl> frame = Draw(ctFrame, 50, 50, 250, 250);
   EXPECT_EQ(surface->handles[0]->Container(), nullptr);
   DrawInside(*frame, ctLabel, 10, 10, 60, 40);
@@ -64,7 +64,7 @@ TEST_F(GrabHandlesTest, StandInTheFrameOfTheirControl) {
   EXPECT_EQ(surface->handles[0]->Container(), nullptr);
 }
 
-TEST_F(GrabHandlesTest, HideWhereTheFormIsSelected) {
+TEST_F(GrabHandlesTest, HideWhenTheFormIsSelected) {
   Draw(ctLabel, 20, 30, 120, 60);
   surface->listener->OnClick();
   EXPECT_FALSE(surface->handles[0]->IsVisible());

@@ -22,7 +22,7 @@ class FakeBag final : public PropertyBag {
   std::vector<std::string> fallbacks;
 };
 
-TEST_F(MemberTest, StandInDeclaredOrder) {
+TEST_F(MemberTest, AreListedInDeclaredOrder) {
   Lines names;
   for (const Text& name : designer->MemberNames()) names.push_back(name.ToUtf8());
   EXPECT_EQ(names, (Lines{"SetCtrl",
@@ -57,7 +57,7 @@ TEST_F(MemberTest, StandInDeclaredOrder) {
   EXPECT_EQ(designer->TypeName(), u"FormDesigner");
 }
 
-TEST_F(MemberTest, AreReachedByName) {
+TEST_F(MemberTest, AreAccessibleByName) {
   LetProperty(*designer, u"controltypetoadd", Variant(5));
   Press(20, 30);
   surface->listener->OnMouseDown(MouseButton::Left, 0, 20, 30);
@@ -80,7 +80,7 @@ TEST_F(MemberTest, AreReachedByName) {
   EXPECT_EQ(designer->CurrentControl()->UserName(), u"Form");
 }
 
-TEST_F(MemberTest, StartAsAFormWithoutControls) {
+TEST_F(MemberTest, DescribeAFormWithoutControlsInitially) {
   EXPECT_EQ(Names(), "Form");
   EXPECT_EQ(NamesOf(designer->ZList()), "Form");
   EXPECT_EQ(designer->CurrentControl()->UserName(), u"Form");
@@ -94,7 +94,7 @@ TEST_F(MemberTest, StartAsAFormWithoutControls) {
   EXPECT_EQ(surface->foreColor, ToOleColor(SystemColor::ButtonText));
 }
 
-TEST_F(MemberTest, StartInTheHostsColoursWhereTheyDiffer) {
+TEST_F(MemberTest, UseTheHostsDefaultColorsIfTheyDiffer) {
   Module().defaultBackColor = 0x101010;
   Module().defaultForeColor = 0xF0F0F0;
   FakeDesignSurface other;
@@ -104,7 +104,7 @@ TEST_F(MemberTest, StartInTheHostsColoursWhereTheyDiffer) {
   second->DetachSurface();
 }
 
-TEST_F(MemberTest, KeepTheDeleteKeyInTheContainersBagAsANumber) {
+TEST_F(MemberTest, StoreEnableKeyDeleteInThePropertyBagAsANumber) {
   FakeBag bag;
   designer->SetEnableKeyDelete(false);
   EXPECT_EQ(surface->told, (std::vector<Text>{u"EnableKeyDelete"}));
@@ -120,7 +120,7 @@ TEST_F(MemberTest, KeepTheDeleteKeyInTheContainersBagAsANumber) {
   EXPECT_EQ(ToLong(bag.values.at(u"EnableKeyDelete")), 1);
 }
 
-TEST_F(MemberTest, ReadAndWriteTheFormsThemeAndFeatureType) {
+TEST_F(MemberTest, ReadAndWriteThemeAndFeatureType) {
   EXPECT_EQ(designer->GetFeatureType(), FeatureTypeEnum::ftNone);
   EXPECT_EQ(designer->GetThemeName(), u"");
   designer->SetThemeName(u"wells");
@@ -130,7 +130,7 @@ TEST_F(MemberTest, ReadAndWriteTheFormsThemeAndFeatureType) {
   EXPECT_EQ(ToLong(CallMethod(*designer, u"GetFeatureType")), 1);
 }
 
-TEST_F(MemberTest, AnswerForAnEmptyCollection) {
+TEST_F(MemberTest, ReturnDefaultsForAnEmptyCollection) {
   designer->Controls().Clear();
   EXPECT_EQ(designer->GetThemeName(), u"");
   EXPECT_EQ(designer->GetFeatureType(), FeatureTypeEnum::ftNone);
@@ -144,7 +144,7 @@ TEST_F(MemberTest, AnswerForAnEmptyCollection) {
   surface->Resize(10, 10);
 }
 
-TEST_F(MemberTest, FailOrAnswerNothingOnceTheSurfaceIsGone) {
+TEST_F(MemberTest, FailOrDoNothingAfterTheSurfaceHasEnded) {
   const Ref<IControl> label = Draw(ctLabel, 20, 30, 120, 60);
   designer->DetachSurface();
   EXPECT_EQ(surface->WidgetCount(), 0);
@@ -171,7 +171,7 @@ TEST_F(MemberTest, FailOrAnswerNothingOnceTheSurfaceIsGone) {
   EXPECT_EQ(ErrorOf([&] { designer->SetGrid(); }), 91);
 }
 
-TEST_F(MemberTest, AreThoseOfAnEmptyDesignerOnceTheSurfaceIsGone) {
+TEST_F(MemberTest, DescribeAnEmptyDesignerAfterTheSurfaceHasEnded) {
   designer->SetThemeName(u"wells");
   designer->SetFeatureType(FeatureTypeEnum::ftArc);
   const Ref<IControl> label = Draw(ctLabel, 20, 30, 120, 60);
@@ -194,8 +194,7 @@ TEST_F(MemberTest, AreThoseOfAnEmptyDesignerOnceTheSurfaceIsGone) {
   EXPECT_EQ(label->UserName(), u"object_1");
 }
 
-// The handler that ends the surface is one of many that the members call in the middle of their work.
-TEST_F(MemberTest, BearASurfaceThatEndsInTheMiddleOfThem) {
+TEST_F(MemberTest, AllowAHandlerToEndTheSurface) {
   for (const char* event : {"ControlNameChanged", "ObjectRemoved", "CurrObjectChanged", "RefreshPropertyList",
                             "MenuStateChanged", "ControlsLocked", "PropertyChanged", "StateChanged"}) {
     FakeDesignSurface own;
@@ -218,7 +217,7 @@ TEST_F(MemberTest, BearASurfaceThatEndsInTheMiddleOfThem) {
   }
 }
 
-TEST_F(MemberTest, BearASurfaceThatEndsAtAPressOnAControl) {
+TEST_F(MemberTest, AllowAHandlerToEndTheSurfaceAtAPressOnAControl) {
   for (const int button : {MouseButton::Left, MouseButton::Right}) {
     FakeDesignSurface own;
     const Ref<FormDesigner> each = FormDesigner::Create(own);
@@ -234,7 +233,7 @@ TEST_F(MemberTest, BearASurfaceThatEndsAtAPressOnAControl) {
   }
 }
 
-TEST_F(MemberTest, AreThoseOfAnEmptyDesignerWhereAPasteEndsTheSurface) {
+TEST_F(MemberTest, DescribeAnEmptyDesignerAfterAPasteEndedTheSurface) {
   Draw(ctLabel, 20, 30, 120, 60);
   designer->Copy();
   onEvent = [&](std::string_view event) {

@@ -39,7 +39,7 @@ void ExpectMoves(const std::vector<Step>& moves, MinimumSize minimum, int gridSt
   }
 }
 
-TEST(OutlineDrag, MovesTheEdgesThatTheModeNames) {
+TEST(OutlineDrag, MovesTheEdgesOfTheMode) {
   ExpectMoves({{DragMode::Move, 10, 5, {110, 105, 170, 145}},
                {BottomRight, 10, 5, {100, 100, 170, 145}},
                {TopLeft, 10, 5, {110, 105, 160, 140}},

@@ -7,7 +7,7 @@ namespace {
 using enum ControlTypeEnum;
 using PlacingTest = DesignerTest;
 
-TEST_F(PlacingTest, TellsTheHostInOrder) {
+TEST_F(PlacingTest, RaisesItsEventsInOrder) {
   Draw(ctLabel, 20, 30, 120, 60);
   EXPECT_EQ(Take(),
             (Lines{"PropertyChanged 8 -2147483630", "CurrObjectChanged <object_1>", "StateChanged Default"}));
@@ -15,7 +15,7 @@ TEST_F(PlacingTest, TellsTheHostInOrder) {
   EXPECT_EQ(surface->pointer, PointerShape::Arrow);
 }
 
-TEST_F(PlacingTest, MakesEachKindWithItsWidgetItsTextAndItsPlaceInTheLists) {
+TEST_F(PlacingTest, CreatesEveryClassWithItsWidgetAndText) {
   struct Kind {
     ControlTypeEnum type;
     std::u16string_view widgetType, className;
@@ -55,14 +55,14 @@ TEST_F(PlacingTest, MakesEachKindWithItsWidgetItsTextAndItsPlaceInTheLists) {
   }
 }
 
-TEST_F(PlacingTest, SizesAListsColumnAndShowsItsName) {
+TEST_F(PlacingTest, SizesTheColumnOfAListAndShowsItsName) {
   const Ref<IControl> list = Draw(ctListBox, 10, 10, 110, 60);
   const auto& view = dynamic_cast<FakeList&>(WidgetOf(*list));
   EXPECT_EQ(view.ColumnWidth(), 96);
   EXPECT_EQ(view.RowText(1), u"object_1");
 }
 
-TEST_F(PlacingTest, GivesTheSurfacesColoursToWhatStandsOnIt) {
+TEST_F(PlacingTest, UsesTheSurfacesColorsPerClass) {
   surface->backColor = 0x112233;
   surface->foreColor = 0x445566;
   struct Colors {
@@ -84,45 +84,45 @@ TEST_F(PlacingTest, GivesTheSurfacesColoursToWhatStandsOnIt) {
   }
 }
 
-TEST_F(PlacingTest, LocksWhatCouldBeTypedIntoAndBringsItToTheFront) {
+TEST_F(PlacingTest, LocksTextInputAndBringsTheControlToTheFront) {
   const auto& text = dynamic_cast<FakeTextBox&>(WidgetOf(*Draw(ctTextBox, 10, 10, 110, 60)));
   EXPECT_TRUE(text.IsLocked());
   EXPECT_EQ(text.calls, u"refresh front ");
   EXPECT_TRUE(dynamic_cast<FakeCombo&>(WidgetOf(*Draw(ctComboBox, 10, 10, 110, 60))).IsLocked());
   const auto& themes = dynamic_cast<FakeThemes&>(WidgetOf(*Draw(ctThemeSelector, 10, 10, 110, 60)));
   EXPECT_TRUE(themes.IsLocked());
-  EXPECT_EQ(themes.calls, u"front ");  // a refresh would ask the host
+  EXPECT_EQ(themes.calls, u"front ");  // a refresh would send a request to the host
 }
 
-TEST_F(PlacingTest, TakesTheDrawnRectangleWhicheverWayItWasDrawn) {
+TEST_F(PlacingTest, AcceptsARectangleDrawnInAnyDirection) {
   EXPECT_EQ(BoxOf(*Draw(ctLabel, 20, 30, 120, 60)), "20,30,100,30");
   EXPECT_EQ(BoxOf(*Draw(ctLabel, 120, 60, 20, 30)), "20,30,100,30");
   EXPECT_EQ(BoxOf(*Draw(ctLabel, 20, 60, 120, 30)), "20,30,100,30");
 }
 
-TEST_F(PlacingTest, ShowsAnEmptyRectangleAsLargeAsThePen) {
+TEST_F(PlacingTest, ShowsAnEmptyRectangleInPenSize) {
   Draw(ctLabel, 20, 30, 120, 60);
   EXPECT_EQ(TakeOutlines(), (Lines{"20,30,22,32", "20,30,120,60"}));
 }
 
-TEST_F(PlacingTest, MakesAClickSevenByNineteenAndAFrameSevenByNothing) {
+TEST_F(PlacingTest, GivesAClickTheMinimumSize) {
   EXPECT_EQ(BoxOf(*Draw(ctLabel, 50, 60, 50, 60)), "50,60,7,19");
   EXPECT_EQ(BoxOf(*Draw(ctFrame, 50, 60, 50, 60)), "50,60,7,0");
   EXPECT_EQ(BoxOf(*Draw(ctLabel, 50, 60, 90, 70)), "50,60,40,19");
 }
 
-TEST_F(PlacingTest, MakesAClickAsLargeInTwips) {
+TEST_F(PlacingTest, GivesAClickTheMinimumSizeInTwips) {
   Module().formScaleMode = ScaleMode::Twips;
   designer->ApplyScaleAndGrid();
   EXPECT_EQ(BoxOf(*Draw(ctLabel, 50, 60, 50, 60)), "750,900,105,285");
 }
 
-TEST_F(PlacingTest, HoldsASizeToTheSurface) {
+TEST_F(PlacingTest, KeepsTheSizeInsideTheSurface) {
   EXPECT_EQ(BoxOf(*Draw(ctLabel, 398, 295, 398, 295)), "398,295,2,5");
   EXPECT_EQ(BoxOf(*Draw(ctLabel, 350, 200, 450, 250)), "350,200,7,50");  // refused in that axis
 }
 
-TEST_F(PlacingTest, PutsWhatIsDrawnOnAFrameIntoIt) {
+TEST_F(PlacingTest, DrawsIntoAFrame) {
   const Ref<IControl> frame = Draw(ctFrame, 50, 50, 250, 250);
   Take();
   const Ref<IControl> label = DrawInside(*frame, ctLabel, 10, 10, 60, 40);
@@ -134,7 +134,7 @@ TEST_F(PlacingTest, PutsWhatIsDrawnOnAFrameIntoIt) {
   EXPECT_EQ(WidgetOf(*designer->CurrentControl()).Container(), nullptr);
 }
 
-TEST_F(PlacingTest, LeavesThePressOnAFrameWithoutAToolAlone) {
+TEST_F(PlacingTest, IgnoresAPressOnAFrameWithTheSelectionTool) {
   const Ref<IControl> frame = Draw(ctFrame, 50, 50, 250, 250);
   Take();
   WidgetListener* listener = FakeDesignSurface::At(WidgetOf(*frame)).listener;
@@ -145,7 +145,7 @@ TEST_F(PlacingTest, LeavesThePressOnAFrameWithoutAToolAlone) {
   EXPECT_EQ(WidgetOf(*Draw(ctLabel, 60, 60, 90, 90)).Container(), nullptr);
 }
 
-TEST_F(PlacingTest, MakesAWidgetWithoutAnObjectForTheTableViewer) {
+TEST_F(PlacingTest, CreatesAWidgetWithoutAControlForTheTableViewer) {
   Draw(ctDbTableViewer, 10, 10, 110, 60);
   const Ref<Widget> viewer = surface->Find(u"object_1");
   ASSERT_TRUE(viewer);
@@ -159,7 +159,7 @@ TEST_F(PlacingTest, MakesAWidgetWithoutAnObjectForTheTableViewer) {
   EXPECT_TRUE(designer->FilterControls(ctDefault).empty());
 }
 
-TEST_F(PlacingTest, LeavesTheFrameAgainWithATableViewerOrADrawingThatCameToNothing) {
+TEST_F(PlacingTest, DrawsOnTheSurfaceAgainAfterDrawingInAFrame) {
   const Ref<IControl> frame = Draw(ctFrame, 50, 50, 250, 250);
   DrawInside(*frame, ctDbTableViewer, 10, 10, 60, 40);
   EXPECT_EQ(surface->Find(u"object_2")->Container().get(), &WidgetOf(*frame));
@@ -176,8 +176,7 @@ TEST_F(PlacingTest, LeavesTheFrameAgainWithATableViewerOrADrawingThatCameToNothi
   EXPECT_EQ(WidgetOf(*designer->CurrentControl()).Container(), nullptr);
 }
 
-// A numbered error of the host's handler.
-TEST_F(PlacingTest, ComesToItsEndWhereAHandlerFails) {
+TEST_F(PlacingTest, CompletesWhenAHandlerRaisesAnError) {
   for (const char* failing : {"StateChanged", "CurrObjectChanged"}) {
     onEvent = [&](std::string_view event) {
       if (event == failing) Raise(ErrorNumber::InvalidCall);
@@ -199,13 +198,13 @@ TEST_F(PlacingTest, ComesToItsEndWhereAHandlerFails) {
     EXPECT_EQ(surface->lockDepth, 0) << failing;
     EXPECT_EQ(surface->screenPointers.back(), 0) << failing;
     designer->SetCtrl(frame);
-    const Ref<IControl> next = Draw(ctLabel, 10, 10, 60, 40);  // would be pasted in the frame otherwise
+    const Ref<IControl> next = Draw(ctLabel, 10, 10, 60, 40);  // not in the frame
     EXPECT_EQ(BoxOf(*next), "10,10,50,30") << failing;
     EXPECT_EQ(WidgetOf(*next).Container(), nullptr) << failing;
   }
 }
 
-TEST_F(PlacingTest, NumbersObjectsPastTheWidgetsThatAreThere) {
+TEST_F(PlacingTest, SkipsNumbersOfExistingWidgets) {
   surface->Add(u"VB.Label", u"Object_1", nullptr);
   EXPECT_EQ(Draw(ctLabel, 10, 10, 60, 40)->Name(), u"object_2");
   designer->Delete();
@@ -213,13 +212,13 @@ TEST_F(PlacingTest, NumbersObjectsPastTheWidgetsThatAreThere) {
   EXPECT_EQ(WidgetOf(*designer->CurrentControl()).DisplayText(), u"Text3");
 }
 
-TEST_F(PlacingTest, PassesOverANameThatTheSurfaceKeeps) {
+TEST_F(PlacingTest, SkipsNamesReservedByTheSurface) {
   surface->reserved = {u"object_1", u"object_2"};
   EXPECT_EQ(Draw(ctLabel, 10, 10, 60, 40)->Name(), u"object_3");
   EXPECT_EQ(WidgetOf(*designer->CurrentControl()).DisplayText(), u"Label3");
 }
 
-TEST_F(PlacingTest, EndsInSilenceWhereNoNameIsLeft) {
+TEST_F(PlacingTest, DoesNothingWhenNoNameIsLeft) {
   for (std::int32_t i = 1; i <= 32767; ++i)
     surface->reserved.insert(std::u16string((Text(u"object_") + ToText(Variant(i))).View()));
   Draw(ctLabel, 10, 10, 60, 40);
@@ -230,9 +229,9 @@ TEST_F(PlacingTest, EndsInSilenceWhereNoNameIsLeft) {
   EXPECT_FALSE(Module().designDragging);
 }
 
-// The number of the object is a user name that its author has taken: the widget stands, the form has no such
-// control.
-TEST_F(PlacingTest, AddsNoControlUnderAUserNameThatIsTaken) {
+// The author has given another control the name of the new widget: the widget is created, but the form does
+// not get the control.
+TEST_F(PlacingTest, AddsNoControlUnderATakenUserName) {
   const Ref<IControl> label = Draw(ctLabel, 10, 10, 60, 40);
   designer->ChangeControlName(label, u"Object_2");
   const Ref<IControl> second = Draw(ctLabel, 10, 60, 60, 90);
@@ -243,7 +242,7 @@ TEST_F(PlacingTest, AddsNoControlUnderAUserNameThatIsTaken) {
   EXPECT_EQ(Names(), "Form, Object_2");
 }
 
-TEST_F(PlacingTest, KeepsTheToolForANumberThatNamesNone) {
+TEST_F(PlacingTest, IgnoresAnUnknownControlTypeToAdd) {
   designer->SetControlTypeToAdd(ctFrame);
   LetProperty(*designer, u"ControlTypeToAdd", Variant(16));
   EXPECT_EQ(designer->ControlTypeToAdd(), ctFrame);
@@ -253,7 +252,7 @@ TEST_F(PlacingTest, KeepsTheToolForANumberThatNamesNone) {
   EXPECT_EQ(designer->ControlTypeToAdd(), ctDbTableViewer);
 }
 
-TEST_F(PlacingTest, GivesTheToolBackWithAnotherButtonToo) {
+TEST_F(PlacingTest, ReturnsToSelectionOnAnotherMouseButton) {
   designer->SetControlTypeToAdd(ctLabel);
   surface->listener->OnMouseUp(MouseButton::Right, 0, 10, 10);
   EXPECT_EQ(Take(), (Lines{"StateChanged Default"}));
@@ -262,14 +261,14 @@ TEST_F(PlacingTest, GivesTheToolBackWithAnotherButtonToo) {
   EXPECT_EQ(Take(), Lines{});
 }
 
-TEST_F(PlacingTest, GivesTheToolBackWhereTheFormIsSelected) {
+TEST_F(PlacingTest, ReturnsToSelectionWhenTheFormIsSelected) {
   designer->SetControlTypeToAdd(ctLabel);
   surface->listener->OnClick();
   EXPECT_EQ(designer->ControlTypeToAdd(), ctDefault);
   EXPECT_EQ(Take(), Lines{});
 }
 
-TEST_F(PlacingTest, ShowsTheCrossWhileSomethingIsToBeDrawn) {
+TEST_F(PlacingTest, ShowsTheCrossPointerWhileAdding) {
   surface->listener->OnMouseMove(0, 0, 10, 10);
   EXPECT_EQ(surface->pointer, PointerShape::Arrow);
   designer->SetControlTypeToAdd(ctLabel);

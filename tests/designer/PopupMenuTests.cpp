@@ -7,7 +7,7 @@ using enum ControlTypeEnum;
 
 const std::string kSurfaceMenu =
     "!mnuCut=Cut;!mnuCopy=Copy;mnuPaste=Paste;-;mnuLock=Lock/Unlock controls;-;mnuProps=Properties";
-// The captions of the two stacking commands are crossed.
+// The captions of the two restacking commands are swapped.
 const std::string kControlMenu =
     "mnuCut=Cut;mnuCopy=Copy;mnuPaste=Paste;-;mnuDelete=Delete;-;mnuForeground=Send to back;"
     "mnuBackground=Bring to front;-;mnuLock=Lock/Unlock controls;-;mnuProps=Properties";
@@ -28,7 +28,7 @@ class PopupMenuTest : public DesignerTest {
   }
 };
 
-TEST_F(PopupMenuTest, OffersOnTheSurfaceWhatNeedsNoControl) {
+TEST_F(PopupMenuTest, ShowsTheEntriesThatNeedNoControlOnTheSurface) {
   DrawLabel();
   RightClickSurface();
   EXPECT_EQ(surface->menus, (Lines{kSurfaceMenu}));
@@ -38,7 +38,7 @@ TEST_F(PopupMenuTest, OffersOnTheSurfaceWhatNeedsNoControl) {
   EXPECT_EQ(designer->CurrentControl()->UserName(), u"object_1");
 }
 
-TEST_F(PopupMenuTest, OffersEverythingOnAControlAndSelectsIt) {
+TEST_F(PopupMenuTest, ShowsAllEntriesOnAControlAndSelectsIt) {
   const Ref<IControl> label = DrawLabel();
   Draw(ctTextBox, 20, 90, 120, 120);
   RightClickSurface();
@@ -48,13 +48,13 @@ TEST_F(PopupMenuTest, OffersEverythingOnAControlAndSelectsIt) {
   EXPECT_TRUE(AreHandlesShown());
 }
 
-TEST_F(PopupMenuTest, OpensForTheRightButtonWithoutShiftOnly) {
+TEST_F(PopupMenuTest, OpensOnlyOnTheRightButtonWithoutShift) {
   RightClickSurface(ShiftKey::Shift);
   surface->listener->OnMouseDown(MouseButton::Left, 0, 3, 3);
   EXPECT_TRUE(surface->menus.empty());
 }
 
-TEST_F(PopupMenuTest, SwitchesStackingOffWhileLockedAndOnAgain) {
+TEST_F(PopupMenuTest, DisablesRestackingWhileLocked) {
   const Ref<IControl> label = DrawLabel();
   designer->LockUnlock();
   Take();
@@ -66,7 +66,7 @@ TEST_F(PopupMenuTest, SwitchesStackingOffWhileLockedAndOnAgain) {
                            "MenuStateChanged mnuForeground True", "MenuStateChanged mnuBackground True"}));
 }
 
-TEST_F(PopupMenuTest, DoesWhatIsChosen) {
+TEST_F(PopupMenuTest, RunsTheChosenCommand) {
   const Ref<IControl> label = DrawLabel();
   const Ref<IControl> other = Draw(ctLabel, 20, 90, 120, 120);
   Take();
@@ -99,7 +99,7 @@ TEST_F(PopupMenuTest, DoesWhatIsChosen) {
   EXPECT_EQ(Names(), "Form, object_1");  // the name that was cut
 }
 
-TEST_F(PopupMenuTest, RunsTheChoiceBeforeTheEntriesComeBack) {
+TEST_F(PopupMenuTest, RunsTheCommandBeforeRestoringTheEntries) {
   DrawLabel();
   Choose(u"mnuProps");
   RightClickSurface();
@@ -108,7 +108,7 @@ TEST_F(PopupMenuTest, RunsTheChoiceBeforeTheEntriesComeBack) {
                    "MenuStateChanged mnuCopy True", "MenuStateChanged mnuCut True"}));
 }
 
-TEST_F(PopupMenuTest, DoesNotDoWhatIsSwitchedOffOrHidden) {
+TEST_F(PopupMenuTest, IgnoresDisabledAndHiddenEntries) {
   DrawLabel();
   for (std::u16string_view name : {u"mnuCut", u"mnuDelete", u"mnuSep", u"nothing"}) {
     Choose(name);
@@ -117,7 +117,7 @@ TEST_F(PopupMenuTest, DoesNotDoWhatIsSwitchedOffOrHidden) {
   EXPECT_EQ(Names(), "Form, object_1");
 }
 
-TEST_F(PopupMenuTest, FollowsTheHostsSwitches) {
+TEST_F(PopupMenuTest, FollowsSetMenuState) {
   const Ref<IControl> label = DrawLabel();
   designer->SetMenuState(u"MNUPASTE", false);
   EXPECT_EQ(Take(), (Lines{"MenuStateChanged mnuPaste False"}));
@@ -129,7 +129,7 @@ TEST_F(PopupMenuTest, FollowsTheHostsSwitches) {
   EXPECT_NE(surface->menus[0].find("!mnuPaste=Paste"), std::string::npos);
 }
 
-TEST_F(PopupMenuTest, SwitchesAWidgetWithAMenuOfItsOwnOffMeanwhile) {
+TEST_F(PopupMenuTest, DisablesAWidgetWithItsOwnMenuMeanwhile) {
   const Ref<IControl> text = Draw(ctTextBox, 20, 90, 120, 120);
   bool enabled = true;
   surface->onMenu = [&](std::span<const Ref<MenuItem>>) {
@@ -141,7 +141,7 @@ TEST_F(PopupMenuTest, SwitchesAWidgetWithAMenuOfItsOwnOffMeanwhile) {
   EXPECT_TRUE(WidgetOf(*text).IsEnabled());
 }
 
-TEST_F(PopupMenuTest, BearsASurfaceThatEndsUnderIt) {
+TEST_F(PopupMenuTest, AllowsTheSurfaceToEndWhileOpen) {
   const Ref<IControl> label = DrawLabel();
   surface->onMenu = [&](std::span<const Ref<MenuItem>>) {
     designer->DetachSurface();

@@ -17,7 +17,7 @@ class RenamingTest : public DesignerTest {
   Ref<IControl> first, second;
 };
 
-TEST_F(RenamingTest, MovesTheControlToTheEndUnderItsNewName) {
+TEST_F(RenamingTest, MovesTheControlToTheEndOfControls) {
   designer->ChangeControlName(first, u"lblDepth");
   EXPECT_EQ(Names(), "Form, Label2, lblDepth");
   EXPECT_EQ(&Find(u"LBLDEPTH"), first.get());
@@ -27,20 +27,20 @@ TEST_F(RenamingTest, MovesTheControlToTheEndUnderItsNewName) {
   EXPECT_EQ(Take(), (Lines{"ControlNameChanged Label1 <lblDepth>"}));
 }
 
-TEST_F(RenamingTest, ChangesTheCaseAlone) {
+TEST_F(RenamingTest, ChangesOnlyTheCase) {
   designer->ChangeControlName(first, u"LABEL1");
   EXPECT_EQ(Names(), "Form, Label2, LABEL1");
   EXPECT_EQ(Take(), (Lines{"ControlNameChanged Label1 <LABEL1>"}));
 }
 
-TEST_F(RenamingTest, RefusesATakenNameInAnyCaseInSilence) {
+TEST_F(RenamingTest, IgnoresATakenNameInAnyCase) {
   designer->ChangeControlName(second, u"LABEL1");
   designer->ChangeControlName(second, u"FORM");
   EXPECT_EQ(Names(), "Form, Label1, Label2");
   EXPECT_EQ(Take(), Lines{});
 }
 
-TEST_F(RenamingTest, RefusesABlankNameAndKeepsBlanksAroundAnother) {
+TEST_F(RenamingTest, IgnoresABlankNameAndKeepsSurroundingBlanks) {
   designer->ChangeControlName(first, u"   ");
   designer->ChangeControlName(nullptr, u"x");
   EXPECT_EQ(Take(), Lines{});
@@ -48,14 +48,14 @@ TEST_F(RenamingTest, RefusesABlankNameAndKeepsBlanksAroundAnother) {
   EXPECT_EQ(first->UserName(), u" x ");
 }
 
-TEST_F(RenamingTest, IsWhatTheNameRowDoes) {
+TEST_F(RenamingTest, RunsWhenTheNamePropertyIsSet) {
   first->SetPropertyValue(u"Name", u"other");
   EXPECT_EQ(Take(), (Lines{"ControlNameChanged Label1 <other>"}));
   first->SetPropertyValue(u"Name", u"label2");
   EXPECT_EQ(first->UserName(), u"other");
 }
 
-TEST_F(RenamingTest, UpdatesLinksAfterTheHostHasHeard) {
+TEST_F(RenamingTest, UpdatesLinksAfterRaisingControlNameChanged) {
   const Ref<IControl> themes = Draw(ctThemeSelector, 100, 10, 200, 40);
   const Ref<IControl> types = Draw(ctComboBox, 100, 40, 200, 60);
   const Ref<IControl> attributes = Draw(ctAttributeSelector, 100, 60, 200, 90);

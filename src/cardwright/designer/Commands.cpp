@@ -37,7 +37,7 @@ void FormDesigner::TakeClipboard(const FormDesigner& other) {
   SetMenuState(u"mnuPaste", !m_Clipboard.IsEmpty());
 }
 
-// Hosts know a deleted control by its widget's name: ObjectRemoved tells that one, not the author's.
+// Hosts know a deleted control by its widget's name: ObjectRemoved has that one, not the user name.
 void FormDesigner::Delete() {
   const Ref<FormDesigner> keepAlive(this);
   const Ref<IControl> control = m_Selection.Current();
@@ -118,7 +118,7 @@ void FormDesigner::LockUnlock() {
 void FormDesigner::CenterLeft() { Center(&IControl::SetLeft, &IControl::Width, &FormExtent::width); }
 void FormDesigner::CenterTop() { Center(&IControl::SetTop, &IControl::Height, &FormExtent::height); }
 
-// Handles that were hidden stay so.
+// Hidden handles stay hidden.
 void FormDesigner::Center(void (IControl::*set)(float), float (IControl::*size)() const,
                           float FormExtent::*room) {
   const Ref<FormDesigner> keepAlive(this);

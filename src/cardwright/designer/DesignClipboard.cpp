@@ -21,21 +21,21 @@ void DesignClipboard::Copy(const IControl& control, const Widget& widget) {
   *this = std::move(copied);
 }
 
-void DesignClipboard::PutAppearance(Widget& widget) const {
+void DesignClipboard::ApplyAppearance(Widget& widget) const {
   Attempt([&] { widget.SetBackColor(m_BackColor); });
   Attempt([&] { widget.SetForeColor(m_ForeColor); });
-  // The values that the font has now: one that was changed since it was copied pastes changed.
+  // The font is shared: a font that was changed since the copy pastes as it is now.
   Attempt([&] { widget.GetFont()->Assign(m_Font->Values()); });
   Attempt([&] { widget.SetWidth(m_Width); });
 }
 
-void DesignClipboard::PutProperties(Control& control) const {
+void DesignClipboard::ApplyProperties(Control& control) const {
   const auto rows = std::min<std::size_t>(m_Properties.size(), control.PropertyCount());
   for (std::size_t row = 0; row < rows; ++row)
-    Attempt([&] { PutProperty(control, static_cast<std::int32_t>(row)); });
+    Attempt([&] { ApplyProperty(control, static_cast<std::int32_t>(row)); });
 }
 
-void DesignClipboard::PutProperty(Control& control, std::int32_t row) const {
+void DesignClipboard::ApplyProperty(Control& control, std::int32_t row) const {
   const Variant& copied = m_Properties[static_cast<std::size_t>(row)];
   switch (control.PropertyType(Variant(row))) {
     case PropertyTypeEnum::ptFont: return;  // set with the appearance

@@ -6,8 +6,8 @@
 
 namespace cardwright {
 
-/// One copied control. The slot belongs to one designer; nothing of it reaches the system's clipboard. What
-/// is an object in the control (font, items) stays shared with it.
+/// One copied control. Each designer has a clipboard of its own; the system's clipboard is not used. Objects
+/// of the control (font, items) are shared with it, not copied.
 class DesignClipboard {
  public:
   bool IsEmpty() const noexcept { return m_Type == ControlTypeEnum::ctDefault; }
@@ -16,15 +16,15 @@ class DesignClipboard {
   float Width() const noexcept { return m_Width; }
   float Height() const noexcept { return m_Height; }
 
-  /// Errors leave the slot as it was.
+  /// After an error the clipboard is unchanged.
   void Copy(const IControl& control, const Widget& widget);
-  /// Colours, font and width, for a widget that was just made. What fails is passed over.
-  void PutAppearance(Widget& widget) const;
-  /// The values of the property rows: those of a collection are copied into the one that the control has.
-  void PutProperties(Control& control) const;
+  /// Sets colours, font and width of a new widget. Failures are passed over.
+  void ApplyAppearance(Widget& widget) const;
+  /// Sets the values of the property rows. Items are copied into the collection that the control has.
+  void ApplyProperties(Control& control) const;
 
  private:
-  void PutProperty(Control& control, std::int32_t row) const;
+  void ApplyProperty(Control& control, std::int32_t row) const;
 
   ControlTypeEnum m_Type = ControlTypeEnum::ctDefault;
   float m_Width = 0;

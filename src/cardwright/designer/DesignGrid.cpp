@@ -6,7 +6,7 @@
 namespace cardwright {
 namespace {
 
-// Half to even, as the platform rounds counters; a surface without measure has no more points than this.
+// Rounds half to even, as the platform rounds counters. A surface of any size has a limited number of points.
 int Rounded(float count) {
   constexpr float kMost = 1'000'000;
   return std::isnan(count) ? 0 : static_cast<int>(std::nearbyint(std::clamp(count, -kMost, kMost)));
@@ -20,8 +20,7 @@ void DesignGrid::Paint(DesignSurface& surface, std::int16_t step, bool reset) {
     m_Columns = 0;
     m_Rows = 0;
   }
-  // The step that held before stays remembered here: painting it again then finds no other step, and nothing
-  // but the counts makes the points come back.
+  // The former step stays stored: when it is set again, the points come back only because the counts are 0.
   if (step == 0) return;
   const float columns = surface.Width() / step;
   const float rows = surface.Height() / step;

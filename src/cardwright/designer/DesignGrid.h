@@ -6,12 +6,12 @@
 
 namespace cardwright {
 
-/// The points that a designer paints on its surface. It remembers what it has painted: a surface that grows
-/// gets its new rows and columns only.
+/// The points that a designer paints on its surface. It remembers what is painted, so that a surface that
+/// grows gets only its new rows and columns.
 class DesignGrid {
  public:
   /// `step` is in the surface's scale; 0 clears. With `reset`, or another step than before, all points are
-  /// painted anew.
+  /// painted again.
   void Paint(DesignSurface& surface, std::int16_t step, bool reset);
 
  private:

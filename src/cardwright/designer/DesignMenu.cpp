@@ -13,8 +13,8 @@ struct Entry {
   std::optional<DesignCommand> command;
 };
 
-// The captions of mnuForeground and mnuBackground read opposite to what the two do. Translations and the
-// menus of hosts were made to the messages as they stand.
+// The captions of mnuForeground and mnuBackground are swapped. Translations and menus of hosts rely on these
+// message numbers.
 constexpr Entry kEntries[] = {
     {u"mnuCut", messages::Cut, DesignCommand::Cut},
     {u"mnuCopy", messages::Copy, DesignCommand::Copy},

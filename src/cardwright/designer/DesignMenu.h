@@ -22,7 +22,7 @@ class DesignMenu {
   MenuItem* FindNamed(std::u16string_view name) const noexcept;
   /// None for a separator or a name that no entry has.
   static std::optional<DesignCommand> CommandOf(std::u16string_view name) noexcept;
-  /// Shows or hides what makes no sense without a control.
+  /// Shows or hides the entries that need a control.
   void ShowControlItems(bool show) const noexcept;
 
   MenuItem& Lock() const noexcept { return *m_Lock; }

@@ -17,17 +17,17 @@ namespace cardwright {
 
 class DesignTool;
 
-/// The surface on which an author draws a form: it owns the form's objects, shows which one is selected, and
-/// moves, sizes, makes, renames and deletes them. One control at most is selected, and nothing can be undone.
+/// The surface on which an author draws a form. It owns the form's objects and selects, moves, resizes, adds,
+/// renames and deletes them. At most one control is selected, and nothing can be undone.
 ///
 /// Events: Resize, StateChanged(State), MenuStateChanged(MenuName, State), CurrObjectChanged(Obj),
 /// PropertyChanged(PropertyIndex, PropertyValue), PropertyMenuClick, RefreshPropertyList,
 /// AttribsList(Attribs), ObjectRemoved(ObjectName), NeedResize(Width, Height), ControlsLocked(LockValue),
 /// ControlNameChanged(OldName, Obj).
 ///
-/// Of these, Obj, PropertyIndex, PropertyValue, Attribs, ObjectName, LockValue and OldName are handed over by
-/// reference, each a copy made for the event: what a handler writes into one reaches the handlers after it
-/// and nothing else.
+/// Of these, Obj, PropertyIndex, PropertyValue, Attribs, ObjectName, LockValue and OldName are passed by
+/// reference, each to a copy made for the event: what a handler assigns reaches the handlers after it and
+/// nothing else.
 class FormDesigner final : public TableObject,
                            public DesignerOwner,
                            private WidgetListener,
@@ -38,39 +38,39 @@ class FormDesigner final : public TableObject,
 
   Text TypeName() const override { return u"FormDesigner"; }
 
-  /// Selects a control, or the form itself. CurrObjectChanged tells of another one before it is stored.
-  /// Error 91 for nothing.
+  /// Selects a control, or the form itself. CurrObjectChanged is raised before the selection changes, unless
+  /// the object is already selected. Error 91 for null.
   void SetCtrl(Ref<IControl> control) override;
-  /// Paints the grid. A step that is negative or left out is the one that GridStep holds; 0 clears. With
-  /// `reset` all points are painted anew.
+  /// Paints the grid. A negative or missing step means GridStep; 0 clears. With `reset` all points are
+  /// painted again.
   void SetGrid(std::optional<std::int16_t> step = {}, std::optional<bool> reset = {});
 
-  /// @name Commands on the selected control. What cannot be done is passed over in silence.
+  /// @name Commands on the selected control. A command that cannot be done does nothing.
   /// @{
   void Cut();
   void Copy();
   /// Into the selected frame, or onto the form; always at the top left corner.
   void Paste();
-  /// Takes what another designer has copied, for a host that shows a project in a new designer.
+  /// Copies the clipboard of another designer, for a host that shows a project in a new designer.
   void TakeClipboard(const FormDesigner& other);
   void Delete();
   void SetForeground();
   void SetBackground();
-  /// Locks all controls against drag and restacking, or unlocks them.
+  /// Locks all controls against dragging and restacking, or unlocks them.
   void LockUnlock();
   void CenterLeft();
   void CenterTop();
   /// @}
-  /// Switches an entry of the popup menu, or the menu itself ("mnuPopUp"), on or off and tells the host,
-  /// whose menus follow. The menu opens in either state.
+  /// Enables or disables an entry of the popup menu, or the menu itself ("mnuPopUp"), and raises
+  /// MenuStateChanged, by which menus of hosts follow. The menu opens in either state.
   void SetMenuState(const Text& menuName, bool state);
 
-  /// Puts a control on the surface, selects it and chooses the selection tool again. While the designer is
-  /// busy, the class is chosen and nothing placed. Failures are passed over; where no widget can be created,
-  /// the class stays chosen.
+  /// Puts a control on the surface, selects it and returns to the selection tool. While the designer is busy,
+  /// this only sets ControlTypeToAdd. Failures are passed over; if no widget can be created, ControlTypeToAdd
+  /// stays set.
   void Place(const Placement& placement);
 
-  /// To be called when the surface was resized.
+  /// To be called after the surface was resized.
   void UserControl_Resize();
   /// Step of the grid, in the surface's scale. Setting only stores it.
   std::int16_t GridStep() const noexcept { return m_GridStep; }
@@ -93,34 +93,34 @@ class FormDesigner final : public TableObject,
   std::int32_t WindowHandle() const;
   Ref<HostWindow> Parent() const { return m_Surface ? m_Surface->Host() : nullptr; }
 
-  /// Reads a form project into the designer, which should be a fresh one; false where there is no such file.
+  /// Reads a form project into the designer, which should be a new one; false if there is no such file.
   bool ProjectRead(const Text& fileName);
-  /// Writes the form project; one without controls has no file and is deleted.
+  /// Writes the form project. A project without controls has no file: it is deleted.
   bool ProjectSave(const Text& fileName, bool isTemporary = false);
   Text GetThemeName() const;
   FeatureTypeEnum GetFeatureType() const;
   void SetThemeName(const Text& themeName);
   void SetFeatureType(FeatureTypeEnum type);
 
-  /// Whether the Delete key deletes the selected control; the one setting that a container keeps.
+  /// Whether the Delete key deletes the selected control; the one setting that a container stores.
   bool EnableKeyDelete() const noexcept { return m_EnableKeyDelete; }
   void SetEnableKeyDelete(bool enable);
   void ReadProperties(const PropertyBag& bag);
   void WriteProperties(PropertyBag& bag) const;
 
-  /// Nothing happens for a blank name or one that another control has in any case.
+  /// Does nothing for a blank name or the name of another control, whatever its case.
   void ChangeControlName(Ref<Object> control, const Text& newName) override;
-  /// The controls of a class, by their order; none for the selection tool and the table viewer.
+  /// The controls of a class, in their order; none for the selection tool and the table viewer.
   std::vector<Ref<IControl>> FilterControls(ControlTypeEnum type) const override;
 
-  /// Whether a tool is in use, or the surface is being resized or a project read. Mouse and resize are not
-  /// answered then.
+  /// Whether a tool is in use, the surface is being resized or a project is being read. Meanwhile clicks and
+  /// resizes are ignored.
   bool IsBusy() const noexcept { return m_Tool || m_AreEventsSuspended; }
   /// Whether the control's widget is on the surface.
   bool IsAlive(const IControl& control) const;
 
-  /// The surface ends: the form's objects stay for whoever holds them, without widgets, and the designer is
-  /// an empty one.
+  /// To be called before the surface ends. The form's objects stay alive without widgets for those who hold
+  /// them; the designer is empty.
   void DetachSurface();
 
   /// @name For the elements of the form
@@ -155,14 +155,14 @@ class FormDesigner final : public TableObject,
  private:
   /// Error 91 once the surface has ended.
   DesignSurface& Canvas() const;
-  /// First object of the form; null where a script took it away.
+  /// First object of Controls; null if a script has removed it.
   Ref<IControl> Form() const;
   static bool IsForm(const IControl& control);
   /// Whether the next press draws a new control.
   bool IsAdding() const noexcept { return m_TypeToAdd != ControlTypeEnum::ctDefault; }
-  /// Chooses the selection tool again.
+  /// Returns to the selection tool.
   void EndAdding();
-  /// Lets the controls that follow others find them again.
+  /// Lets the controls that depend on others find them again.
   void AttachLinks();
 
   // Events of the surface and of the handles.

@@ -5,11 +5,11 @@
 
 namespace cardwright {
 
-std::array<HandlePlace, kHandleCount> HandlePlaces(float left, float top, float width, float height,
-                                                   float handleWidth, float handleHeight) noexcept {
-  const HandlePlace centre{left + (width - handleWidth) / 2, top + (height - handleHeight) / 2};
-  const HandlePlace after{left + width, top + height};
-  const HandlePlace before{left - handleWidth, top - handleHeight};
+std::array<HandlePosition, kHandleCount> HandlePositions(float left, float top, float width, float height,
+                                                         float handleWidth, float handleHeight) noexcept {
+  const HandlePosition centre{left + (width - handleWidth) / 2, top + (height - handleHeight) / 2};
+  const HandlePosition after{left + width, top + height};
+  const HandlePosition before{left - handleWidth, top - handleHeight};
   return {centre,
           after,
           before,
@@ -47,8 +47,8 @@ GrabHandles::~GrabHandles() {
 
 void GrabHandles::ShowAround(const Widget& widget, bool enabled) {
   const PictureWidget& first = m_Surface.Handle(0);
-  const auto places = HandlePlaces(widget.Left(), widget.Top(), widget.Width(), widget.Height(),
-                                   first.Width(), first.Height());
+  const auto places = HandlePositions(widget.Left(), widget.Top(), widget.Width(), widget.Height(),
+                                      first.Width(), first.Height());
   for (std::size_t i = 0; i < kHandleCount; ++i) {
     PictureWidget& box = m_Surface.Handle(static_cast<int>(i));
     box.Move(places[i].left, places[i].top, box.Width(), box.Height());

@@ -9,22 +9,22 @@ namespace cardwright {
 
 inline constexpr std::size_t kHandleCount = 9;
 
-/// Left top corner of a handle, in its container's scale.
-struct HandlePlace {
+/// Top left corner of a handle, in its container's scale.
+struct HandlePosition {
   float left = 0;
   float top = 0;
 
-  friend bool operator==(const HandlePlace&, const HandlePlace&) = default;
+  friend bool operator==(const HandlePosition&, const HandlePosition&) = default;
 };
 
-/// Where the handles stand around a rectangle, by their numbers: outside its edges and corners, but the first
-/// on its centre.
-std::array<HandlePlace, kHandleCount> HandlePlaces(float left, float top, float width, float height,
-                                                   float handleWidth, float handleHeight) noexcept;
-/// Pointer that says which way a handle goes.
+/// Positions of the handles around a rectangle, by their numbers: the first on its centre, the others outside
+/// its corners and edges.
+std::array<HandlePosition, kHandleCount> HandlePositions(float left, float top, float width, float height,
+                                                         float handleWidth, float handleHeight) noexcept;
+/// Pointer that shows the direction of a handle.
 PointerShape HandlePointer(int index) noexcept;
 
-/// Hears of the mouse on the handles, which count from 0.
+/// Receives the mouse events of the handles, which count from 0.
 class HandleListener {
  public:
   virtual void OnHandleDown(int index, int button) = 0;
@@ -47,9 +47,9 @@ class GrabHandles {
   void Hide();
   bool IsShown() const;
   /// Into the widget's container, or for null onto the surface.
-  void PutInto(Widget* container) { m_Surface.PutHandlesInto(container); }
-  /// Brings the handle that moves the control to the front: a control that came to the front buried it.
-  void RaiseMover() { m_Surface.Handle(0).SetZOrder(StackPosition::Front); }
+  void MoveInto(Widget* container) { m_Surface.PutHandlesInto(container); }
+  /// Brings the handle that moves the control to the front, before a control that was brought there.
+  void RaiseMoveHandle() { m_Surface.Handle(0).SetZOrder(StackPosition::Front); }
   float Width() const { return m_Surface.Handle(0).Width(); }
 
  private:

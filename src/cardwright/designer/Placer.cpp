@@ -96,10 +96,10 @@ void Placer::Size(const NewControl& made, const Placement& placement) const {
 // listen to StateChanged.
 void Placer::Fill(const NewControl& made, const Placement& placement) {
   Attempt([&] { Canvas().SetScreenPointer(PointerShape::Hourglass); });
-  placement.source->PutAppearance(*made.widget);
+  placement.source->ApplyAppearance(*made.widget);
   if (made.control) {
     Attempt([&] { made.control->FinishDrawing(); });
-    placement.source->PutProperties(*made.control);
+    placement.source->ApplyProperties(*made.control);
     Attempt([&] { made.widget->Move(0, 0, made.widget->Width(), made.widget->Height()); });
     Attempt([&] { KeepInContainer(*made.control, placement.container.get()); });
     m_Selection.Store(made.control);

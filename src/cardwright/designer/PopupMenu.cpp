@@ -1,4 +1,4 @@
-// The popup menu, over the bare surface and over a control.
+// The popup menu of the bare surface and of a control.
 
 #include "cardwright/designer/FormDesigner.h"
 
@@ -13,7 +13,8 @@ void FormDesigner::SetMenuState(const Text& menuName, bool state) {
   RaiseEvent(u"MenuStateChanged", args);
 }
 
-// Without a control there is nothing to cut or to restack. The handles stay hidden until the next selection.
+// On the bare surface there is nothing to cut, delete or restack. The handles stay hidden until the next
+// selection.
 void FormDesigner::OpenSurfaceMenu() {
   const Ref<FormDesigner> keepAlive(this);
   ShowHandles(false);
@@ -40,7 +41,7 @@ void FormDesigner::OpenControlMenu(IControl&) {
   SetMenuState(u"mnuBackground", true);
 }
 
-// What was chosen is done before the menu's entries are put back, as menus of the platform do it.
+// The chosen command runs before the entries are restored, as with menus of the platform.
 void FormDesigner::ShowMenu() {
   const std::vector<Ref<MenuItem>> items = m_Menu.Items();
   const Text chosen = Canvas().ShowPopupMenu(items);

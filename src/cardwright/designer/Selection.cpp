@@ -15,7 +15,7 @@ void Selection::Select(Ref<IControl> control) {
   if (const Ref<Widget> widget = BoundWidget(*control)) {
     Attempt([&] { widget->SetVisible(true); });
     Attempt([&] {
-      if (m_Handles) m_Handles->PutInto(widget->Container().get());
+      if (m_Handles) m_Handles->MoveInto(widget->Container().get());
     });
   }
   ShowHandles(true);
@@ -32,11 +32,11 @@ void Selection::ShowHandles(bool show) {
 
 void Selection::ReleaseHandles() {
   ShowHandles(false);
-  if (m_Handles) Attempt([&] { m_Handles->PutInto(nullptr); });
+  if (m_Handles) Attempt([&] { m_Handles->MoveInto(nullptr); });
 }
 
 void Selection::RaiseMoveHandle() {
-  if (m_Handles) Attempt([&] { m_Handles->RaiseMover(); });
+  if (m_Handles) Attempt([&] { m_Handles->RaiseMoveHandle(); });
 }
 
 float Selection::HandleWidth() const {

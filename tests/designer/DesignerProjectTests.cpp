@@ -9,7 +9,7 @@ namespace {
 
 using enum ControlTypeEnum;
 
-class ProjectTest : public DesignerTest {
+class DesignerProjectTest : public DesignerTest {
  protected:
   static std::string Example() {
     std::ifstream file(CARDWRIGHT_SOURCE_DIR "/examples/wells/well-inspection.cwf", std::ios::binary);
@@ -20,11 +20,11 @@ class ProjectTest : public DesignerTest {
     EXPECT_TRUE(designer->ProjectSave(folder.Name("out.cwf")));
     return folder.Get("out.cwf");
   }
-  /// What an author may do with whatever was read.
+  /// Does with every control what an author can do.
   void UseEverything() {
     for (const Ref<IControl>& control : ControlsOf(designer->Controls())) {
       Attempt([&] { designer->SetCtrl(control); });
-      Attempt([&] { DragHandle(1, {{50, 50}, {60, 60}}); });  // what stands too far off fails with 6
+      Attempt([&] { DragHandle(1, {{50, 50}, {60, 60}}); });  // too far off the screen: error 6
       designer->SetForeground();
       Attempt([&] { designer->CenterLeft(); });
       Attempt([&] { designer->Copy(); });
@@ -39,14 +39,14 @@ class ProjectTest : public DesignerTest {
   }
 };
 
-TEST_F(ProjectTest, IsSavedByteForByteAsItWasReadButForTheScriptsLastLineEnd) {
+TEST_F(DesignerProjectTest, RoundTripsExceptForTheLastLineEnd) {
   const std::string example = Example();
   ASSERT_GT(example.size(), 1000U);
   ASSERT_TRUE(Read(example));
   EXPECT_EQ(Saved(), example + "\r\n");
 }
 
-TEST_F(ProjectTest, KeepsItsIcon) {
+TEST_F(DesignerProjectTest, RoundTripsTheIcon) {
   std::string pixels = "[FORM_IMAGE]\r\n";
   for (int i = 0; i < 256; ++i) pixels += "p" + std::to_string(i) + "= " + std::to_string(i * 257) + "\r\n";
   std::string example = Example();
@@ -55,7 +55,7 @@ TEST_F(ProjectTest, KeepsItsIcon) {
   EXPECT_EQ(Saved(), example + "\r\n");
 }
 
-TEST_F(ProjectTest, GrowsByOneLineEndWithEachSavingAndInNothingElse) {
+TEST_F(DesignerProjectTest, GrowsByOneLineEndPerSave) {
   const std::string example = Example();
   Read(example);
   const std::string once = Saved();
@@ -67,7 +67,7 @@ TEST_F(ProjectTest, GrowsByOneLineEndWithEachSavingAndInNothingElse) {
   second->DetachSurface();
 }
 
-TEST_F(ProjectTest, TellsTheHostOfItsSizeAndItsRows) {
+TEST_F(DesignerProjectTest, RaisesNeedResizeAndRefreshPropertyListWhenRead) {
   Read(Example());
   const Lines heard = Take();
   EXPECT_EQ(heard.front(), "NeedResize 8280 7200");
@@ -77,7 +77,7 @@ TEST_F(ProjectTest, TellsTheHostOfItsSizeAndItsRows) {
   EXPECT_FALSE(designer->IsBusy());
 }
 
-TEST_F(ProjectTest, HoldsWhatWasDrawn) {
+TEST_F(DesignerProjectTest, ContainsTheDrawnControls) {
   const Ref<IControl> frame = Draw(ctFrame, 50, 50, 250, 250);
   const Ref<IControl> label = DrawInside(*frame, ctLabel, 10, 10, 60, 40);
   Draw(ctDbTableViewer, 260, 10, 300, 40);
@@ -93,7 +93,7 @@ TEST_F(ProjectTest, HoldsWhatWasDrawn) {
       << saved;
 }
 
-TEST_F(ProjectTest, HoldsNothingOfWhatWentWithAFrameInAFrame) {
+TEST_F(DesignerProjectTest, ContainsNothingOfADeletedNestedFrame) {
   Draw(ctTextBox, 300, 250, 380, 280);
   const Ref<IControl> outer = Draw(ctFrame, 10, 10, 250, 240);
   const Ref<IControl> inner = DrawInside(*outer, ctFrame, 20, 20, 200, 180);
@@ -106,7 +106,7 @@ TEST_F(ProjectTest, HoldsNothingOfWhatWentWithAFrameInAFrame) {
   EXPECT_EQ(saved.find("[CONTROLS_2]"), std::string::npos);
 }
 
-TEST_F(ProjectTest, NumbersNewControlsPastThoseThatWereRead) {
+TEST_F(DesignerProjectTest, NumbersNewControlsAfterThoseRead) {
   Read(Example());
   std::set<std::u16string> names;
   for (const Ref<IControl>& control : ControlsOf(designer->Controls()))
@@ -115,7 +115,7 @@ TEST_F(ProjectTest, NumbersNewControlsPastThoseThatWereRead) {
   EXPECT_FALSE(names.contains(std::u16string(drawn->Name().View())));
 }
 
-TEST_F(ProjectTest, IsDeletedWithTheLastControl) {
+TEST_F(DesignerProjectTest, DeletesTheFileWhenSavedWithoutControls) {
   Draw(ctLabel, 10, 10, 60, 40);
   Saved();
   designer->Delete();
@@ -123,21 +123,21 @@ TEST_F(ProjectTest, IsDeletedWithTheLastControl) {
   EXPECT_FALSE(std::filesystem::exists(folder.File("out.cwf")));
 }
 
-TEST_F(ProjectTest, AnswersFalseWhereThereIsNoFileOrFolder) {
+TEST_F(DesignerProjectTest, ReturnsFalseWithoutAFileOrFolder) {
   EXPECT_FALSE(designer->ProjectRead(folder.Name("none.cwf")));
   Draw(ctLabel, 10, 10, 60, 40);
   EXPECT_FALSE(designer->ProjectSave(folder.Name("none/out.cwf")));
   EXPECT_FALSE(Module().isTemporarySave);
 }
 
-TEST_F(ProjectTest, IsTemporaryOnlyWhileItIsSaved) {
+TEST_F(DesignerProjectTest, IsTemporaryOnlyWhileSaving) {
   Draw(ctLabel, 10, 10, 60, 40);
   EXPECT_TRUE(
       ToBoolean(CallMethod(*designer, u"ProjectSave", {Variant(folder.Name("t.cwf")), Variant(true)})));
   EXPECT_FALSE(Module().isTemporarySave);
 }
 
-TEST_F(ProjectTest, BearsAnyContent) {
+TEST_F(DesignerProjectTest, AcceptsAnyContent) {
   const std::string texts[] = {
       "",
       "\0\xFF\xFE[FORM",
@@ -155,7 +155,7 @@ TEST_F(ProjectTest, BearsAnyContent) {
   }
 }
 
-TEST_F(ProjectTest, BearsDamagedProjects) {
+TEST_F(DesignerProjectTest, AcceptsDamagedProjects) {
   const std::string example = Example();
   std::mt19937 random(20261121);
   for (int round = 0; round < 60; ++round) {
@@ -194,7 +194,7 @@ std::string Many(int count, bool nested) {
   return text;
 }
 
-TEST_F(ProjectTest, CarriesFiveThousandControls) {
+TEST_F(DesignerProjectTest, HandlesFiveThousandControls) {
   using Clock = std::chrono::steady_clock;
   const auto begin = Clock::now();
   ASSERT_TRUE(Read(Many(5000, false)));
@@ -216,8 +216,8 @@ TEST_F(ProjectTest, CarriesFiveThousandControls) {
   RecordProperty("save_ms", ms(used, Clock::now()));
 }
 
-// The INI engine hands out no more than the first 8,191 characters of a section's names.
-TEST_F(ProjectTest, LosesNothingOfThousandsOfControlsButTheStackingOfTheLater) {
+// The INI engine returns only the first 8,191 characters of a section's names.
+TEST_F(DesignerProjectTest, RoundTripsThousandsOfControlsExceptTheLateStacking) {
   const std::string first = Many(5000, false);
   ASSERT_TRUE(Read(first));
   designer->SetCtrl(Ref<IControl>(&Find(u"object_5000")));
@@ -244,7 +244,7 @@ TEST_F(ProjectTest, LosesNothingOfThousandsOfControlsButTheStackingOfTheLater) {
   }
 }
 
-TEST_F(ProjectTest, CarriesThousandsOfNestedFrames) {
+TEST_F(DesignerProjectTest, HandlesThousandsOfNestedFrames) {
   ASSERT_TRUE(Read(Many(2000, true)));
   EXPECT_EQ(designer->Controls().Count(), 2001);
   Saved();

@@ -3,30 +3,30 @@
 namespace cardwright {
 namespace {
 
-using SurfaceSizeTest = DesignerTest;
+using OuterSizeTest = DesignerTest;
 
-TEST_F(SurfaceSizeTest, TellsTheFormTheHostAndTheSizeInTwipsInThisOrder) {
+TEST_F(OuterSizeTest, RaisesItsEventsInOrderWithTheSizeInTwips) {
   surface->frame = {10, 30};
   surface->Resize(500, 350);
   EXPECT_EQ(Take(),
             (Lines{"PropertyChanged 3 510", "PropertyChanged 4 380", "Resize", "NeedResize 7650 5700"}));
 }
 
-TEST_F(SurfaceSizeTest, LeavesTheFormsRowsAloneWhileAControlIsSelected) {
+TEST_F(OuterSizeTest, RaisesNoPropertyChangedWhileAControlIsSelected) {
   Draw(ControlTypeEnum::ctLabel, 10, 10, 60, 40);
   Take();
   surface->Resize(500, 350);
   EXPECT_EQ(Take(), (Lines{"Resize", "NeedResize 7500 5250"}));
 }
 
-TEST_F(SurfaceSizeTest, TellsNothingWhileEventsAreSuspended) {
+TEST_F(OuterSizeTest, RaisesNothingWhileEventsAreSuspended) {
   designer->SuspendEvents(true);
   surface->Resize(500, 350);
   EXPECT_EQ(Take(), Lines{});
   EXPECT_TRUE(designer->IsBusy());
 }
 
-TEST_F(SurfaceSizeTest, IsGuardedAgainstAHostThatResizesInAnswer) {
+TEST_F(OuterSizeTest, IsNotReentered) {
   onEvent = [&](std::string_view event) {
     if (event == "Resize" && events.size() < 20) surface->Resize(surface->Width() + 1, 350);
   };
@@ -36,7 +36,7 @@ TEST_F(SurfaceSizeTest, IsGuardedAgainstAHostThatResizesInAnswer) {
   EXPECT_FALSE(designer->IsBusy());
 }
 
-TEST_F(SurfaceSizeTest, TellsWhatComesAfterAHandlerThatFails) {
+TEST_F(OuterSizeTest, RaisesTheRemainingEventsAfterAFailedHandler) {
   for (const char* failing : {"PropertyChanged", "Resize"}) {
     onEvent = [&](std::string_view event) {
       if (event == failing) Raise(ErrorNumber::InvalidCall);
@@ -49,7 +49,7 @@ TEST_F(SurfaceSizeTest, TellsWhatComesAfterAHandlerThatFails) {
   }
 }
 
-TEST_F(SurfaceSizeTest, TellsTheOuterSizeAtTheEndOfAReading) {
+TEST_F(OuterSizeTest, RaisesNeedResizeAfterReading) {
   surface->frame = {10, 30};
   ASSERT_TRUE(designer->ProjectRead(
       folder.Put("a.cwf", "[FORM]\r\nScaleMode=1\r\nWidth=9060\r\nHeight=6000\r\nControlsNumber=0\r\n")));
@@ -61,13 +61,13 @@ TEST_F(SurfaceSizeTest, TellsTheOuterSizeAtTheEndOfAReading) {
   EXPECT_EQ(Take().front(), "NeedResize 10500 7500");
 }
 
-TEST_F(SurfaceSizeTest, CanBeCalledByAHost) {
+TEST_F(OuterSizeTest, CanBeCalledByAHost) {
   CallMethod(*designer, u"UserControl_Resize");
   EXPECT_EQ(Take(),
             (Lines{"PropertyChanged 3 400", "PropertyChanged 4 300", "Resize", "NeedResize 6000 4500"}));
 }
 
-TEST_F(SurfaceSizeTest, GivesTheFormItsOuterSizeWithTheFrameOfTheWindow) {
+TEST_F(OuterSizeTest, IncludesTheWindowFrameInTheOuterSize) {
   surface->frame = {10, 30};
   EXPECT_EQ(designer->OuterWidth(), 410);
   EXPECT_EQ(designer->OuterHeight(), 330);
@@ -76,7 +76,7 @@ TEST_F(SurfaceSizeTest, GivesTheFormItsOuterSizeWithTheFrameOfTheWindow) {
   EXPECT_EQ(surface->Height(), 400);
 }
 
-TEST_F(SurfaceSizeTest, CountsInTwipsWhereTheFormDoes) {
+TEST_F(OuterSizeTest, MeasuresInTheFormsScale) {
   surface->frame = {10, 30};
   Module().formScaleMode = ScaleMode::Twips;
   designer->ApplyScaleAndGrid();
@@ -86,7 +86,7 @@ TEST_F(SurfaceSizeTest, CountsInTwipsWhereTheFormDoes) {
   EXPECT_EQ(surface->Height(), 6000 - 450);
 }
 
-TEST_F(SurfaceSizeTest, DoesNothingForASizeThatIsStoredAlready) {
+TEST_F(OuterSizeTest, IgnoresASizeThatIsAlreadySet) {
   designer->SetOuterSize(600, 400);
   designer->SuspendEvents(true);
   surface->Resize(100, 100);
@@ -97,7 +97,7 @@ TEST_F(SurfaceSizeTest, DoesNothingForASizeThatIsStoredAlready) {
   EXPECT_EQ(Take(), Lines{});
 }
 
-TEST_F(SurfaceSizeTest, FollowsTheFormsRows) {
+TEST_F(OuterSizeTest, FollowsThePropertiesOfTheForm) {
   CForm& form = dynamic_cast<CForm&>(Find(u"form"));
   form.SetWidth(640);
   EXPECT_EQ(surface->Width(), 640);
@@ -106,7 +106,7 @@ TEST_F(SurfaceSizeTest, FollowsTheFormsRows) {
   EXPECT_EQ(surface->Width(), 640);
 }
 
-TEST_F(SurfaceSizeTest, BearsZero) {
+TEST_F(OuterSizeTest, AcceptsZero) {
   surface->Resize(0, 0);
   EXPECT_EQ(Take().back(), "NeedResize 0 0");
   Draw(ControlTypeEnum::ctLabel, 0, 0, 0, 0);
