@@ -167,7 +167,7 @@ class Variant {
   /// True for a value that is all here: neither counted nor a reference.
   bool IsInPlace() const noexcept { return (m_Header & (kCounted | kReference)) == 0; }
   /// Integer or Long.
-  bool IsWhole() const noexcept { return (m_Header ^ 2) <= 1; }
+  bool IsWhole() const noexcept { return Type() == VarType::Long || Type() == VarType::Integer; }
   /// Whether both are.
   static bool AreWhole(const Variant& x, const Variant& y) noexcept {
     static_assert(static_cast<int>(VarType::Integer) == 2 && static_cast<int>(VarType::Long) == 3);
