@@ -52,7 +52,7 @@ TEST_F(Files, ReplaceFileWritesANewFileAndReplacesAnOldOne) {
   EXPECT_EQ(Entries(), 1u);
 }
 
-TEST_F(Files, ReplaceFileWaitsForTheDiskOnlyToOutliveAPowerCut) {
+TEST_F(Files, ReplaceFileSyncsOnlyForPowerLossDurability) {
   const fs::path file = Written("file", "old");
   g_SyncCount = 0;
   EXPECT_TRUE(ReplaceFile(file, "new", Durability::Crash));
@@ -114,7 +114,7 @@ TEST_F(Files, ReplaceFileRefusesFoldersAndMissingFolders) {
   EXPECT_EQ(Entries(), 0u);
 }
 
-TEST_F(Files, ReplaceFileKeepsTheOldFileWhereTheFolderIsClosed) {
+TEST_F(Files, ReplaceFileKeepsTheOldFileInAReadOnlyFolder) {
   const fs::path file = Written("file", "old");
   // A privileged user may write to a closed folder; the kernel's own files are closed to that one too.
   if (::geteuid() == 0) {
@@ -127,12 +127,12 @@ TEST_F(Files, ReplaceFileKeepsTheOldFileWhereTheFolderIsClosed) {
   EXPECT_EQ(ReadFile(file), "old");
 }
 
-TEST_F(Files, ReadFileFailsForWhatIsNoFile) {
+TEST_F(Files, ReadFileFailsForFoldersAndMissingFiles) {
   EXPECT_EQ(ReadFile(Path("none")), std::nullopt);
   EXPECT_EQ(ReadFile(m_Folder), std::nullopt);
 }
 
-TEST_F(Files, ReadFileReadsFilesThatDoNotTellTheirSize) {
+TEST_F(Files, ReadFileReadsFilesOfUnknownSize) {
   const auto version = ReadFile("/proc/self/status");
   ASSERT_TRUE(version);
   EXPECT_NE(version->find("Name:"), std::string::npos);
@@ -143,7 +143,7 @@ TEST_F(Files, ReadFileReadsLongFiles) {
   EXPECT_EQ(ReadFile(Written("long", bytes)), bytes);
 }
 
-TEST_F(Files, TellFilesFromFolders) {
+TEST_F(Files, FileExistsAndFolderExistsDistinguish) {
   const Text file = FromPath(Written("città.txt", ""));
   EXPECT_TRUE(FileExists(file));
   EXPECT_FALSE(FolderExists(file));
@@ -155,7 +155,7 @@ TEST_F(Files, TellFilesFromFolders) {
   EXPECT_FALSE(IsReadOnly(FromPath(Path("none"))));
 }
 
-TEST(ToPath, NamesNothingByAPathThatCannotBe) {
+TEST(ToPath, IsEmptyForAPathWithNulOrLoneSurrogate) {
   EXPECT_EQ(ToPath(u"/a/ö\U0001F600"), fs::path("/a/\xC3\xB6\xF0\x9F\x98\x80"));
   EXPECT_TRUE(ToPath(std::u16string_view(u"a\0b", 3)).empty());
   const char16_t surrogates[] = {u'a', 0xD800, u'b', 0};
@@ -172,7 +172,7 @@ TEST(BuildPath, PutsOneSeparatorBetweenTheParts) {
   for (const auto& c : cases) EXPECT_EQ(BuildPath(c[0], c[1]), c[2]);
 }
 
-TEST(GetParentFolderName, GoesByTheText) {
+TEST(GetParentFolderName, UsesTheTextOnly) {
   const char16_t* cases[][2] = {{u"/a/b", u"/a"}, {u"/a/b/", u"/a"}, {u"/a", u"/"}, {u"/", u""},
                                 {u"a", u""},      {u"a/b", u"a"},    {u"", u""},    {u"a//b", u"a"}};
   for (const auto& c : cases) EXPECT_EQ(GetParentFolderName(c[0]), c[1]) << Text(c[0]).ToUtf8();

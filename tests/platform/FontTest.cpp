@@ -48,7 +48,7 @@ TEST(Font, RefusesImpossibleSizes) {
   }
 }
 
-TEST(Font, TellsItsUsersOnceForEachChange) {
+TEST(Font, NotifiesItsUsersOncePerChange) {
   const auto font = MakeRef<Font>();
   const Watcher watcher(*font);
   font->Assign({.name = u"Arial", .size = 12, .bold = true});
@@ -59,7 +59,7 @@ TEST(Font, TellsItsUsersOnceForEachChange) {
   EXPECT_EQ(watcher.calls, 2);
 }
 
-TEST(Font, TellsNoUserThatWasRemovedBeforeItsTurn) {
+TEST(Font, NotifiesNoUserRemovedDuringTheNotification) {
   const auto font = MakeRef<Font>();
   Watcher first(*font);
   Watcher second(*font);
@@ -69,7 +69,7 @@ TEST(Font, TellsNoUserThatWasRemovedBeforeItsTurn) {
   EXPECT_EQ(second.calls, 0);
 }
 
-TEST(Picture, TellsItsSizeAndRefusesAnother) {
+TEST(Picture, ReportsItsSizeAndRefusesDataOfAnother) {
   const auto picture = MakeRef<Picture>(2, 1, std::vector<OleColor>{Rgb(255, 0, 0), Rgb(0, 0, 255)});
   EXPECT_EQ(GetProperty(*picture, u"Width").Long(), 2);
   EXPECT_EQ(GetProperty(*picture, u"Height").Long(), 1);

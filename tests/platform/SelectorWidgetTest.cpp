@@ -40,7 +40,7 @@ TEST(ThemeSelectorWidget, AnswersByName) {
   EXPECT_EQ(widget->TypeName(), u"ThemeSelector");
 }
 
-TEST(HostListWidget, ChoosesByTextWhateverItsCaseAndNothingForAnUnknownOne) {
+TEST(HostListWidget, SelectsByTextInAnyCaseAndNothingForAnUnknownText) {
   const auto widget = MakeRef<FakeThemes>();
   widget->shown = {u"wells", u"Flüsse"};
   LetProperty(*widget, u"Text", u"FLÜSSE");
@@ -69,7 +69,7 @@ TEST(AttributeSelectorWidget, AnswersByName) {
   EXPECT_FALSE(widget->themes);
 }
 
-TEST(FeatureTypeTexts, AreThreeAndReadInAnyCaseAndInTheHostsWords) {
+TEST(FeatureTypeTexts, AreReadInAnyCaseAndAsHostWords) {
   const Text texts[] = {u"Points", u"Arcs", u"Polygons"};
   const Text words[] = {u"POINT", u"arc", u" Polygon "};
   for (int type = 0; type < 3; ++type) {

@@ -67,18 +67,18 @@ TEST(FontTemplate, RoundsSizesToTheNearestAndHalvesToTheEvenNumber) {
   EXPECT_EQ(filled(10.125), u"14 202");  // 13.5, 202.5
 }
 
-TEST(FontTemplate, WritesSizesWithAPointWhateverTheLocale) {
+TEST(FontTemplate, WritesSizesWithAPointInEveryLocale) {
   const InLocale italian(u"it-it");
   EXPECT_EQ(FillFontTemplate(u"%s%", Sample(), 0), u"8.25");
 }
 
-TEST(FontTemplate, LeavesWhatItPutInAsItIs) {
+TEST(FontTemplate, DoesNotExpandInsertedValues) {
   FontValues font = Sample();
   font.name = u"%s% %r%";
   EXPECT_EQ(FillFontTemplate(u"%n%", font, kColor), u"%s% %r%");
 }
 
-TEST(FontTemplate, EndsSoonForAMillionMarks) {
+TEST(FontTemplate, IsFilledQuicklyWithAMillionPercentSigns) {
   const std::u16string marks(1'000'000, u'%');
   EXPECT_EQ(FillFontTemplate(marks, Sample(), 0), marks);
 }

@@ -11,7 +11,7 @@ struct Settable {
   Variant value;
 };
 
-TEST(Widget, AnswersToTheCommonNamesWhateverTheirCase) {
+TEST(Widget, CommonMembersAreFoundInAnyCase) {
   const auto label = MakeRef<FakeLabel>();
   const Settable settables[] = {
       {u"left", 10.0F},    {u"TOP", 20.0F},  {u"Width", 30.0F},   {u"Height", 40.0F}, {u"visible", true},
@@ -27,7 +27,7 @@ TEST(Widget, AnswersToTheCommonNamesWhateverTheirCase) {
   EXPECT_EQ(DefaultValue(label).String(), u"Shown");
 }
 
-TEST(Widget, MovesWithThePartsThatAreGiven) {
+TEST(Widget, MoveKeepsOmittedArguments) {
   const auto label = MakeRef<FakeLabel>();
   CallMethod(*label, u"Move", {9});
   EXPECT_EQ(label->Left(), 9);
@@ -40,7 +40,7 @@ TEST(Widget, MovesWithThePartsThatAreGiven) {
   EXPECT_EQ(ErrorOf([&] { CallMethod(*label, u"Move"); }), 450);
 }
 
-TEST(Widget, ComesToTheFrontUnlessToldOtherwise) {
+TEST(Widget, ZOrderDefaultsToFront) {
   const auto label = MakeRef<FakeLabel>();
   CallMethod(*label, u"ZOrder");
   CallMethod(*label, u"ZOrder", {1});
@@ -66,7 +66,7 @@ TEST(Widget, SharesTheFontThatIsSet) {
   EXPECT_EQ(ErrorOf([&] { SetProperty(*label, u"Font", label); }), 13);
 }
 
-TEST(Widget, TellsItsContainer) {
+TEST(Widget, ReturnsItsContainer) {
   const auto frame = MakeRef<FakeLabel>();
   const auto label = MakeRef<FakeLabel>();
   EXPECT_EQ(GetProperty(*label, u"Container").ObjectPtr(), nullptr);
@@ -74,7 +74,7 @@ TEST(Widget, TellsItsContainer) {
   EXPECT_EQ(GetProperty(*label, u"Container").ObjectPtr(), frame.get());
 }
 
-TEST(StateWidget, IsALongAsACheckBoxAndABooleanAsAnOption) {
+TEST(StateWidget, ValueIsLongForACheckBoxAndBooleanForAnOption) {
   const auto check = MakeRef<FakeState>(false);
   LetProperty(*check, u"Value", u"2");
   EXPECT_EQ(DefaultValue(check).Type(), VarType::Long);

@@ -12,10 +12,10 @@ namespace cardwright::qt {
 namespace {
 
 /// A form that is filled in while a screen reader listens.
-class FieldNames : public ::testing::Test {
+class AccessibleNames : public ::testing::Test {
  protected:
-  FieldNames() { QAccessible::setActive(true); }
-  ~FieldNames() override { QAccessible::setActive(false); }
+  AccessibleNames() { QAccessible::setActive(true); }
+  ~AccessibleNames() override { QAccessible::setActive(false); }
 
   /// A control by its type, its name, its keys and its box in pixels.
   void Add(const char* type, const std::string& name, const std::string& text, QRect box,
@@ -52,7 +52,7 @@ class FieldNames : public ::testing::Test {
   int m_Count = 0;
 };
 
-TEST_F(FieldNames, AreCaptionsWhereAControlHasOne) {
+TEST_F(AccessibleNames, AreCaptionsWhereAControlHasOne) {
   Add("Label", "lblTitle", "Wells", {10, 10, 200, 16});
   Add("CheckBox", "chk", "&Monitored", {10, 40, 100, 20});
   Add("OptionButton", "opt", "", {10, 70, 100, 20});
@@ -68,7 +68,7 @@ TEST_F(FieldNames, AreCaptionsWhereAControlHasOne) {
   EXPECT_EQ(NameOf(u"chk"), "Other");
 }
 
-TEST_F(FieldNames, AreTheLabelToTheLeftWhoseTextEndsBeforeTheField) {
+TEST_F(AccessibleNames, AreTheLabelToTheLeftWhoseTextEndsBeforeTheField) {
   Add("Label", "lblDepth", "Depth (m):", {10, 10, 200, 16});
   Add("TextBox", "txtDepth", "12", {120, 10, 60, 20});
   Add("TextBox", "txtUnit", "", {190, 10, 60, 20});
@@ -80,7 +80,7 @@ TEST_F(FieldNames, AreTheLabelToTheLeftWhoseTextEndsBeforeTheField) {
   EXPECT_EQ(NameOf(u"txtUnder"), "txtUnder") << "the text runs into it";
 }
 
-TEST_F(FieldNames, AreTheLabelJustAboveElse) {
+TEST_F(AccessibleNames, AreOtherwiseTheLabelJustAbove) {
   Add("Label", "lblSite", "Site", {10, 10, 80, 16});
   Add("ComboBox", "cboSite", "", {10, 28, 120, 21});
   Add("Label", "lblOwner", "Owner", {150, 10, 80, 16});
@@ -92,7 +92,7 @@ TEST_F(FieldNames, AreTheLabelJustAboveElse) {
   EXPECT_EQ(NameOf(u"lstFar"), "lstFar") << "too far below";
 }
 
-TEST_F(FieldNames, ComeFromTheSameContainerAndFromWhatIsSeen) {
+TEST_F(AccessibleNames, ComeFromTheSameContainerAndFromWhatIsSeen) {
   Add("Frame", "fra", "Core", {10, 10, 300, 100});
   Add("Label", "lblIn", "Length", {10, 30, 60, 16}, "Container=object_1\r\n");
   Add("TextBox", "txtIn", "", {80, 30, 60, 20}, "Container=object_1\r\n");
@@ -108,7 +108,7 @@ TEST_F(FieldNames, ComeFromTheSameContainerAndFromWhatIsSeen) {
   EXPECT_EQ(NameOf(u"txtIn"), "txtIn");
 }
 
-TEST_F(FieldNames, FollowALabelThatAScriptChangesBeforeTheFieldIsEntered) {
+TEST_F(AccessibleNames, FollowALabelThatAScriptChangesBeforeTheFieldIsEntered) {
   Add("TextBox", "txtFirst", "", {80, 10, 60, 20});
   Add("Label", "lblDepth", "Depth", {10, 40, 60, 16});
   Add("TextBox", "txtDepth", "", {80, 40, 60, 20});
@@ -119,7 +119,7 @@ TEST_F(FieldNames, FollowALabelThatAScriptChangesBeforeTheFieldIsEntered) {
   EXPECT_EQ(NameOf(u"txtDepth"), "Length");
 }
 
-TEST_F(FieldNames, ReachThePartsOfSelectors) {
+TEST_F(AccessibleNames, ReachThePartsOfSelectors) {
   Add("Label", "lblPhoto", "Photo", {10, 10, 60, 16});
   Add("resourceselector", "resPhoto", "", {80, 10, 120, 20});
   Add("Label", "lblInk", "Ink", {10, 40, 60, 16});
@@ -143,7 +143,7 @@ TEST_F(FieldNames, ReachThePartsOfSelectors) {
   }
 }
 
-TEST_F(FieldNames, WaitForAScreenReader) {
+TEST_F(AccessibleNames, WaitForAScreenReader) {
   QAccessible::setActive(false);
   Add("Label", "lblDepth", "Depth", {10, 10, 60, 16});
   Add("TextBox", "txtDepth", "", {80, 10, 60, 20});
@@ -153,7 +153,7 @@ TEST_F(FieldNames, WaitForAScreenReader) {
   EXPECT_EQ(Native(u"txtDepth").accessibleName(), QStringLiteral("Depth"));
 }
 
-TEST_F(FieldNames, AreThereForEveryControlOfTheExample) {
+TEST_F(AccessibleNames, AreThereForEveryControlOfTheExample) {
   ASSERT_TRUE(form.ProjectRead(QStringLiteral(CARDWRIGHT_SOURCE_DIR "/examples/wells/well-inspection.cwf")));
   QStringList names;
   for (const Ref<IControl>& control : ControlsOf(form.Object()->Controls())) {

@@ -22,7 +22,7 @@ struct Stroke {
 
 class BreakStrokes : public testing::TestWithParam<Stroke> {};
 
-TEST_P(BreakStrokes, AreToldFromOtherKeys) {
+TEST_P(BreakStrokes, AreDistinguishedFromOtherKeys) {
   QtDesktop desktop;
   QLineEdit field;
   EXPECT_FALSE(desktop.BreakPressed());
@@ -43,7 +43,7 @@ INSTANTIATE_TEST_SUITE_P(, BreakStrokes,
                                          Stroke{"Esc", Qt::Key_Escape, {}, false, false}),
                          [](const auto& one) { return one.param.title; });
 
-TEST(LookingForBreak, KnowsTheSymbolThatX11HasForCtrlPause) {
+TEST(BreakPressed, RecognizesTheX11KeySymbolOfCtrlPause) {
   QtDesktop desktop;
   QLineEdit field;
   QCoreApplication::postEvent(
@@ -51,7 +51,7 @@ TEST(LookingForBreak, KnowsTheSymbolThatX11HasForCtrlPause) {
   EXPECT_TRUE(desktop.BreakPressed());
 }
 
-TEST(LookingForBreak, LetsNothingElseOfAPersonThrough) {
+TEST(BreakPressed, DropsAllOtherInput) {
   QtDesktop desktop;
   QWidget window;
   QLineEdit field(&window);
@@ -73,7 +73,7 @@ TEST(LookingForBreak, LetsNothingElseOfAPersonThrough) {
   EXPECT_EQ(field.text(), "") << "it is passed over and not put off";
 }
 
-TEST(LookingForBreak, LetsTimersWait) {
+TEST(BreakPressed, HoldsTimersBack) {
   QtDesktop desktop;
   int count = 0;
   QTimer::singleShot(1, [&] { ++count; });
@@ -83,7 +83,7 @@ TEST(LookingForBreak, LetsTimersWait) {
   EXPECT_TRUE(QTest::qWaitFor([&] { return count == 1; }));
 }
 
-TEST(LookingForBreak, LetsWindowsPaintThemselves) {
+TEST(BreakPressed, LetsWindowsPaintThemselves) {
   struct Painted : QWidget {
     void paintEvent(QPaintEvent*) override { ++count; }
     int count = 0;

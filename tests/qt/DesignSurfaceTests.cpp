@@ -53,7 +53,7 @@ class DesignSurfaceTest : public ::testing::Test {
   Listener listener;
 };
 
-TEST_F(DesignSurfaceTest, TellsOfTheMouseOnTheBareSurfaceOnly) {
+TEST_F(DesignSurfaceTest, FiresMouseEventsForItsBareAreaOnly) {
   Ref<Widget> box = Add(u"VB.TextBox", u"object_1");
   box->Move(100, 100, 80, 24);
   Show();
@@ -76,7 +76,7 @@ TEST_F(DesignSurfaceTest, MakesNoClickOfAPressWhoseMouseWasReleased) {
   EXPECT_EQ(listener.Take(), "down1+0@5,6 up1+0@5,6");
 }
 
-TEST_F(DesignSurfaceTest, TellsOfKeysWhereverTheFocusIs) {
+TEST_F(DesignSurfaceTest, FiresKeyDownForEveryFocusedWidget) {
   Ref<Widget> box = Add(u"VB.TextBox", u"object_1");
   Show();
   for (QWidget* focused : {canvas, &NativeOf(surface.FocusHolder()), &NativeOf(*box)}) {
@@ -86,7 +86,7 @@ TEST_F(DesignSurfaceTest, TellsOfKeysWhereverTheFocusIs) {
   }
 }
 
-TEST_F(DesignSurfaceTest, LetsNothingBeTypedIntoWhatIsDrawn) {
+TEST_F(DesignSurfaceTest, WidgetsTakeNoTyping) {
   Ref<Widget> box = Add(u"VB.TextBox", u"object_1");
   Show();
   NativeOf(*box).setFocus();
@@ -94,7 +94,7 @@ TEST_F(DesignSurfaceTest, LetsNothingBeTypedIntoWhatIsDrawn) {
   EXPECT_EQ(box->DisplayText(), Text());
 }
 
-TEST_F(DesignSurfaceTest, LetsTheMouseChangeNothingOfWhatIsDrawn) {
+TEST_F(DesignSurfaceTest, WidgetsDoNotReactToTheMouse) {
   Ref<Widget> check = Add(u"VB.CheckBox", u"object_1");
   check->Move(10, 10, 80, 20);
   Listener told;
@@ -106,7 +106,7 @@ TEST_F(DesignSurfaceTest, LetsTheMouseChangeNothingOfWhatIsDrawn) {
   EXPECT_EQ(told.Take(), "got down1+0@5,5 up1+0@5,5 click");
 }
 
-TEST_F(DesignSurfaceTest, LetsNoShortcutWheelOrDropChangeWhatIsDrawn) {
+TEST_F(DesignSurfaceTest, WidgetsIgnoreShortcutsWheelAndDrops) {
   Ref<Widget> check = Add(u"VB.CheckBox", u"object_1");
   check->SetDisplayText(u"&Monitored");
   Ref<ComboWidget> combo(dynamic_cast<ComboWidget*>(Add(u"VB.ComboBox", u"object_2").get()));
@@ -130,7 +130,7 @@ TEST_F(DesignSurfaceTest, LetsNoShortcutWheelOrDropChangeWhatIsDrawn) {
   EXPECT_FALSE(enter.isAccepted());
 }
 
-TEST_F(DesignSurfaceTest, ShowsOnePointerOverAllThatStandsOnIt) {
+TEST_F(DesignSurfaceTest, PointerAppliesToAllWidgetsOnIt) {
   Ref<Widget> box = Add(u"VB.TextBox", u"object_1");
   Ref<Widget> memo = Add(u"CardwrightCtrl.MultilineTextBox", u"object_2");
   surface.SetPointer(PointerShape::Cross);
@@ -144,7 +144,7 @@ TEST_F(DesignSurfaceTest, ShowsOnePointerOverAllThatStandsOnIt) {
   EXPECT_FALSE(canvas->testAttribute(Qt::WA_SetCursor));
 }
 
-TEST_F(DesignSurfaceTest, GivesTheScreenItsPointersBack) {
+TEST_F(DesignSurfaceTest, RestoresTheScreenPointer) {
   surface.SetScreenPointer(PointerShape::Hourglass);
   surface.SetScreenPointer(PointerShape::Hourglass);
   ASSERT_NE(QApplication::overrideCursor(), nullptr);
@@ -153,7 +153,7 @@ TEST_F(DesignSurfaceTest, GivesTheScreenItsPointersBack) {
   EXPECT_EQ(QApplication::overrideCursor(), nullptr);
 }
 
-TEST_F(DesignSurfaceTest, TellsOfEachChangeOfItsSizeAtOnceAndOnce) {
+TEST_F(DesignSurfaceTest, FiresResizeOnceForEachChangeOfSize) {
   surface.Resize(500, 400);  // hidden
   EXPECT_EQ(listener.Take(), "resize");
   surface.Resize(500, 400);
@@ -192,7 +192,7 @@ TEST_F(DesignSurfaceTest, KeepsTheSizeThatItsHostGaveItLast) {
   EXPECT_EQ(surface.Width(), 320);
 }
 
-TEST_F(DesignSurfaceTest, KeepsItsPointsUntilTheyAreTakenAway) {
+TEST_F(DesignSurfaceTest, KeepsItsGridPointsUntilCls) {
   Show();
   surface.PaintPoints({.step = 10, .firstColumn = 0, .lastColumn = 1000, .firstRow = 0, .lastRow = 1000});
   for (int again = 0; again < 2; ++again) {
@@ -218,7 +218,7 @@ TEST_F(DesignSurfaceTest, SetsPointsInItsScale) {
   EXPECT_EQ(PixelAt(10, 20), QColor(200, 200, 200));
 }
 
-TEST_F(DesignSurfaceTest, PassesOverPointsThatAreNone) {
+TEST_F(DesignSurfaceTest, IgnoresEmptyRangesOfPoints) {
   surface.PaintPoints({.step = 10, .firstColumn = 0, .lastColumn = -1, .firstRow = 0, .lastRow = 5});
   surface.PaintPoints({.step = 0, .firstColumn = 0, .lastColumn = 5, .firstRow = 0, .lastRow = 5});
   surface.PaintPoints({.step = -8, .firstColumn = 0, .lastColumn = 5, .firstRow = 0, .lastRow = 5});
@@ -243,7 +243,7 @@ TEST_F(DesignSurfaceTest, OutlinesLeaveNoTraces) {
   EXPECT_EQ(Picture(window), before);
 }
 
-TEST_F(DesignSurfaceTest, OutlinesAreSeenOnEveryGround) {
+TEST_F(DesignSurfaceTest, OutlinesAreVisibleOnEveryBackground) {
   Show();
   const QPoint corner = canvas->mapToGlobal(QPoint(0, 0));
   for (const OleColor ground : {Rgb(0, 0, 0), Rgb(255, 255, 255), Rgb(128, 128, 128)}) {
@@ -257,7 +257,7 @@ TEST_F(DesignSurfaceTest, OutlinesAreSeenOnEveryGround) {
   }
 }
 
-TEST_F(DesignSurfaceTest, OutlinesThatAreNarrowerThanThePenAreSeen) {
+TEST_F(DesignSurfaceTest, OutlinesNarrowerThanThePenAreVisible) {
   Show();
   const QPoint corner = canvas->mapToGlobal(QPoint(0, 0));
   surface.ShowOutline(ScreenRect{corner.x() + 10, corner.y() + 10, corner.x() + 11, corner.y() + 11}, 2);
@@ -265,7 +265,7 @@ TEST_F(DesignSurfaceTest, OutlinesThatAreNarrowerThanThePenAreSeen) {
   EXPECT_EQ(PixelAt(12, 10), QColor(200, 200, 200));
 }
 
-TEST_F(DesignSurfaceTest, HandlesStandInAContainerAndComeBackFromOneThatEnds) {
+TEST_F(DesignSurfaceTest, HandlesMoveIntoAContainerAndBackWhenItIsRemoved) {
   Ref<Widget> outer = Add(u"VB.Frame", u"object_1");
   Ref<Widget> inner = Add(u"VB.Frame", u"object_2", outer.get());
   surface.PutHandlesInto(inner.get());
@@ -283,7 +283,7 @@ TEST_F(DesignSurfaceTest, HandlesStandInAContainerAndComeBackFromOneThatEnds) {
   EXPECT_EQ(handle.Left(), 1);
 }
 
-TEST_F(DesignSurfaceTest, HandlesStayWhereAnotherContainerEnds) {
+TEST_F(DesignSurfaceTest, HandlesStayWhenAnotherContainerIsRemoved) {
   Ref<Widget> one = Add(u"VB.Frame", u"object_1");
   Add(u"VB.Frame", u"object_2");
   surface.PutHandlesInto(one.get());
@@ -292,12 +292,12 @@ TEST_F(DesignSurfaceTest, HandlesStayWhereAnotherContainerEnds) {
   EXPECT_EQ(surface.Handle(0).Container(), one);
 }
 
-TEST_F(DesignSurfaceTest, HandlesStandInNothingButFrames) {
+TEST_F(DesignSurfaceTest, HandlesMoveOnlyIntoFrames) {
   Ref<Widget> box = Add(u"VB.TextBox", u"object_1");
   EXPECT_EQ(ErrorOf([&] { surface.PutHandlesInto(box.get()); }), 5);
 }
 
-TEST_F(DesignSurfaceTest, OwnWidgetsStandUnderNoName) {
+TEST_F(DesignSurfaceTest, OwnWidgetsAreNotFoundByName) {
   EXPECT_EQ(surface.Find(u"picResize"), nullptr);
   EXPECT_EQ(surface.Find(u"picInvisible"), nullptr);
   Add(u"VB.TextBox", u"picInvisible");
@@ -315,7 +315,7 @@ TEST_F(DesignSurfaceTest, OwnWidgetsFollowTheScale) {
   EXPECT_EQ(surface.Handle(0).Width(), 105);
 }
 
-TEST_F(DesignSurfaceTest, TellsWhereItsWidgetsAreOnTheScreen) {
+TEST_F(DesignSurfaceTest, WindowRectIsInScreenPixels) {
   Ref<Widget> frame = Add(u"VB.Frame", u"object_1");
   frame->Move(40, 50, 100, 80);
   Ref<Widget> box = Add(u"VB.TextBox", u"object_2", frame.get());
@@ -330,7 +330,7 @@ TEST_F(DesignSurfaceTest, TellsWhereItsWidgetsAreOnTheScreen) {
   EXPECT_EQ(ErrorOf([&] { surface.WindowRect(box.get()); }), 91);
 }
 
-TEST_F(DesignSurfaceTest, KnowsTheMouseWhileAPressIsHandled) {
+TEST_F(DesignSurfaceTest, CursorPositionIsKnownDuringMouseDown) {
   Show();
   bool wasDown = false;
   ScreenPoint at;
@@ -369,7 +369,7 @@ TEST_F(DesignSurfaceTest, APressIsLostWithTheWindow) {
   }
 }
 
-TEST_F(DesignSurfaceTest, GivesTheProcessorBackWhileTheMouseRests) {
+TEST_F(DesignSurfaceTest, YieldSleepsWhileTheMouseRests) {
   Show();
   int turns = 0;
   const auto end = std::chrono::steady_clock::now() + std::chrono::milliseconds(200);
@@ -380,7 +380,7 @@ TEST_F(DesignSurfaceTest, GivesTheProcessorBackWhileTheMouseRests) {
   EXPECT_LT(used, 0.1);
 }
 
-TEST_F(DesignSurfaceTest, ServesWhatHappensWhileItYields) {
+TEST_F(DesignSurfaceTest, YieldProcessesEvents) {
   Show();
   bool served = false;
   QTimer::singleShot(0, [&] { served = true; });
@@ -388,7 +388,7 @@ TEST_F(DesignSurfaceTest, ServesWhatHappensWhileItYields) {
   EXPECT_TRUE(served);
 }
 
-TEST_F(DesignSurfaceTest, ShowsOneLineInAWindowOfItsOwn) {
+TEST_F(DesignSurfaceTest, TooltipShowsOneLineInItsOwnWindow) {
   Show();
   surface.ShowTooltip(u" 8, 16 ", {100, 120});
   auto* label = canvas->findChild<QLabel*>(QStringLiteral("lblPixel"));
@@ -437,7 +437,7 @@ TEST_F(DesignMenuTest, ShowsItsVisibleEntries) {
   EXPECT_EQ(shown.toStdString(), "mnuCut - mnuLock*");
 }
 
-TEST_F(DesignMenuTest, EitherButtonChooses) {
+TEST_F(DesignMenuTest, EitherMouseButtonSelects) {
   for (const Qt::MouseButton button : {Qt::LeftButton, Qt::RightButton}) {
     EXPECT_EQ(ShowAnd([&](QMenu& menu) {
                 const QPoint at = menu.actionGeometry(menu.actions().at(2)).center();

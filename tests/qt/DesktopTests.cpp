@@ -68,7 +68,7 @@ TEST_P(MessageBoxes, AnswerWithTheButtonPressed) {
   EXPECT_EQ(desktop.ShowMessage(u"Really <b>?", GetParam().style, u"Wells"), GetParam().answer);
 }
 
-TEST_F(DesktopTest, AnswersABoxByTheDefaultButtonThatTheStyleNames) {
+TEST_F(DesktopTest, TheStyleChoosesTheDefaultButtonOfAMessageBox) {
   QtDesktop desktop;
   const auto pressEnter = [](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Return); };
   OnNextBox(pressEnter);
@@ -79,7 +79,7 @@ TEST_F(DesktopTest, AnswersABoxByTheDefaultButtonThatTheStyleNames) {
   EXPECT_EQ(desktop.ShowMessage(u"x", BoxStyle::YesNoCancel | 0x200, u"t"), 2);
 }
 
-TEST_F(DesktopTest, AnswersABoxThatIsClosedAsIfItWereCancelled) {
+TEST_F(DesktopTest, AClosedMessageBoxCountsAsCancelled) {
   QtDesktop desktop;
   const auto close = [](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Escape); };
   OnNextBox(close);
@@ -90,7 +90,7 @@ TEST_F(DesktopTest, AnswersABoxThatIsClosedAsIfItWereCancelled) {
   EXPECT_EQ(desktop.ShowMessage(u"x", BoxStyle::OkOnly, u"t"), 1);
 }
 
-TEST_F(DesktopTest, AnswersABoxWhoseWindowGoesAwayAsIfItWereCancelled) {
+TEST_F(DesktopTest, AMessageBoxWhoseWindowIsDeletedCountsAsCancelled) {
   QtDesktop desktop;
   auto window = std::make_unique<QWidget>();
   window->show();
@@ -103,7 +103,7 @@ TEST_F(DesktopTest, AnswersABoxWhoseWindowGoesAwayAsIfItWereCancelled) {
   EXPECT_EQ(desktop.ShowMessage(u"x", BoxStyle::OkCancel, u"t"), 2);
 }
 
-TEST_F(DesktopTest, NamesABoxWithoutATitleAfterTheProgram) {
+TEST_F(DesktopTest, AMessageBoxWithoutTitleBearsTheProgramsName) {
   QtDesktop desktop;
   OnNextBox([](QMessageBox& box) {
     EXPECT_EQ(box.windowTitle(), "Form tests");
@@ -153,7 +153,7 @@ TEST_F(DesktopTest, KnowsTheHandlesOfItsWindows) {
   EXPECT_NE(again.surface.WindowHandle(), handle);
 }
 
-TEST_F(DesktopTest, StartsProgramsAndPassesOverThoseThatAreNotThere) {
+TEST_F(DesktopTest, StartIgnoresMissingPrograms) {
   QtDesktop desktop;
   desktop.Start(u"");
   desktop.Start(u"\"/no such folder/osk.exe\" -x");
@@ -162,7 +162,7 @@ TEST_F(DesktopTest, StartsProgramsAndPassesOverThoseThatAreNotThere) {
   EXPECT_TRUE(QTest::qWaitFor([&] { return FileExists(file); }));
 }
 
-TEST_F(DesktopTest, KeepsSettingsOverItsOwnLife) {
+TEST_F(DesktopTest, SettingsOutliveTheDesktop) {
   {
     QtDesktop desktop;
     EXPECT_EQ(desktop.Settings().Get(u"App", u"Section", u"Key", u"fallback"), u"fallback");
@@ -175,7 +175,7 @@ TEST_F(DesktopTest, KeepsSettingsOverItsOwnLife) {
   EXPECT_EQ(desktop.Settings().Get(u"app", u"section", u"key", u"fallback"), u"");
 }
 
-TEST_F(DesktopTest, KeepsSettingsApartWhateverCharactersTheirNamesHold) {
+TEST_F(DesktopTest, SettingsWithAnyCharactersInTheirNamesStayApart) {
   const std::vector<Text> names = {u"a/b",   u"a\\b",         u"a b",  u"~0020", u"%41",     u"[General]",
                                    u"a=b;c", u"\u00E9\u03B1", u"a\nb", u".",     u"General", Text(u"x\0y")};
   {

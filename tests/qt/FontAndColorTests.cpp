@@ -88,7 +88,7 @@ TEST_F(FontSelector, KeepsTheNameOfAFontThatIsNotInstalledAndSaysSo) {
   }
 }
 
-TEST_F(FontSelector, TellsOfEveryOtherFont) {
+TEST_F(FontSelector, FiresChangeForEachNewFont) {
   Put({.name = u"DejaVu Sans", .size = 10});
   EXPECT_EQ(listener.Take(), "");
   Put({.name = u"DejaVu Sans", .size = 12});
@@ -201,7 +201,7 @@ TEST_F(FontSelector, PaintsItsColours) {
   EXPECT_EQ(PixelAt(NativeOf(*box), {190, 2}), QColor(0, 0, 255));
 }
 
-TEST_F(FontSelector, CanBeTakenAwayByWhoeverIsTold) {
+TEST_F(FontSelector, CanBeRemovedInItsEventHandlers) {
   for (auto* event : {&listener.onBefore, &listener.onChange, &listener.onAfter}) {
     form.Show();
     box->SetListener(&listener);
@@ -323,7 +323,7 @@ TEST_F(ColorSelector, FillsItsTemplateWithTheResolvedColour) {
   EXPECT_EQ(box->Value(u"%g%"), Text::FromUtf8(std::to_string(resolved.green())));
 }
 
-TEST_F(ColorSelector, CanBeTakenAwayWhileItsDialogIsOpen) {
+TEST_F(ColorSelector, CanBeRemovedWhileItsDialogIsOpen) {
   form.Show();
   Meet<QColorDialog>([&](QColorDialog& dialog) {
     form.surface.Remove(u"c");

@@ -96,7 +96,7 @@ TEST_F(DesignerTest, DrawsAControlWhereTheMouseWent) {
   EXPECT_EQ(Outlines(), 0);
 }
 
-TEST_F(DesignerTest, TellsItsHostByTheSignals) {
+TEST_F(DesignerTest, NotifiesItsHostBySignals) {
   QStringList told;
   const auto note = [&told](const QString& what) { told += what; };
   QObject::connect(designer, &FormDesigner::StateChanged,
@@ -209,7 +209,7 @@ TEST_F(DesignerTest, StaysInsideTheSurfaceWhereTheMouseLeavesTheWindow) {
   EXPECT_EQ(PlaceOf(*box), "0,0 150x80");
 }
 
-TEST_F(DesignerTest, TakesTheLastMoveOfAQuickStroke) {
+TEST_F(DesignerTest, AFastDragEndsAtTheLastPosition) {
   const Ref<IControl> box = Draw(ControlTypeEnum::ctTextBox, {40, 50, 100, 30});
   const QPoint from = At(Handle(0), {3, 3});
   Stroke(from, {[&] {
@@ -287,7 +287,7 @@ TEST_F(DesignerTest, TabGoesFromControlToControl) {
   EXPECT_EQ(Object().CurrentControl(), one);
 }
 
-TEST_F(DesignerTest, ALockHoldsTheControlsAndPaintsTheHandlesOtherwise) {
+TEST_F(DesignerTest, LockedControlsStayAndHaveOtherHandles) {
   const Ref<IControl> box = Draw(ControlTypeEnum::ctTextBox, {40, 50, 100, 30});
   const QColor before = Handle(1).grab().toImage().pixelColor(3, 3);
   Object().LockUnlock();
@@ -339,7 +339,7 @@ TEST_F(DesignerTest, TheRightButtonOpensTheMenuOfWhatIsUnderIt) {
   EXPECT_EQ(Object().CurrentControl(), box);
 }
 
-TEST_F(DesignerTest, MeasuresItselfAnewWhenItsWindowGetsAFrameLate) {
+TEST_F(DesignerTest, RemeasuresWhenItsWindowGetsItsFrameLate) {
   QWidget late(nullptr, Qt::FramelessWindowHint);
   late.resize(500, 400);
   auto* const inside = new FormDesigner(&late);
@@ -489,7 +489,7 @@ TEST_F(DesignerTest, AHostMayEndTheDesignerInAnySignal) {
   EXPECT_EQ(object->Controls().Count(), 0);
 }
 
-TEST_F(DesignerTest, AGrownSurfaceInTheMiddleOfADragIsNoHarm) {
+TEST_F(DesignerTest, AResizeDuringADragIsHarmless) {
   const Ref<IControl> box = Draw(ControlTypeEnum::ctTextBox, {40, 50, 100, 30});
   const QPoint from = At(Handle(0), {3, 3});
   Stroke(from, {To(from + QPoint(16, 8)), [&] { designer->resize(0, 0); }, To(from + QPoint(32, 8)),
@@ -531,7 +531,7 @@ TEST_F(DesignerTest, AMultilineTextBoxIsAsNarrowAsItIsDrawn) {
   EXPECT_EQ(PlaceOf(*box), "40,50 19x40");
 }
 
-TEST_F(DesignerTest, ViewersOfTablesStandThereForTheirOwnSake) {
+TEST_F(DesignerTest, TableViewersAreOnlyDrawn) {
   const Ref<IControl> before = Object().CurrentControl();
   EXPECT_EQ(Draw(ControlTypeEnum::ctDbTableViewer, {40, 50, 100, 80}), before);
   EXPECT_EQ(Object().Controls().Count(), 1);

@@ -26,7 +26,7 @@ TEST(Geometry, CountsTwipsFifteenToAPixel) {
   EXPECT_EQ(NativeOf(*widget).x(), 100);
 }
 
-TEST(Geometry, ConvertsWhatIsThereWhenTheScaleChanges) {
+TEST(Geometry, IsConvertedWhenTheScaleChanges) {
   Form form;
   const Ref<Widget> widget = form.Add(u"vb.label", u"a");
   const Ref<ListViewWidget> list = form.Add<ListViewWidget>(u"MSComctlLib.ListViewCtrl.2", u"l");
@@ -51,7 +51,7 @@ TEST(Geometry, CountsPixelsInEveryScaleButTwips) {
   EXPECT_EQ(NativeOf(*widget).geometry(), QRect(10, 20, 30, 40));
 }
 
-TEST(Geometry, RefusesSizesBelowZeroAndWhatIsNoNumber) {
+TEST(Geometry, RefusesNegativeAndNonFiniteSizes) {
   Form form;
   const Ref<Widget> widget = form.Add(u"vb.label", u"a");
   widget->Move(1, 2, 3, 4);
@@ -101,7 +101,7 @@ TEST(Geometry, KeepsTheSizeOfTheSurfaceAsItWasAskedFor) {
   EXPECT_EQ(form.surface.Height(), 3000);
 }
 
-TEST(Geometry, RestacksWidgets) {
+TEST(Geometry, ZOrderMovesWidgetsToFrontAndBack) {
   Form form;
   const Ref<Widget> a = form.Add(u"vb.label", u"a");
   const Ref<Widget> b = form.Add(u"vb.label", u"b");
@@ -139,7 +139,7 @@ TEST(HostWindow, CountsItsSizeInTwipsWithTheFrame) {
   EXPECT_EQ(form.window.size(), QSize(500, 200));
 }
 
-TEST(HostWindow, IsNoneWhereTheCanvasStandsAlone) {
+TEST(HostWindow, IsNullForACanvasThatIsAWindow) {
   QWidget canvas;
   const QtSurface surface(canvas);
   EXPECT_FALSE(surface.Host());

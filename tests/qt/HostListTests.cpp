@@ -109,7 +109,7 @@ class HostList : public testing::Test {
 using ThemeSelector = HostList;
 using AttributeSelector = HostList;
 
-TEST_F(ThemeSelector, AsksForNothingUntilItIsToldTo) {
+TEST_F(ThemeSelector, AsksTheHostOnlyOnRefresh) {
   form.Show();
   EXPECT_EQ(themes->ListCount(), 0);
   EXPECT_EQ(themes->ListIndex(), -1);
@@ -174,7 +174,7 @@ TEST_F(ThemeSelector, KeepsItsChoiceWhereANameOfAnotherCaseComesBeforeIt) {
   EXPECT_EQ(themes->ListIndex(), 1);
 }
 
-TEST_F(ThemeSelector, TellsOfWhatAPersonChooses) {
+TEST_F(ThemeSelector, FiresClickWhenTheUserChooses) {
   themes->RefreshThemes();
   form.Show();
   themes->SetFocus();
@@ -200,7 +200,7 @@ TEST_F(ThemeSelector, ShowsItsListWithAScrollBarAndWideEnough) {
   Themes().hidePopup();
 }
 
-TEST_F(ThemeSelector, HasTheEntryThatCreatesAThemeBehindTheOthersOnly) {
+TEST_F(ThemeSelector, TheEntryForANewThemeIsLastAndNotCounted) {
   themes->RefreshThemes();
   themes->SetListIndex(4);
   themes->SetCreateThemeText(u"New theme\u2026");
@@ -259,7 +259,7 @@ TEST_F(ThemeSelector, CreatesAThemeAndChoosesIt) {
   EXPECT_EQ(listener.Take(), "click");
 }
 
-TEST_F(ThemeSelector, StaysAsItWasWhereNothingIsCreated) {
+TEST_F(ThemeSelector, StaysUnchangedWhenNoThemeIsCreated) {
   themes->SetCreateThemeText(u"New");
   themes->RefreshThemes();
   themes->SetListIndex(1);
@@ -334,7 +334,7 @@ TEST_F(ThemeSelector, TakesTenThousandNamesAtOnce) {
   Themes().hidePopup();
 }
 
-TEST_F(ThemeSelector, StandsNamesOfAnyKind) {
+TEST_F(ThemeSelector, ListsNamesOfAnyLengthAndCharacters) {
   const std::u16string giant(5'000'000, u'x');
   host->replies[u"THEME_NAMES"] = Text(u"a\nb," + giant + u",\u0001,\"q\",&amp;,<b>x</b>");
   themes->RefreshThemes();
@@ -355,7 +355,7 @@ TEST_F(AttributeSelector, ListsNothingWithoutALink) {
   EXPECT_EQ(host->Take(), "");
 }
 
-TEST_F(AttributeSelector, FollowsTheThemeBeforeItsClickIsTold) {
+TEST_F(AttributeSelector, FollowsTheThemeBeforeItsClickEvent) {
   Link();
   EXPECT_EQ(attributes->ListCount(), 0);
   std::string seen;
@@ -437,7 +437,7 @@ TEST_F(AttributeSelector, CanGoBeforeWhatItFollows) {
   attributes = form.AddAt<AttributeSelectorWidget>(1, u"CardwrightCtrl.AttributeSelector", u"a");
 }
 
-TEST_F(AttributeSelector, ShowsTypesOfTheRowsThatAreSeen) {
+TEST_F(AttributeSelector, AsksForTypesOfVisibleRowsOnly) {
   Link();
   themes->SetDisplayText(u"wells");
   host->Take();
@@ -469,7 +469,7 @@ TEST_F(AttributeSelector, AsksForNoMoreTypesThanItShows) {
   list.hidePopup();
 }
 
-TEST_F(AttributeSelector, OutlivesAHostThatTakesItAwayWhileItAnswers) {
+TEST_F(AttributeSelector, SurvivesRemovalDuringAHostRequest) {
   Link();
   host->onRequest = [&](std::u16string_view) { form.surface.Remove(u"a"); };
   themes->SetDisplayText(u"wells");

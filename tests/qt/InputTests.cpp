@@ -52,7 +52,7 @@ class EventCount final : public QObject {
 class EveryWidget : public testing::TestWithParam<std::u16string_view> {};
 INSTANTIATE_TEST_SUITE_P(, EveryWidget, testing::ValuesIn(kIdentifiers));
 
-TEST_P(EveryWidget, TellsMouseEventsAndKeepsThemFromTheSurface) {
+TEST_P(EveryWidget, FiresMouseEventsAndHidesThemFromTheSurface) {
   Form form;
   const Ref<Widget> widget = form.AddAt(0, GetParam(), u"a");
   widget->Move(10, 10, 120, 60);
@@ -87,7 +87,7 @@ TEST_P(EveryWidget, CountsTheMouseInTheScaleOfTheSurface) {
   EXPECT_EQ(listener.Take(), "down2+0@105,135 up2+0@105,135");
 }
 
-TEST_P(EveryWidget, StaysQuietWhileItIsSwitchedOff) {
+TEST_P(EveryWidget, FiresNoEventsWhileItIsDisabled) {
   Form form;
   const Ref<Widget> widget = form.AddAt(0, GetParam(), u"a");
   form.Show();
@@ -241,13 +241,13 @@ class EveryField : public testing::TestWithParam<std::u16string_view> {
 INSTANTIATE_TEST_SUITE_P(, EveryField,
                          testing::Values(u"vb.textbox", u"CardwrightCtrl.MultilineTextBox", u"vb.combobox"));
 
-TEST_P(EveryField, TakesTypedTextAndTellsOfTheChange) {
+TEST_P(EveryField, TakesTypedTextAndFiresChange) {
   QTest::keyClicks(&NativeOf(*field), "a1");
   EXPECT_EQ(field->DisplayText(), u"a1");
   EXPECT_EQ(listener.Take(), "key65 char97 change key49 char49 change");
 }
 
-TEST_P(EveryField, DropsAndReplacesWhatTheListenerSays) {
+TEST_P(EveryField, DropsAndReplacesKeysAsTheListenerSays) {
   listener.onKeyPress = [](char16_t& key) {
     if (key == u'.') key = u',';
     if (key == u'x') key = 0;
@@ -290,7 +290,7 @@ TEST_P(EveryField, LetsTheListenerRewriteTheTextUnderTheKey) {
   EXPECT_EQ(field->DisplayText(), u"-123");
 }
 
-TEST_P(EveryField, LetsTabGoOn) {
+TEST_P(EveryField, PassesTabOn) {
   const Ref<Widget> next = form.AddAt(3, u"vb.textbox", u"next");
   listener.onKeyDown = [](int& keyCode, int& /*shift*/) { keyCode = 0; };
   QTest::keyClick(&NativeOf(*field), Qt::Key_Tab);
@@ -350,7 +350,7 @@ TEST(Enter, ReachesTheFormFromAListAndFromAComboThatDropsEveryKey) {
   EXPECT_EQ(keys.count, 2);
 }
 
-TEST(Focus, IsToldWhenItMovesBetweenWidgets) {
+TEST(Focus, FiresEventsWhenItMovesBetweenWidgets) {
   Form form;
   const Ref<Widget> a = form.AddAt(0, u"vb.textbox", u"a");
   const Ref<Widget> b = form.AddAt(1, u"CardwrightCtrl.MultilineTextBox", u"b");
@@ -364,7 +364,7 @@ TEST(Focus, IsToldWhenItMovesBetweenWidgets) {
   EXPECT_EQ(second.Take(), "got");
 }
 
-TEST(Focus, IsNotToldWhenAnotherWindowHasItForAWhile) {
+TEST(Focus, FiresNoEventWhileAnotherWindowIsActive) {
   Form form;
   const Ref<Widget> a = form.AddAt(0, u"vb.textbox", u"a");
   Listener listener;
@@ -384,7 +384,7 @@ TEST(Focus, IsNotToldWhenAnotherWindowHasItForAWhile) {
   EXPECT_EQ(listener.Take(), "");
 }
 
-TEST(Focus, IsToldLateWhereItComesBackToAnotherWidget) {
+TEST(Focus, FiresLostFocusLateWhenItReturnsToAnotherWidget) {
   Form form;
   const Ref<Widget> a = form.AddAt(0, u"vb.textbox", u"a");
   const Ref<Widget> b = form.AddAt(1, u"vb.textbox", u"b");
@@ -407,7 +407,7 @@ TEST(Focus, IsToldLateWhereItComesBackToAnotherWidget) {
   EXPECT_EQ(second.Take(), "got");
 }
 
-TEST(Focus, IsNotToldWhenAComboOpensItsList) {
+TEST(Focus, FiresNoEventWhenAComboOpensItsList) {
   Form form;
   const Ref<ComboWidget> combo = form.AddAt<ComboWidget>(0, u"vb.combobox", u"c");
   combo->AddItem(u"one");
@@ -461,7 +461,7 @@ TEST(Focus, KeepsItsOrderWhenTheCanvasMovesIntoAnotherWindow) {
   EXPECT_EQ(QApplication::focusWidget(), &NativeOf(*c));
 }
 
-TEST(ContextMenu, StaysAwayAfterAHandlerThatSwitchedItsWidgetOff) {
+TEST(ContextMenu, StaysClosedAfterAMouseDownHandlerDisabledTheWidget) {
   Form form;
   const Ref<Widget> box = form.AddAt(0, u"vb.textbox", u"a");
   form.Show();

@@ -73,7 +73,7 @@ TEST_F(ListView, ClicksAfterTheSelectionHasMoved) {
   EXPECT_EQ(Told(), "click");
 }
 
-TEST_F(ListView, TellsOfMarksThatAPersonSets) {
+TEST_F(ListView, FiresItemCheckWhenTheUserTogglesABox) {
   list->SetCheckBoxes(true);
   EXPECT_TRUE(list->HasCheckBoxes());
   ClickMark(2);
@@ -91,7 +91,7 @@ TEST_F(ListView, TellsOfMarksThatAPersonSets) {
   EXPECT_EQ(Told(), "key32 char32 check1");
 }
 
-TEST_F(ListView, KeepsQuietAboutMarksThatCodeSets) {
+TEST_F(ListView, FiresNoItemCheckWhenCodeSetsABox) {
   list->SetCheckBoxes(true);
   list->SetRowChecked(1, true);
   list->SetRowText(1, u"uno");

@@ -64,7 +64,7 @@ TEST(Look, ShowsTheColoursOfALabel) {
   EXPECT_EQ(NativeOf(*label).palette().color(QPalette::WindowText), QColor(255, 0, 0));
 }
 
-TEST(Look, ShowsTheGroundOfWhatHasACaption) {
+TEST(Look, ShowsTheBackgroundOfCaptionWidgets) {
   Form form;
   int row = 0;
   for (const char16_t* kind : {u"vb.label", u"vb.frame", u"vb.checkbox", u"vb.optionbutton"}) {
@@ -131,7 +131,7 @@ TEST(Look, FollowsThePaletteOfTheDesktop) {
   EXPECT_EQ(form.canvas->palette().color(QPalette::Window), QColor(4, 5, 6));
 }
 
-TEST(Look, ShowsTheGroundOfAListWithoutEditField) {
+TEST(Look, ShowsTheBackgroundOfAListWithoutEditField) {
   Form form;
   const Ref<Widget> combo = form.AddAt(0, u"vb.combobox", u"c");
   combo->SetBackColor(Rgb(255, 255, 0));

@@ -54,7 +54,7 @@ TEST(PathList, IsShownInQuotesAndTypedBackTheSame) {
   }
 }
 
-TEST(PathList, LeavesWhatIsNoListAsItWasTyped) {
+TEST(PathList, LeavesOtherTextAsItWasTyped) {
   for (const char* text :
        {"\"/a/b.txt\"", "\"/a\" x", "\"/a\" \"b", "a \"b\" \"c\"", "\"\" \"\"", "\"", " /a "})
     EXPECT_EQ(TypedPaths(QString::fromUtf8(text)), QString::fromUtf8(text));
@@ -83,7 +83,7 @@ TEST(Filters, AreThoseOfTheToolkit) {
   EXPECT_EQ(NamePatterns("A|*.txt;*.csv|B|*.txt").join(u' '), "*.txt *.csv");
 }
 
-TEST(Filters, TellTheSuffixOfANewFile) {
+TEST(Filters, GiveTheSuffixOfANewFile) {
   EXPECT_EQ(SuffixOf("Texts (*.txt *.csv)"), "txt");
   EXPECT_EQ(SuffixOf("Archives (*.tar.gz)"), "tar.gz");
   EXPECT_EQ(SuffixOf("All files (*)"), "");

@@ -85,7 +85,7 @@ TEST_F(Resource, StartsEmptyForOneFileToOpen) {
   EXPECT_EQ(box->Filter() + box->Title() + box->StartFolder(), u"");
 }
 
-TEST_F(Resource, TellsOfEveryOtherPathOnce) {
+TEST_F(Resource, FiresChangeOncePerNewPath) {
   box->SetPath(u"/a");
   EXPECT_EQ(listener.Take(), "change");
   box->SetPath(u"/a");
@@ -257,7 +257,7 @@ TEST_F(Resource, IsClickedOnItsField) {
   EXPECT_EQ(listener.Take(), "got down1+0@10,10 up1+0@10,10 click");
 }
 
-TEST_F(Resource, LetsNobodyTypeWhereThatIsSwitchedOff) {
+TEST_F(Resource, TakesNoTypingWhenInputTextIsDisabled) {
   box->SetInputTextEnabled(false);
   box->SetStartFolder(FromQString(folder.path()));
   form.Show();
@@ -327,7 +327,7 @@ TEST_F(Resource, CompletesATypedPathByWhatIsThere) {
   EXPECT_EQ(listener.Take().find("lost"), std::string::npos);
 }
 
-TEST_F(Resource, ColoursItsFieldAndItsGround) {
+TEST_F(Resource, ColoursItsFieldAndItsBackground) {
   box->SetBackColor(Rgb(255, 255, 0));
   box->SetBackColorBkg(Rgb(0, 0, 255));
   EXPECT_EQ(Edit().palette().color(QPalette::Base), QColor(255, 255, 0));
@@ -335,7 +335,7 @@ TEST_F(Resource, ColoursItsFieldAndItsGround) {
   EXPECT_EQ(box->BackColorBkg(), Rgb(0, 0, 255));
 }
 
-TEST_F(Resource, CanBeTakenAwayByWhoeverIsTold) {
+TEST_F(Resource, CanBeRemovedInItsEventHandlers) {
   for (auto* event : {&listener.onBefore, &listener.onChange, &listener.onAfter}) {
     form.Show();
     box->SetListener(&listener);
@@ -352,7 +352,7 @@ TEST_F(Resource, CanBeTakenAwayByWhoeverIsTold) {
   }
 }
 
-TEST_F(Resource, CanBeTakenAwayWhileItsDialogIsOpen) {
+TEST_F(Resource, CanBeRemovedWhileItsDialogIsOpen) {
   form.Show();
   Meet<QFileDialog>([&](QFileDialog& dialog) {
     form.surface.Remove(u"r");

@@ -22,7 +22,7 @@ class EveryTextBox : public testing::TestWithParam<std::u16string_view> {
 };
 INSTANTIATE_TEST_SUITE_P(, EveryTextBox, testing::Values(u"vb.textbox", u"CardwrightCtrl.MultilineTextBox"));
 
-TEST_P(EveryTextBox, TellsOfATextThatCodeSetsIfItDiffers) {
+TEST_P(EveryTextBox, FiresChangeForANewTextSetByCode) {
   box->SetDisplayText(u"abc");
   EXPECT_EQ(listener.Take(), "change");
   box->SetDisplayText(u"abc");

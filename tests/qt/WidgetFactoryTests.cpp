@@ -38,7 +38,7 @@ INSTANTIATE_TEST_SUITE_P(
         KindCase{u"CardwrightCtrl.FontSelector", u"FontSelector", "QWidget", kField, kFieldText},
         KindCase{u"CardwrightCtrl.ColorSelector", u"ColorSelector", "QWidget", kFace, kFaceText}));
 
-TEST_P(EveryKind, StartsHiddenWithTheColoursOfItsKindWhateverTheCaseOfItsIdentifier) {
+TEST_P(EveryKind, StartsHiddenWithTheColoursOfItsKind) {
   Form form;
   const Ref<Widget> widget = form.surface.Add(GetParam().identifier, u"object_1", nullptr);
   EXPECT_EQ(widget->TypeName(), GetParam().typeName);
@@ -116,7 +116,7 @@ TEST_P(EveryKind, HoldsItsTextAndItsTagAsTheyWereSet) {
   EXPECT_EQ(widget->DisplayText(), text);
 }
 
-TEST(Surface, RefusesANameThatExistsWhateverItsCase) {
+TEST(Surface, RefusesANameThatExistsInAnyCase) {
   Form form;
   form.Add(u"vb.label", u"Object_1");
   EXPECT_EQ(ErrorOf([&] { form.surface.Add(u"vb.textbox", u"OBJECT_1", nullptr); }), 727);
@@ -134,7 +134,7 @@ TEST(Surface, RefusesAnUnknownIdentifier) {
   EXPECT_TRUE(form.canvas->children().isEmpty());
 }
 
-TEST(Surface, PutsWidgetsIntoFramesAndIntoNothingElse) {
+TEST(Surface, TakesOnlyFramesAsContainers) {
   Form form;
   const Ref<Widget> frame = form.Add(u"vb.frame", u"box");
   const Ref<Widget> inner = form.Add(u"vb.label", u"inner", frame.get());
@@ -156,7 +156,7 @@ TEST(Surface, RemovesAFrameWithWhatItContains) {
   form.surface.Remove(u"box");  // passed over
 }
 
-TEST(Surface, TellsItsWidgetsTheObjectThatScriptsKnowAsTheirParent) {
+TEST(Surface, SetControlGivesWidgetsTheirParent) {
   Form form;
   const Ref<Object> control = MakeRef<Font>();
   form.surface.SetControl(control.get());

@@ -37,24 +37,24 @@ struct GridPoints {
 /// What the form designer asks of the toolkit around it, beyond what every visual control asks.
 ///
 /// The surface owns nine grab handles and a box that holds the keyboard focus out of sight. They are widgets
-/// like others, but stand under no name: no project can clash with them.
+/// like others, but have no name on the surface: no project can clash with them.
 ///
 /// A numbered error of a listener's handler ends with the handler. A handler may end the designer and the
 /// surface with it.
 class DesignSurface : public Surface {
  public:
   /// @name What happens on the surface itself
-  /// The one listener hears of mouse and click on the bare surface (coordinates in its scale), of key-down
-  /// wherever on the surface the focus is, and of each change of the surface's size, at once and whether or
-  /// not it is seen. No click follows a press in which the mouse was released by ReleaseMouse. Null takes the
-  /// listener away.
+  /// The one listener gets the mouse events and clicks of the bare surface (coordinates in its scale), of
+  /// key-down wherever on the surface the focus is, and of each change of the surface's size, at once and
+  /// whether or not it is seen. No click follows a press in which the mouse was released by ReleaseMouse.
+  /// Null takes the listener away.
   virtual void SetListener(WidgetListener* listener) = 0;
 
   /// @name Appearance
   /// @{
   virtual OleColor ForeColor() const = 0;
   virtual void SetForeColor(OleColor color) = 0;
-  /// Pointer over the surface and everything that stands on it.
+  /// Pointer over the surface and its widgets.
   virtual PointerShape Pointer() const = 0;
   virtual void SetPointer(PointerShape pointer) = 0;
   /// Pointer over the whole screen; Default gives each window its own again.
@@ -73,8 +73,8 @@ class DesignSurface : public Surface {
   /// @{
   /// One of the handles, 0 to 8: hidden at first. Their events go to their own listeners.
   virtual PictureWidget& Handle(int index) = 0;
-  /// Puts all handles into a container, or on the surface itself for null, in front of what stands there.
-  /// They come back to the surface, hidden, where a container ends with them inside.
+  /// Moves all handles into a container, or onto the surface itself for null, in front of its other widgets.
+  /// They come back to the surface, hidden, where a container is removed with them inside.
   virtual void PutHandlesInto(Widget* container) = 0;
   /// The box that holds the focus.
   virtual PictureWidget& FocusHolder() = 0;
@@ -95,8 +95,8 @@ class DesignSurface : public Surface {
   /// Outer rectangle of a widget that has a window of its own; that of the surface for null. Error 91 for a
   /// widget that is gone.
   virtual ScreenRect WindowRect(const Widget* widget) const = 0;
-  /// Serves what has happened, then waits a few milliseconds for more: a loop that polls the mouse takes
-  /// no processor while the mouse rests, and the window stays alive. The designer may end meanwhile.
+  /// Processes pending events, then waits a few milliseconds for more: a loop that polls the mouse uses no
+  /// processor time while the mouse rests, and the window stays responsive. The designer may end meanwhile.
   virtual void Yield() = 0;
   /// Shows a rectangle's outline above everything on the surface, in place of the one shown before; none
   /// takes it away without a trace. `penWidth` is in pixels.
@@ -110,7 +110,7 @@ class DesignSurface : public Surface {
   /// Shows a menu at the mouse pointer and waits until an entry is chosen: its name, or "" where the menu was
   /// left without a choice. Either mouse button chooses. Entries that are not visible are left out.
   virtual Text ShowPopupMenu(std::span<const Ref<MenuItem>> items) = 0;
-  /// Tells the container that what it keeps in its property bag under this name has changed.
+  /// Notifies the container that a property of this name, which its property bag keeps, has changed.
   virtual void NotifyPropertyChanged(std::u16string_view name) = 0;
 };
 

@@ -45,8 +45,8 @@ class Desktop {
                           const Variant& y) = 0;
   /// Whether somebody is there to answer a box.
   virtual bool IsAttended() const = 0;
-  /// For work that takes long: serves the toolkit's events, but of a person's hands only the Break key; what
-  /// else was pressed or clicked is passed over, and timers wait. True where Break was pressed.
+  /// For work that takes long: processes the toolkit's events, but of a person's hands only the Break key;
+  /// what else was pressed or clicked is dropped, and timers are held back. True where Break was pressed.
   virtual bool BreakPressed() = 0;
   virtual void Beep() = 0;
   /// The widget that has the focus, or null.
@@ -55,7 +55,7 @@ class Desktop {
   virtual OleColor ResolveColor(OleColor color) const = 0;
   /// True for a handle of a window of this process.
   virtual bool IsWindow(std::int32_t handle) const = 0;
-  /// Starts a program by its command line and returns at once; a program that is not there is passed over.
+  /// Starts a program by its command line and returns at once; a program that does not exist is ignored.
   virtual void Start(const Text& commandLine) = 0;
   /// What no two texts have in common: the SHA-256 digest of a text's UTF-8, in hexadecimal digits.
   virtual Text Digest(const Text& text) const = 0;

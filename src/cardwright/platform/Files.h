@@ -28,12 +28,12 @@ std::optional<std::string> ReadFile(const std::filesystem::path& path);
 /// What a replaced file outlives.
 enum class Durability {
   Crash,      ///< the end of the program at any moment; a power cut soon after may cost the content
-  PowerLoss,  ///< that of the machine too, which takes a wait for the disk
+  PowerLoss,  ///< the loss of power too, which waits for the disk
 };
 
 /// Puts the bytes in the file's place in one step: a reader or a crash meets the old file or the new one,
-/// never a part. Links are followed, the mode is kept. False where it cannot be done; the old file then
-/// stands.
+/// never a part. Links are followed, the mode is kept. False where it cannot be done; the old file is
+/// kept.
 bool ReplaceFile(const std::filesystem::path& path, std::string_view bytes,
                  Durability durability = Durability::PowerLoss);
 

@@ -41,7 +41,7 @@ double ToFontSize(double points) {
 void Font::Assign(FontValues values) {
   if (values == m_Values) return;
   m_Values = std::move(values);
-  // A user that is told may remove itself or another one.
+  // A user that is notified may remove itself or another one.
   const Ref<Font> held(IsHeld() ? this : nullptr);
   const std::vector<User*> users = m_Users;
   for (User* user : users) {

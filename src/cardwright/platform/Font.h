@@ -29,7 +29,7 @@ class Font final : public TableObject {
 
   Text TypeName() const override { return u"Font"; }
   const FontValues& Values() const noexcept { return m_Values; }
-  /// Changes all members in one step and tells each user of the font once, if anything differs.
+  /// Changes all members in one step and notifies each user of the font once, if anything differs.
   void Assign(FontValues values);
 
   /// Called whenever the font has changed, until the user removes itself.

@@ -4,7 +4,7 @@
 
 namespace cardwright {
 
-/// A desktop in front of another one, to which it hands on everything but what it does itself.
+/// Forwards each request to another desktop. A class derived from it answers those that it overrides.
 class ForwardingDesktop : public Desktop {
  public:
   int ShowMessage(const Text& text, int style, const Text& title) override {

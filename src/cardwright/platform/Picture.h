@@ -8,7 +8,7 @@
 
 namespace cardwright {
 
-/// A picture in memory, without transparency. Pixels stand in rows from the bottom up, each from left to
+/// A picture in memory, without transparency. Pixels are in rows from the bottom up, each from left to
 /// right, as form projects store them. By name: Width, Height (in pixels).
 class Picture final : public TableObject {
  public:

@@ -4,7 +4,7 @@
 
 namespace cardwright {
 
-/// Unit of a form's geometry. The numbers stand in form projects.
+/// Unit of a form's geometry. Form projects hold the numbers.
 enum class ScaleMode : std::int32_t { Twips = 1, Pixels = 3 };
 
 /// A twip is 1/1440 inch; the platform that the file format comes from has 96 pixels to the inch.

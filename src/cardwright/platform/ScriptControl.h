@@ -37,7 +37,7 @@ class ScriptModule : public RefCounted {
   virtual std::vector<ScriptProcedure> Procedures() const = 0;
 };
 
-/// The script engine that a form drives. Failures are numbered errors; those inside a script stand in
+/// The script engine that a form drives. Failures are numbered errors; those inside a script are in
 /// LastError too. Calls nest: what a script calls may call the control again, and may reset it; the code that
 /// runs then ends in the engine that it began in.
 class ScriptControl : public RefCounted {
@@ -55,7 +55,7 @@ class ScriptControl : public RefCounted {
   virtual void SetAllowUI(bool allowed) = 0;
   /// Adds an object under a name, its members global where asked for.
   virtual void AddObject(std::u16string_view name, Ref<Object> object, bool addMembers) = 0;
-  /// Compiles into the global module and runs what stands outside procedures.
+  /// Compiles into the global module and runs the statements outside procedures.
   virtual void AddCode(std::u16string_view code) = 0;
   virtual Ref<ScriptModule> AddModule(std::u16string_view name) = 0;
   /// The global module, whose name is "Global", and those added, in the order of their addition.

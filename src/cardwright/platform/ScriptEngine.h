@@ -30,7 +30,7 @@ class ScriptHost {
   virtual Ref<Object> LoadPicture(std::u16string_view path);
   /// Title of boxes that name none.
   virtual Text BoxTitle() const;
-  /// Whether what the host does for scripts may ask a person anything. Until it is told, it may.
+  /// Whether what the host does for scripts may ask a person anything. Initially it may.
   virtual void SetAllowUI(bool allowed);
   /// Whether the running script should stop. Engines poll it during a long call from outside, a few times a
   /// second, on the script's thread and between two steps of the script: the host may take its time to answer
@@ -38,19 +38,19 @@ class ScriptHost {
   virtual bool ShouldStop();
 };
 
-/// Told of each statement before it runs, for tracing and profiling. In code that a script made itself lines
-/// and columns are 0.
+/// Called for each statement before it runs, for tracing and profiling. In code that a script made itself
+/// lines and columns are 0.
 class ScriptObserver {
  public:
   virtual ~ScriptObserver() = default;
   virtual void OnStatement(std::u16string_view module, int line, int column) = 0;
-  /// A procedure is about to return to the statement that called it, which goes on.
+  /// A procedure is about to return to the statement that called it.
   virtual void OnReturn(std::u16string_view module, int line, int column);
 };
 
 /// One instance of a script language: code in modules, objects given by the program, procedures called by
 /// name. Belongs to the thread that made it, but for Interrupt. Failures are numbered errors; those inside a
-/// script stand in LastError too. Calls may nest: what a script calls may call the engine again.
+/// script are in LastError too. Calls may nest: what a script calls may call the engine again.
 class ScriptEngine {
  public:
   virtual ~ScriptEngine() = default;
@@ -61,7 +61,7 @@ class ScriptEngine {
   /// Adds a named module: code of its own that also sees the global module's, the empty name's. Error 5 where
   /// the name is taken, whatever its case.
   virtual void AddModule(std::u16string_view name) = 0;
-  /// Compiles code into a module and runs what stands outside procedures.
+  /// Compiles code into a module and runs the statements outside procedures.
   virtual void AddCode(std::u16string_view module, std::u16string_view code) = 0;
   /// Calls a procedure of the module. Error 5 where there is none.
   virtual Variant Run(std::u16string_view module, std::u16string_view procedure, Args args) = 0;

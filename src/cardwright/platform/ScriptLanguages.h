@@ -11,7 +11,7 @@ namespace cardwright {
 
 /// A script language and what can be done with its sources. Each room with an engine gives its own.
 struct ScriptLanguage {
-  std::u16string_view name;       ///< "VBScript"; it also stands in messages
+  std::u16string_view name;       ///< "VBScript"; messages show it too
   std::u16string_view extension;  ///< of script files, without the dot
   /// A new engine. `host` must outlive it.
   std::unique_ptr<ScriptEngine> (*makeEngine)(ScriptHost& host);

@@ -5,11 +5,11 @@
 namespace cardwright {
 
 /// A widget with which a person chooses a value of one kind: a path, a theme, an attribute, a font or a
-/// colour. Events: the click; those of a kind are told with it.
+/// colour. Events: the click; further ones are named at each kind.
 class SelectorWidget : public Widget {
  public:
-  /// A locked selector shows its value and lets nobody change it: it opens nothing and takes no typing, while
-  /// its events come as ever.
+  /// A locked selector shows its value and lets nobody change it: it opens nothing and takes no typing, but
+  /// fires its events as usual.
   virtual bool IsLocked() const = 0;
   virtual void SetLocked(bool locked) = 0;
 };
@@ -77,8 +77,7 @@ class HostListWidget : public SelectorWidget {
 /// 2 polygons, -1 where it is another one or unknown.
 class ThemeSelectorWidget : public HostListWidget {
  public:
-  /// Caption of the entry behind the themes that creates one; "" for no such entry. It does not count in the
-  /// list.
+  /// Caption of the row after the themes that creates one; "" for no such row. It does not count in the list.
   virtual Text CreateThemeText() const = 0;
   virtual void SetCreateThemeText(const Text& text) = 0;
   /// Asks the host for the themes. The chosen theme stays where it is still there.
@@ -100,8 +99,8 @@ class AttributeSelectorWidget : public HostListWidget {
   /// Follows a theme selector: asks for the attributes anew whenever its theme changes. Null unlinks; the
   /// list is then empty. The other widget may end before this one.
   virtual void LinkThemeSelector(Ref<ThemeSelectorWidget> themes) = 0;
-  /// Follows a combo box whose entries are points, arcs and polygons: what is chosen there stands in for
-  /// FeatureType, which counts while nothing is. Null unlinks.
+  /// Follows a combo box whose entries are points, arcs and polygons: what is chosen there replaces
+  /// FeatureType, which counts while nothing is chosen. Null unlinks.
   virtual void LinkFeatureSelector(Ref<ComboWidget> types) = 0;
   /// Asks the host for the attributes. The chosen attribute stays where the new list has it, whatever its
   /// case.

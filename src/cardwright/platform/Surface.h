@@ -59,7 +59,7 @@ class Surface {
   virtual float Height() const = 0;
   virtual void Resize(float width, float height) = 0;
 
-  /// The host's window, or null while the control stands in none.
+  /// The host's window, or null while the control is in none.
   virtual Ref<HostWindow> Host() const = 0;
   virtual FrameSize HostFrame() const = 0;
   /// True where the host's top-level window has a raised and a sunken edge beside its frame.

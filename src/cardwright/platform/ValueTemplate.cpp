@@ -72,7 +72,7 @@ Text Fill(std::u16string_view mask, Placeholders own, const FontAndColor& chosen
     const Placeholder* const named =
         close == mask.npos ? nullptr : FindPlaceholder(mask.substr(1, close - 1), own);
     if (named) filled += named->value(chosen).View();
-    // A mark that opens nothing may stand before one that does: "%%r%".
+    // A "%" that opens no placeholder may precede one that does: "%%r%".
     if (!named) filled += u'%';
     mask.remove_prefix(named ? close + 1 : 1);
   }

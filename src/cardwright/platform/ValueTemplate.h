@@ -7,9 +7,9 @@
 
 namespace cardwright {
 
-/// @name Templates of the values that font and colour selectors give to the host. Placeholders stand between
+/// @name Templates of the values that font and colour selectors give to the host. Placeholders are between
 /// "%" in any case: `%r%`, `%g%` and `%b%`, the components of the colour, are known to both. What is no
-/// placeholder stays as it stands, and what was put in is not looked at again. Colours are to be resolved: a
+/// placeholder stays as it is, and inserted values are not expanded again. Colours are to be resolved: a
 /// value has to mean the same on every machine.
 /// @{
 

@@ -47,7 +47,7 @@ class Widget : public TableObject {
   virtual Text Tag() const = 0;
   virtual void SetTag(const Text& tag) = 0;
 
-  /// The widget that contains this one; null where it stands on the surface itself.
+  /// The widget that contains this one; null where it is directly on the surface.
   virtual Ref<Widget> Container() const = 0;
   /// The surface's visual control, as scripts see it, or null.
   virtual Ref<Object> Parent() const = 0;

@@ -10,7 +10,7 @@ namespace cardwright::qt {
 
 namespace {
 
-/// A control as it stands in its container.
+/// A control and its place in its container.
 struct Field {
   const IControl* control;
   QWidget* native;

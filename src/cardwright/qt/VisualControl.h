@@ -7,8 +7,7 @@
 namespace cardwright::qt {
 
 /// One of the library's visual controls as a widget that a Qt host places like any other. Its size hint is
-/// the size that the form needs; the control's own members are reached by the object behind it and, in C++,
-/// directly.
+/// the size that the form needs. The control's own members belong to the object that Control gives.
 class VisualControl : public QWidget {
   Q_OBJECT
  public:
@@ -23,8 +22,8 @@ class VisualControl : public QWidget {
   QSize sizeHint() const override { return m_Needed; }
 
  Q_SIGNALS:
-  /// Outer size of the form: what the control measures, and the frame of the host's window as far as that has
-  /// one yet. A form that is filled in tells it in its own scale (FormScaleMode), a designer in twips.
+  /// Outer size of the form: the control and the frame of the host's window, if that has one yet. Unit: for a
+  /// form that is filled in its own scale (FormScaleMode), for a designer twips.
   void NeedResize(float width, float height);
 
  protected:

@@ -58,7 +58,7 @@ void TerminalBreak::OnSignal() {
   QCoreApplication::sendEvent(this, &stroke);
 }
 
-// The stroke comes this far where nobody took it on its way.
+// The key comes this far only where nothing consumed it.
 bool TerminalBreak::event(QEvent* event) {
   if (event->type() != QEvent::KeyPress) return QObject::event(event);
   sigaction(SIGINT, &m_Before, nullptr);

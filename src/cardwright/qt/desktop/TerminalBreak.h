@@ -8,8 +8,8 @@ class QSocketNotifier;
 namespace cardwright::qt {
 
 /// While it lives, Ctrl+C in the terminal is the Break key: it asks whether a script that runs is to stop.
-/// Where no script waits for the key, and with the second Ctrl+C in any case, the program ends as it would
-/// without this. One at a time; needs an application object.
+/// Where no script runs, and on the second Ctrl+C in any case, the program ends as it would without this. One
+/// at a time; needs an application object.
 class TerminalBreak final : public QObject {
  public:
   TerminalBreak();

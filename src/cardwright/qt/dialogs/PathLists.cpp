@@ -13,7 +13,7 @@ constexpr QChar kQuote = u'"';
 
 QString Quoted(QString name) { return kQuote + name.replace(kQuote, QStringLiteral("\"\"")) + kQuote; }
 
-/// The texts between the quotes; none where anything but blanks stands between them or a quote is missing.
+/// The quoted texts; none where a quote is missing or anything but blanks is between two of them.
 QStringList QuotedParts(const QString& shown) {
   QStringList parts;
   qsizetype at = 0;

@@ -14,7 +14,7 @@ QString JoinPathList(const QStringList& files);
 /// @}
 
 /// @name A path list as a person reads and types it: several files each in quotes, a quote in a name doubled,
-/// the first one with the folder of all. Everything else stands as it is.
+/// the first one with the folder of all. Any other text is left as it is.
 /// @{
 QString ShownPaths(const QString& list);
 QString TypedPaths(const QString& shown);

@@ -9,7 +9,7 @@ namespace cardwright::qt {
 
 /// Runs a dialog that belongs to the window of `owner` and calls `take` with it where it was accepted.
 /// Nothing is taken where the window was closed under the dialog, which then is gone too. The dialog is
-/// deleted; so it must not stand on the stack.
+/// deleted, so it must be on the heap.
 template <class Dialog, class Take>
 void RunDialog(Dialog* dialog, QWidget& owner, Take&& take) {
   const QPointer<Dialog> open = dialog;

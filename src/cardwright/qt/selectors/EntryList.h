@@ -15,16 +15,16 @@ struct ListEntry {
   std::int32_t data = 0;
 };
 
-/// Entries as the toolkit's views ask for them, one for each row and perhaps one more behind them that does
-/// something. Nothing is made for an entry until it is shown, so that a list of many thousands costs what its
+/// The model of a list that the host fills: a row for each entry, and perhaps an action row after them.
+/// Nothing is computed for an entry until it is shown, so that a list of many thousands costs what its
 /// visible part costs.
 class EntryList final : public QAbstractListModel {
  public:
   /// What an entry is, in a word or two beside its name.
   static constexpr int kDetailRole = Qt::UserRole;
-  /// True for the row that is no entry.
+  /// True for the action row.
   static constexpr int kActionRole = Qt::UserRole + 1;
-  /// The number of the entry's feature type, for its sign; invalid for no sign.
+  /// The number of the entry's feature type, for its icon; invalid for no icon.
   static constexpr int kFeatureTypeRole = Qt::UserRole + 2;
 
   explicit EntryList(QObject* parent);
@@ -35,7 +35,7 @@ class EntryList final : public QAbstractListModel {
   /// Position of a name, the same one before one of another case; -1 for none.
   int Find(std::u16string_view name) const;
 
-  /// The row behind the entries; "" for none.
+  /// Text of the action row; "" for none.
   const QString& Action() const noexcept { return m_Action; }
   void SetAction(const QString& text);
   /// Whether it can be reached just now.

@@ -6,14 +6,14 @@ namespace cardwright::qt {
 
 class ColorSwatch;
 
-/// A swatch that opens the desktop's choice of colours. The click is told when the choice is over, so that
-/// the listener finds the new colour.
+/// A swatch that opens the desktop's colour dialog. The click is fired when the dialog is closed, so that the
+/// listener finds the new colour.
 class QtColorSelector final : public QtDialogSelector<ColorSelectorWidget> {
  public:
   explicit QtColorSelector(WidgetPlace place);
 
   QWidget* Part(std::u16string_view name) const override;
-  /// A swatch has no text: empty, and one that is set is passed over.
+  /// A swatch has no text: reading gives "", setting is ignored.
   Text DisplayText() const override;
   void SetDisplayText(const Text& text) override;
   void SetBackColor(OleColor color) override;
@@ -28,7 +28,7 @@ class QtColorSelector final : public QtDialogSelector<ColorSelectorWidget> {
   class Box;
 
   bool TakesEnter() const override { return true; }
-  /// A locked one has no choice to wait for.
+  /// A locked one opens no dialog to wait for.
   bool IsClickedBy(const QWidget& /*part*/) const override { return m_IsLocked; }
 
   void Choose();

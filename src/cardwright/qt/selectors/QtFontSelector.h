@@ -6,14 +6,14 @@ namespace cardwright::qt {
 
 class FontSample;
 
-/// A sample of a font, its name and size in the font itself, and a button that opens the desktop's choice of
-/// fonts. A family that is not installed keeps its name, and the sample says so. On the keyboard blank, Enter
-/// and F4 open the choice.
+/// A sample of a font, its name and size in the font itself, and a button that opens the desktop's font
+/// dialog. A family that is not installed keeps its name, and the sample says so. On the keyboard blank,
+/// Enter and F4 open the dialog.
 class QtFontSelector final : public QtButtonSelector<FontSelectorWidget> {
  public:
   explicit QtFontSelector(WidgetPlace place);
 
-  /// A sample has no text: empty, and one that is set is passed over.
+  /// A sample has no text: reading gives "", setting is ignored.
   Text DisplayText() const override;
   void SetDisplayText(const Text& text) override;
   void SetFont(Ref<Font> font) override;

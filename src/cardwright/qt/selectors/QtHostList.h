@@ -10,7 +10,7 @@
 namespace cardwright::qt {
 
 /// What theme and attribute selectors have in common: a drop-down list whose entries the host gives. A new
-/// list keeps the chosen name where it has it, and no click tells of it.
+/// list keeps the chosen name if it is still in it, and fires no click.
 template <class Interface>
 class QtHostList : public QtSelector<Interface> {
  public:
@@ -33,7 +33,7 @@ class QtHostList : public QtSelector<Interface> {
   std::int32_t ConnectionHandle() const override { return this->Live(m_Handle); }
   void SetConnectionHandle(std::int32_t handle) override { this->Live(m_Handle) = handle; }
 
-  /// Tells of another chosen name.
+  /// Signals that another name is chosen.
   const ChoiceNotice& Choice() const noexcept { return m_Choice; }
 
  protected:
@@ -41,7 +41,7 @@ class QtHostList : public QtSelector<Interface> {
       : QtSelector<Interface>(kind, place), m_Combo(new SelectorCombo(place.parent)) {
     this->Adopt(*m_Combo);
     QObject::connect(m_Combo, &QComboBox::activated, this, [this](int row) {
-      // Whoever is told may take the widget away.
+      // A handler may remove the widget.
       const WidgetCore::HandlerScope scope(*this);
       OnActivated(row);
     });
@@ -63,7 +63,7 @@ class QtHostList : public QtSelector<Interface> {
     if (wasChosen && index < 0) Q_EMIT m_Choice.Changed();
   }
 
-  /// The toolkit forgets the current row when the list changes, and tells of it.
+  /// The toolkit resets the current row when the list changes, and signals it.
   template <class Change>
   void ChangeList(Change&& change) {
     const QSignalBlocker silence(m_Combo);

@@ -32,8 +32,8 @@ class QtDialogSelector : public QtSelector<Interface> {
   Text m_Title;
 };
 
-/// Those of a field and a button beside it, which opens the dialog. The field has colours of its own; the
-/// background behind both has one too.
+/// Those of a field and a button beside it, which opens the dialog. The field has its own colours,
+/// and so has the background around both.
 template <class Interface>
 class QtButtonSelector : public QtDialogSelector<Interface> {
  public:

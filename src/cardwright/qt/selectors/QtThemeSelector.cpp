@@ -32,7 +32,7 @@ void QtThemeSelector::SetCreateThemeText(const Text& text) {
   OfferNewTheme();
 }
 
-/// Without a connection there is nobody to create a theme.
+/// A theme can be created only over a connection.
 void QtThemeSelector::OfferNewTheme() { Combo().offersAction = ConnectionHandle() != 0; }
 
 void QtThemeSelector::RefreshThemes() {
@@ -50,7 +50,7 @@ void QtThemeSelector::OnActivated(int row) {
   CreateNewTheme();
 }
 
-/// A theme that the host refuses, which tells the person why itself, changes nothing here.
+/// Nothing changes where the host refuses the theme; it tells the user why.
 void QtThemeSelector::CreateNewTheme() {
   const auto plan = AskForNewTheme(Combo(), ToQString(m_CreateThemeText), [this](std::u16string_view name) {
     return Native() && List().Find(name) >= 0;

@@ -5,8 +5,8 @@
 
 namespace cardwright::qt {
 
-/// The themes of a connection, each with the sign and the name of its feature type, and behind them an entry
-/// that creates one.
+/// The themes of a connection, each with the icon and the name of its feature type, and after them a row that
+/// creates one.
 class QtThemeSelector final : public QtHostList<ThemeSelectorWidget> {
  public:
   explicit QtThemeSelector(WidgetPlace place);

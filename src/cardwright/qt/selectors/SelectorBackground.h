@@ -6,8 +6,8 @@
 
 namespace cardwright::qt {
 
-/// What the parts of a selector stand on. It fills itself with the colour of windows, and what its parts
-/// leave of a mouse button's strokes ends here.
+/// The widget that contains the parts of a selector. It fills itself with the palette's window colour, and
+/// consumes the mouse buttons that its parts do not use.
 class SelectorBackground : public QWidget {
  public:
   using QWidget::QWidget;

@@ -42,8 +42,8 @@ class ListStyle final : public QProxyStyle {
   }
 };
 
-/// Paints an entry: sign, name, and at the far end its detail. A line parts the row that is no entry from the
-/// others.
+/// Paints an entry: icon, name, and its detail at the far end. A line separates the action row from the
+/// entries.
 class EntryPainter final : public QStyledItemDelegate {
  public:
   using QStyledItemDelegate::QStyledItemDelegate;
@@ -77,11 +77,11 @@ class EntryPainter final : public QStyledItemDelegate {
  protected:
   void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
     QStyledItemDelegate::initStyleOption(option, index);
-    const QVariant sign = index.data(EntryList::kFeatureTypeRole);
-    if (!sign.isValid()) return;
+    const QVariant featureType = index.data(EntryList::kFeatureTypeRole);
+    if (!featureType.isValid()) return;
     const qreal ratio = option->widget ? option->widget->devicePixelRatioF() : 1.0;
-    option->icon =
-        FeatureTypeIcon(sign.toInt(), option->palette.color(QPalette::Active, TextRole(*option)), ratio);
+    option->icon = FeatureTypeIcon(featureType.toInt(),
+                                   option->palette.color(QPalette::Active, TextRole(*option)), ratio);
     option->features |= QStyleOptionViewItem::HasDecoration;
     option->decorationSize = QSize(kFeatureTypeIconSize, kFeatureTypeIconSize);
   }

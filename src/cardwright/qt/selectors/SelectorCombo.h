@@ -13,8 +13,8 @@ class SelectorCombo final : public FieldCombo {
   explicit SelectorCombo(QWidget* parent);
 
   EntryList& Entries() noexcept { return *m_Entries; }
-  /// Whether the row behind the entries can be chosen when the list is open. While it is closed the keys pass
-  /// it over.
+  /// Whether the action row after the entries can be chosen when the list is open. While it is closed the
+  /// keys pass it over.
   bool offersAction = false;
 
   void showPopup() override;

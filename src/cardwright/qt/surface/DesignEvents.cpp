@@ -65,7 +65,7 @@ bool QtDesignSurface::OnCanvasEvent(QEvent& event) {
     case QEvent::MouseButtonDblClick:
     case QEvent::MouseMove:
       if (!m_Surface.Canvas().isEnabled()) return false;  // a host has switched the designer off
-      event.accept();  // before anything is told: the surface may be gone afterwards
+      event.accept();  // before the listener is called, which may end the surface
       OnMouse(static_cast<QMouseEvent&>(event));
       return true;
     case QEvent::ContextMenu:  // the surface has a menu of its own
@@ -132,8 +132,8 @@ void QtDesignSurface::WatchFocus(QWidget* focused) {
   if (m_Watched && m_Watched != canvas) m_Watched->installEventFilter(this);
 }
 
-// A form's size is the outer one: a frame that came or went changes it as well, unless it is to have its part
-// of the size that was told.
+// A form's size is the outer one: a frame that appears or goes changes it as well, unless the size that was
+// asked for includes it.
 void QtDesignSurface::TellResize() {
   const QWidget* canvas = m_Surface.Native();
   if (!canvas) return;
@@ -179,19 +179,19 @@ ScreenPoint QtDesignSurface::CursorPosition() const {
   return {m_ToldCursor.x(), m_ToldCursor.y()};
 }
 
-// A quick stroke can be over before anybody has looked: the button then counts as down until its last place
-// has been asked for.
+// A fast drag can be over before it is polled: the button then counts as down until its last position has
+// been read.
 bool QtDesignSurface::IsLeftButtonDown() const {
   const QWidget* canvas = m_Surface.Native();
   if (!canvas || !canvas->isVisible() || m_IsPressLost) return false;
   return QGuiApplication::mouseButtons().testFlag(Qt::LeftButton) || m_ToldCursor != m_State->cursor;
 }
 
-// The toolkit tells of no cursor's size; this is the one of a theme that nobody has enlarged.
+// The toolkit does not know the size of a cursor; this is that of the usual theme.
 int QtDesignSurface::CursorHeight() const { return kCursorHeight; }
 
-// The toolkit goes on giving the moves to the widget that was pressed, which only shows its pointer, and to
-// nobody once that one is hidden: they are taken from the window that gets them all.
+// The toolkit keeps sending the moves to the widget that was pressed, and to none once that one is hidden:
+// they are taken from the window, which gets them all.
 void QtDesignSurface::ReleaseMouse() {
   m_IsPressed = false;
   m_IsPressLost = false;
@@ -206,8 +206,7 @@ void QtDesignSurface::WatchDragIn(QWindow* window) {
   if (window) window->installEventFilter(this);
 }
 
-// The timer wakes the loop up where nothing else does. Nothing of the surface is touched afterwards: it may
-// be gone.
+// The timer wakes the loop where nothing else does. The surface may be gone afterwards.
 void QtDesignSurface::Yield() {
   QTimer waker;
   waker.start(kPatience);

@@ -10,14 +10,14 @@ namespace {
 
 constexpr int kDash = 4;
 
-/// Black and white in turns, which no ground hides.
+/// Alternating black and white, visible on every background.
 class Edge final : public QWidget {
  public:
   explicit Edge(QWidget& canvas) : QWidget(&canvas) {
     setAttribute(Qt::WA_TransparentForMouseEvents);
     setAttribute(Qt::WA_OpaquePaintEvent);
     setFocusPolicy(Qt::NoFocus);
-    hide();  // said aloud, or it would appear with the canvas
+    hide();  // explicitly, or it would be shown with the canvas
   }
 
  protected:

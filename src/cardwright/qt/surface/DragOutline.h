@@ -8,9 +8,8 @@ class QWidget;
 
 namespace cardwright::qt {
 
-/// The outline of a rectangle above everything that stands on a canvas. Its four edges are widgets of their
-/// own: what they leave free is painted by the toolkit as ever, on each window system, and a move repaints no
-/// more than the edges.
+/// The outline of a rectangle in front of all widgets of a canvas. Its four edges are widgets: the toolkit
+/// paints the rest as usual, on each window system, and a move repaints no more than the edges.
 class DragOutline {
  public:
   explicit DragOutline(QWidget& canvas);

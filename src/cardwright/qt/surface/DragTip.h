@@ -9,8 +9,8 @@ class QWidget;
 
 namespace cardwright::qt {
 
-/// The small window, "frmTooltip", that tells where a drag has led: one label, "lblPixel". The text is the
-/// window's title too, for those who hear it rather than see it.
+/// The small window, "frmTooltip", that shows the position of a drag in one label, "lblPixel". The text is
+/// also the window's title, for screen readers.
 class DragTip {
  public:
   /// `owner` is the widget in whose window the drag runs.

@@ -16,10 +16,10 @@ QRect CellsIn(const QRect& area, int step) {
   return {from, to};
 }
 
-/// Points are set in colour 0, black. It was chosen for light surfaces; on a dark one nobody would see it.
-QColor InkOn(const QColor& ground) {
+/// Points are set in colour 0, black. That is for light surfaces: on a dark one they would be invisible.
+QColor PointColor(const QColor& background) {
   constexpr int kDark = 80;
-  return qGray(ground.rgb()) < kDark ? QColor(0xb0, 0xb0, 0xb0) : QColor(Qt::black);
+  return qGray(background.rgb()) < kDark ? QColor(0xb0, 0xb0, 0xb0) : QColor(Qt::black);
 }
 
 /// One row of points, which all rows show: thousands of single points would take their time.
@@ -41,8 +41,8 @@ void PaintPoints(QPainter& painter, const QRect& cells, int step, const QColor& 
 
 void GridLayer::Add(int step, const QRect& cells) { m_Cells[step] += cells; }
 
-void GridLayer::Paint(QPainter& painter, const QRect& area, const QColor& ground) const {
-  const QColor ink = InkOn(ground);
+void GridLayer::Paint(QPainter& painter, const QRect& area, const QColor& background) const {
+  const QColor ink = PointColor(background);
   for (const auto& [step, cells] : m_Cells)
     for (const QRect& block : cells.intersected(CellsIn(area, step))) PaintPoints(painter, block, step, ink);
 }

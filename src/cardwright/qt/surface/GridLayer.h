@@ -14,8 +14,8 @@ class GridLayer {
   /// Sets the points of the columns and rows in `cells`, `step` pixels apart.
   void Add(int step, const QRect& cells);
   void Clear() { m_Cells.clear(); }
-  /// Paints what lies inside `area`, on a canvas of the colour `ground`.
-  void Paint(QPainter& painter, const QRect& area, const QColor& ground) const;
+  /// Paints the points inside `area`, on a canvas of the colour `background`.
+  void Paint(QPainter& painter, const QRect& area, const QColor& background) const;
 
  private:
   std::map<int, QRegion> m_Cells;  // by step; a cell is a column and a row

@@ -92,7 +92,7 @@ QtDesignSurface::~QtDesignSurface() {
   SetScreenPointer(PointerShape::Default);
 }
 
-// A container takes along what stands in it.
+// A container is removed with its contents, but the handles stay.
 void QtDesignSurface::Remove(std::u16string_view name) {
   const Ref<Widget> widget = Find(name);
   const QWidget* handle = m_Handles.front()->Native();

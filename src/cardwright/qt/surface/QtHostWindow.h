@@ -15,10 +15,10 @@ inline constexpr int kLargestWindow = 8192;
 /// Pixels between a top-level window's outer and inner size; 0 until the window system has framed it.
 FrameSize FrameOf(const QWidget& window);
 
-/// Dynamic property of a widget inside a window that stands for a window of its own around visual controls:
-/// its title is theirs and it has no frame, as the page of a program in which forms are drawn.
+/// Dynamic property of a widget inside a window that acts as a window around visual controls: its title is
+/// theirs and it has no frame, as the page of a program in which forms are drawn.
 inline constexpr const char* kStandsForWindow = "cardwrightStandsForWindow";
-/// The widget that is the host's window of what stands on `canvas`; `canvas` itself where it is a window.
+/// The widget that acts as the host's window around `canvas`; `canvas` itself where it is a window.
 QWidget& WindowAround(const QWidget& canvas);
 
 /// A window around visual controls. Error 91 once it is gone.

@@ -15,7 +15,7 @@ namespace cardwright::qt {
 
 struct WidgetPlace;
 
-/// The surface of a visual control on a toolkit widget, its canvas, on which the run-time widgets stand. They
+/// The surface of a visual control on a toolkit widget, its canvas, which contains the run-time widgets. They
 /// take the keyboard focus in the order of their creation. Canvas and surface may go in any order; once the
 /// canvas is gone, operations raise error 91.
 class QtSurface final : public QObject, public Surface, private Font::User {
@@ -24,10 +24,10 @@ class QtSurface final : public QObject, public Surface, private Font::User {
   ~QtSurface() override;
 
   Ref<Widget> Add(std::u16string_view identifier, std::u16string_view name, Widget* container) override;
-  /// Takes what the widget contains along. A name that is not there is passed over.
+  /// Removes what the widget contains as well. An unknown name is ignored.
   void Remove(std::u16string_view name) override;
   Ref<Widget> Find(std::u16string_view name) const override;
-  /// A widget of the surface's own, which stands under no name. The surface keeps it to its end.
+  /// A widget of the surface's own, which Find does not give. The surface keeps it to its end.
   Ref<Widget> AddOwn(std::u16string_view identifier, std::u16string_view name);
 
   ScaleMode Scale() const override { return m_Scale; }

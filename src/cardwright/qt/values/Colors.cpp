@@ -7,8 +7,8 @@ namespace cardwright::qt {
 
 namespace {
 
-// By index. A form's ground and the texts on it are the platform's "button face" and "button text"; here they
-// are the window's, so that a form looks like every other window of the user's desktop.
+// By index. A form's background and the texts on it are the platform's "button face" and "button text"; here
+// they are the window's, so that a form looks like every other window of the user's desktop.
 constexpr std::array kSystemRoles = {
     QPalette::Mid,              // 0 scroll bar
     QPalette::Dark,             // 1 desktop
@@ -34,7 +34,7 @@ constexpr std::array kSystemRoles = {
     QPalette::Shadow,           // 21 dark shadow
     QPalette::Midlight,         // 22 light edge
     QPalette::ToolTipText,      // 23 information text
-    QPalette::ToolTipBase,      // 24 information ground
+    QPalette::ToolTipBase,      // 24 information background
     QPalette::Button,           // 25, which the platform leaves out
     QPalette::Link,             // 26 hot text
     QPalette::Highlight,        // 27 active title, far end

@@ -8,7 +8,7 @@ class QPalette;
 
 namespace cardwright::qt {
 
-/// The colour that an OLE number stands for. System colours come from the palette; an index that the platform
+/// The colour that an OLE number means. System colours come from the palette; an index that the platform
 /// does not have is black, as it is there.
 QColor ToQColor(OleColor color, const QPalette& palette);
 /// 0x00BBGGRR.

@@ -5,8 +5,8 @@
 
 namespace cardwright::qt {
 
-/// A small picture of a feature type: a point, a line, an area; an empty one of the same size for any other
-/// number, so that names stand in line.
+/// A small icon of a feature type: a point, a line or an area. Any other number has an empty icon of the same
+/// size, so that names beside icons are aligned.
 QIcon FeatureTypeIcon(int featureType, const QColor& color, qreal pixelRatio);
 inline constexpr int kFeatureTypeIconSize = 13;
 

@@ -4,8 +4,8 @@
 
 namespace cardwright::qt {
 
-/// A drop-down list that is drawn as the fields beside it, on the ground that it was given: styles draw one
-/// without an edit field as a button, whose shades change any colour.
+/// A drop-down list drawn like a text field, in its own background colour. Styles draw one without an edit
+/// field as a button, whose shading would change the colour.
 class FieldCombo : public QComboBox {
  public:
   using QComboBox::QComboBox;

@@ -28,7 +28,7 @@ class QtComboBox final : public QtLineEntry<ComboWidget> {
   void RemoveItem(int index) override;
   void Clear() override;
 
-  /// Tells of another ListIndex.
+  /// Signals another ListIndex.
   const ChoiceNotice& Choice() const noexcept { return m_Choice; }
 
  private:

@@ -20,7 +20,7 @@ constexpr float kWidestColumn = 100000.0F;
 
 }  // namespace
 
-/// Tells of a click after the tree has taken it in, so that the listener finds the new selection. A column as
+/// Fires the click after the tree has handled it, so that the listener finds the new selection. A column as
 /// wide as the list, frames and all, as forms ask for, is no reason to scroll.
 class QtListView::Tree final : public FocusFramed<QTreeWidget> {
  public:

@@ -6,11 +6,11 @@ class QLineEdit;
 
 namespace cardwright::qt {
 
-/// A text box of one line. Pasted text passes the key filter by, as it does on the platform.
+/// A text box of one line. Pasted text bypasses the key filter, as it does on the platform.
 ///
-/// While the box is not on the screen, a text that code sets waits here: laying text out is what makes
-/// opening a feature dear, and a form is usually filled before it is shown. The text reaches the toolkit's
-/// widget with the next turn of the event loop at the latest.
+/// While the box is not visible, a text that code sets is kept pending: laying out text is most of the cost
+/// of opening a feature, and a form is usually filled before it is shown. The toolkit's widget gets the text
+/// with the next turn of the event loop at the latest.
 class QtTextBox final : public QtLineEntry<TextWidget> {
  public:
   explicit QtTextBox(WidgetPlace place);

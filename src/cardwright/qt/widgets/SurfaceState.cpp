@@ -19,7 +19,7 @@ SurfaceState::Handling::~Handling() {
   }
 }
 
-// Not where it goes afterwards: what a stroke has led to is looked at when it may be over.
+// Only moves with a button down count: a drag is evaluated late, when the mouse may have moved on without it.
 void SurfaceState::NoteCursor(const QMouseEvent& event) {
   if (event.type() == QEvent::MouseMove && event.buttons() == Qt::NoButton) return;
   cursor = event.globalPosition().toPoint();

@@ -27,9 +27,9 @@ class SurfaceState final : public RefCounted {
   Object* control =
       nullptr;  ///< the widgets' parent, as scripts know it; null or alive as long as the surface
   FontCache fonts;
-  WidgetCore* focused = nullptr;  ///< the widget whose listener was told of the focus last
-  /// The widgets are drawn and not used: they take the focus and tell of the mouse, but act on nothing, and
-  /// show the pointer of what they stand on.
+  WidgetCore* focused = nullptr;  ///< the widget whose listener had the last GotFocus
+  /// The widgets are being designed: they take the focus and fire mouse events, but do nothing else, and show
+  /// the pointer of the surface.
   bool isDesigned = false;
   QPoint cursor;  ///< on the screen, where a button was pressed, or the mouse went with it or let it go
   void NoteCursor(const QMouseEvent& event);
@@ -47,7 +47,7 @@ class SurfaceState final : public RefCounted {
     Ref<SurfaceState> m_State;
   };
 
-  /// The group of the option buttons that stand directly in `container`. The toolkit's own grouping would
+  /// The group of the option buttons directly in `container`. The toolkit's own grouping would
   /// reach into the frames inside it.
   QButtonGroup& OptionsIn(QWidget& container);
 
@@ -56,7 +56,7 @@ class SurfaceState final : public RefCounted {
 
   /// Has the widget settle with the next turn of the event loop.
   void FlushLater(Ref<Widget> widget);
-  /// Forgets who waits; for a surface that ends.
+  /// For a surface that ends.
   void CancelFlushes() { m_ToFlush.clear(); }
 
  private:

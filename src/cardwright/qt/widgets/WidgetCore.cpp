@@ -68,7 +68,7 @@ WidgetCore::~WidgetCore() {
 void WidgetCore::Adopt(QWidget& widget) {
   m_Widget = &widget;
   widget.setObjectName(ToQString(m_Place.name));
-  widget.hide();  // said aloud, or it would appear with its parent
+  widget.hide();  // explicitly, or it would be shown with its parent
   widget.setMouseTracking(true);
   if (widget.focusPolicy() == Qt::WheelFocus) widget.setFocusPolicy(Qt::StrongFocus);
   if (m_Kind.isTransparent) widget.setBackgroundRole(m_Kind.backRole);  // buttons would fill with their face
@@ -172,7 +172,7 @@ void WidgetCore::CollectColors(QPalette& own, const QPalette& inherited) const {
   }
 }
 
-/// Most widgets look as they would anyway, and a palette of one's own is what makes a widget dear: only the
+/// A palette of its own is what makes a widget expensive, and most widgets look as they would without: only
 /// roles that differ are set.
 void WidgetCore::ApplyColors() {
   if (!m_Widget || m_IsApplying) return;

@@ -44,8 +44,8 @@ class WidgetCore : public QObject, private Font::User {
   /// Takes the toolkit's widget off the surface.
   void Detach();
   void ConvertGeometry(ScaleMode from, ScaleMode to);
-  /// Moves the widget to another container, null for the surface itself, in front of what stands there. Its
-  /// numbers stay.
+  /// Moves the widget into another container, null for the surface itself, in front of its other widgets. The
+  /// geometry keeps its numbers.
   void Reparent(Ref<Widget> container, QWidget& parent);
 
  protected:
@@ -162,7 +162,7 @@ class WidgetCore : public QObject, private Font::User {
   QPointer<QWidget> m_Widget;
   bool m_HasParts = false;
   bool m_HasOwnColors = false;
-  bool m_IsApplying = false;   // colours or font: the toolkit tells of our own change
+  bool m_IsApplying = false;   // colours or font: the toolkit signals our own change
   bool m_IsReplaying = false;  // an event that the listener has seen is on its way to the widget
   bool m_IsPressed = false;    // the left button went down on this widget
   bool m_IsInMouseDown = false;

@@ -1,4 +1,4 @@
-// The second half of WidgetCore: what its listener hears of the toolkit's input events.
+// The second half of WidgetCore: the toolkit's input events as events of its listener.
 #include <QApplication>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
@@ -11,7 +11,7 @@ namespace cardwright::qt {
 
 bool WidgetCore::OnMouse(QWidget& target, QMouseEvent& event) {
   m_Place.state->NoteCursor(event);
-  // A widget that is switched off lets the mouse through to what it stands on.
+  // A disabled widget lets the mouse through to its container.
   if (!m_Widget->isEnabled()) {
     event.ignore();
     return true;
@@ -80,7 +80,7 @@ bool WidgetCore::EndsHere(const QWidget& target, const QMouseEvent& event) const
 bool WidgetCore::OnKey(QWidget& target, QKeyEvent& event) {
   // Tab moves between the fields and is nobody's key.
   if (event.key() == Qt::Key_Tab || event.key() == Qt::Key_Backtab) return false;
-  if (&target == m_Widget && m_Widget->focusProxy()) return false;  // left over by the part that was told
+  if (&target == m_Widget && m_Widget->focusProxy()) return false;  // the part has been handled already
   const Ref<Widget> keepAlive(&Self());
   int code = VirtualKey(event);
   int shift = ShiftKeys(event.modifiers());
@@ -113,7 +113,7 @@ bool WidgetCore::EndKey(QKeyEvent& event) const {
   return true;
 }
 
-/// An input method hands over finished text rather than keys: each character goes through the same filter.
+/// An input method commits text instead of keys: each character passes the same filter.
 bool WidgetCore::OnInputMethod(QWidget& target, QInputMethodEvent& event) {
   if (event.commitString().isEmpty()) return false;
   if (IsBlocked() || !target.testAttribute(Qt::WA_InputMethodEnabled)) return true;
@@ -143,10 +143,10 @@ bool WidgetCore::Replay(QWidget& target, QEvent& event) {
   return true;
 }
 
-/// The listener hears of moves between widgets only: a popup or another window that takes the focus for a
-/// while gives it back to the widget that never knew. Where it comes back to another one, the first is told
-/// now. True, and the widget hears nothing of it, where a handler has given the focus away again, as the
-/// designer does: a group box would take it back.
+/// Only moves between widgets are events for the listener. A popup or another window borrows the focus: the
+/// widget that gets it back has no event, and where another widget gets it, the first one loses it now. True,
+/// which hides the event from the widget, where a handler has moved the focus on, as the designer does: a
+/// group box would take it back.
 bool WidgetCore::OnFocusIn(QWidget& widget) {
   const QPointer<QWidget> target = &widget;
   SurfaceState& state = *m_Place.state;
