@@ -49,7 +49,7 @@ constexpr std::u16string_view kContract[] = {u"Name",
 
 }  // namespace
 
-TEST(ByName, EveryClassAnswersToEveryMemberOfTheContractInItsOrder) {
+TEST(ByName, ProvidesTheMembersOfTheContractInOrder) {
   for (const ClassTable* entry : ControlClasses()) {
     const Ref<Control> control = entry->create();
     const std::vector<Text> names = control->MemberNames();
@@ -63,7 +63,7 @@ TEST(ByName, EveryClassAnswersToEveryMemberOfTheContractInItsOrder) {
   }
 }
 
-TEST(ByName, EveryRowOfEveryClassIsAProperty) {
+TEST(ByName, ProvidesEveryRowAsAProperty) {
   for (const ClassTable* entry : ControlClasses()) {
     InputForm on;
     const auto control = on.Add(entry->className);
@@ -82,7 +82,7 @@ TEST(ByName, EveryRowOfEveryClassIsAProperty) {
   }
 }
 
-TEST(ByName, TheContractsPropertiesReadAndWrite) {
+TEST(ByName, GetsAndSetsTheContractsProperties) {
   DesignForm on;
   const auto label = on.Add(u"CLabel");
   for (const auto& [name, value] : {std::pair(u"Left", 10),
@@ -110,7 +110,7 @@ TEST(ByName, TheContractsPropertiesReadAndWrite) {
   EXPECT_EQ(ErrorOf([&] { LetProperty(*label, u"UserName", u"x"); }), 438);
 }
 
-TEST(ByName, TheTableIsReachedByItsParameterisedProperties) {
+TEST(ByName, ProvidesTheTableByParameterisedProperties) {
   DesignForm on;
   const auto box = on.Add(u"CTextBox");
   EXPECT_EQ(ToLong(Ask(*box, u"PropertyCount")), 13);
@@ -134,7 +134,7 @@ TEST(ByName, TheTableIsReachedByItsParameterisedProperties) {
   EXPECT_EQ(ToText(GetProperty(*box, Odd(u"FilenameFilter"), {0})), u"");
 }
 
-TEST(ByName, AMemberThatTheContractOnlyReadsIsWrittenThroughItsRow) {
+TEST(ByName, WritesReadOnlyMembersThroughTheirRow) {
   InputForm on;
   const auto box = on.Add(u"CTextBox");
   LetProperty(*box, u"tEXT", u"12");
@@ -153,7 +153,7 @@ TEST(ByName, AMemberThatTheContractOnlyReadsIsWrittenThroughItsRow) {
   EXPECT_EQ(ToText(Ask(*box, u"AttributeName")), u"DEPTH");
 }
 
-TEST(ByName, ValueTakesItsParametersOrNone) {
+TEST(ByName, PassesOptionalParametersToValue) {
   InputForm on;
   const auto box = on.Add(u"CTextBox");
   box->SetPropertyValue(u"Text", u"x");
@@ -161,7 +161,7 @@ TEST(ByName, ValueTakesItsParametersOrNone) {
   EXPECT_EQ(ToText(GetProperty(*box, u"Value", {Variant(Array::FromValues({}))})), u"x");
 }
 
-TEST(ByName, MethodsAreCalled) {
+TEST(ByName, CallsMethods) {
   const TempFolder folder;
   const Text file = folder.Put("a.frm", "[S]\r\nText=x\r\n");
   DesignForm on;
@@ -180,7 +180,7 @@ TEST(ByName, MethodsAreCalled) {
   EXPECT_EQ(ErrorOf([&] { CallMethod(*box, u"Read"); }), 450);
 }
 
-TEST(ByName, ItemsAreReachedByTheirDefaultMember) {
+TEST(ByName, ProvidesItemsByTheDefaultMember) {
   InputForm on;
   const auto list = on.Add(u"CListBox");
   const Variant items = Ask(*list, u"Items");
@@ -194,7 +194,7 @@ TEST(ByName, ItemsAreReachedByTheirDefaultMember) {
   EXPECT_EQ(WidgetOf<ListViewWidget>(*list).RowText(1), u"One");
 }
 
-TEST(ByName, TheFormAnswersToItsRowsToo) {
+TEST(ByName, ProvidesTheRowsOfTheForm) {
   InputForm on;
   LetProperty(*on.form, u"sHOWmENU", 1);
   LetProperty(*on.form, u"tHEMEnAME", u"wells");

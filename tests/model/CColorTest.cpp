@@ -19,20 +19,20 @@ std::string Components(OleColor number) {
   return Components(*color);
 }
 
-TEST(CColor, TakesANumberApart) {
+TEST(CColor, SplitsANumberIntoComponents) {
   EXPECT_EQ(Components(0), "0 0 0");
   EXPECT_EQ(Components(0xFF), "255 0 0");
   EXPECT_EQ(Components(0x10203), "3 2 1");
   EXPECT_EQ(Components(0xFFFFFF), "255 255 255");
 }
 
-TEST(CColor, TakesASystemColorAsItIsAtPresent) {
+TEST(CColor, ResolvesASystemColor) {
   FakeDesktop desktop;
   desktop.systemColors[ToOleColor(SystemColor::ButtonFace)] = Rgb(10, 20, 30);
   EXPECT_EQ(Components(ToOleColor(SystemColor::ButtonFace)), "10 20 30");
 }
 
-TEST(CColor, TakesTheDigitsBehindTheFirstTwoForTheIndexOfASystemColor) {
+TEST(CColor, TakesTheIndexOfASystemColorFromItsLastDigits) {
   FakeDesktop desktop;
   desktop.systemColors[ToOleColor(SystemColor::ButtonFace)] = Rgb(10, 20, 30);
   EXPECT_EQ(Components(0x0100000F), "10 20 30") << "seven digits";
@@ -43,7 +43,7 @@ TEST(CColor, IsBlackForASystemColorWithoutADesktop) {
   EXPECT_EQ(Components(ToOleColor(SystemColor::ButtonFace)), "0 0 0");
 }
 
-TEST(CColor, PutsTheNumberTogetherWithoutTheAlpha) {
+TEST(CColor, ComposesTheNumberWithoutAlpha) {
   const auto color = MakeRef<CColor>();
   LetProperty(*color, u"Red", 1);
   LetProperty(*color, u"green", 2);
@@ -56,7 +56,7 @@ TEST(CColor, PutsTheNumberTogetherWithoutTheAlpha) {
   EXPECT_EQ(color->m_Alpha, 200);
 }
 
-TEST(CColor, RefusesWhatIsNoByte) {
+TEST(CColor, RejectsValuesOutsideAByte) {
   const auto color = MakeRef<CColor>();
   EXPECT_EQ(ErrorOf([&] { LetProperty(*color, u"Red", 256); }), 6);
   EXPECT_EQ(ErrorOf([&] { LetProperty(*color, u"Red", -1); }), 6);

@@ -31,7 +31,7 @@ class Bare final : public IControl {
 
 }  // namespace
 
-TEST(IControl, IsEmptyInAllMembers) {
+TEST(IControl, ReturnsEmptyValues) {
   const auto bare = MakeRef<Bare>();
   bare->SetName(u"x");
   bare->SetLeft(3);
@@ -52,7 +52,7 @@ TEST(IControl, IsEmptyInAllMembers) {
   EXPECT_FALSE(bare->ParentForm());
 }
 
-TEST(PropertyName, ComesBackAsTheTableSpellsItByNumberOrByName) {
+TEST(PropertyName, HasTheSpellingOfTheTable) {
   DesignForm on;
   const auto box = on.Add(u"CTextBox");
   EXPECT_EQ(box->PropertyName(u"Left"), u"Left");
@@ -62,7 +62,7 @@ TEST(PropertyName, ComesBackAsTheTableSpellsItByNumberOrByName) {
   EXPECT_EQ(box->PropertyCount(), 13);
 }
 
-TEST(PropertyName, IsEmptyForAnUnknownNameAndABoundsErrorForANumberOutside) {
+TEST(PropertyName, IsEmptyForAnUnknownNameAndFailsOutOfBounds) {
   DesignForm on;
   const auto box = on.Add(u"CCheckBox");
   EXPECT_EQ(box->PropertyName(u"Depth"), u"");
@@ -77,7 +77,7 @@ TEST(PropertyName, IsEmptyForAnUnknownNameAndABoundsErrorForANumberOutside) {
   EXPECT_EQ(box->PropertyName(u"Value"), u"");
 }
 
-TEST(PropertyType, AndDescriptionAreThoseOfTheRow) {
+TEST(PropertyType, IsThatOfTheRowAsIsTheDescription) {
   DesignForm on;
   const auto box = on.Add(u"CTextBox");
   EXPECT_EQ(box->PropertyType(u"INPUTTYPE"), PropertyTypeEnum::ptList);
@@ -87,7 +87,7 @@ TEST(PropertyType, AndDescriptionAreThoseOfTheRow) {
             u"Set the unique name which identifies the object in the form.");
 }
 
-TEST(PropertyValue, ReachesHiddenRowsByNameAndBehindTheTable) {
+TEST(PropertyValue, ReadsHiddenRowsByNameAndByNumbersAfterTheTable) {
   DesignForm on;
   const auto box = on.Add(u"CCheckBox");
   WidgetOf<StateWidget>(*box).SetState(1);
@@ -96,7 +96,7 @@ TEST(PropertyValue, ReachesHiddenRowsByNameAndBehindTheTable) {
   EXPECT_TRUE(box->PropertyValue(13).IsEmpty());
 }
 
-TEST(PropertyValue, IsEmptyForAnUnknownIndexAndLetDoesNothing) {
+TEST(PropertyValue, IgnoresAnUnknownIndex) {
   DesignForm on;
   const auto box = on.Add(u"CTextBox");
   for (const Variant& index : {Variant(99), Variant(-1), Variant(70000), Variant(u"Depth"), Variant(u"")}) {
@@ -119,7 +119,7 @@ TEST(PropertyValue, HasTheTypeOfItsRow) {
   EXPECT_EQ(box->PropertyValue(u"IsNeeded").Type(), VarType::String);
 }
 
-TEST(PropertyValue, KeepsFlagsAsTheTextsThatWereHandedIn) {
+TEST(PropertyValue, KeepsFlagsAsTheTextsThatWereSet) {
   DesignForm on;
   const auto box = on.Add(u"CTextBox");
   box->SetPropertyValue(u"IsNeeded", u"perhaps");
@@ -130,7 +130,7 @@ TEST(PropertyValue, KeepsFlagsAsTheTextsThatWereHandedIn) {
   EXPECT_EQ(box->AttributeName(), u"DEPTH");
 }
 
-TEST(FlagIsSet, CountsATextThatIsNoBooleanAsFalse) {
+TEST(FlagIsSet, IsFalseForATextThatIsNoBoolean) {
   EXPECT_TRUE(FlagIsSet(u"True"));
   EXPECT_TRUE(FlagIsSet(u"true"));
   EXPECT_TRUE(FlagIsSet(u"1"));
@@ -139,7 +139,7 @@ TEST(FlagIsSet, CountsATextThatIsNoBooleanAsFalse) {
   EXPECT_FALSE(FlagIsSet(u"perhaps"));
 }
 
-TEST(Control, HasTheWidgetsNameToReadAndTheUserNameToWrite) {
+TEST(Control, ReadsTheWidgetsNameAndWritesTheUserName) {
   DesignForm on;
   const auto box = on.Add(u"CTextBox", u"txtDepth", u"object_7");
   EXPECT_EQ(box->Name(), u"object_7");
@@ -151,7 +151,7 @@ TEST(Control, HasTheWidgetsNameToReadAndTheUserNameToWrite) {
   EXPECT_EQ(box->Name(), u"txtOther");
 }
 
-TEST(Control, TellsTheGridOfMovesByTheAccessorsOnly) {
+TEST(Control, RaisesPropertyChangedForMovesByAccessorsOnly) {
   DesignForm on;
   const auto box = on.Add(u"CTextBox");
   box->SetLeft(24);
@@ -165,7 +165,7 @@ TEST(Control, TellsTheGridOfMovesByTheAccessorsOnly) {
   EXPECT_EQ(on.owner->Take(), "PropertyChanged 4 24");
 }
 
-TEST(Control, TellsTheDesignerOfMovesByTheGridOnlyWhereTheyMove) {
+TEST(Control, SelectsItselfForMovesByRowsThatChangeSomething) {
   DesignForm on;
   const auto box = on.Add(u"CTextBox");
   box->SetPropertyValue(u"Left", 24);
@@ -180,7 +180,7 @@ TEST(Control, TellsTheDesignerOfMovesByTheGridOnlyWhereTheyMove) {
   EXPECT_EQ(ToSingle(box->PropertyValue(u"Height")), 33.5F);
 }
 
-TEST(Control, TellsNobodyOfMovesWhileAFormIsFilledIn) {
+TEST(Control, RaisesNothingForMovesWhileAFormIsFilledIn) {
   InputForm on;
   const auto box = on.Add(u"CTextBox");
   box->SetLeft(24);
@@ -191,7 +191,7 @@ TEST(Control, TellsNobodyOfMovesWhileAFormIsFilledIn) {
   EXPECT_EQ(box->Top(), 8);
 }
 
-TEST(Control, TellsTheGridOfTheForeColorButNotOfTheBackColor) {
+TEST(Control, RaisesPropertyChangedForForeColorButNotBackColor) {
   DesignForm on;
   const auto label = on.Add(u"CLabel");
   label->SetBackColor(255);
@@ -205,7 +205,7 @@ TEST(Control, TellsTheGridOfTheForeColorButNotOfTheBackColor) {
   EXPECT_EQ(label->BackColor(), 2);
 }
 
-TEST(Control, NumbersARowByTheTableOfItsClass) {
+TEST(Control, RaisesPropertyChangedWithTheRowNumberOfItsClass) {
   DesignForm on;
   on.Add(u"CTextBoxMultiline")->SetLeft(3);
   EXPECT_EQ(on.owner->Take(), "PropertyChanged 5 3");
@@ -244,7 +244,7 @@ TEST(Control, BindsOnlyTheWidgetOfItsClass) {
     }
 }
 
-TEST(Control, SaysWithoutAWidgetThatThereIsNone) {
+TEST(Control, FailsWithObjectNotSetWithoutAWidget) {
   for (const ClassTable* entry : ControlClasses()) {
     const Ref<Control> control = entry->create();
     control->SetLeft(3);
@@ -259,7 +259,7 @@ TEST(Control, SaysWithoutAWidgetThatThereIsNone) {
   }
 }
 
-TEST(ParentForm, TakesTheTwoKindsOfOwnerAndIgnoresAnyOther) {
+TEST(ParentForm, AcceptsDesignersAndFormsAndIgnoresOtherObjects) {
   DesignForm design;
   InputForm input;
   const Ref<Control> control = ControlClasses().front()->create();
@@ -299,7 +299,7 @@ TEST(NameRow, RenamesOnlyThroughTheOwner) {
   EXPECT_EQ(c->UserName(), u"d");
 }
 
-TEST(RenameInCollection, ChangesTheCaseAloneThroughAKeyAside) {
+TEST(RenameInCollection, ChangesTheCaseOfAName) {
   DesignForm on;
   const auto a = on.Add(u"CTextBox", u"Label1", u"object_1");
   on.Add(u"CTextBox", u"b", u"object_2");
@@ -309,7 +309,7 @@ TEST(RenameInCollection, ChangesTheCaseAloneThroughAKeyAside) {
   EXPECT_EQ(on.Find(u"label1").get(), a.get());
 }
 
-TEST(RenameInCollection, LeavesACollectionAloneThatDoesNotHoldTheControl) {
+TEST(RenameInCollection, IgnoresAControlThatIsNotInTheCollection) {
   DesignForm on;
   on.Add(u"CTextBox", u"a", u"object_1");
   const Ref<Control> pasted = ControlClasses().front()->create();
@@ -319,7 +319,7 @@ TEST(RenameInCollection, LeavesACollectionAloneThatDoesNotHoldTheControl) {
   EXPECT_EQ(on.owner->Controls().Count(), 2);
 }
 
-TEST(EveryControl, HasNoEffectInDelete) {
+TEST(EveryControl, IgnoresDelete) {
   DesignForm on;
   const auto box = on.Add(u"CTextBox");
   box->Delete();
@@ -338,7 +338,7 @@ TEST(EveryControl, StoresItsZOrderWithoutMovingTheWidget) {
   EXPECT_EQ(b->ZOrder(), 1);
 }
 
-TEST(FilenameFilter, IsEmptyForControls) {
+TEST(FilenameFilter, IsEmptyForEveryControl) {
   DesignForm on;
   for (const ClassTable* entry : ControlClasses()) {
     const auto control = on.Add(entry->className, entry->className, entry->className);

@@ -5,7 +5,7 @@
 #include "storage/TempFolder.h"
 
 namespace cardwright {
-TEST(Read, LeavesEverythingAsCreatedWhereTheSectionIsEmpty) {
+TEST(Read, ChangesNothingForAnEmptySection) {
   const TempFolder folder;
   const Text file = folder.Put("a.frm", "[CONTROLS_1]\r\n");
   for (const ClassTable* entry : ControlClasses()) {
@@ -28,7 +28,7 @@ TEST(Read, LeavesEverythingAsCreatedWhereTheSectionIsEmpty) {
   }
 }
 
-TEST(Read, IsFalseWithoutAFileAndChangesNothing) {
+TEST(Read, FailsWithoutAFile) {
   const TempFolder folder;
   DesignForm on;
   const auto box = on.Add(u"CTextBox");
@@ -38,7 +38,7 @@ TEST(Read, IsFalseWithoutAFileAndChangesNothing) {
   EXPECT_FALSE(std::filesystem::exists(folder.File("none.frm")));
 }
 
-TEST(Read, GoesOnPastValuesThatDoNotConvert) {
+TEST(Read, SkipsValuesThatDoNotConvert) {
   const TempFolder folder;
   const Text file = folder.Put("a.frm",
                                "[CONTROLS_1]\r\nText=x\r\nBackColor=red\r\nForeColor=2147483663\r\n"
@@ -68,7 +68,7 @@ TEST(Read, GoesOnPastValuesThatDoNotConvert) {
   EXPECT_EQ(label->AttributeName(), u"DEPTH");
 }
 
-TEST(Read, TakesAnEmptyValueForNothingAndNotForAMissingKey) {
+TEST(Read, ReadsAnEmptyValueAsEmptyNotAsMissing) {
   const TempFolder folder;
   const Text file = folder.Put("a.frm",
                                "[CONTROLS_1]\r\nText=\r\nBackColor=\r\nLeft=\r\nFontBold=\r\nUserName=\r\n"
@@ -87,7 +87,7 @@ TEST(Read, TakesAnEmptyValueForNothingAndNotForAMissingKey) {
   EXPECT_EQ(TextOf(*box, u"IsNeeded"), u"");
 }
 
-TEST(Read, TakesKeysInAnyOrderAndCase) {
+TEST(Read, AcceptsKeysInAnyOrderAndCase) {
   const TempFolder folder;
   const Text file = folder.Put(
       "a.frm", "[controls_1]\r\ninputtype=Float\r\nHEIGHT=50\r\nusername=txt\r\nTOP= 7\r\nleft=1,5\r\n");
@@ -101,7 +101,7 @@ TEST(Read, TakesKeysInAnyOrderAndCase) {
   EXPECT_EQ(box->Left(), 1.5F);
 }
 
-TEST(Steps, FailOnlyWhereTheLastFailureIsNumberedMinusOne) {
+TEST(Steps, FailsOnlyIfTheLastErrorIsMinusOne) {
   Steps step;
   int run = 0;
   step([&] { Raise(ErrorNumber::TypeMismatch); });

@@ -116,7 +116,7 @@ TEST_F(DamagedProject, WithRandomChangesInEveryClassIsRead) {
   for (int i = 0; i < 500; ++i) ReadEverywhere(folder, Mutated(random, EveryClass(i % 2 ? 1 : 3)));
 }
 
-TEST_F(DamagedProject, WithAnOddValueInAnyOnePlaceIsRead) {
+TEST_F(DamagedProject, WithOneUnusualValueIsRead) {
   const TempFolder folder;
   const std::string project = EveryClass(3);
   const std::string* value = std::begin(kOddValues);
@@ -136,7 +136,7 @@ TEST_F(DamagedProject, OfValuesOfManyCharactersIsRead) {
     ReadEverywhere(folder, Replaced(project, "\n" + key, "\n" + key + value));
 }
 
-TEST_F(DamagedProject, OfTooManyControlsEndsSoon) {
+TEST_F(DamagedProject, OfTooManyControlsIsReadQuickly) {
   const TempFolder folder;
   const auto begin = std::chrono::steady_clock::now();
   ReadEverywhere(folder, "[FORM]\r\nControlsNumber=32767\r\n");
@@ -149,7 +149,7 @@ TEST_F(DamagedProject, OfTooManyControlsEndsSoon) {
   EXPECT_LT(std::chrono::steady_clock::now() - begin, kEndsSoon);
 }
 
-TEST_F(DamagedProject, OfTooManyItemsEndsSoon) {
+TEST_F(DamagedProject, OfTooManyItemsIsReadQuickly) {
   const TempFolder folder;
   const auto begin = std::chrono::steady_clock::now();
   for (const std::string type : {"ComboBox", "ListBox"}) {

@@ -5,7 +5,7 @@
 #include "model/ScriptedHost.h"
 
 namespace cardwright {
-TEST(CForm, HasNoPlaceAndNoForeColor) {
+TEST(CForm, HasNoPositionAndNoForeColor) {
   DesignForm on;
   on.form->SetLeft(3);
   on.form->SetTop(3);
@@ -21,7 +21,7 @@ TEST(CForm, HasNoPlaceAndNoForeColor) {
   EXPECT_EQ(on.owner->Take(), "");
 }
 
-TEST(CForm, IsNamedByItsStoredText) {
+TEST(CForm, HasTheNameThatWasSet) {
   DesignForm on;
   EXPECT_EQ(on.form->Name(), u"Form");
   EXPECT_EQ(on.form->UserName(), u"Form");
@@ -30,7 +30,7 @@ TEST(CForm, IsNamedByItsStoredText) {
   EXPECT_TRUE(on.form->PropertyValue(u"Name").IsEmpty());
 }
 
-TEST(CForm, AnswersTheDesignerAsItsObject) {
+TEST(CForm, ReturnsTheDesignerAsItsObject) {
   DesignForm design;
   design.form->BindObject(MakeRef<CForm>());
   EXPECT_EQ(design.form->BoundObject(), design.owner.get());
@@ -40,7 +40,7 @@ TEST(CForm, AnswersTheDesignerAsItsObject) {
   EXPECT_EQ(input.form->ParentForm(), input.owner.get());
 }
 
-TEST(CForm, SizesTheDesignerAndTellsTheGrid) {
+TEST(CForm, ResizesTheDesignerAndRaisesPropertyChanged) {
   DesignForm on;
   on.form->SetWidth(320);
   on.form->SetHeight(200);
@@ -50,7 +50,7 @@ TEST(CForm, SizesTheDesignerAndTellsTheGrid) {
   EXPECT_EQ(on.form->Height(), 200);
 }
 
-TEST(CForm, SizesTheDesignerSilentlyByItsRows) {
+TEST(CForm, ResizesTheDesignerByRowsWithoutPropertyChanged) {
   DesignForm on;
   on.form->SetPropertyValue(u"Width", 310);
   on.form->SetPropertyValue(u"Height", 210);
@@ -59,7 +59,7 @@ TEST(CForm, SizesTheDesignerSilentlyByItsRows) {
   EXPECT_EQ(on.surface.Height(), 210);
 }
 
-TEST(CForm, CannotBeSizedWhileItIsFilledIn) {
+TEST(CForm, CannotBeResizedWhileItIsFilledIn) {
   InputForm on;
   on.form->SetWidth(320);
   on.form->SetPropertyValue(u"Height", 20);
@@ -68,7 +68,7 @@ TEST(CForm, CannotBeSizedWhileItIsFilledIn) {
   EXPECT_EQ(on.form->Width(), 400);
 }
 
-TEST(CForm, AnswersTheHostsSizeInItsRows) {
+TEST(CForm, ShowsTheHostsSizeInItsRows) {
   DesignForm design;
   EXPECT_EQ(ToSingle(design.form->PropertyValue(u"Width")), 500);  // pixels of the window
   design.surface.SetScale(ScaleMode::Twips);
@@ -81,7 +81,7 @@ TEST(CForm, AnswersTheHostsSizeInItsRows) {
   EXPECT_EQ(ToSingle(aloneInDesign.form->PropertyValue(u"Width")), 0);
 }
 
-TEST(CForm, TitlesTheHostsWindow) {
+TEST(CForm, SetsTheTitleOfTheHostsWindow) {
   DesignForm on;
   on.form->SetPropertyValue(u"Text", u"Wells");
   EXPECT_EQ(on.window.windowTitle(), "Wells");
@@ -93,7 +93,7 @@ TEST(CForm, TitlesTheHostsWindow) {
   EXPECT_EQ(TextOf(*alone.form, u"Text"), u"");
 }
 
-TEST(CForm, HandsItsTitleToTheHostOfAFormThatIsFilledIn) {
+TEST(CForm, PassesItsTitleToTheHostWhileItIsFilledIn) {
   InputForm on;
   on.window.setWindowTitle("Host");
   on.form->SetPropertyValue(u"Text", u"Wells");
@@ -104,7 +104,7 @@ TEST(CForm, HandsItsTitleToTheHostOfAFormThatIsFilledIn) {
   EXPECT_EQ(TextOf(*alone.form, u"Text"), u"Wells");
 }
 
-TEST(CForm, PaintsTheGridAnewOnANewBackground) {
+TEST(CForm, RepaintsTheGridOnANewBackground) {
   DesignForm on;
   on.form->SetBackColor(255);
   on.form->SetPropertyValue(u"BackColor", 65280);
@@ -121,7 +121,7 @@ TEST(CForm, PaintsTheGridAnewOnANewBackground) {
   EXPECT_EQ(nobody->BackColor(), 0);
 }
 
-TEST(CForm, TakesTheNameOfAFontByTheAccessorAndTheWholeFontByTheRow) {
+TEST(CForm, SetsTheFontNameByAccessorAndTheWholeFontByRow) {
   DesignForm on;
   const Ref<Font> font = MakeRef<Font>(FontValues{.name = u"Arial", .size = 12, .bold = true});
   on.form->SetFont(font);
@@ -134,7 +134,7 @@ TEST(CForm, TakesTheNameOfAFontByTheAccessorAndTheWholeFontByTheRow) {
   EXPECT_EQ(input.surface.GetFont()->Values(), FontValues());
 }
 
-TEST(CForm, KeepsItsOwnRows) {
+TEST(CForm, StoresItsRows) {
   InputForm on;
   EXPECT_EQ(TextOf(*on.form, u"StartMode"), u"Always");
   EXPECT_EQ(ToLong(on.form->PropertyValue(u"FeatureType")), -1);
@@ -154,7 +154,7 @@ TEST(CForm, KeepsItsOwnRows) {
   EXPECT_EQ(on.form->PropertyValue(u"Image").ObjectPtr(), nullptr);
 }
 
-TEST(CForm, ListsTheStartModesWhateverTheIndex) {
+TEST(CForm, ListsTheStartModesForAnyIndex) {
   InputForm on;
   for (const Variant& index : {Variant(u"StartMode"), Variant(0), Variant(u"Nothing"), Variant(99)})
     EXPECT_EQ(on.form->PropertyList(index), (std::vector<Text>{u"OnNew", u"OnUpdate", u"Always"}));
@@ -162,7 +162,7 @@ TEST(CForm, ListsTheStartModesWhateverTheIndex) {
   EXPECT_EQ(on.form->FilenameFilter(u"Text"), u"");
 }
 
-TEST(CForm, FollowsAResizeOnlyWhileItIsSelected) {
+TEST(CForm, ReportsAResizeOnlyWhileItIsSelected) {
   DesignForm on;
   const auto label = on.Add(u"CLabel");
   on.owner->SetCtrl(label);
@@ -192,7 +192,7 @@ TEST(CForm, ListsTheAttributesOfItsThemeForTheGrid) {
   EXPECT_EQ(on.owner->Take(), "AttribsList");
 }
 
-TEST(CForm, AsksNothingForAnEmptyThemeOrOutsideTheDesigner) {
+TEST(CForm, RequestsNothingForAnEmptyThemeOrOutsideTheDesigner) {
   const Connected connection;
   DesignForm on;
   on.form->SetPropertyValue(u"ThemeName", u"");
@@ -203,7 +203,7 @@ TEST(CForm, AsksNothingForAnEmptyThemeOrOutsideTheDesigner) {
   EXPECT_EQ(TextOf(*input.form, u"ThemeName"), u"wells");
 }
 
-TEST(CForm, BeginsWithoutAScript) {
+TEST(CForm, StartsWithoutAScript) {
   Module().scriptContent = u"Sub Old()";
   Module().scriptLanguage = u"VBScript";
   const auto form = MakeRef<CForm>();

@@ -32,7 +32,7 @@ struct Linked {
 
 }  // namespace
 
-TEST(CThemeSelector, AsksForItsListBeforeItChoosesTheStoredTheme) {
+TEST(CThemeSelector, RequestsItsListBeforeItSelectsTheStoredTheme) {
   const Connected connected;
   InputForm on;
   const auto widget = MakeRef<FakeThemes>();
@@ -48,7 +48,7 @@ TEST(CThemeSelector, AsksForItsListBeforeItChoosesTheStoredTheme) {
   EXPECT_TRUE(widget->IsVisible());
 }
 
-TEST(CThemeSelector, ChoosesNothingForAThemeThatTheHostDoesNotHave) {
+TEST(CThemeSelector, SelectsNothingForAnUnknownTheme) {
   InputForm on;
   const auto widget = MakeRef<FakeThemes>();
   widget->answered = {u"wells"};
@@ -62,7 +62,7 @@ TEST(CThemeSelector, ChoosesNothingForAThemeThatTheHostDoesNotHave) {
   EXPECT_EQ(control->Value(), u"");
 }
 
-TEST(CThemeSelector, KeepsTheStoredThemeInAProjectThatIsSavedWithoutItsData) {
+TEST(CThemeSelector, SavesTheStoredThemeWithoutAConnection) {
   DesignForm on;
   const auto widget = MakeRef<FakeThemes>();
   const auto control = Bind(on, kThemes, widget);
@@ -73,7 +73,7 @@ TEST(CThemeSelector, KeepsTheStoredThemeInAProjectThatIsSavedWithoutItsData) {
   EXPECT_EQ(SavedLines(*control).substr(0, 6), "Text=\n");
 }
 
-TEST(CThemeSelector, SavesNoThemeThatItsDataDoesNotHave) {
+TEST(CThemeSelector, SavesNoUnknownTheme) {
   DesignForm on;
   const auto widget = MakeRef<FakeThemes>();
   widget->answered = {u"rivers"};
@@ -82,7 +82,7 @@ TEST(CThemeSelector, SavesNoThemeThatItsDataDoesNotHave) {
   EXPECT_EQ(SavedLines(*control).substr(0, 6), "Text=\n");
 }
 
-TEST(CThemeSelector, AsksForItsListWhenTheAuthorChoosesBeforeThereIsOne) {
+TEST(CThemeSelector, RequestsItsListWhenTheAuthorChoosesFirst) {
   DesignForm on;
   const auto widget = MakeRef<FakeThemes>();
   widget->answered = {u"wells"};
@@ -96,7 +96,7 @@ TEST(CThemeSelector, AsksForItsListWhenTheAuthorChoosesBeforeThereIsOne) {
   EXPECT_EQ(filledIn->calls, u"") << "a form asks when it is read";
 }
 
-TEST(CThemeSelector, KeepsTheChoiceThatIsThereWhereTheKeyIsMissing) {
+TEST(CThemeSelector, KeepsTheSelectionWithoutAKey) {
   InputForm on;
   const auto widget = MakeRef<FakeThemes>();
   widget->answered = {u"wells", u"rivers"};
@@ -119,7 +119,7 @@ TEST(CThemeSelector, SavesItsKeysInOrderWithoutAHeight) {
   EXPECT_EQ(SavedLines(*control), lines);
 }
 
-TEST(CThemeSelector, FindsItsTextAmongManyWithoutACallByNameForEach) {
+TEST(CThemeSelector, FindsItsTextInALongListQuickly) {
   InputForm on;
   const auto widget = MakeRef<FakeThemes>();
   for (int i = 0; i < 10'000; ++i) widget->answered.push_back(u"theme" + ToText(Variant(i)));
@@ -129,7 +129,7 @@ TEST(CThemeSelector, FindsItsTextAmongManyWithoutACallByNameForEach) {
   EXPECT_LE(widget->textsRead, 10'001) << "one look at each name";
 }
 
-TEST(HostListControl, HandsOverTheConnectionWhenItIsBound) {
+TEST(HostListControl, SetsTheConnectionOfItsWidget) {
   const Connected connected;
   InputForm on;
   const auto themes = MakeRef<FakeThemes>();
@@ -138,7 +138,7 @@ TEST(HostListControl, HandsOverTheConnectionWhenItIsBound) {
   EXPECT_EQ(themes->calls, u"") << "nothing is asked for yet";
 }
 
-TEST(HostListControl, RunsOnClickForAChoiceAndIsNotSelectedByIt) {
+TEST(HostListControl, RunsOnClickForAChoice) {
   InputForm on;
   const auto widget = MakeRef<FakeThemes>();
   widget->shown = {u"wells"};
@@ -152,7 +152,7 @@ TEST(HostListControl, RunsOnClickForAChoiceAndIsNotSelectedByIt) {
   EXPECT_EQ(design.owner->Take(), "");
 }
 
-TEST(CAttributeSelector, FollowsTheControlsThatItNames) {
+TEST(CAttributeSelector, LinksToTheControlsThatItNames) {
   const Connected connected;
   Linked<InputForm> form;
   form.attributes->answered = {u"NAME", u"DEPTH"};
@@ -163,7 +163,7 @@ TEST(CAttributeSelector, FollowsTheControlsThatItNames) {
   EXPECT_EQ(form.attributes->types.get(), form.types->BoundObject().get());
 }
 
-TEST(CAttributeSelector, ChoosesTheStoredAttributeWhenItsLinksAreThere) {
+TEST(CAttributeSelector, SelectsTheStoredAttributeAfterItIsLinked) {
   Linked<InputForm> form;
   form.attributes->answered = {u"NAME", u"DEPTH"};
   ReadLines(*form.attribute, "ThemeSelectorName=thm\nText=depth\n");
@@ -175,7 +175,7 @@ TEST(CAttributeSelector, ChoosesTheStoredAttributeWhenItsLinksAreThere) {
   EXPECT_EQ(form.attribute->Value(), u"NAME") << "it was waiting for the first list only";
 }
 
-TEST(CAttributeSelector, ForgetsTheStoredAttributeForAnotherChoice) {
+TEST(CAttributeSelector, DiscardsTheStoredAttributeForAnotherChoice) {
   Linked<DesignForm> form;
   ReadLines(*form.attribute, "ThemeSelectorName=thm\nText=DEPTH\n");
   EXPECT_EQ(SavedLines(*form.attribute).substr(0, 11), "Text=DEPTH\n");
@@ -186,7 +186,7 @@ TEST(CAttributeSelector, ForgetsTheStoredAttributeForAnotherChoice) {
   EXPECT_EQ(SavedLines(*form.attribute).substr(0, 6), "Text=\n");
 }
 
-TEST(CAttributeSelector, IsLinkedAsSoonAsTheAuthorNamesAControl) {
+TEST(CAttributeSelector, IsLinkedWhenTheAuthorNamesAControl) {
   Linked<DesignForm> form;
   form.attribute->SetPropertyValue(u"ThemeSelectorName", u"thm");
   EXPECT_EQ(form.attributes->themes.get(), form.themes.get());
@@ -197,13 +197,13 @@ TEST(CAttributeSelector, IsLinkedAsSoonAsTheAuthorNamesAControl) {
   EXPECT_FALSE(input.attributes->themes) << "a form links when it is read";
 }
 
-TEST(CAttributeSelector, IsNeverLinkedByAFeatureSelectorAlone) {
+TEST(CAttributeSelector, IsNotLinkedToAFeatureSelectorAlone) {
   Linked<InputForm> form;
   form.Link(u"", u"cbo");
   EXPECT_EQ(form.attributes->calls, u"");
 }
 
-TEST(CAttributeSelector, LinksTheFeatureSelectorWhereTheThemeSelectorIsGone) {
+TEST(CAttributeSelector, LinksTheFeatureSelectorIfTheThemeSelectorIsGone) {
   Linked<InputForm> form;
   form.Link(u"gone", u"cbo");
   EXPECT_EQ(form.attributes->calls, u"types refill@0 ");
@@ -212,7 +212,7 @@ TEST(CAttributeSelector, LinksTheFeatureSelectorWhereTheThemeSelectorIsGone) {
   EXPECT_EQ(form.attributes->calls, u"");
 }
 
-TEST(CAttributeSelector, PassesOverControlsOfAnotherKind) {
+TEST(CAttributeSelector, IgnoresLinksToOtherClasses) {
   Linked<InputForm> form;
   form.Link(u"cbo", u"thm");
   EXPECT_EQ(form.attributes->calls, u"");
@@ -220,7 +220,7 @@ TEST(CAttributeSelector, PassesOverControlsOfAnotherKind) {
   EXPECT_EQ(form.attributes->calls, u"");
 }
 
-TEST(CAttributeSelector, KeepsItsLinksThroughRenamesWhateverTheCase) {
+TEST(CAttributeSelector, UpdatesItsLinksOnRenamesInAnyCase) {
   Linked<DesignForm> form;
   form.Link(u"thm", u"cbo");
   form.attribute->LinkControlNameChanged(u"THM", u"themes");
@@ -231,13 +231,13 @@ TEST(CAttributeSelector, KeepsItsLinksThroughRenamesWhateverTheCase) {
   EXPECT_EQ(form.Links(), "themes|types");
 }
 
-TEST(CAttributeSelector, IsNotLinkedByTheRenameOfAControlWithoutAName) {
+TEST(CAttributeSelector, IgnoresTheRenameOfAControlWithoutAName) {
   Linked<DesignForm> form;
   form.attribute->LinkControlNameChanged(u"", u"x");
   EXPECT_EQ(form.Links(), "|");
 }
 
-TEST(CAttributeSelector, ForgetsTheLinkThatWasDeletedAlone) {
+TEST(CAttributeSelector, ClearsOnlyTheLinkToADeletedControl) {
   Linked<DesignForm> form;
   form.Link(u"thm", u"cbo");
   form.on.owner->Controls().Remove(Variant(u"cbo"));
@@ -245,7 +245,7 @@ TEST(CAttributeSelector, ForgetsTheLinkThatWasDeletedAlone) {
   EXPECT_EQ(form.Links(), "thm|");
 }
 
-TEST(CAttributeSelector, KeepsItsFeatureTypeAsTextInTheGridAndAsNumberInProjects) {
+TEST(CAttributeSelector, ShowsItsFeatureTypeAsTextAndSavesItAsNumber) {
   DesignForm on;
   const auto widget = MakeRef<FakeAttributes>();
   const auto control = Bind(on, kAttributes, widget);
@@ -264,7 +264,7 @@ TEST(CAttributeSelector, KeepsItsFeatureTypeAsTextInTheGridAndAsNumberInProjects
   EXPECT_EQ(control->PropertyList(u"FeatureType"), types);
 }
 
-TEST(CAttributeSelector, OffersTheControlsThatItCanBeLinkedTo) {
+TEST(CAttributeSelector, ListsTheControlsThatItCanBeLinkedTo) {
   Linked<DesignForm> form;
   const std::vector<Text> themes = {u"thm"}, types = {u"cbo"};
   EXPECT_EQ(form.attribute->PropertyList(u"ThemeSelectorName"), themes);

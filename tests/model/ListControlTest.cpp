@@ -55,7 +55,7 @@ Text Project(const TempFolder& folder, std::string_view keys) {
 
 }  // namespace
 
-TEST(CItems, IsReachedByPositionAndByKey) {
+TEST(CItems, FindsItemsByPositionAndByKey) {
   const auto items = MakeRef<CItems>();
   const auto one = Item(u"1", u"One"), two = Item(u"2", u"Two");
   EXPECT_TRUE(items->Add(one));
@@ -68,7 +68,7 @@ TEST(CItems, IsReachedByPositionAndByKey) {
     EXPECT_FALSE(items->Item(index));
 }
 
-TEST(CItems, AddsBeforeAnotherAndUsesNoKeyTwice) {
+TEST(CItems, AddsBeforeAnItemAndNeverReusesAKey) {
   const auto items = MakeRef<CItems>();
   items->Add(Item(u"1", u"One"));
   EXPECT_TRUE(items->Add(Item(u"2", u"Two"), Variant(1)));
@@ -84,7 +84,7 @@ TEST(CItems, AddsBeforeAnotherAndUsesNoKeyTwice) {
   EXPECT_EQ(items->Item(u"Item_5")->m_Text, u"Five");
 }
 
-TEST(CItems, RemovesWithTrueInAnyCase) {
+TEST(CItems, ReturnsTrueFromRemove) {
   const auto items = MakeRef<CItems>();
   items->Add(Item(u"1", u"One"));
   EXPECT_TRUE(items->Remove(7));
@@ -94,7 +94,7 @@ TEST(CItems, RemovesWithTrueInAnyCase) {
   EXPECT_EQ(items->Count(), 0);
 }
 
-TEST(CItems, CountsItsKeysAnewAfterClear) {
+TEST(CItems, RestartsItsKeysAfterClear) {
   const auto items = MakeRef<CItems>();
   items->Add(Item(u"1", u"One"));
   items->Add(Item(u"2", u"Two"));
@@ -104,7 +104,7 @@ TEST(CItems, CountsItsKeysAnewAfterClear) {
   EXPECT_EQ(items->Item(u"Item_1")->m_Text, u"Three");
 }
 
-TEST(CItems, IsWalkedInOrderAndReachedByName) {
+TEST(CItems, IsEnumeratedInOrder) {
   const auto items = MakeRef<CItems>();
   CallMethod(*items, u"add", {Variant(Item(u"1", u"One"))});
   CallMethod(*items, u"ADD", {Variant(Item(u"2", u"Two")), Variant(1)});
@@ -131,7 +131,7 @@ TEST(CItem, IsAPlainRecord) {
   EXPECT_TRUE(ToBoolean(GetProperty(*item, u"Checked")));
 }
 
-TEST(ItemsRow, IsEditedInPlaceAndIgnoresAValue) {
+TEST(ItemsRow, IsEditedInPlaceAndCannotBeReplaced) {
   InputForm on;
   for (const auto className : {u"CComboBox", u"CListBox"}) {
     const auto list = on.Add(className, className, className);
@@ -173,7 +173,7 @@ TEST(CComboBox, HasNoValueForATypedText) {
   EXPECT_EQ(combo->Value(), u"");
 }
 
-TEST(CComboBox, ChoosesByTextWhateverTheCaseAndOnlyAWholeEntry) {
+TEST(CComboBox, SelectsWholeEntriesByTextInAnyCase) {
   InputForm on;
   const auto combo = on.Add(u"CComboBox");
   Fill(*combo);
@@ -204,7 +204,7 @@ TEST(CComboBox, ReadsItsItemsAndThenItsText) {
   EXPECT_FALSE(ComboOf(*combo).IsLocked());
 }
 
-TEST(CComboBox, ShowsATextWithoutItemOnlyWhereTheProjectMakesItEditable) {
+TEST(CComboBox, ShowsATextWithoutItemOnlyIfItIsEditable) {
   const TempFolder folder;
   InputForm on;
   const auto combo = on.Add(u"CComboBox");
@@ -227,7 +227,7 @@ TEST(CComboBox, IsLockedOnADesignSurface) {
   EXPECT_EQ(combo->DisplayText(), u"One");
 }
 
-TEST(CComboBox, SavesItsItemsInOrderBehindItsOwnKeys) {
+TEST(CComboBox, SavesItsItemsAfterItsOwnKeys) {
   const TempFolder folder;
   const Text file = folder.Put("a.frm", "");
   DesignForm on;
@@ -247,7 +247,7 @@ TEST(CComboBox, SavesItsItemsInOrderBehindItsOwnKeys) {
             "Value_Item_1=w\r\nText_Item_1=Wet\r\nValue_Item_2=\r\nText_Item_2=None\r\nContainer=\r\n");
 }
 
-TEST(CComboBox, DropsEveryKeyUnlessItIsEditable) {
+TEST(CComboBox, IgnoresKeysUnlessItIsEditable) {
   FakeDesktop desktop;
   InputForm on;
   const auto combo = on.Add(u"CComboBox");
@@ -292,7 +292,7 @@ TEST(CComboBox, RunsItsProcedures) {
   EXPECT_EQ(on.owner->Take(), "run a_OnChange");
 }
 
-TEST(CComboBox, StartsTheScreenKeyboardOnlyWhereItIsEditable) {
+TEST(CComboBox, OpensTheScreenKeyboardOnlyIfItIsEditable) {
   FakeDesktop desktop;
   InputForm on;
   const auto combo = on.Add(u"CComboBox");
@@ -361,7 +361,7 @@ TEST(CListBox, ReadsItsItemsAndSelectsItsText) {
   EXPECT_EQ(list->Value(), u"");
 }
 
-TEST(CListBox, ChecksTheSelectedEntryWhereSeveralMayBeMarked) {
+TEST(CListBox, ChecksTheSelectedEntryWithMultiSelect) {
   const TempFolder folder;
   InputForm on;
   const auto list = on.Add(u"CListBox");
@@ -385,7 +385,7 @@ TEST(CListBox, FitsItsColumnInTheFormsScale) {
   Module().formScaleMode = ScaleMode::Pixels;
 }
 
-TEST(CListBox, SelectsItsTextInAListWithoutRoomForItsColumn) {
+TEST(CListBox, SelectsItsTextInAVeryNarrowList) {
   const TempFolder folder;
   InputForm on;
   const auto list = on.Add(u"CListBox");
@@ -393,7 +393,7 @@ TEST(CListBox, SelectsItsTextInAListWithoutRoomForItsColumn) {
   EXPECT_EQ(list->Value(), u"2");
 }
 
-TEST(CListBox, TurnsItsCheckBoxesOnAndOff) {
+TEST(CListBox, ShowsAndHidesItsCheckBoxes) {
   DesignForm on;
   const auto list = on.Add(u"CListBox");
   list->SetPropertyValue(u"MultiSelect", u"True");
@@ -405,7 +405,7 @@ TEST(CListBox, TurnsItsCheckBoxesOnAndOff) {
             u"Define the script to to be executed when the form is initialized.");
 }
 
-TEST(CListBox, TakesAMarkIntoItsItemAndRunsItsProcedure) {
+TEST(CListBox, StoresACheckMarkInItsItemAndRunsOnItemCheck) {
   InputForm on;
   const auto list = on.Add(u"CListBox");
   Fill(*list);
@@ -424,7 +424,7 @@ TEST(CListBox, TakesAMarkIntoItsItemAndRunsItsProcedure) {
   EXPECT_FALSE(ItemsOf(*list).Item(2)->m_Checked);
 }
 
-TEST(CListBox, SavesItsKeysInOrderAndNoMarks) {
+TEST(CListBox, SavesItsKeysInOrderWithoutCheckMarks) {
   const TempFolder folder;
   const Text file = folder.Put("a.frm", "");
   DesignForm on;

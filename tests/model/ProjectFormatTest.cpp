@@ -26,13 +26,13 @@ std::string Numbered(std::string text, const std::string& from, int number) {
 
 }  // namespace
 
-TEST(Project, IsSavedAsItWasReadButForOneLineBreakMoreInTheScript) {
+TEST(Project, IsSavedAsReadWithOneMoreLineBreakInTheScript) {
   const TempFolder folder;
   EXPECT_EQ(Resaved(folder, Example()), Example() + "\r\n");
   EXPECT_EQ(Resaved(folder, Example() + "\r\n"), Example() + "\r\n\r\n");
 }
 
-TEST(Project, TellsTheDesignerInOrderWhatItReads) {
+TEST(Project, NotifiesTheDesignerInOrderWhileReading) {
   const TempFolder folder;
   DesignForm on;
   EXPECT_TRUE(on.form->Read(folder.Put("a.frm", Example()), {}));
@@ -58,7 +58,7 @@ TEST(Project, TellsTheDesignerInOrderWhatItReads) {
   EXPECT_EQ(ToLong(on.form->PropertyValue(u"ShowMenu")), 1);
 }
 
-TEST(Project, RestoresTheStackingInTheOrderOfItsSection) {
+TEST(Project, RestoresTheZOrderInTheOrderOfItsSection) {
   const TempFolder folder;
   DesignForm on;
   EXPECT_TRUE(on.form->Read(folder.Put("a.frm", Example()), {}));
@@ -73,7 +73,7 @@ TEST(Project, RestoresTheStackingInTheOrderOfItsSection) {
   EXPECT_EQ(list, "Form.lblDepth.txtDepth.");
 }
 
-TEST(Project, IgnoresStackingOfControlsThatItDoesNotHave) {
+TEST(Project, IgnoresTheZOrderOfUnknownControls) {
   const TempFolder folder;
   std::string project = Example();
   project.replace(project.find("[ZORDER]"), 8, "[ZORDER]\r\ngone= 1\r\nLBLDEPTH= 7");
@@ -84,7 +84,7 @@ TEST(Project, IgnoresStackingOfControlsThatItDoesNotHave) {
   EXPECT_EQ(on.Find(u"lblDepth")->ZOrder(), 7);  // the first of the two is what reads
 }
 
-TEST(Project, HoldsEveryClassInItsOwnScale) {
+TEST(Project, StoresEveryClassInItsScale) {
   const TempFolder folder;
   for (const int scale : {1, 3}) {
     const std::string project = EveryClass(scale);
@@ -92,13 +92,13 @@ TEST(Project, HoldsEveryClassInItsOwnScale) {
   }
 }
 
-TEST(Project, KeepsItsOtherScaleModesAndCountsPixelsInThem) {
+TEST(Project, KeepsOtherScaleModesAndTreatsThemAsPixels) {
   const TempFolder folder;
   const std::string project = EveryClass(7);
   EXPECT_EQ(Resaved(folder, project), project + "\r\n");
 }
 
-TEST(Project, PutsTheContentsOfAFrameIntoIt) {
+TEST(Project, RestoresTheContentsOfFrames) {
   const TempFolder folder;
   DesignForm on;
   EXPECT_TRUE(on.form->Read(folder.Put("a.frm", EveryClass(3)), {}));
@@ -109,7 +109,7 @@ TEST(Project, PutsTheContentsOfAFrameIntoIt) {
   EXPECT_EQ(on.Find(u"cbo")->Value(), u"2");
 }
 
-TEST(Project, IsReadTheSameWhateverTheLocale) {
+TEST(Project, IsReadAlikeInEveryLocale) {
   const TempFolder folder;
   const std::string project = EveryClass(3);
   for (const auto locale : {u"de-DE", u"en-US", u"it-IT"}) {
@@ -119,14 +119,14 @@ TEST(Project, IsReadTheSameWhateverTheLocale) {
   }
 }
 
-TEST(Project, TakesDecimalsWithACommaToo) {
+TEST(Project, AcceptsDecimalCommas) {
   const TempFolder folder;
   std::string project = Replaced(EveryClass(3), "Width= 100.5\r\n", "Width=100,5\r\n");
   project = Replaced(project, "FontSize= 8.25\r\n", "FontSize=8,25\r\n");
   EXPECT_EQ(Resaved(folder, project), EveryClass(3) + "\r\n");
 }
 
-TEST(Project, TakesItsKeysInAnyOrderAndCase) {
+TEST(Project, AcceptsKeysInAnyOrderAndCase) {
   const TempFolder folder;
   const std::string project = Crlf(R"([controls_1]
 container=
@@ -152,7 +152,7 @@ scalemode= 3
   EXPECT_EQ(on.surface.Height(), 150);
 }
 
-TEST(Project, TakesEveryMissingKeyForItsDefault) {
+TEST(Project, UsesDefaultsForMissingKeys) {
   const TempFolder folder;
   DesignForm on;
   on.window.setWindowTitle("As before");
@@ -182,7 +182,7 @@ TEST(Project, MayBeAnEmptyForm) {
   EXPECT_EQ(on.Names(), "Form");
 }
 
-TEST(Project, HasItsScriptBehindTheFirstMarker) {
+TEST(Project, HasItsScriptAfterTheFirstMarker) {
   const TempFolder folder;
   const std::string script = "\r\n' comment\r\n[SCRIPT]\r\n[FORM]\r\nText=no title\r\n";
   const std::string project = "[FORM]\r\nText=Title\r\nControlsNumber=0\r\n[script]\r\njscript" + script;
@@ -208,7 +208,7 @@ TEST(Project, KeepsOnlyTheFirstLineOfAText) {
   EXPECT_EQ(on.Find(u"a")->DisplayText(), u"one");
 }
 
-TEST(Project, CannotStackAControlWhoseNameHoldsAnEqualsSign) {
+TEST(Project, LosesTheZOrderOfANameWithAnEqualsSign) {
   const TempFolder folder;
   const Text file = folder.Name("a.frm");
   {
@@ -225,7 +225,7 @@ TEST(Project, CannotStackAControlWhoseNameHoldsAnEqualsSign) {
   EXPECT_TRUE(on.owner->ZList().empty());
 }
 
-TEST(Project, CutsALongValueWhereItReadsIt) {
+TEST(Project, TruncatesALongValueOnReading) {
   const TempFolder folder;
   const Text file = folder.Name("a.frm");
   const std::u16string text(100 * 1024, u'x');
@@ -249,7 +249,7 @@ TEST(Project, KeepsTheCharactersOfItsCodePage) {
   EXPECT_EQ(on.Find(u"lblDepth")->DisplayText(), u"Profondit\u00E0 \u20AC");
 }
 
-TEST(Project, HoldsItsIconBehindTheFormsSection) {
+TEST(Project, StoresItsIconAfterTheFormsSection) {
   const TempFolder folder;
   std::string image = "[FORM_IMAGE]\r\n";
   for (int i = 0; i < 256; ++i) image += "p" + std::to_string(i) + "= " + std::to_string(i * 257) + "\r\n";
@@ -268,7 +268,7 @@ TEST(Project, HoldsItsIconBehindTheFormsSection) {
   EXPECT_EQ(folder.Get("a.frm").find("FORM_IMAGE"), std::string::npos);
 }
 
-TEST(Project, HasNoIconWhereItsColorsAddUpToLessThanNothing) {
+TEST(Project, HasNoIconIfItsColorsSumUpToANegativeNumber) {
   const TempFolder folder;
   InputForm on;
   EXPECT_TRUE(on.form->Read(folder.Put("a.frm", Example() + "[FORM_IMAGE]\r\np0= 200\r\n"), {}));
@@ -286,7 +286,7 @@ TEST(Project, CountsOnlyTheControlsThatItCouldRead) {
   EXPECT_NE(saved.find("[ZORDER]\r\nForm= 0\r\ntxtDepth= 1\r\n[SCRIPT]\r\n"), std::string::npos);
 }
 
-TEST(Project, HoldsAsManyControlsAsTheForm) {
+TEST(Project, CountsTheControlsOfTheForm) {
   const TempFolder folder;
   std::string project = Example();
   const std::string label = project.substr(project.find("[CONTROLS_1]"),

@@ -55,7 +55,7 @@ std::string ProjectOf(std::string_view sections, int count) {
 
 }  // namespace
 
-TEST(Read, FillsAFormThatIsFilledInAndThenLinksAndLaysOut) {
+TEST(Read, CreatesTheControlsThenLinksAndLaysOut) {
   const TempFolder folder;
   InputForm on;
   const auto linker = MakeRef<Linker>(*on.owner);
@@ -69,7 +69,7 @@ TEST(Read, FillsAFormThatIsFilledInAndThenLinksAndLaysOut) {
   EXPECT_EQ(Module().scriptLanguage, u"VBScript");
 }
 
-TEST(Read, HandsTheTitleToAHostWithoutAWindow) {
+TEST(Read, PassesTheTitleToAHostWithoutAWindow) {
   const TempFolder folder;
   InputForm on(false);
   EXPECT_TRUE(on.form->Read(folder.Put("a.frm", Example()), {}));
@@ -78,7 +78,7 @@ TEST(Read, HandsTheTitleToAHostWithoutAWindow) {
   EXPECT_TRUE(design.form->Read(folder.Name("a.frm"), {}));
 }
 
-TEST(Read, IsFalseWithoutOwnerOrFileAndLeavesTheScript) {
+TEST(Read, FailsWithoutOwnerOrFileAndKeepsTheScript) {
   const TempFolder folder;
   InputForm on;
   Module().scriptContent = u"Sub Old()";
@@ -92,7 +92,7 @@ TEST(Read, IsFalseWithoutOwnerOrFileAndLeavesTheScript) {
   EXPECT_EQ(Module().scriptContent, u"Sub Old()");
 }
 
-TEST(Read, AddsToWhatIsThere) {
+TEST(Read, AddsToTheExistingControls) {
   const TempFolder folder;
   DesignForm on;
   on.Add(u"CLabel", u"mine", u"object_77");
@@ -132,7 +132,7 @@ TEST(FindControlClass, KnowsNoClassForTheTableViewerAndOtherTexts) {
             u"CardwrightCtrl.DbTableViewer");
 }
 
-TEST(Read, LosesAControlWhoseContainerIsNotThereYet) {
+TEST(Read, SkipsAControlWhoseContainerComesLater) {
   const TempFolder folder;
   const auto names = [&](std::string_view sections, int count) {
     DesignForm on;
@@ -161,7 +161,7 @@ TEST(Read, LosesAControlWhoseContainerIsNotThereYet) {
             "Form, f, g");
 }
 
-TEST(Read, LosesTheSecondOfTwoControlsOfOneName) {
+TEST(Read, SkipsAControlWithADuplicateName) {
   const TempFolder folder;
   DesignForm on;
   EXPECT_TRUE(on.form->Read(folder.Put("a.frm", ProjectOf("[CONTROLS_1]\nType=Label\nName=x\nUserName=a\n"
@@ -172,7 +172,7 @@ TEST(Read, LosesTheSecondOfTwoControlsOfOneName) {
   EXPECT_EQ(on.Names(), "Form, a, c");
 }
 
-TEST(Read, LeavesTheWidgetOfASecondUserNameOnTheSurface) {
+TEST(Read, KeepsTheWidgetOfADuplicateUserName) {
   const TempFolder folder;
   DesignForm on;
   EXPECT_TRUE(on.form->Read(folder.Put("a.frm", ProjectOf("[CONTROLS_1]\nType=Label\nName=x\nUserName=a\n"
@@ -186,7 +186,7 @@ TEST(Read, LeavesTheWidgetOfASecondUserNameOnTheSurface) {
   QTest::mouseClick(dynamic_cast<qt::WidgetCore&>(*on.surface.Find(u"y")).Native(), Qt::LeftButton);
 }
 
-TEST(Read, TakesTheNumberOfControlsAsAnIntegerThatMayBeTooLarge) {
+TEST(Read, ReadsTheNumberOfControlsAsA16BitInteger) {
   const TempFolder folder;
   const std::string label = "[CONTROLS_1]\nType=Label\nUserName=a\n[CONTROLS_7]\nType=Label\nUserName=b\n";
   for (const auto& [count, names] : std::vector<std::pair<std::string, std::string>>{{"0", "Form"},
@@ -206,7 +206,7 @@ TEST(Read, TakesTheNumberOfControlsAsAnIntegerThatMayBeTooLarge) {
   }
 }
 
-TEST(Read, ReplacesAThemeThatTheHostDoesNotKnowByTheActiveOne) {
+TEST(Read, ReplacesAnUnknownThemeByTheActiveOne) {
   const TempFolder folder;
   const Connected connection;
   connection.host->answers = {{u"THEME_NUMBER |wells|", u"0"}, {u"THEME_ACTIVE", u"pipes"}};
@@ -218,7 +218,7 @@ TEST(Read, ReplacesAThemeThatTheHostDoesNotKnowByTheActiveOne) {
   EXPECT_EQ(on.owner->Take().find("AttribsList"), std::string::npos);  // only the grid asks for that
 }
 
-TEST(Read, KeepsAThemeThatTheHostKnows) {
+TEST(Read, KeepsAKnownTheme) {
   const TempFolder folder;
   const Connected connection;
   connection.host->answers = {{u"THEME_NUMBER |wells|", u"3 themes"}, {u"THEME_ACTIVE", u"pipes"}};
@@ -228,7 +228,7 @@ TEST(Read, KeepsAThemeThatTheHostKnows) {
   EXPECT_EQ(connection.host->asked, u"THEME_NUMBER |wells|");
 }
 
-TEST(Read, AsksNothingAboutAThemeThatIsNotNamedOrWithoutConnection) {
+TEST(Read, RequestsNothingWithoutAThemeOrAConnection) {
   const TempFolder folder;
   {
     const Connected connection;
@@ -242,7 +242,7 @@ TEST(Read, AsksNothingAboutAThemeThatIsNotNamedOrWithoutConnection) {
   EXPECT_EQ(TextOf(*on.form, u"ThemeName"), u"wells");
 }
 
-TEST(Read, EndsQuietlyWhereTheHostEndsTheOwnerMeanwhile) {
+TEST(Read, SurvivesTheEndOfItsOwner) {
   const TempFolder folder;
   const Text file = folder.Put("a.frm", Example());
   const Connected connection;
@@ -271,7 +271,7 @@ TEST(Save, DeletesTheFileOfAFormWithoutControls) {
   }
 }
 
-TEST(Save, IsFalseWithoutOwnerOrFolder) {
+TEST(Save, FailsWithoutOwnerOrFolder) {
   const TempFolder folder;
   DesignForm on;
   on.Add(u"CLabel");
@@ -282,7 +282,7 @@ TEST(Save, IsFalseWithoutOwnerOrFolder) {
   EXPECT_TRUE(folder.Get("new.frm").starts_with("[FORM]\r\nScaleMode= 3\r\n"));
 }
 
-TEST(Save, ReplacesWhateverTheFileHeld) {
+TEST(Save, ReplacesTheWholeFile) {
   const TempFolder folder;
   DesignForm on;
   on.Add(u"CLabel");
@@ -293,7 +293,7 @@ TEST(Save, ReplacesWhateverTheFileHeld) {
   EXPECT_TRUE(saved.ends_with("Container=\r\n[SCRIPT]\r\n\r\n\r\n")) << saved;
 }
 
-TEST(Save, LeavesAReadOnlyFileAloneWithoutAFailure) {
+TEST(Save, KeepsAReadOnlyFileWithoutAnError) {
   const TempFolder folder;
   const Text file = folder.Put("a.frm", "[FORM]\r\nText=old\r\n");
   ::chmod(folder.File("a.frm").c_str(), 0444);
@@ -304,7 +304,7 @@ TEST(Save, LeavesAReadOnlyFileAloneWithoutAFailure) {
   EXPECT_EQ(folder.Get("a.frm"), "[FORM]\r\nText=old\r\n");
 }
 
-TEST(Save, LosesTheControlsOfAFormThatIsFilledInButNotTheirNumber) {
+TEST(Save, OmitsTheControlsOfAFilledFormButNotTheirNumber) {
   const TempFolder folder;
   InputForm on(false);
   EXPECT_TRUE(on.form->Read(folder.Put("a.frm", Example()), {}));
@@ -322,7 +322,7 @@ TEST(Save, LosesTheControlsOfAFormThatIsFilledInButNotTheirNumber) {
   EXPECT_EQ(again.Names(), "Form");
 }
 
-TEST(ProjectSave, OfARealFormFallsIntoTheSameTrap) {
+TEST(ProjectSave, OmitsTheControlsOfARealFormToo) {
   const TempFolder folder;
   RealInput on;
   const Text file = folder.Put("a.frm", Example());
@@ -334,7 +334,7 @@ TEST(ProjectSave, OfARealFormFallsIntoTheSameTrap) {
   EXPECT_NE(saved.find("ControlsNumber= 2\r\n[SCRIPT]\r\n"), std::string::npos);
 }
 
-TEST(ProjectSave, MarksATemporarySaveForItsOwnLengthOnly) {
+TEST(ProjectSave, SetsIsTemporarySaveOnlyDuringTheSave) {
   const TempFolder folder;
   RealInput on;
   const auto witness = MakeRef<Witness>();
@@ -346,7 +346,7 @@ TEST(ProjectSave, MarksATemporarySaveForItsOwnLengthOnly) {
   EXPECT_FALSE(witness->wasTemporary);
 }
 
-TEST(ProjectRead, OfARealFormPlacesTheButtonsUnderIt) {
+TEST(ProjectRead, PlacesTheButtonsBelowTheForm) {
   const TempFolder folder;
   RealInput on;
   float width = 0, height = 0;

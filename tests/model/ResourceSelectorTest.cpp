@@ -36,7 +36,7 @@ TEST(CResourceSelector, ReadsEveryKeyAndSavesTheSameLines) {
   EXPECT_EQ(SavedLines(*control), kSection.substr(begin, kSection.find("Container=") - begin));
 }
 
-TEST(CResourceSelector, LeavesWhatTheWidgetHasWhereKeysAreMissing) {
+TEST(CResourceSelector, KeepsTheWidgetsValuesForMissingKeys) {
   InputForm on;
   const auto widget = MakeRef<FakeResource>();
   const auto control = Bind(on, kClass, widget);
@@ -49,7 +49,7 @@ TEST(CResourceSelector, LeavesWhatTheWidgetHasWhereKeysAreMissing) {
   EXPECT_EQ(TextOf(*control, u"IsNeeded"), u"False");
 }
 
-TEST(CResourceSelector, HasItsPathForValueAndTheTitleForText) {
+TEST(CResourceSelector, HasThePathAsValueAndTheTitleAsText) {
   InputForm on;
   const auto control = Bind(on, kClass, MakeRef<FakeResource>());
   control->SetPropertyValue(u"path", u"/data/b.csv");
@@ -60,7 +60,7 @@ TEST(CResourceSelector, HasItsPathForValueAndTheTitleForText) {
   EXPECT_EQ(control->AttributeName(), u"PHOTO");
 }
 
-TEST(CResourceSelector, BeginsInTheFolderThatItsKeyKeeps) {
+TEST(CResourceSelector, StartsInTheFolderStoredUnderItsKey) {
   FakeDesktop desktop;
   desktop.Save(u"Cardwright", u"Tests", u"Folder", u"/data/maps");
   InputForm on;
@@ -108,7 +108,7 @@ INSTANTIATE_TEST_SUITE_P(
                     KeptCase{"OfNoFolder", u"", true, u"nothing"}),
     [](const auto& test) { return std::string(test.param.name); });
 
-TEST_P(LastFolder, IsKeptWhenTheFocusGoes) {
+TEST_P(LastFolder, IsStoredWhenTheFocusIsLost) {
   const FakeDesktop desktop;
   const TempFolder folder;
   InputForm on;
@@ -122,7 +122,7 @@ TEST_P(LastFolder, IsKeptWhenTheFocusGoes) {
   EXPECT_EQ(Kept(desktop), At(folder, GetParam().kept));
 }
 
-TEST(CResourceSelector, KeepsNoFolderWithoutAKeyOrOnTheDesignSurface) {
+TEST(CResourceSelector, StoresNoFolderWithoutAKeyOrOnADesignSurface) {
   const FakeDesktop desktop;
   const TempFolder folder;
   const auto widget = MakeRef<FakeResource>();
@@ -161,7 +161,7 @@ TEST(CResourceSelector, RunsItsProceduresWhereScriptsMayRun) {
   EXPECT_EQ(control->Events(), names);
 }
 
-TEST(CResourceSelector, IsSelectedOnTheDesignSurfaceByItsEvents) {
+TEST(CResourceSelector, IsSelectedByItsEventsOnADesignSurface) {
   DesignForm on;
   const auto widget = MakeRef<FakeResource>();
   const auto control = Bind(on, kClass, widget);
@@ -187,7 +187,7 @@ TEST(CResourceSelector, IsNotSelectedWhileItIsBeingRead) {
   EXPECT_EQ(on.owner->Take(), "");
 }
 
-TEST(CResourceSelector, TellsTheHeightThatTheWidgetTookAndMovesTheHandles) {
+TEST(CResourceSelector, ReportsTheHeightThatTheWidgetChose) {
   DesignForm on;
   const auto widget = MakeRef<FakeResource>();
   const auto control = Bind(on, kClass, widget);
@@ -198,7 +198,7 @@ TEST(CResourceSelector, TellsTheHeightThatTheWidgetTookAndMovesTheHandles) {
   EXPECT_EQ(on.owner->Take(), "");
 }
 
-TEST(CResourceSelector, OffersTheScreenKeyboardWhereThePathCanBeTyped) {
+TEST(CResourceSelector, OpensTheScreenKeyboardIfThePathCanBeTyped) {
   FakeDesktop desktop;
   Module().enableScreenKeyboard = true;
   InputForm on;

@@ -41,7 +41,7 @@ class EverySelector : public testing::TestWithParam<Kind> {};
 INSTANTIATE_TEST_SUITE_P(, EverySelector, testing::ValuesIn(kKinds),
                          [](const auto& test) { return Text(test.param.className).ToUtf8(); });
 
-TEST_P(EverySelector, IsTheClassOfItsTypeItsIdentifierAndItsNumber) {
+TEST_P(EverySelector, IsFoundByTypeAndNumber) {
   const ClassTable* byNumber = FindControlClass(GetParam().number);
   ASSERT_TRUE(byNumber);
   EXPECT_EQ(byNumber->className, GetParam().className);
@@ -49,7 +49,7 @@ TEST_P(EverySelector, IsTheClassOfItsTypeItsIdentifierAndItsNumber) {
   EXPECT_EQ(FindControlClass(GetParam().type), byNumber);
 }
 
-TEST_P(EverySelector, WorksWithNoOtherWidget) {
+TEST_P(EverySelector, RejectsOtherWidgets) {
   const Ref<Control> control = FindControlClass(GetParam().number)->create();
   for (const Kind& other : kKinds) {
     const int error = ErrorOf([&] { control->BindObject(other.make()); });
@@ -57,7 +57,7 @@ TEST_P(EverySelector, WorksWithNoOtherWidget) {
   }
 }
 
-TEST_P(EverySelector, AnswersWhatNeedsNoWidgetWhileItIsUnbound) {
+TEST_P(EverySelector, WorksWithoutAWidgetWhereItNeedsNone) {
   const Ref<Control> control = FindControlClass(GetParam().number)->create();
   control->SetName(u"later");
   EXPECT_EQ(control->Name(), u"later");
@@ -69,7 +69,7 @@ TEST_P(EverySelector, AnswersWhatNeedsNoWidgetWhileItIsUnbound) {
   EXPECT_EQ(ErrorOf([&] { control->Value(); }), 91);
 }
 
-TEST_P(EverySelector, IsLockedOnTheDesignSurfaceAlone) {
+TEST_P(EverySelector, IsLockedOnlyOnADesignSurface) {
   const Ref<Widget> drawn = GetParam().make();
   DesignForm design;
   ReadLines(*Bind(design, GetParam().className, drawn), "");
@@ -80,7 +80,7 @@ TEST_P(EverySelector, IsLockedOnTheDesignSurfaceAlone) {
   EXPECT_FALSE(dynamic_cast<SelectorWidget&>(*filledIn).IsLocked());
 }
 
-TEST_P(EverySelector, IsSwitchedOffWhileTheDesignersMenuIsOpen) {
+TEST_P(EverySelector, IsDisabledWhileTheDesignersMenuIsOpen) {
   const Ref<Widget> widget = GetParam().make();
   DesignForm on;
   const auto control = Bind(on, GetParam().className, widget);
@@ -114,7 +114,7 @@ TEST_P(EverySelector, RunsOnClickWhileAFormIsFilledIn) {
   EXPECT_EQ(on.owner->Take(), "run a_OnClick");
 }
 
-TEST_P(EverySelector, OutlivesAScriptThatRemovesIt) {
+TEST_P(EverySelector, SurvivesAScriptThatRemovesIt) {
   const Ref<Widget> widget = GetParam().make();
   InputForm on;
   Bind(on, GetParam().className, widget);
@@ -131,7 +131,7 @@ TEST_P(EverySelector, IsRenamedThroughItsOwner) {
   EXPECT_EQ(on.Names(), "Form, better");
 }
 
-TEST(CFontSelector, TellsTheDesignerWhenItsWidgetFollowsTheFont) {
+TEST(CFontSelector, ReportsItsHeightWhenTheFontChangesIt) {
   DesignForm on;
   const auto widget = MakeRef<FakeFontSelector>();
   const auto control = Bind(on, u"CFontSelector", widget);
@@ -145,7 +145,7 @@ TEST(CFontSelector, TellsTheDesignerWhenItsWidgetFollowsTheFont) {
   EXPECT_EQ(input.owner->Take(), "");
 }
 
-TEST(CFontSelector, RunsFourEventsAndIsSelectedByTheClickAlone) {
+TEST(CFontSelector, RunsFourEventsAndIsSelectedOnlyByAClick) {
   const auto allEvents = [](WidgetListener& listener) {
     listener.OnBeforeButtonClick();
     listener.OnChange();
@@ -167,7 +167,7 @@ TEST(CFontSelector, RunsFourEventsAndIsSelectedByTheClickAlone) {
   EXPECT_EQ(design.owner->Take(), "SetCtrl a");
 }
 
-TEST(CFontSelector, AnswersIsNeededInNoRowOfTheGrid) {
+TEST(CFontSelector, HasAHiddenRowIsNeeded) {
   InputForm on;
   const auto control = Bind(on, u"CFontSelector", MakeRef<FakeFontSelector>());
   EXPECT_EQ(control->PropertyCount(), 14);
@@ -177,7 +177,7 @@ TEST(CFontSelector, AnswersIsNeededInNoRowOfTheGrid) {
   EXPECT_EQ(TextOf(*control, u"IsNeeded"), u"True");
 }
 
-TEST(MaskValue, IsTheTemplateUnlessOneIsHandedIn) {
+TEST(MaskValue, IsTheDefaultTemplate) {
   InputForm on;
   const auto widget = MakeRef<FakeColorSelector>();
   widget->SetColor(Rgb(1, 2, 3));
@@ -198,7 +198,7 @@ TEST(MaskValue, IsTheTemplateUnlessOneIsHandedIn) {
   EXPECT_EQ(control->Value(), u"197121");
 }
 
-TEST(MaskValue, OfANewFontSelectorNamesWhatAHostDrawsTextWith) {
+TEST(MaskValue, OfANewFontSelectorHasTheHostsFontParameters) {
   InputForm on;
   const auto control = Bind(on, u"CFontSelector", MakeRef<FakeFontSelector>());
   EXPECT_EQ(TextOf(*control, u"MaskValue"),
@@ -206,7 +206,7 @@ TEST(MaskValue, OfANewFontSelectorNamesWhatAHostDrawsTextWith) {
   EXPECT_EQ(control->Value(), u"|MS Sans Serif| 11 0 0 0 False False False False");
 }
 
-TEST(MaskValue, IsDescribedWithThePlaceholdersOfItsClass) {
+TEST(MaskValue, IsDescribedWithTheParametersOfItsClass) {
   InputForm on;
   const auto color = Bind(on, u"CColorSelector", MakeRef<FakeColorSelector>(), u"c");
   const auto font = Bind(on, u"CFontSelector", MakeRef<FakeFontSelector>(), u"f");
@@ -218,7 +218,7 @@ TEST(MaskValue, IsDescribedWithThePlaceholdersOfItsClass) {
             std::u16string_view::npos);
 }
 
-TEST(Border, IsTrueForBorderStyleOneAlone) {
+TEST(Border, IsTrueOnlyForBorderStyleOne) {
   InputForm on;
   const auto widget = MakeRef<FakeColorSelector>();
   const auto control = Bind(on, u"CColorSelector", widget);

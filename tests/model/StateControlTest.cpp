@@ -33,7 +33,7 @@ TEST(Selected, IsStoredAsATextAndSetsTheWidget) {
   }
 }
 
-TEST(Selected, BecomesFalseWhereTheTextIsBlank) {
+TEST(Selected, IsFalseForABlankText) {
   for (const auto className : kStateControls) {
     InputForm on;
     const auto box = on.Add(className);
@@ -46,7 +46,7 @@ TEST(Selected, BecomesFalseWhereTheTextIsBlank) {
   }
 }
 
-TEST(Selected, IsStoredAndLeavesTheWidgetWhereItIsNoBoolean) {
+TEST(Selected, IsStoredWithoutEffectIfItIsNoBoolean) {
   const TempFolder folder;
   for (const auto className : kStateControls) {
     DesignForm on;
@@ -63,7 +63,7 @@ TEST(Selected, IsStoredAndLeavesTheWidgetWhereItIsNoBoolean) {
   }
 }
 
-TEST(Selected, IsSavedAsLastSetOrReadWhateverWasClickedSince) {
+TEST(Selected, IsSavedAsLastSetOrReadInSpiteOfLaterClicks) {
   const TempFolder folder;
   const Text file = folder.Put("a.frm", "");
   DesignForm on;
@@ -78,7 +78,7 @@ TEST(Selected, IsSavedAsLastSetOrReadWhateverWasClickedSince) {
   EXPECT_NE(folder.Get("a.frm").find("Selected=False\r\n"), std::string::npos);
 }
 
-TEST(Selected, IsFalseInAProjectThatDoesNotTell) {
+TEST(Selected, IsFalseWithoutAKey) {
   const TempFolder folder;
   const Text file = folder.Put("a.frm", "[S]\r\nText=x\r\n[T]\r\nSelected=\r\n[U]\r\nSelected=True\r\n");
   for (const auto className : kStateControls) {
@@ -95,7 +95,7 @@ TEST(Selected, IsFalseInAProjectThatDoesNotTell) {
   }
 }
 
-TEST(CCheckBox, GivesItsStateAsADecimalText) {
+TEST(CCheckBox, HasItsStateAsValue) {
   InputForm on;
   const auto box = on.Add(u"CCheckBox");
   EXPECT_EQ(box->Value(), u"0");
@@ -108,7 +108,7 @@ TEST(CCheckBox, GivesItsStateAsADecimalText) {
   EXPECT_EQ(TextOf(*box, u"IsNeeded"), u"False");
 }
 
-TEST(COptionButton, GivesItsTextOnlyWhileItIsSelected) {
+TEST(COptionButton, HasAValueOnlyWhileItIsSelected) {
   InputForm on;
   const auto a = on.Add(u"COptionButton", u"a", u"object_1");
   const auto b = on.Add(u"COptionButton", u"b", u"object_2");
@@ -124,7 +124,7 @@ TEST(COptionButton, GivesItsTextOnlyWhileItIsSelected) {
   EXPECT_TRUE(a->PropertyValue(u"IsNeeded").IsEmpty());
 }
 
-TEST(COptionButton, IsLockedOutOfTheOthersOnlyInItsOwnContainer) {
+TEST(COptionButton, ExcludesTheOthersInItsContainerOnly) {
   InputForm on;
   const auto frame = on.Add(u"CFrame", u"fra", u"object_1");
   const auto outside = on.Add(u"COptionButton", u"a", u"object_2");
@@ -136,7 +136,7 @@ TEST(COptionButton, IsLockedOutOfTheOthersOnlyInItsOwnContainer) {
   EXPECT_EQ(BoxOf(*inside).State(), 1);
 }
 
-TEST(StateControls, AreSelectedInTheDesignerByFocusAndNotByAClick) {
+TEST(StateControls, AreSelectedByFocusAndNotByAClick) {
   for (const auto className : kStateControls) {
     DesignForm on;
     const auto box = on.Add(className);
@@ -151,7 +151,7 @@ TEST(StateControls, AreSelectedInTheDesignerByFocusAndNotByAClick) {
   }
 }
 
-TEST(StateControls, RunTheirProcedureWhereCodeChangesTheStateToo) {
+TEST(StateControls, RunOnClickWhenCodeChangesTheState) {
   for (const auto className : kStateControls) {
     InputForm on;
     const auto box = on.Add(className);

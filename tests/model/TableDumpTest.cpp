@@ -108,7 +108,7 @@ INSTANTIATE_TEST_SUITE_P(, EveryClassTable, testing::ValuesIn(AllTables()),
                          [](const auto& test) { return Utf8(test.param->className); });
 
 // CARDWRIGHT_PROMOTE=1 makes what the tables say now the truth: read the change before it is kept.
-TEST_P(EveryClassTable, IsAsItsPageSays) {
+TEST_P(EveryClassTable, MatchesItsGoldenFile) {
   const ClassTable& table = *GetParam();
   const std::string path = CARDWRIGHT_SOURCE_DIR "/tests/model/golden/" + Utf8(table.className) + ".txt";
   const std::string dump = Dump(table);

@@ -32,7 +32,7 @@ class TextEntry : public testing::Test {
 
 }  // namespace
 
-TEST_F(TextEntry, TakesAnyTextByDefault) {
+TEST_F(TextEntry, AcceptsAnyTextByDefault) {
   for (const auto className : kTextBoxes) {
     const auto box = on.Add(className, className, className);
     EXPECT_EQ(Typed(*box, "a-1.5"), u"a-1.5");
@@ -45,7 +45,7 @@ TEST_F(TextEntry, TakesAnyTextByDefault) {
   EXPECT_EQ(WidgetOf(*box).Tag(), u"");
 }
 
-TEST_F(TextEntry, TakesOnlyAnIntegerWhateverTheCaseOfTheMode) {
+TEST_F(TextEntry, AcceptsOnlyIntegersForIntegerInAnyCase) {
   const auto box = on.Add(u"CTextBox");
   box->SetPropertyValue(u"InputType", u"INTEGER");
   EXPECT_EQ(Typed(*box, "1a2.3"), u"123");
@@ -53,7 +53,7 @@ TEST_F(TextEntry, TakesOnlyAnIntegerWhateverTheCaseOfTheMode) {
   EXPECT_EQ(desktop.beeps, 2);
 }
 
-TEST_F(TextEntry, TakesARealNumberWithTheSystemsSeparator) {
+TEST_F(TextEntry, AcceptsRealNumbersWithTheSystemsSeparator) {
   const auto box = on.Add(u"CTextBox");
   box->SetPropertyValue(u"InputType", u"float");
   EXPECT_EQ(Typed(*box, "1.2.3x"), u"1.23");
@@ -62,7 +62,7 @@ TEST_F(TextEntry, TakesARealNumberWithTheSystemsSeparator) {
   EXPECT_EQ(Typed(*box, "1.2"), u"1,2");
 }
 
-TEST_F(TextEntry, SwitchesTheSignWhereItMay) {
+TEST_F(TextEntry, TogglesTheSignIfAllowed) {
   const auto box = on.Add(u"CTextBox");
   box->SetPropertyValue(u"InputType", u"Float");
   EXPECT_EQ(Typed(*box, "12-"), u"-12");
@@ -72,7 +72,7 @@ TEST_F(TextEntry, SwitchesTheSignWhereItMay) {
   EXPECT_EQ(Typed(*box, "12-"), u"12");
 }
 
-TEST_F(TextEntry, KeepsTheModeOfTheFirstKey) {
+TEST_F(TextEntry, KeepsTheInputModeOfTheFirstKey) {
   const auto box = on.Add(u"CTextBox");
   box->SetPropertyValue(u"InputType", u"Integer");
   Typed(*box, "1");
@@ -86,7 +86,7 @@ TEST_F(TextEntry, KeepsTheModeOfTheFirstKey) {
   EXPECT_EQ(Typed(*box, "x.y"), u"x.y");
 }
 
-TEST_F(TextEntry, HasNoModeOfItsOwnWithSeveralLines) {
+TEST_F(TextEntry, HasNoInputModeWithSeveralLines) {
   const auto box = on.Add(u"CTextBoxMultiline");
   box->SetPropertyValue(u"MinusSignEnabled", u"False");
   EXPECT_EQ(Typed(*box, "-1"), u"-1");
@@ -105,7 +105,7 @@ TEST_F(TextEntry, FiltersNothingOnADesignSurface) {
   EXPECT_EQ(WidgetOf(*box).Tag(), u"");
 }
 
-TEST_F(TextEntry, RunsItsProcedureOnEachChange) {
+TEST_F(TextEntry, RunsOnChangeForEachChange) {
   for (const auto className : kTextBoxes) {
     const auto box = on.Add(className, className, className);
     const std::string name = Text(className).ToUtf8();
@@ -123,7 +123,7 @@ TEST_F(TextEntry, RunsItsProcedureOnEachChange) {
   EXPECT_EQ(design.owner->Take(), "");
 }
 
-TEST_F(TextEntry, GivesItsTextAsValue) {
+TEST_F(TextEntry, HasItsTextAsValue) {
   for (const auto className : kTextBoxes) {
     const auto box = on.Add(className, className, className);
     EXPECT_EQ(box->Value(), u"");
@@ -144,7 +144,7 @@ TEST_F(TextEntry, ListsItsInputTypesByNameOrNumber) {
   EXPECT_TRUE(box->PropertyList(u"Text").empty());
 }
 
-TEST_F(TextEntry, StartsTheScreenKeyboardOnlyWhereItIsEnabledAndScriptsMayRun) {
+TEST_F(TextEntry, OpensTheScreenKeyboardIfItIsEnabledAndScriptsMayRun) {
   Module().enableScreenKeyboard = true;
   std::size_t starts = 0;
   for (const auto className : {u"CTextBox", u"CTextBoxMultiline"}) {
@@ -164,7 +164,7 @@ TEST_F(TextEntry, StartsTheScreenKeyboardOnlyWhereItIsEnabledAndScriptsMayRun) {
   Module().enableScreenKeyboard = false;
 }
 
-TEST_F(TextEntry, StartsNoScreenKeyboardOnADesignSurface) {
+TEST_F(TextEntry, OpensNoScreenKeyboardOnADesignSurface) {
   DesignForm design;
   const auto box = design.Add(u"CTextBox");
   design.Show();
@@ -175,7 +175,7 @@ TEST_F(TextEntry, StartsNoScreenKeyboardOnADesignSurface) {
   EXPECT_TRUE(desktop.started.empty());
 }
 
-TEST_F(TextEntry, IsSwitchedOffWhileTheDesignersMenuIsOpen) {
+TEST_F(TextEntry, IsDisabledWhileTheDesignersMenuIsOpen) {
   DesignForm design;
   const auto box = design.Add(u"CTextBox");
   design.Show();
@@ -188,7 +188,7 @@ TEST_F(TextEntry, IsSwitchedOffWhileTheDesignersMenuIsOpen) {
   EXPECT_TRUE(WidgetOf(*box).IsEnabled());
 }
 
-TEST_F(TextEntry, IsLockedByReadingOnADesignSurface) {
+TEST_F(TextEntry, IsLockedOnADesignSurface) {
   const TempFolder folder;
   const Text file = folder.Put("a.frm", "[S]\r\nText=x\r\n");
   DesignForm design;

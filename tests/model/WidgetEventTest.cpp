@@ -55,7 +55,7 @@ class EveryPlainClass : public testing::TestWithParam<Text> {};
 INSTANTIATE_TEST_SUITE_P(, EveryPlainClass, testing::ValuesIn(kPlainClasses),
                          [](const auto& test) { return test.param.ToUtf8(); });
 
-TEST_P(EveryControlClass, OpensTheDesignersMenuOnTheRightButtonAlone) {
+TEST_P(EveryControlClass, OpensTheDesignersMenuOnlyForTheRightButton) {
   DesignForm on;
   const auto control = on.Add(GetParam());
   on.Show();
@@ -78,7 +78,7 @@ TEST_P(EveryControlClass, OpensNoMenuWhileAFormIsFilledIn) {
   EXPECT_EQ(on.owner->Take(), "");
 }
 
-TEST_P(EveryControlClass, OutlivesAMenuThatDeletesIt) {
+TEST_P(EveryControlClass, SurvivesAMenuThatDeletesIt) {
   DesignForm on;
   Ref<Control> control = on.Add(GetParam());
   on.Show();
@@ -96,7 +96,7 @@ TEST_P(EveryControlClass, OutlivesAMenuThatDeletesIt) {
   EXPECT_EQ(on.Names(), "Form");
 }
 
-TEST_P(EveryControlClass, ShowsTheArrowWhereTheMouseMoves) {
+TEST_P(EveryControlClass, ShowsTheArrowPointerOnMouseMoves) {
   DesignForm on;
   const auto control = on.Add(GetParam());
   on.Show();
@@ -105,7 +105,7 @@ TEST_P(EveryControlClass, ShowsTheArrowWhereTheMouseMoves) {
   EXPECT_EQ(on.owner->Take(), "arrow");
 }
 
-TEST_P(EveryControlClass, IsNotSelectedByTheFocusWhileTheSelectionIsMoved) {
+TEST_P(EveryControlClass, IsNotSelectedByTheFocusDuringADrag) {
   DesignForm on;
   const auto control = on.Add(GetParam());
   const auto other = on.Add(u"CTextBox", u"other", u"object_2");
@@ -125,7 +125,7 @@ TEST_P(EveryControlClass, IsNotSelectedByTheFocusWhileTheSelectionIsMoved) {
   EXPECT_EQ(on.owner->Take(), "SetCtrl a");
 }
 
-TEST_P(EveryPlainClass, RunsItsProceduresOnlyWhereScriptsMayRun) {
+TEST_P(EveryPlainClass, RunsItsProceduresOnlyIfScriptsMayRun) {
   InputForm on;
   const auto control = on.Add(GetParam());
   on.Show();
@@ -140,7 +140,7 @@ TEST_P(EveryPlainClass, RunsItsProceduresOnlyWhereScriptsMayRun) {
   EXPECT_EQ(on.owner->Take(), "");
 }
 
-TEST_P(EveryPlainClass, OutlivesAProcedureThatRemovesIt) {
+TEST_P(EveryPlainClass, SurvivesAProcedureThatRemovesIt) {
   InputForm on;
   Ref<Control> control = on.Add(GetParam());
   on.Show();
@@ -158,7 +158,7 @@ TEST_P(EveryPlainClass, OutlivesAProcedureThatRemovesIt) {
   EXPECT_EQ(on.Names(), "Form");
 }
 
-TEST(TextBoxes, AreSelectedByAClickUnlessTheSelectionIsMoved) {
+TEST(TextBoxes, AreSelectedByAClickExceptDuringADrag) {
   for (const auto className : {u"CTextBox", u"CTextBoxMultiline"}) {
     DesignForm on;
     const auto box = on.Add(className);
@@ -204,7 +204,7 @@ TEST(CLabel, IsSelectedByAClick) {
   EXPECT_EQ(on.owner->Take(), "SetCtrl a");
 }
 
-TEST(CLabel, ShowsANewTextAtOnce) {
+TEST(CLabel, RepaintsForANewText) {
   DesignForm on;
   const auto label = on.Add(u"CLabel");
   on.Show();
@@ -244,7 +244,7 @@ TEST(CCommandButton, IsSelectedByClickAndFocus) {
   EXPECT_EQ(on.owner->Take(), "SetCtrl a");
 }
 
-TEST(CFrame, HandsOnADrawingAndIsNotSelectedByItsClick) {
+TEST(CFrame, ForwardsADrawingAndIsNotSelectedByItsClick) {
   DesignForm on;
   const auto frame = on.Add(u"CFrame");
   WidgetOf(*frame).Move(0, 0, 100, 80);
@@ -262,7 +262,7 @@ TEST(CFrame, HandsOnADrawingAndIsNotSelectedByItsClick) {
   EXPECT_EQ(on.owner->Take(), "SetCtrl a");
 }
 
-TEST(CFrame, KeepsAClickConsumedUntilTheNextPress) {
+TEST(CFrame, IgnoresTheClickAfterADrawing) {
   DesignForm on;
   const auto frame = on.Add(u"CFrame");
   WidgetOf(*frame).Move(0, 0, 100, 80);
@@ -278,7 +278,7 @@ TEST(CFrame, KeepsAClickConsumedUntilTheNextPress) {
   EXPECT_EQ(on.owner->Take(), "SetCtrl a");
 }
 
-TEST(CFrame, RunsItsProcedureWhileAFormIsFilledIn) {
+TEST(CFrame, RunsOnClickWhileAFormIsFilledIn) {
   InputForm on;
   const auto frame = on.Add(u"CFrame");
   WidgetOf(*frame).Move(0, 0, 100, 80);

@@ -5,7 +5,7 @@
 namespace cardwright {
 namespace {
 
-/// The widget of a control of that name, where it is of the kind that a link leads to.
+/// The widget of a control of that name; null where it is of another kind.
 template <class Kind>
 Ref<Kind> LinkedWidget(const Collection& controls, const Text& userName) {
   const IControl* control = FindControl(controls, userName);
@@ -21,8 +21,8 @@ struct CAttributeSelector::Tables {
 
   static constexpr Field kText{rows::GetCaption, SelectText};
   static constexpr Field kStoredText{StoredText, nullptr};
-  // From the grid a link is there at once, so that the author can choose from the list. In projects it is a
-  // name: the control that it leads to may come later.
+  // A link that is set in the grid takes effect at once, so that the author can choose from the list. A link
+  // in a project is only a name: its target may come later in the file.
   template <auto Member>
   static constexpr Field Link{Stored<Member>.get, [](TableControl& c, const Variant& name) {
                                 Stored<Member>.set(c, name);
@@ -36,7 +36,7 @@ struct CAttributeSelector::Tables {
       [](TableControl& c, const Variant& text) {
         BoundAs<W>(c).SetFeatureType(FeatureTypeFromText(ToText(text)));
       }};
-  // A number in projects; the text of a type is understood there too.
+  // A number in projects; the text of a type is accepted too.
   static constexpr Field kStoredType{
       [](const TableControl& c) -> Variant { return BoundAs<W>(c).FeatureType(); },
       [](TableControl& c, const Variant& stored) {
@@ -59,7 +59,7 @@ struct CAttributeSelector::Tables {
                        .field = Link<&CAttributeSelector::m_FeatureSelectorName>,
                        .links = ControlTypeEnum::ctComboBox},
            rows::Attribute, rows::IsNeeded);
-  // Text is a choice: it is read last.
+  // Text selects an entry: it is read last.
   static constexpr auto kKeys =
       Keys(keys::Key(u"Text", kStoredText), keys::BackColor, keys::Font, keys::GeometryWithoutHeight,
            keys::ForeColor, keys::Key(u"ThemeSelectorName", kThemes), keys::Key(u"FeatureType", kStoredType),
@@ -80,8 +80,8 @@ constinit const ClassTable CAttributeSelector::kTable =
                     .hasFixedHeight = true},
          .value = {.row = u"Text", .requiredRow = u"Text", .followsOthers = true}});
 
-// Without a theme selector the feature selector is left alone too: a type of features says nothing without a
-// theme. The text of the project was read before there were links, and so before there was a list.
+// Without a theme selector the feature selector is not linked either: a feature type means nothing without a
+// theme. The stored text was read before the links, and so before there was a list to choose from.
 void CAttributeSelector::AttachControls(Collection& controls) {
   if (m_ThemeSelectorName.IsEmpty() || !Bound()) return;
   HandOverConnection();

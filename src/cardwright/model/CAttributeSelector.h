@@ -4,9 +4,9 @@
 
 namespace cardwright {
 
-/// An attribute of the theme that a theme selector of the form shows, for one feature type. It names the
-/// selector, and a combo box that chooses the type, by their user names; the widgets are linked when the
-/// whole form is there.
+/// An attribute of the theme that a theme selector of the form shows, for one feature type. The selector, and
+/// a combo box that chooses the type, are given by their user names; the widgets are linked after the whole
+/// form was read.
 class CAttributeSelector final : public HostListControl {
  public:
   static const ClassTable kTable;

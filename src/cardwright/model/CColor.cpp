@@ -26,8 +26,8 @@ constexpr Member kColorMembers[] = {
     Property<&CColor::Color, &CColor::SetColor>(u"Color"),
 };
 
-// Only the high bit marks a system colour here; to what takes colours apart by their digits, as CColor does,
-// any number of more than six digits is one, and the digits behind the first two are its index.
+// Elsewhere the high bit alone marks a system colour. CColor goes by hexadecimal digits: any number of more
+// than six digits is a system colour, and the digits after the first two are its index. Scripts may rely on it.
 OleColor ResolvedByDigits(OleColor color) {
   const auto number = static_cast<std::uint32_t>(color);
   if (number <= 0xFFFFFF) return color;

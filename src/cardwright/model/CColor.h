@@ -5,14 +5,14 @@
 
 namespace cardwright {
 
-/// A colour number taken apart.
+/// The components of a colour number.
 class CColor final : public TableObject {
  public:
   Text TypeName() const override { return u"CColor"; }
 
   /// The components as a colour number.
   OleColor Color() const noexcept { return Rgb(m_Red, m_Green, m_Blue); }
-  /// Takes the components of a colour; of a system colour, those it has at present.
+  /// Takes the components of a colour; a system colour is resolved to its present value.
   void SetColor(OleColor color);
 
   std::uint8_t m_Red = 0;

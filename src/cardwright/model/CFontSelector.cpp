@@ -8,7 +8,7 @@ struct CFontSelector::Tables {
   using W = FontSelectorWidget;
   using enum PropertyTypeEnum;
 
-  static constexpr Field kGround = WidgetColor<&W::BackColorBkg, &W::SetBackColorBkg>;
+  static constexpr Field kBackground = WidgetColor<&W::BackColorBkg, &W::SetBackColorBkg>;
   static constexpr Field kTitle = WidgetText<&W::Title, &W::SetTitle>;
   static constexpr Field kMask = Stored<&CFontSelector::m_MaskValue>;
   static constexpr Field kBorder = WidgetBorder<W>;
@@ -17,7 +17,7 @@ struct CFontSelector::Tables {
   static constexpr auto kRows =
       Rows(rows::Name, PropertyRow{u"Font", ptFont, messages::FontSelectorHelp, rows::Font.field},
            PropertyRow{u"BackColor", ptColor, messages::FontBackColorHelp, rows::BackColor.field},
-           PropertyRow{u"BackColorBkg", ptColor, messages::BackColorHelp, kGround}, rows::Left, rows::Top,
+           PropertyRow{u"BackColorBkg", ptColor, messages::BackColorHelp, kBackground}, rows::Left, rows::Top,
            rows::Width, rows::Height, rows::ForeColor,
            PropertyRow{u"Title", ptString, messages::TitleHelp, kTitle},
            PropertyRow{.name = u"MaskValue",
@@ -27,10 +27,10 @@ struct CFontSelector::Tables {
                        .argument = messages::FontMaskParameters},
            PropertyRow{u"Border", ptBoolean, messages::BorderHelp, kBorder},
            PropertyRow{u"AutoSize", ptBoolean, messages::AutoSizeHelp, kAutoSize}, rows::Attribute);
-  // Answered and saved as everywhere, but grids never showed it here.
+  // Readable and saved as in other classes, but not shown in grids.
   static constexpr auto kHidden = Rows(rows::IsNeeded);
   static constexpr auto kKeys =
-      Keys(keys::BackColor, keys::ColorKey(u"BackColorBkg", kGround), keys::Font, keys::Geometry,
+      Keys(keys::BackColor, keys::ColorKey(u"BackColorBkg", kBackground), keys::Font, keys::Geometry,
            keys::ForeColor, keys::Attribute, keys::IsNeeded, keys::Key(u"Border", kBorder),
            keys::Key(u"AutoSize", kAutoSize), keys::Key(u"Title", kTitle), keys::Key(u"MaskValue", kMask));
   static constexpr auto kEvents =

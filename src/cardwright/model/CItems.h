@@ -17,7 +17,7 @@ class CItems final : public TableObject {
   Ref<CItem> Item(const Variant& index) const;
   /// False where the place named by `before` does not exist.
   bool Add(Ref<CItem> item, std::optional<Variant> before = {});
-  /// True in any case, as scripts were always told.
+  /// Always true, as scripts expect.
   bool Remove(const Variant& index);
   void Clear();
   std::unique_ptr<Enumerator> Enumerate() override { return m_Items->Enumerate(); }

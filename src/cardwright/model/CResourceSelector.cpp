@@ -17,7 +17,7 @@ struct CResourceSelector::Tables {
   static constexpr Field kReadRegKey{kRegKey.get, [](TableControl& c, const Variant& key) {
                                        As<CResourceSelector>(c).ReadRegKey(ToText(key));
                                      }};
-  static constexpr Field kGround = WidgetColor<&W::BackColorBkg, &W::SetBackColorBkg>;
+  static constexpr Field kBackground = WidgetColor<&W::BackColorBkg, &W::SetBackColorBkg>;
   static constexpr Field kHeight{rows::GetHeight, [](TableControl& c, const Variant& height) {
                                    As<CResourceSelector>(c).MoveHeight(height);
                                  }};
@@ -32,7 +32,7 @@ struct CResourceSelector::Tables {
       rows::Name, PropertyRow{u"Path", ptString, messages::TextHelp, kPath},
       PropertyRow{u"RegKey", ptString, messages::RegKeyHelp, kRegKey},
       PropertyRow{u"BackColor", ptColor, messages::InputBackColorHelp, rows::BackColor.field},
-      PropertyRow{u"BackColorBkg", ptColor, messages::BackColorHelp, kGround}, rows::Font, rows::Left,
+      PropertyRow{u"BackColorBkg", ptColor, messages::BackColorHelp, kBackground}, rows::Font, rows::Left,
       rows::Top, rows::Width, PropertyRow{u"Height", ptInteger, messages::HeightHelp, kHeight},
       rows::ForeColor, PropertyRow{u"BrowseForFolder", ptBoolean, messages::BrowseForFolderHelp, kFolders},
       PropertyRow{u"Filter", ptString, messages::FilterHelp, kFilter},
@@ -43,7 +43,7 @@ struct CResourceSelector::Tables {
       rows::IsNeeded);
   static constexpr auto kKeys =
       Keys(keys::Key(u"Path", kPath), keys::Key(u"RegKey", kReadRegKey), keys::BackColor,
-           keys::ColorKey(u"BackColorBkg", kGround), keys::Font, keys::Geometry, keys::ForeColor,
+           keys::ColorKey(u"BackColorBkg", kBackground), keys::Font, keys::Geometry, keys::ForeColor,
            keys::Attribute, keys::IsNeeded, keys::Key(u"BrowseForFolder", kFolders),
            keys::Key(u"Filter", kFilter), keys::Key(u"InputTextEnabled", kTyping),
            keys::Key(u"ShowSave", kSave), keys::Key(u"Title", kTitle), keys::Key(u"MultiSelect", kSeveral));
@@ -66,7 +66,7 @@ constinit const ClassTable CResourceSelector::kTable =
 
 ResourceSelectorWidget& CResourceSelector::Selector() const { return BoundAs<ResourceSelectorWidget>(*this); }
 
-// The widget may keep a height of its own, so the grid and the handles are told what came of it.
+// The widget may choose another height, so the grid and the handles are updated afterwards.
 void CResourceSelector::MoveHeight(const Variant& height) {
   const bool differs = Selector().Height() != ToSingle(height);
   rows::MoveHeight(*this, height);
@@ -75,12 +75,13 @@ void CResourceSelector::MoveHeight(const Variant& height) {
 
 void CResourceSelector::ReadRegKey(const Text& key) {
   m_RegKey = key;
-  const auto place = SplitRegKey(key);
-  if (place && Module().desktop)
-    Selector().SetStartFolder(Module().desktop->Settings().Get(place->app, place->section, place->name, {}));
+  const auto setting = SplitRegKey(key);
+  if (setting && Module().desktop)
+    Selector().SetStartFolder(
+        Module().desktop->Settings().Get(setting->app, setting->section, setting->name, {}));
 }
 
-// While a project is being read the control is not part of the form yet and cannot be selected.
+// While a project is being read, the control is not part of the form yet and cannot be selected.
 void CResourceSelector::SelectOrRun(std::u16string_view event) {
   if (!Designer()) return RunScriptEvent(event);
   const bool isInForm = FindControl(Designer()->Controls(), m_UserName) == this;
@@ -103,9 +104,10 @@ Text CResourceSelector::ChosenFolder() const {
 
 void CResourceSelector::OnLostFocus() {
   if (!Input() || !Bound() || !Module().desktop) return;
-  const auto place = SplitRegKey(m_RegKey);
-  const Text folder = place ? ChosenFolder() : Text();
-  if (!folder.IsEmpty()) Module().desktop->Settings().Save(place->app, place->section, place->name, folder);
+  const auto setting = SplitRegKey(m_RegKey);
+  const Text folder = setting ? ChosenFolder() : Text();
+  if (!folder.IsEmpty())
+    Module().desktop->Settings().Save(setting->app, setting->section, setting->name, folder);
 }
 
 }  // namespace cardwright

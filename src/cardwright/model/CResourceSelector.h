@@ -4,8 +4,8 @@
 
 namespace cardwright {
 
-/// The path of a file or a folder. It can keep the folder chosen last among the user's settings, as the start
-/// of the next choice.
+/// The path of a file or a folder. It can store the last chosen folder in the user's settings, as the start
+/// folder of the next choice.
 class CResourceSelector final : public SelectorControl {
  public:
   static const ClassTable kTable;
@@ -30,11 +30,11 @@ class CResourceSelector final : public SelectorControl {
   struct Tables;
   ResourceSelectorWidget& Selector() const;
   void MoveHeight(const Variant& height);
-  /// Takes the key as a project has it, and the folder kept under it.
+  /// Stores the key that was read from a project, and loads the folder that is stored under it.
   void ReadRegKey(const Text& key);
-  /// The event as every click: it selects the control on the design surface and runs the script elsewhere.
+  /// Selects the control on the design surface, and runs the event procedure in a form that is filled in.
   void SelectOrRun(std::u16string_view event);
-  /// The folder that the present path would keep, "" where there is none.
+  /// Folder of the present path; "" where it does not exist.
   Text ChosenFolder() const;
 
   Text m_RegKey;

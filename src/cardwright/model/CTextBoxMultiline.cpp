@@ -5,7 +5,7 @@
 namespace cardwright {
 
 struct CTextBoxMultiline::Tables {
-  // MinusSignEnabled stands third here, unlike in the one-line box: grids show the rows in this order.
+  // Unlike in CTextBox, MinusSignEnabled is the third row: hosts show the rows in this order.
   static constexpr auto kRows =
       Rows(rows::Name, rows::Text,
            PropertyRow{u"MinusSignEnabled", PropertyTypeEnum::ptBoolean, messages::MinusSignHelp,

@@ -4,7 +4,8 @@
 
 namespace cardwright {
 
-/// Text of several lines. It has no input mode of its own: only a Tag set from outside makes it filter keys.
+/// Text of several lines. It has no InputType: it filters keys only if a bound attribute or a script sets the
+/// Tag.
 class CTextBoxMultiline final : public TextEntry {
  public:
   static const ClassTable kTable;

@@ -16,7 +16,7 @@ struct CThemeSelector::Tables {
       Rows(rows::Name, PropertyRow{u"Text", ptString, messages::SelectedTextHelp, kText}, rows::BackColor,
            rows::Font, rows::Left, rows::Top, rows::Width, rows::ForeColor, rows::Attribute, rows::IsNeeded,
            PropertyRow{u"CreateThemeText", ptString, messages::CreateThemeTextHelp, kCreate});
-  // Text is a choice: it is read last, when the list is there.
+  // Text selects an entry: it is read last, after the list was filled.
   static constexpr auto kKeys =
       Keys(keys::Key(u"Text", kStoredText), keys::BackColor, keys::Font, keys::GeometryWithoutHeight,
            keys::ForeColor, keys::Key(u"CreateThemeText", kCreate), keys::Attribute, keys::IsNeeded);

@@ -4,7 +4,7 @@
 
 namespace cardwright {
 
-/// A theme of the host's project, which the end user picks or creates.
+/// A theme of the host's project, which the end user chooses or creates.
 class CThemeSelector final : public HostListControl {
  public:
   static const ClassTable kTable;

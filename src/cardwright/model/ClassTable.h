@@ -28,15 +28,15 @@ struct PropertyRow {
   Field field;
   std::span<const std::u16string_view> choices = {};  ///< of a ptList row
   int filter = 0;                                     ///< number of the message with the dialog filter
-  int argument = 0;  ///< number of the message that stands in the description as its argument
+  int argument = 0;  ///< number of the message that is the argument of the description
   ControlTypeEnum links = ControlTypeEnum::ctDefault;  ///< of a ptControls row: the kind of control it names
 };
 
-/// Form in which a value stands in a form project.
+/// How a value is written in a form project.
 enum class KeyForm {
   Text,    ///< the string itself
   Number,  ///< `Str` form; read by `Val`, so that a non-number is 0
-  Color,   ///< signed 32-bit number; a text that is none leaves the value
+  Color,   ///< signed 32-bit number; any other text leaves the value unchanged
   Font,    ///< the six keys of a font, flags as 0 and 1
   Items,   ///< the count and the two keys of each item
 };
@@ -81,7 +81,7 @@ struct ValueTraits {
   bool followsOthers = false;  ///< the choices depend on what other controls show
 };
 
-/// Everything that one control class is, as the reference page of the class tells it.
+/// Everything that one control class is.
 struct ClassTable {
   std::u16string_view className = {};                 ///< "CLabel"
   ControlTypeEnum type = ControlTypeEnum::ctDefault;  ///< ctDefault for the form itself
@@ -120,7 +120,7 @@ template <class List>
 consteval void RequireUnique(const List& list) {
   for (std::size_t i = 0; i < list.size(); ++i)
     for (std::size_t j = 0; j < i; ++j)
-      if (SameName(NameOf(list[i]), NameOf(list[j]))) throw "a table has an entry twice";
+      if (SameName(NameOf(list[i]), NameOf(list[j]))) throw "a table lists an entry twice";
 }
 
 template <const auto& Rows>
@@ -180,7 +180,7 @@ consteval ClassTable DefineClass(ClassTable table) {
   detail::RequireUnique(Events);
   for (const PropertyRow& hidden : Hidden)
     for (const PropertyRow& row : Rows)
-      if (detail::SameName(hidden.name, row.name)) throw "a hidden row stands in the grid as well";
+      if (detail::SameName(hidden.name, row.name)) throw "a hidden row is in the grid as well";
   constexpr const auto& joined = detail::kJoinedNames<Hidden>;
   if (table.design.identifier.empty()) table.design.identifier = table.widgetIdentifier;
   table.rows = Rows;

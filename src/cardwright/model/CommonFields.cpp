@@ -11,8 +11,8 @@ Widget& WidgetOf(TableControl& control) {
 
 const Widget& WidgetOf(const TableControl& control) { return WidgetOf(const_cast<TableControl&>(control)); }
 
-// The grid's road into geometry: it tells the designer, so that the handles follow, and not the host that
-// asked.
+// A change by a row comes from the host's grid: the designer moves the handles, and no PropertyChanged is
+// raised.
 void MoveEdge(TableControl& control, const Variant& value, float (Widget::*get)() const,
               void (Widget::*set)(float)) {
   Widget& widget = WidgetOf(control);
@@ -28,7 +28,7 @@ namespace rows {
 
 Variant GetUserName(const TableControl& control) { return control.UserName(); }
 
-// The name changes only if the owner agrees: two controls of a form never share one.
+// Only the owner renames, since it knows the names of the other controls.
 void Rename(TableControl& control, const Variant& name) {
   const cardwright::Text newName = ToText(name);
   if (control.Designer()) {
@@ -74,14 +74,14 @@ void MoveHeight(TableControl& control, const Variant& value) {
 
 namespace keys {
 
-void PutCaption(TableControl& control, const Variant& text) {
+void ReadCaption(TableControl& control, const Variant& text) {
   WidgetOf(control).SetDisplayText(ToText(text));
 }
-void PutLeft(TableControl& control, const Variant& value) { WidgetOf(control).SetLeft(ToSingle(value)); }
-void PutTop(TableControl& control, const Variant& value) { WidgetOf(control).SetTop(ToSingle(value)); }
-void PutWidth(TableControl& control, const Variant& value) { WidgetOf(control).SetWidth(ToSingle(value)); }
-void PutHeight(TableControl& control, const Variant& value) { WidgetOf(control).SetHeight(ToSingle(value)); }
-void PutForeColor(TableControl& control, const Variant& color) {
+void ReadLeft(TableControl& control, const Variant& value) { WidgetOf(control).SetLeft(ToSingle(value)); }
+void ReadTop(TableControl& control, const Variant& value) { WidgetOf(control).SetTop(ToSingle(value)); }
+void ReadWidth(TableControl& control, const Variant& value) { WidgetOf(control).SetWidth(ToSingle(value)); }
+void ReadHeight(TableControl& control, const Variant& value) { WidgetOf(control).SetHeight(ToSingle(value)); }
+void ReadForeColor(TableControl& control, const Variant& color) {
   WidgetOf(control).SetForeColor(ToLong(color));
 }
 

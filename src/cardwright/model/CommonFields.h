@@ -32,7 +32,7 @@ Ref<Control> MakeControl() {
   return MakeRef<C>();
 }
 
-/// A text that is stored as it is handed in.
+/// A text that is stored unchanged.
 template <auto Member>
 inline constexpr Field Stored{
     [](const TableControl& control) -> Variant {
@@ -42,10 +42,10 @@ inline constexpr Field Stored{
       As<typename detail::FieldOwner<decltype(Member)>::Type>(control).*Member = ToText(value);
     }};
 
-/// The same value without its setter: read from a project by the class itself, or written there only.
+/// The same field without its setter: for keys that the class reads itself, or that are only written.
 constexpr Field ReadOnly(Field field) { return {field.get, nullptr}; }
 
-/// @name Rows that every class shares, in the wording and order in which classes place them.
+/// @name Rows that classes share, in the usual order.
 /// @{
 namespace rows {
 
@@ -88,37 +88,38 @@ inline constexpr PropertyRow IsNeeded{u"IsNeeded", ptBoolean, messages::IsNeeded
 }  // namespace rows
 /// @}
 
-/// @name Keys that every class shares. Reading goes straight to the widget, without the grid's side effects.
+/// @name Keys that classes share. Their setters change the widget without the side effects of the grid's
+/// rows.
 /// @{
 namespace keys {
 
-void PutCaption(TableControl& control, const Variant& text);
-void PutLeft(TableControl& control, const Variant& value);
-void PutTop(TableControl& control, const Variant& value);
-void PutWidth(TableControl& control, const Variant& value);
-void PutHeight(TableControl& control, const Variant& value);
-void PutForeColor(TableControl& control, const Variant& color);
+void ReadCaption(TableControl& control, const Variant& text);
+void ReadLeft(TableControl& control, const Variant& value);
+void ReadTop(TableControl& control, const Variant& value);
+void ReadWidth(TableControl& control, const Variant& value);
+void ReadHeight(TableControl& control, const Variant& value);
+void ReadForeColor(TableControl& control, const Variant& color);
 
-inline constexpr KeyGroup Text{{{u"Text", KeyForm::Text, {rows::GetCaption, PutCaption}}}};
+inline constexpr KeyGroup Text{{{u"Text", KeyForm::Text, {rows::GetCaption, ReadCaption}}}};
 inline constexpr KeyGroup BackColor{{{u"BackColor", KeyForm::Color, rows::BackColor.field}}};
 inline constexpr KeyGroup Font{{{u"FontName", KeyForm::Font, {}}}};
-inline constexpr FileKey kLeft{u"Left", KeyForm::Number, {rows::GetLeft, PutLeft}};
-inline constexpr FileKey kTop{u"Top", KeyForm::Number, {rows::GetTop, PutTop}};
-inline constexpr FileKey kWidth{u"Width", KeyForm::Number, {rows::GetWidth, PutWidth}};
-inline constexpr FileKey kHeight{u"Height", KeyForm::Number, {rows::GetHeight, PutHeight}};
+inline constexpr FileKey kLeft{u"Left", KeyForm::Number, {rows::GetLeft, ReadLeft}};
+inline constexpr FileKey kTop{u"Top", KeyForm::Number, {rows::GetTop, ReadTop}};
+inline constexpr FileKey kWidth{u"Width", KeyForm::Number, {rows::GetWidth, ReadWidth}};
+inline constexpr FileKey kHeight{u"Height", KeyForm::Number, {rows::GetHeight, ReadHeight}};
 inline constexpr std::array<FileKey, 4> Geometry{kLeft, kTop, kWidth, kHeight};
 /// Of classes whose height follows the font.
 inline constexpr std::array<FileKey, 3> GeometryWithoutHeight{kLeft, kTop, kWidth};
-inline constexpr KeyGroup ForeColor{{{u"ForeColor", KeyForm::Color, {rows::GetForeColor, PutForeColor}}}};
+inline constexpr KeyGroup ForeColor{{{u"ForeColor", KeyForm::Color, {rows::GetForeColor, ReadForeColor}}}};
 inline constexpr KeyGroup Attribute{{{u"Attribute", KeyForm::Text, Stored<&Control::m_Attribute>}}};
 inline constexpr KeyGroup IsNeeded{{{u"IsNeeded", KeyForm::Text, Stored<&Control::m_IsNeeded>}}};
 
-/// A key of the class's own.
+/// A key of one class.
 constexpr KeyGroup Key(std::u16string_view name, Field field, const char16_t* fallback = nullptr) {
   return {{{name, KeyForm::Text, field, fallback}}};
 }
 
-/// The same of a colour.
+/// A key of one class that holds a colour.
 constexpr KeyGroup ColorKey(std::u16string_view name, Field field) {
   return {{{name, KeyForm::Color, field}}};
 }

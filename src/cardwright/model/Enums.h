@@ -23,7 +23,7 @@ enum class ControlTypeEnum : std::int32_t {
   ctFontSelector = 12,
   ctColorSelector = 13,
   ctAttributeSelector = 14,
-  ctDbTableViewer = 15,  ///< declared for hosts that number it; no control class stands behind it
+  ctDbTableViewer = 15,  ///< declared for hosts that use the number; there is no control class
 };
 
 /// What a property grid offers as an editor for a property.
@@ -47,7 +47,7 @@ enum class PropertyTypeEnum : std::int32_t {
   ptConnectionString = 15,  ///< declared for hosts that number it; no property has it
 };
 
-/// What may be typed into a text field; the number stands in the widget's Tag.
+/// What may be typed into a text field; the number is kept in the widget's Tag.
 enum class InputTypeEnum : std::int32_t { itString = 0, itInteger = 1, itFloat = 2 };
 
 }  // namespace cardwright

@@ -11,15 +11,13 @@ namespace cardwright {
 
 class FormOwner;
 
-/// Where the elements of a form find their owner, for as long as there is one: a script may hold an element
-/// beyond the form's end.
+/// How the elements of a form reach their owner. A script may keep an element longer than the form lives.
 struct OwnerLink final : RefCounted {
   explicit OwnerLink(FormOwner* at) : owner(at) {}
   FormOwner* owner;  ///< null once the owner is gone
 };
 
-/// What a form element calls back in the visual control that holds it: the side that designer and run time
-/// share.
+/// What a form element calls in the visual control that owns it, in the designer and at run time alike.
 class FormOwner {
  public:
   FormOwner(const FormOwner&) = delete;
@@ -28,9 +26,9 @@ class FormOwner {
   Ref<OwnerLink> Link() const noexcept { return m_Link; }
   /// All objects of the form, the CForm first, keyed by lower-case user name.
   virtual Collection& Controls() = 0;
-  /// Null once the visual control is gone while a script still holds its objects.
+  /// Null after the visual control has ended, while a script still keeps its objects.
   virtual Surface* GetSurface() = 0;
-  /// Renames with the check that no other control has the name.
+  /// Renames the control unless another one has the name.
   virtual void ChangeControlName(Ref<Object> control, const Text& newName) = 0;
   /// Outer size in the form's scale: the control's own size plus the frame of its top-level window.
   virtual float OuterWidth() const = 0;
@@ -52,9 +50,9 @@ class InputOwner : public FormOwner {
   /// Runs a script event procedure; false where the script refused.
   virtual bool RunEvent(const Text& procedure) = 0;
   virtual Text Caption() const = 0;
-  /// Stores the form's title and tells the host of it.
+  /// Stores the form's title and raises SetParentCaption.
   virtual void SetCaption(const Text& caption) = 0;
-  /// Places the fixed buttons and asks the host for room, once a project has been read.
+  /// Places the fixed buttons and raises NeedResize. To be called after a project was read.
   virtual void LayOut() = 0;
 
  protected:
@@ -69,9 +67,9 @@ class DesignerOwner : public FormOwner {
   virtual ControlTypeEnum ControlTypeToAdd() const = 0;
   virtual std::vector<Ref<IControl>> FilterControls(ControlTypeEnum type) const = 0;
   virtual void ShowArrowPointer() = 0;
-  /// Shows the grab handles around the current control where it stands now, or hides them.
+  /// Shows the grab handles around the current control, or hides them.
   virtual void ShowHandles(bool show) = 0;
-  /// The popup menu of a control, with its items as the lock allows.
+  /// Opens the popup menu for a control; the lock decides which items are enabled.
   virtual void OpenControlMenu(IControl& control) = 0;
 
   /// @name The mouse on a frame while a control is being added; coordinates are the frame's own.
@@ -84,12 +82,12 @@ class DesignerOwner : public FormOwner {
   /// While suspended, a resize of the surface raises no events and a click on it selects nothing.
   virtual void SuspendEvents(bool suspend) = 0;
 
-  /// Gives the surface the form's scale and paints the grid in it.
+  /// Gives the surface the form's scale and paints the grid.
   virtual void ApplyScaleAndGrid() = 0;
-  /// Paints the grid anew in the step that holds.
+  /// Repaints the grid.
   virtual void RepaintGrid() = 0;
 
-  /// Objects in stacking order; a restacked control moves to the end.
+  /// Objects in z-order; a control whose z-order changes moves to the end.
   virtual std::vector<Ref<IControl>> ZList() const = 0;
   virtual void ResetZList() = 0;
   virtual void AppendToZList(Ref<IControl> control) = 0;

@@ -13,7 +13,7 @@
 namespace cardwright {
 
 /// The one contract through which designer, run time, property grids and scripts see every element of a form.
-/// The class itself carries no behaviour: each member is empty and answers nothing.
+/// The class itself has no behaviour: each member does nothing and returns an empty value.
 class IControl : public TableObject {
  public:
   /// The bound widget's own name, or the user name where there is none.
@@ -23,7 +23,7 @@ class IControl : public TableObject {
   /// Name that the form's author gave; in lower case it is the key of the control in its form.
   virtual Text UserName() const { return {}; }
 
-  /// @name Geometry in the form's scale unit. Setting tells the designer's host through PropertyChanged.
+  /// @name Geometry in the form's scale unit. Setting raises the designer's PropertyChanged.
   /// @{
   virtual float Left() const { return 0; }
   virtual void SetLeft(float /*value*/) {}
@@ -67,12 +67,12 @@ class IControl : public TableObject {
   virtual Text FilenameFilter(const Variant& /*index*/) const { return {}; }
   /// @}
 
-  /// Loads from a section of a form project, key by key; a missing key leaves what is there.
+  /// Reads a section of a form project, key by key; a missing key leaves the value unchanged.
   virtual bool Read(const Text& /*filePath*/, const Text& /*sectionName*/) { return false; }
   /// Writes to a section of a form project; false outside the designer.
   virtual bool Save(const Text& /*filePath*/, const Text& /*sectionName*/) { return false; }
 
-  /// A stored number only; the owner restacks the widget.
+  /// Only stored; the owner changes the z-order of the widget.
   virtual std::int16_t ZOrder() const { return 0; }
   virtual void SetZOrder(std::int16_t /*position*/) {}
   virtual void Delete() {}
@@ -97,10 +97,9 @@ class IControl : public TableObject {
   const MemberTable& Members() const override;
 };
 
-/// The control in a collection's item; null where it holds something else.
+/// The control in a collection's item; null for any other object.
 IControl* AsControl(const Variant& item) noexcept;
-/// The controls of a collection in order, as they stand now: a script that adds or removes some while they
-/// are walked does no harm.
+/// A copy of the list of controls, in order: scripts may add and remove controls while it is iterated.
 std::vector<Ref<IControl>> ControlsOf(const Collection& controls);
 /// The control of that name, whatever its case, or null.
 IControl* FindControl(const Collection& controls, std::u16string_view userName) noexcept;

@@ -13,8 +13,8 @@ std::u16string_view CutPart(std::u16string_view& rest) {
 
 }  // namespace
 
-std::optional<SettingPlace> SplitRegKey(std::u16string_view key) {
-  SettingPlace place;
+std::optional<SettingName> SplitRegKey(std::u16string_view key) {
+  SettingName place;
   place.app = CutPart(key);
   place.section = CutPart(key);
   place.name = Trim(key);

@@ -7,15 +7,15 @@
 
 namespace cardwright {
 
-/// A place among the per-user settings.
-struct SettingPlace {
+/// Names one of the per-user settings.
+struct SettingName {
   Text app;
   Text section;
   Text name;
 };
 
-/// The place that a key "ApplicationName/SectionName/KeyName" names; what follows a third "/" belongs to the
-/// name. None where one of the three is missing or blank.
-std::optional<SettingPlace> SplitRegKey(std::u16string_view key);
+/// Splits a key "ApplicationName/SectionName/KeyName"; further "/" belong to the name. None where one of the
+/// three parts is missing or blank.
+std::optional<SettingName> SplitRegKey(std::u16string_view key);
 
 }  // namespace cardwright

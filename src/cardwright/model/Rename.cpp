@@ -9,29 +9,30 @@ void RenameInCollection(Collection& controls, IControl& control, const Text& new
   const Text newKey = ToLower(newName);
   Text oldKey = ToLower(control.UserName());
   if (FindControl(controls, oldKey) != &control) return;
-  // Where only the case changes the key is taken by the control itself, so it steps aside first.
+  // A change of case alone would find the key taken, by the control itself: it is moved to a temporary key
+  // first.
   if (oldKey == newKey) {
-    const Text aside = u"\u00A7";
-    controls.Add(item, Variant(aside));
+    const Text temporary = u"\u00A7";
+    controls.Add(item, Variant(temporary));
     controls.Remove(Variant(oldKey));
-    oldKey = aside;
+    oldKey = temporary;
   }
   controls.Add(item, Variant(newKey));
   controls.Remove(Variant(oldKey));
 }
 
 bool RenameControl(Collection& controls, const Ref<Object>& object, const Text& newName,
-                   const std::function<void(const Text& oldName, IControl& control)>& told) {
+                   const std::function<void(const Text& oldName, IControl& control)>& renamed) {
   const Ref<IControl> control(dynamic_cast<IControl*>(object.get()));
-  // Blanks around a name stay part of it.
+  // Leading and trailing blanks are part of a name.
   if (!control || Trim(newName).empty()) return false;
   const IControl* holder = FindControl(controls, newName);
   if (holder && holder != control.get()) return false;
   const Text oldName = control->UserName();
-  // Without a place under the new name the control keeps its old one.
+  // If the collection refuses the new key, the control keeps its old name.
   if (!Attempt([&] { RenameInCollection(controls, *control, newName); })) return false;
   Attempt([&] { control->SetName(newName); });
-  Attempt([&] { told(oldName, *control); });
+  Attempt([&] { renamed(oldName, *control); });
   for (const Ref<IControl>& other : ControlsOf(controls))
     Attempt([&] { other->LinkControlNameChanged(oldName, newName); });
   return true;

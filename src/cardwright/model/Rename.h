@@ -11,9 +11,10 @@ namespace cardwright {
 /// while it is being pasted, stays out. The control itself keeps its name.
 void RenameInCollection(Collection& controls, IControl& control, const Text& newName);
 
-/// Renames a control of a form and what links to it; `told` hears of it in between. False, and nothing
-/// happens, where the object is no control, the name is blank or another control has it in any case.
+/// Renames a control of a form, calls `renamed`, and updates the links of other controls to it. False,
+/// without any change, where the object is no control, the name is blank or another control has it in any
+/// case.
 bool RenameControl(Collection& controls, const Ref<Object>& object, const Text& newName,
-                   const std::function<void(const Text& oldName, IControl& control)>& told);
+                   const std::function<void(const Text& oldName, IControl& control)>& renamed);
 
 }  // namespace cardwright

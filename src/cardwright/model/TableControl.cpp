@@ -7,7 +7,7 @@
 
 namespace cardwright {
 
-// Rows follow the contract's members in the numbering, so a row named like a member is reached through the
+// Member numbers of rows follow those of the contract; a row with the name of a member is reached through the
 // member.
 MemberId TableControl::FindMember(std::u16string_view name) const {
   const MemberId contract = Members().Find(name);
@@ -55,7 +55,7 @@ std::vector<Text> TableControl::MemberNames() const {
 
 Ref<Object> TableControl::ParentForm() const { return Ref<Object>(dynamic_cast<Object*>(Owner())); }
 
-// Type names decide, as hosts may hand in any object here; one of another type is passed over in silence.
+// Hosts may pass any object: its type name decides, and an object of another type is ignored.
 void TableControl::SetParentForm(Ref<Object> form) {
   if (!form) return;
   const Text type = ToLower(form->TypeName());
@@ -170,7 +170,7 @@ std::vector<Text> TableControl::Events() const { return {m_Table.events.begin(),
 
 void TableControl::RaisePropertyChanged(std::u16string_view row, const Variant& value) const {
   if (!Designer()) return;
-  // What stands in no row of the grid, as a combo box's height, is nothing that the grid could show anew.
+  // Not every change has a row: the height of a combo box has none.
   const auto names = m_Table.rowNames;
   const auto changed = std::ranges::find(names, row);
   if (changed != names.end())

@@ -6,9 +6,9 @@
 
 namespace cardwright {
 
-/// The part of IControl that follows from a class's table, the same for controls and for the form itself.
-/// By name an object answers the contract's members and, beyond them, each row of its table as a property; a
-/// member that the contract only reads (`Text`) is written through its row.
+/// The part of IControl that the table of the class determines, for controls and the form alike.
+/// To scripts, an object has the members of the contract and each row of its table as a property. A member
+/// that is read-only in the contract (`Text`) is written through its row.
 class TableControl : public IControl {
  public:
   const ClassTable& Table() const noexcept { return m_Table; }
@@ -24,7 +24,7 @@ class TableControl : public IControl {
 
   Ref<Object> ParentForm() const override;
   void SetParentForm(Ref<Object> form) override;
-  /// Called by an owner that ends while others still hold its controls.
+  /// Called by an owner that ends while scripts or hosts still keep its controls.
   void ForgetOwner();
 
   std::uint8_t PropertyCount() const override { return static_cast<std::uint8_t>(m_Table.rows.size()); }
@@ -35,7 +35,7 @@ class TableControl : public IControl {
   void SetPropertyValue(const Variant& index, const Variant& value) override;
   std::vector<Text> PropertyList(const Variant& index) const override;
   Text FilenameFilter(const Variant& index) const override;
-  /// SetPropertyValue for a name that is known, without the search for what else an index may be.
+  /// SetPropertyValue for a name, without the checks for numeric indexes.
   void SetRow(std::u16string_view name, const Variant& value);
 
   std::int16_t ZOrder() const override { return m_ZOrder; }
@@ -46,7 +46,7 @@ class TableControl : public IControl {
   Text AttributeName() const override;
   std::vector<Text> Events() const override;
 
-  /// The owner by its kind; both null while there is none.
+  /// The owner; one of the two at most, and both are null without an owner.
   DesignerOwner* Designer() const noexcept { return OwnerAt<DesignerOwner>(m_Designer); }
   InputOwner* Input() const noexcept { return OwnerAt<InputOwner>(m_FormInput); }
 
@@ -58,8 +58,8 @@ class TableControl : public IControl {
   Surface* OwnerSurface() const;
   /// Value of the row of that name as text, "" where it has none.
   Text RowText(std::u16string_view name) const;
-  /// Tells the designer's host that a row has changed; nothing outside the designer or for a class without
-  /// that row.
+  /// Raises the designer's PropertyChanged for a row. Does nothing outside the designer, and for a row that
+  /// the class does not have.
   void RaisePropertyChanged(std::u16string_view row, const Variant& value) const;
 
   Text m_UserName;
@@ -72,7 +72,7 @@ class TableControl : public IControl {
   const PropertyRow* AnyRow(const Variant& index) const;
   const PropertyRow* RowAt(int position) const;
   const PropertyRow* RowNamed(std::u16string_view name) const;
-  /// User names of the form's controls of a kind, for an author to choose from; none outside the designer.
+  /// User names of the form's controls of a class, as choices in the grid; none outside the designer.
   std::vector<Text> NamesOfKind(ControlTypeEnum type) const;
 
   template <class Kind>

@@ -17,8 +17,8 @@ void TextEntry::LimitInput(std::int32_t maxLength, InputTypeEnum type) {
   Bound()->SetTag(ToText(Variant(static_cast<std::int32_t>(type))));
 }
 
-// The Tag picks the filter: "1" lets an integer through, "2" a number with the system's decimal separator.
-// Once a mode stands there it stays, whatever is set on the control later.
+// The Tag selects the filter: "1" accepts integers, "2" numbers with the system's decimal separator. A mode
+// that is set is never replaced, whatever is set on the control later.
 void TextEntry::OnKeyPress(char16_t& key) {
   if (!Input() || !Bound() || !TakesTyping()) return;
   ChooseInputMode();

@@ -4,8 +4,8 @@
 
 namespace cardwright {
 
-/// What the controls that take typed text share: the key filter, the on-screen keyboard, and a context menu
-/// that is not the widget's own.
+/// Base of the controls that take typed text: key filter, on-screen keyboard, and the designer's menu instead
+/// of the widget's.
 class TextEntry : public Control {
  public:
   Text m_MinusSignEnabled = u"True";
@@ -15,11 +15,11 @@ class TextEntry : public Control {
  protected:
   explicit TextEntry(const ClassTable& table) : Control(table) {}
 
-  /// Whether a person can type into the control at all.
+  /// Whether the user can type into the control.
   virtual bool TakesTyping() const { return true; }
   /// Whether the widget can hold typed text to a length.
   virtual bool LimitsLength() const { return true; }
-  /// Puts the class's own input mode into the widget's Tag, where it has one and none stands there.
+  /// Sets the widget's Tag to the input mode of the class, unless a mode is set already.
   virtual void ChooseInputMode() {}
 
   void OnChange() override { RunScriptEvent(u"OnChange"); }

@@ -21,7 +21,7 @@ Kind& BoundAs(const TableControl& control) {
   return static_cast<Kind&>(*widget);
 }
 
-/// @name Fields that the widget itself keeps, by its accessors.
+/// @name Fields that the widget keeps, given by its accessors.
 /// @{
 template <auto Get, auto Set, class Kind = typename detail::GetterOf<decltype(Get)>::Kind>
 inline constexpr Field WidgetText{
@@ -39,7 +39,7 @@ inline constexpr Field WidgetFlag{
     [](const TableControl& c) -> Variant { return (BoundAs<Kind>(c).*Get)() ? u"True" : u"False"; },
     [](TableControl& c, const Variant& value) { (BoundAs<Kind>(c).*Set)(ToBoolean(value)); }};
 
-/// "True" for border style 1 alone.
+/// "True" only for border style 1.
 template <class Kind>
 inline constexpr Field WidgetBorder{
     [](const TableControl& c) -> Variant { return BoundAs<Kind>(c).BorderStyle() == 1 ? u"True" : u"False"; },
