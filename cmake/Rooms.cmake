@@ -31,18 +31,18 @@ set(CARDWRIGHT_HIDDEN_jscript PkgConfig::MOZJS)
 # script engines. They include no others. All further headers are internal to the library.
 set(CARDWRIGHT_INSTALLED_automation Array.h Collection.h Conversions.h Errors.h MemberTable.h MemoryBudget.h Object.h
     Ref.h Text.h TextRep.h Variant.h)
-set(CARDWRIGHT_INSTALLED_platform Color.h DesignSurface.h Desktop.h Files.h Font.h HostConnection.h MenuItem.h
-    Picture.h PropertyBag.h Scale.h ScreenRect.h ScriptControl.h ScriptEngine.h ScriptLanguages.h Surface.h Widget.h
+set(CARDWRIGHT_INSTALLED_platform Color.h DesignSurface.h Desktop.h Font.h HostConnection.h MenuItem.h Picture.h
+    PropertyBag.h Scale.h ScreenRect.h ScriptControl.h ScriptEngine.h ScriptLanguages.h Surface.h Widget.h
     WidgetListener.h)
-set(CARDWRIGHT_INSTALLED_storage CIni.h CodePage.h FileStamp.h IniFile.h IniName.h IniStore.h NameIndex.h)
+set(CARDWRIGHT_INSTALLED_storage CIni.h CodePage.h)
 set(CARDWRIGHT_INSTALLED_shared FeatureTypes.h)
 set(CARDWRIGHT_INSTALLED_vbscript Engine.h)
 set(CARDWRIGHT_INSTALLED_jscript Engine.h)
 set(CARDWRIGHT_INSTALLED_hosting ClassRegistry.h FormScripts.h)
 set(CARDWRIGHT_INSTALLED_orv EmbeddedHost.h)
-set(CARDWRIGHT_INSTALLED_model CForm.h ClassTable.h Control.h Enums.h FormOwner.h IControl.h Steps.h TableControl.h)
-set(CARDWRIGHT_INSTALLED_designer DesignClipboard.h DesignGrid.h DesignMenu.h FormDesigner.h
-    GrabHandles.h OuterSize.h Placement.h Placer.h Selection.h StackOrder.h)
+set(CARDWRIGHT_INSTALLED_model CForm.h ClassTable.h Control.h Enums.h FormOwner.h IControl.h TableControl.h)
+set(CARDWRIGHT_INSTALLED_designer DesignClipboard.h DesignGrid.h DesignMenu.h FormDesigner.h GrabHandles.h OuterSize.h
+    Placement.h Placer.h Selection.h StackOrder.h)
 set(CARDWRIGHT_INSTALLED_runtime AttributeBinding.h CAttrib.h FormButton.h FormInput.h Vellum.h)
 set(CARDWRIGHT_INSTALLED_qt FormDesigner.h FormInput.h Library.h VisualControl.h desktop/QtDesktop.h
     values/QtText.h)

@@ -1,5 +1,6 @@
 #include <filesystem>
 
+#include "cardwright/platform/Files.h"
 #include "model/SelectorForms.h"
 #include "shared/FakeDesktop.h"
 

@@ -1,11 +1,12 @@
 #pragma once
 
-#include "cardwright/model/Steps.h"
 #include "cardwright/model/TableControl.h"
 #include "cardwright/platform/Picture.h"
 #include "cardwright/storage/CIni.h"
 
 namespace cardwright {
+
+class Steps;
 
 /// The root of a form and its project file: always the first object of its owner's collection. It has no
 /// widget; where a control talks to its widget, the form talks to its owner and to the owner's host window.

@@ -6,6 +6,7 @@
 
 #include "cardwright/platform/Files.h"
 #include "cardwright/storage/CodePage.h"
+#include "cardwright/storage/IniStore.h"
 
 namespace cardwright {
 namespace {
@@ -99,6 +100,9 @@ constexpr Member kMembers[] = {
 };
 
 }  // namespace
+
+CIni::CIni() = default;
+CIni::~CIni() = default;
 
 void CIni::SetFileName(const Text& fileName) {
   m_FileName = Text();

@@ -5,15 +5,19 @@
 
 #include "cardwright/automation/Collection.h"
 #include "cardwright/automation/MemberTable.h"
-#include "cardwright/storage/IniStore.h"
 
 namespace cardwright {
+
+class IniStore;
 
 /// Reads and writes files of INI form. Every call goes to the file as it is at that moment; nothing written
 /// by another object or program is missed. A write leaves the old file or the new one whatever ends the
 /// program, but does not wait for the disk; an IniBatch does.
 class CIni final : public TableObject {
  public:
+  CIni();
+  ~CIni() override;
+
   Text TypeName() const override { return u"CIni"; }
 
   /// Creates the file empty where it is missing. A blank name, or one under which no file can be made, leaves
