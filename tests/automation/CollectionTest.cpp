@@ -52,7 +52,7 @@ TEST(Collection, RefusesAKeyThatExistsWhateverItsCase) {
   EXPECT_EQ(c->Count(), 2);
 }
 
-TEST(Collection, TakesAnEmptyKeyForNone) {
+TEST(Collection, TreatsAnEmptyKeyAsNone) {
   const auto c = MakeRef<Collection>();
   c->Add(1, Variant(u""));
   c->Add(2, Variant(u""));
@@ -114,7 +114,7 @@ TEST(Collection, FollowsAdditionsDuringAnEnumeration) {
   EXPECT_EQ(Items(*c), u"0abz");
 }
 
-TEST(Collection, OutlivesItsReleaseDuringAnEnumeration) {
+TEST(Collection, LivesAsLongAsItsEnumeration) {
   auto c = Letters(u"ab");
   const auto walk = c->Enumerate();
   c = nullptr;

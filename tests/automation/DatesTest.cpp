@@ -94,7 +94,7 @@ TEST(ToDate, ReadsDaysWithPointsWhereTheyAreWrittenSo) {
   EXPECT_EQ(ToDate(u"10. Nov.").days, ToDate(u"10. November").days);
 }
 
-TEST(ToDate, TakesAYearWhereADayIsImpossible) {
+TEST(ToDate, ReadsAYearWhereADayIsImpossible) {
   ExpectDates(u"en-us", {{u"29-Feb-01", 47150}, {u"2/30", 10990}, {u"30/2", 10990}, {u"30 Feb", 10990}});
 }
 
@@ -186,7 +186,7 @@ TEST(ToDate, TakesNumbersInItsRange) {
   EXPECT_EQ(ErrorOf([] { ToDate(Variant::Null()); }), 94);
 }
 
-TEST(IsDate, TellsDatesFromNumbers) {
+TEST(IsDate, DistinguishesDatesFromNumbers) {
   EXPECT_TRUE(IsDate(Date{1}));
   EXPECT_FALSE(IsDate(38000));
   EXPECT_FALSE(IsDate(Variant::Null()));

@@ -13,7 +13,7 @@ struct Named {
   int lcid;
 };
 
-TEST(LocaleFind, IsLaxInSpelling) {
+TEST(LocaleFind, IgnoresCaseAndSeparators) {
   const Named cases[] = {{u"en-us", 1033},   {u"EN_US.UTF-8", 1033}, {u"C", 1033},          {u"POSIX", 1033},
                          {u"C.UTF-8", 1033}, {u"it", 1040},          {u"it_IT@euro", 1040}, {u"it-CH", 1040},
                          {u"de", 1031},      {u"de-CH", 2055},       {u"de_AT", 1031},      {u"no", 1044},
@@ -27,7 +27,7 @@ TEST(LocaleFind, IsLaxInSpelling) {
   }
 }
 
-TEST(LocaleFind, KnowsNoOthers) {
+TEST(LocaleFind, ReturnsNullForUnknownNames) {
   for (const char16_t* name : {u"", u"xx", u"-", u"e"}) EXPECT_EQ(Locale::Find(name), nullptr);
   EXPECT_EQ(Locale::Find(1), nullptr);
 }

@@ -19,13 +19,13 @@ int ErrorOfCharging(std::size_t bytes) {
   return 0;
 }
 
-TEST(MemoryBudget, RefusesWhatPassesItsLimit) {
+TEST(MemoryBudget, RaisesOutOfMemoryBeyondItsLimit) {
   const MemoryBudget::Limit limit(100);
   EXPECT_EQ(ErrorOfCharging(100), 0);
   EXPECT_EQ(ErrorOfCharging(101), 7);
 }
 
-TEST(MemoryBudget, CanTellOfAShortageWithNothingLeft) {
+TEST(MemoryBudget, ReportsAShortageWithNothingLeft) {
   const MemoryBudget::Limit limit(0);
   EXPECT_EQ(ErrorOfCharging(1), 7);
 }
@@ -50,7 +50,7 @@ TEST(MemoryBudget, IsLiftedByAnExemptionWhileItLives) {
   EXPECT_EQ(ErrorOfCharging(11), 7);
 }
 
-TEST(MemoryBudget, CountsTextsWhileTheyLive) {
+TEST(MemoryBudget, CountsLivingTexts) {
   const std::size_t before = MemoryBudget::Used();
   {
     const Text text(u"a text that needs memory of its own");

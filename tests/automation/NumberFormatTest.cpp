@@ -86,7 +86,7 @@ TEST(ToText, FailsForNullAndArrays) {
   EXPECT_EQ(ErrorOf([] { ToText(Variant::Nothing()); }), 91);
 }
 
-TEST(FormatDouble, SpellsWhatIsNoNumber) {
+TEST(FormatDouble, WritesInfinityAndNaN) {
   EXPECT_EQ(FormatDouble(std::numeric_limits<double>::infinity()), u"1.#INF");
   EXPECT_EQ(FormatDouble(-std::numeric_limits<double>::infinity()), u"-1.#INF");
   EXPECT_EQ(FormatDouble(std::nan("")), u"-1.#IND");

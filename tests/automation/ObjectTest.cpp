@@ -43,7 +43,7 @@ TEST(MemberTable, CarriesEnumerationsAsLongs) {
   EXPECT_EQ(GetProperty(*sample, u"Shade").Type(), VarType::Long);
 }
 
-TEST(MemberTable, GivesListsOfTextsAsArrays) {
+TEST(MemberTable, ReturnsListsOfTextsAsArrays) {
   const Variant names = GetProperty(*MakeRef<SampleObject>(), u"Names");
   ASSERT_TRUE(names.IsArray());
   EXPECT_EQ(names.ArrayPtr()->Values()[1].String(), u"two");
@@ -118,7 +118,7 @@ TEST(MemberTable, RefusesUnknownMembersAndKinds) {
   EXPECT_EQ(ErrorOf([&] { sample->Invoke(12, CallKind::Get, {}); }), 438);
 }
 
-TEST(MemberTable, HandsArgumentsOnToTheDefaultMemberOfWhatAPropertyReturns) {
+TEST(MemberTable, PassesArgumentsToTheDefaultMemberOfAReturnedObject) {
   const auto sample = MakeRef<SampleObject>();
   sample->Parts()->Add(u"wheel", Variant(u"Key"));
   EXPECT_EQ(GetProperty(*sample, u"Parts", {1}).String(), u"wheel");
@@ -158,11 +158,11 @@ class Mirror final : public TableObject {
   }
 };
 
-TEST(DefaultValue, GivesUpOnAnObjectThatAnswersWithItself) {
+TEST(DefaultValue, RefusesAnObjectThatIsItsOwnDefaultValue) {
   EXPECT_EQ(ErrorOf([] { ToText(MakeRef<Mirror>()); }), 438);
 }
 
-TEST(RequireObject, TellsNothingFromNoObject) {
+TEST(RequireObject, DistinguishesNothingFromNoObject) {
   EXPECT_EQ(ErrorOf([] { RequireObject(Variant::Nothing()); }), 91);
   EXPECT_EQ(ErrorOf([] { RequireObject(3); }), 424);
   const Variant sample = MakeRef<SampleObject>();
@@ -179,7 +179,7 @@ TEST(RaiseEvent, CallsHandlersInOrderOfConnection) {
   EXPECT_EQ(calls, u"1Raised2");
 }
 
-TEST(RaiseEvent, PassesReferencesThatHandlersWriteTo) {
+TEST(RaiseEvent, PassesArgumentsByReference) {
   const auto sample = MakeRef<SampleObject>();
   sample->Connect([](std::u16string_view, Args args) { args[0].Deref() = ToLong(args[0]) + 1; });
   Variant value = 1;
@@ -187,7 +187,7 @@ TEST(RaiseEvent, PassesReferencesThatHandlersWriteTo) {
   EXPECT_EQ(value.Long(), 2);
 }
 
-TEST(RaiseEvent, PassesOverHandlersDisconnectedBeforeTheirTurn) {
+TEST(RaiseEvent, SkipsHandlersDisconnectedBeforeTheirTurn) {
   const auto sample = MakeRef<SampleObject>();
   int second = 0;
   int calls = 0;
@@ -214,7 +214,7 @@ TEST(RaiseEvent, CallsHandlersConnectedMeanwhileTheNextTime) {
   EXPECT_EQ(calls, 20);
 }
 
-TEST(RaiseEvent, OutlivesTheReleaseOfTheObject) {
+TEST(RaiseEvent, KeepsTheObjectAliveUntilAllHandlersRan) {
   Ref<SampleObject> sample = MakeRef<SampleObject>();
   int calls = 0;
   sample->Connect([&](std::u16string_view, Args) { sample = nullptr; });
@@ -232,7 +232,7 @@ TEST(RaiseEvent, LetsAHandlersErrorThroughAndStaysUsable) {
   EXPECT_EQ(ErrorOf([&] { sample->Raise(); }), 0);
 }
 
-TEST(RaiseEvent, ServesAHandlerThatRaisesAgain) {
+TEST(RaiseEvent, AllowsAHandlerToRaiseAgain) {
   const auto sample = MakeRef<SampleObject>();
   int depth = 0;
   sample->Connect([&](std::u16string_view, Args) {

@@ -20,7 +20,7 @@ TEST(Variant, CopiesShareTextsObjectsAndArrays) {
   EXPECT_EQ(values[1].ObjectPtr(), object.get());
 }
 
-TEST(Variant, ReleasesWhatItHeld) {
+TEST(Variant, ReleasesItsOldValue) {
   const auto object = MakeRef<Collection>();
   Variant value = object;
   EXPECT_FALSE(object->IsUnique());
@@ -44,7 +44,7 @@ TEST(Variant, AReferenceToAReferenceRefersToTheEnd) {
   EXPECT_EQ(&second.Deref(), &target);
 }
 
-TEST(Variant, TellsNothingFromNullFromMissing) {
+TEST(Variant, DistinguishesNothingNullAndMissing) {
   EXPECT_TRUE(Variant::Nothing().IsObject());
   EXPECT_EQ(Variant::Nothing().ObjectPtr(), nullptr);
   EXPECT_TRUE(Variant::Null().IsNull());
@@ -52,7 +52,7 @@ TEST(Variant, TellsNothingFromNullFromMissing) {
   EXPECT_FALSE(Variant(ErrorValue{5}).IsMissing());
 }
 
-TEST(Variant, CarriesADecimalWhole) {
+TEST(Variant, KeepsAllBitsOfADecimal) {
   const Variant value = Decimal{.low = 1, .high = 2, .scale = 3, .negative = true};
   const Decimal back = Variant(value).DecimalValue();
   EXPECT_EQ(back.low, 1u);

@@ -11,7 +11,7 @@ namespace cardwright {
 namespace {
 
 constexpr std::size_t kMaxDimensions = 60;
-// More elements than that could not be addressed by the platform's 32-bit memory.
+// The most elements that the 32-bit platform of the language could address.
 constexpr std::int64_t kMaxElements = 0x7FFFFFF;
 
 std::size_t ElementCount(std::span<const Bounds> dimensions) {
@@ -38,14 +38,14 @@ std::vector<Bounds> FromZero(std::size_t count) { return {Bounds{0, static_cast<
 
 Array::Array(std::vector<Bounds> dimensions)
     : m_Dimensions(std::move(dimensions)), m_Values(Charged(ElementCount(m_Dimensions))) {
-  NoteShape();
+  CacheShape();
 }
 
 Array::Array() = default;
 
 Array::~Array() { MemoryBudget::Refund(m_Values.size() * sizeof(Variant)); }
 
-void Array::NoteShape() noexcept {
+void Array::CacheShape() noexcept {
   m_Rank = static_cast<std::uint32_t>(m_Dimensions.size());
   m_First = m_Rank > 0 ? m_Dimensions[0] : Bounds{};
   m_Second = m_Rank > 1 ? m_Dimensions[1] : Bounds{};
@@ -58,7 +58,7 @@ Ref<Array> Array::FromValues(std::vector<Variant> values) {
   auto array = MakeRef<Array>();
   array->m_Dimensions = FromZero(values.size());
   array->m_Values = std::move(values);
-  array->NoteShape();
+  array->CacheShape();
   return array;
 }
 
@@ -89,7 +89,7 @@ void Array::ResizeLast(std::int32_t upper) {
   if (count > m_Values.size()) Charged(count - m_Values.size());
   const std::size_t before = m_Values.size();
   if (count > m_Values.capacity()) m_Values.reserve(std::max(count, before + before / 2));
-  // What falls away is released last, when the array is whole again.
+  // Removed values are released last: that may run code that uses this array.
   std::vector<Variant> cut;
   if (count < before) {
     cut.assign(std::make_move_iterator(m_Values.begin() + static_cast<std::ptrdiff_t>(count)),
@@ -98,13 +98,13 @@ void Array::ResizeLast(std::int32_t upper) {
   }
   m_Values.resize(count);
   m_Dimensions = std::move(dimensions);
-  NoteShape();
+  CacheShape();
 }
 
 Ref<Array> Array::Copy() const {
   auto copy = FromValues(m_Values);
   copy->m_Dimensions = m_Dimensions;
-  copy->NoteShape();
+  copy->CacheShape();
   return copy;
 }
 

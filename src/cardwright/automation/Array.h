@@ -17,8 +17,8 @@ struct Bounds {
   std::int32_t Count() const noexcept { return upper - lower + 1; }
 };
 
-/// Array of variants in one to sixty dimensions, the first index running fastest. A Variant that holds an
-/// array has value meaning: who writes to an array that is shared copies it first (Writable).
+/// Array of variants with one to sixty dimensions, the first index varying fastest. Arrays in Variants have
+/// value semantics by copy on write: get a shared array for writing by Writable, which copies it.
 class Array final : public RefCounted {
  public:
   explicit Array(std::vector<Bounds> dimensions);
@@ -52,12 +52,12 @@ class Array final : public RefCounted {
   void ResizeLast(std::int32_t upper);
   Ref<Array> Copy() const;
 
-  /// @name Fixed size: a fixed array cannot be dimensioned anew. A copy of it can.
+  /// @name Fixed size: a fixed array cannot be redimensioned, but its copies can.
   /// @{
   bool IsFixed() const noexcept { return m_Fixed; }
   void SetFixed() noexcept { m_Fixed = true; }
   /// @}
-  /// @name Lock of an enumeration: the holder of a lock has one reference that does not count as sharing.
+  /// @name Lock of an enumeration: it holds a reference that does not count as sharing.
   /// @{
   bool IsLocked() const noexcept { return m_Locks != 0; }
   void Lock() noexcept {
@@ -71,16 +71,16 @@ class Array final : public RefCounted {
   /// True where no other value holds the array.
   bool IsUnshared() const noexcept { return Count() == 1 + m_Locks; }
   /// @}
-  /// The array in `holder`, copied first if anybody else shares it; error 13 where `holder` has no array.
+  /// The array in `holder`, copied first if it is shared; error 13 where `holder` has no array.
   static Array& Writable(Variant& holder);
 
  private:
-  void NoteShape() noexcept;
+  void CacheShape() noexcept;
 
   std::uint32_t m_Locks = 0;
   std::vector<Bounds> m_Dimensions;
   std::vector<Variant> m_Values;
-  // The first two dimensions again, within reach of Find.
+  // The first two dimensions again, for the fast Find.
   Bounds m_First, m_Second;
   std::uint32_t m_Rank = 0, m_FirstCount = 0, m_SecondCount = 0;
   bool m_Fixed = false;

@@ -4,7 +4,7 @@
 
 namespace cardwright {
 
-/// Memory of the heap for containers, counted in the thread's MemoryBudget: error 7 where that has no more.
+/// Heap memory for containers, charged to the thread's MemoryBudget: error 7 beyond its limit.
 class BudgetedMemory final : public std::pmr::memory_resource {
  public:
   static BudgetedMemory& Instance() noexcept;

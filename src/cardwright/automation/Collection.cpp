@@ -6,7 +6,7 @@ namespace cardwright {
 
 namespace {
 
-// A key is a text and nothing else: a number would be a position.
+// Only strings: a number would be a position.
 Text KeyOf(const std::optional<Variant>& key) {
   if (!key) return {};
   if (!key->IsString()) Raise(ErrorNumber::TypeMismatch);
@@ -15,11 +15,13 @@ Text KeyOf(const std::optional<Variant>& key) {
 
 }  // namespace
 
-/// An enumeration: the position that comes next, moved along by every change of the collection.
-class Collection::Walk final : public Enumerator {
+/// Its next position is adjusted by every change of the collection.
+class Collection::LiveEnumerator final : public Enumerator {
  public:
-  explicit Walk(Collection& collection) : m_Collection(&collection) { collection.m_Walks.push_back(this); }
-  ~Walk() override { std::erase(m_Collection->m_Walks, this); }
+  explicit LiveEnumerator(Collection& collection) : m_Collection(&collection) {
+    collection.m_Enumerators.push_back(this);
+  }
+  ~LiveEnumerator() override { std::erase(m_Collection->m_Enumerators, this); }
 
   bool Next(Variant& value) override {
     if (m_Next >= m_Collection->m_Entries.size()) return false;
@@ -80,25 +82,25 @@ void Collection::Add(const Variant& item, std::optional<Variant> key, std::optio
   if (!entry->key.IsEmpty() && !m_ByKey.try_emplace(entry->key, entry.get()).second)
     Raise(ErrorNumber::KeyExists);
   m_Entries.insert(m_Entries.begin() + static_cast<std::ptrdiff_t>(position), std::move(entry));
-  for (Walk* walk : m_Walks) walk->OnAdded(position);
+  for (LiveEnumerator* enumerator : m_Enumerators) enumerator->OnAdded(position);
 }
 
 void Collection::Remove(const Variant& index) {
   const std::size_t position = Position(index);
-  // The item may be the last reference to an object whose end comes back here, so it goes when all is done.
+  // Released last: the item may be an object whose end uses this collection.
   const std::unique_ptr<Entry> removed = std::move(m_Entries[position]);
   m_Entries.erase(m_Entries.begin() + static_cast<std::ptrdiff_t>(position));
   if (!removed->key.IsEmpty()) m_ByKey.erase(removed->key);
-  for (Walk* walk : m_Walks) walk->OnRemoved(position);
+  for (LiveEnumerator* enumerator : m_Enumerators) enumerator->OnRemoved(position);
 }
 
 void Collection::Clear() {
   const auto removed = std::exchange(m_Entries, {});
   m_ByKey.clear();
-  for (Walk* walk : m_Walks) walk->OnCleared();
+  for (LiveEnumerator* enumerator : m_Enumerators) enumerator->OnCleared();
 }
 
-std::unique_ptr<Enumerator> Collection::Enumerate() { return std::make_unique<Walk>(*this); }
+std::unique_ptr<Enumerator> Collection::Enumerate() { return std::make_unique<LiveEnumerator>(*this); }
 
 const MemberTable& Collection::Members() const {
   static constexpr Member kMembers[] = {

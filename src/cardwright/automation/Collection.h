@@ -8,9 +8,9 @@
 
 namespace cardwright {
 
-/// The platform's keyed collection: items in order, counted from 1, each with an optional key that is matched
-/// whatever its case; an empty key counts as none. Errors: 5 for an unknown key, 9 for a position outside,
-/// 457 for a key that exists, 13 for a key that is no text.
+/// The platform's keyed collection: items in order, from 1, each with an optional key in any case; an empty
+/// key is no key. Errors: 5 for an unknown key, 9 for a position outside the range, 457 for a key that
+/// exists, 13 for a key that is not a string.
 class Collection final : public TableObject {
  public:
   Text TypeName() const override { return u"Collection"; }
@@ -24,14 +24,14 @@ class Collection final : public TableObject {
            std::optional<Variant> after = {});
   void Remove(const Variant& index);
   void Clear();
-  /// Items may come and go during the enumeration: each one that stays is met once.
+  /// Items may be added and removed during the enumeration: each one that stays is visited once.
   std::unique_ptr<Enumerator> Enumerate() override;
 
  protected:
   const MemberTable& Members() const override;
 
  private:
-  class Walk;
+  class LiveEnumerator;
   struct Entry {
     Text key;
     Variant value;
@@ -52,7 +52,7 @@ class Collection final : public TableObject {
 
   std::vector<std::unique_ptr<Entry>> m_Entries;
   std::unordered_map<Text, Entry*, KeyHash, KeyEqual> m_ByKey;
-  std::vector<Walk*> m_Walks;  // enumerations under way, which follow every change
+  std::vector<LiveEnumerator*> m_Enumerators;  // running enumerations, adjusted by every change
 };
 
 }  // namespace cardwright

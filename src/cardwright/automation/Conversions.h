@@ -9,10 +9,9 @@
 
 namespace cardwright {
 
-/// @name Conversions of the platform. A by-reference value is followed; an object answers by its default
-/// member. All raise error 13 (type mismatch) for a value that has no such form, 6 (overflow) for one out of
-/// range, 94 for Null (91 for Nothing). Whole numbers round half to even. Texts are read by the current
-/// Locale.
+/// @name Conversions of the platform. References are dereferenced, objects replaced by their default value.
+/// Errors: 13 (type mismatch) for a value that cannot be converted, 6 (overflow) for one out of range, 94 for
+/// Null, 91 for Nothing. Whole numbers are rounded half to even. Texts are read by the current Locale.
 /// @{
 bool ToBoolean(const Variant& value);
 std::uint8_t ToByte(const Variant& value);

@@ -13,7 +13,7 @@ bool IsMarker(const DateToken& token) noexcept { return token.kind == Kind::Am |
 bool IsColon(const DateToken& token) noexcept { return token.kind == Kind::Colon; }
 bool IsPoint(const DateToken& token) noexcept { return token.IsPoint(); }
 
-// Numbers with a mark between them, and AM or PM behind: tokens from `begin` up to `end`.
+// Numbers with a separator between them, optionally followed by AM or PM: tokens from `begin` up to `end`.
 struct Run {
   std::size_t begin = 0, end = 0;
   std::array<int, 3> parts{};
@@ -40,7 +40,7 @@ std::optional<DateClock> ClockOf(const Tokens& tokens, const Run& run) {
   if (run.hasMarker && hour <= 12) {
     hour = hour % 12 + (tokens[run.end - 1].kind == Kind::Pm ? 12 : 0);
   } else if (run.hasMarker && run.count == 1) {
-    return std::nullopt;  // "13:55 PM" is a time that says too much, "13 PM" is none
+    return std::nullopt;  // "13:55 PM" is accepted, "13 PM" is not a time
   }
   if (hour > 23 || minute > 59 || second > 59) return std::nullopt;
   DateClock clock{(hour * 60 + minute) * 60 + second, tokens};

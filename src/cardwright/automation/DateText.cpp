@@ -22,14 +22,15 @@ struct DayParts {
   char16_t separator = u'\0';
 };
 
-// Whether the text may end here with a point: behind a short name, or behind a number where days have points.
+// Whether a point may end the text here: after a short name, or after a number where days are written with
+// points.
 bool EndsInPoint(const std::vector<Token>& tokens, const Locale& locale) noexcept {
   if (tokens.size() < 2 || !tokens.back().IsPoint()) return false;
   const Token& before = tokens[tokens.size() - 2];
   return before.IsNumber() ? locale.dateSeparator == u'.' : before.kind != Kind::Separator;
 }
 
-// What is left when the clock time is out: names, numbers, and at most one separator between two of them.
+// The text without its time: names, numbers, and at most one separator between two of them.
 std::optional<DayParts> ReadDayParts(const std::vector<Token>& tokens, const Locale& locale) {
   DayParts parts;
   const std::size_t count = tokens.size() - (EndsInPoint(tokens, locale) ? 1 : 0);
@@ -111,7 +112,8 @@ std::optional<double> FromTwoNumbers(const std::vector<Token>& n, Locale::DateOr
   return FirstOf({monthDay, dayMonth, monthYear, yearMonth});
 }
 
-// Whether two numbers with that between them are a day. Where numbers are written with it, they are a number.
+// Whether two numbers with this separator are a day and a month. A decimal or group separator makes them one
+// number.
 bool SeparatesTwo(char16_t separator, const std::vector<Token>& n, const Locale& locale) noexcept {
   if (separator == u'/' || separator == u'-' || separator == locale.dateSeparator) return true;
   if (LooksLikeYear(n[0]) || LooksLikeYear(n[1])) return false;
@@ -119,7 +121,7 @@ bool SeparatesTwo(char16_t separator, const std::vector<Token>& n, const Locale&
   return separator == u'\0' && locale.group != u'\u00A0';
 }
 
-// In America three numbers with points are a time or nothing; elsewhere people do write dates so.
+// Three numbers with points are a date except in month-first locales, where they can only be a time.
 bool SeparatesThree(const DayParts& parts, const Locale& locale) noexcept {
   return parts.separator != u'.' || locale.dateOrder != Locale::DateOrder::MonthDayYear;
 }

@@ -8,10 +8,10 @@
 
 namespace cardwright {
 
-/// Reads a date, a time of day or both from a text: numbers in the locale's order, or in another one where
-/// that order makes no date; names of months in the locale's language or in English; years of two digits mean
-/// 1930 to 2029 and a missing one this year. Times have colons, or points ("15.30") where those make no date.
-/// None where the text is no date.
+/// Reads a date, a time of day or both: numbers in the locale's order, or in another order where that gives
+/// no date; month names of the locale or in English; years of two digits are 1930 to 2029, and without a year
+/// it is this year. Times have colons, or points ("15.30") where those give no date. None where the text is
+/// no date.
 std::optional<Date> ReadDateText(std::u16string_view text, const Locale& locale);
 
 }  // namespace cardwright

@@ -19,7 +19,7 @@ bool IsLetter(char16_t c) noexcept { return ToLower(c) != ToUpper(c); }
 template <std::size_t N>
 int IndexOf(const std::array<std::u16string_view, N>& names, std::u16string_view word) noexcept {
   const auto found = std::ranges::find_if(names, [&](auto name) {
-    // Short names carry a point in some languages, which the text's own point stands for.
+    // Short names end with a point in some languages; in the text that point is a token of its own.
     if (name.ends_with(u'.')) name.remove_suffix(1);
     return !name.empty() && EqualsNoCase(name, word);
   });

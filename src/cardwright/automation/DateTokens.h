@@ -22,7 +22,7 @@ struct DateToken {
 };
 
 /// The pieces of a text, blanks left out, and the words that dates of this country have between their parts
-/// too. None where a piece cannot stand in a date.
+/// too. None where a piece cannot be part of a date.
 std::optional<std::vector<DateToken>> ReadDateTokens(std::u16string_view text, const Locale& locale);
 
 }  // namespace cardwright

@@ -7,11 +7,11 @@
 
 namespace cardwright {
 
-/// Significant digits that a number of the type is told with.
+/// The significant digits that the platform shows of each type.
 inline constexpr int kDoubleDigits = 15, kSingleDigits = 7;
 
-/// A number as its decimal digits, (-1)^negative * digits * 10^exponent: where texts and the exact types meet
-/// without passing through binary fractions. Zero has no digits.
+/// A number as decimal digits, (-1)^negative * digits * 10^exponent. Conversions between texts and the exact
+/// types go through it, never through binary fractions. Zero has no digits.
 struct DecimalDigits {
   bool negative = false;
   std::string digits;  ///< no zeros in front

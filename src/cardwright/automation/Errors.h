@@ -7,8 +7,8 @@
 
 namespace cardwright {
 
-/// Numbers of the platform's run-time errors that this library raises or tells apart. StandardErrorText knows
-/// the texts of many more.
+/// The platform's run-time errors that this library raises or distinguishes. StandardErrorText has the texts
+/// of many more.
 enum class ErrorNumber : int {
   InvalidCall = 5,
   Overflow = 6,
@@ -61,7 +61,7 @@ enum class ErrorNumber : int {
   ElementNotFound = 32811,
 };
 
-/// Text that the platform gives an error of this number; "Unknown runtime error" where it has none.
+/// The platform's text for an error number; "Unknown runtime error" for others.
 Text StandardErrorText(int number);
 
 /// A numbered run-time error: what scripts see as Err and what Attempt() catches.

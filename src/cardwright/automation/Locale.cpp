@@ -13,7 +13,7 @@ using Order = Locale::DateOrder;
 using Months = std::array<std::u16string_view, 12>;
 using Days = std::array<std::u16string_view, 7>;
 
-/// What all countries of one language share.
+/// What all countries with one language have in common.
 struct Language {
   Months months, shortMonths;
   Days weekdays, shortWeekdays;
@@ -162,7 +162,7 @@ constexpr Locale Make(std::u16string_view name, int lcid, const Language& langua
           .shortWeekdays = language.shortWeekdays};
 }
 
-// The first country of a language is the one that the language's bare name means.
+// A bare language name means the first country of the language.
 constexpr Locale kLocales[] = {
     Make(u"en-us", 1033, kEnglish, kPoint, {Order::MonthDayYear, u'/', false}, u"dddd, MMMM d, yyyy",
          {u"$", u"$n", u"($n)"}, kFromSunday),

@@ -22,14 +22,14 @@ struct Locale {
   bool clock24 = false;
   std::u16string_view am, pm;
   std::u16string_view currency;
-  std::u16string_view currencyForm;          ///< "n $": the symbol stands for '$', the number for 'n'
+  std::u16string_view currencyForm;          ///< "n $": '$' is replaced by the symbol, 'n' by the number
   std::u16string_view negativeCurrencyForm;  ///< "-n $", "($n)"
-  std::u16string_view longDate;  ///< "dddd, d. MMMM yyyy"; words within apostrophes stand for themselves
-  int firstWeekday = 0;          ///< 0 for Sunday
+  std::u16string_view longDate;              ///< "dddd, d. MMMM yyyy"; words in apostrophes are literal
+  int firstWeekday = 0;                      ///< 0 for Sunday
   /// Whether a year's first week is the one with at least four days in it, not the one of January 1.
   bool fourDaysInFirstWeek = false;
   std::array<std::u16string_view, 12> months, shortMonths;
-  std::array<std::u16string_view, 12> monthsInDates;           ///< as they stand behind a day: "listopada"
+  std::array<std::u16string_view, 12> monthsInDates;           ///< their form after a day: "listopada"
   std::array<std::u16string_view, 7> weekdays, shortWeekdays;  ///< Sunday first
 
   /// Locale of a name such as "it-IT", "it_IT.UTF-8" or "it"; none where the table has no such language.

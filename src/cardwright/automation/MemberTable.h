@@ -17,7 +17,7 @@
 
 namespace cardwright {
 
-/// @name Values of C++ as variants and back. A class that is an Object crosses as a reference to it.
+/// @name Conversion between C++ values and variants. Classes derived from Object are converted as references.
 /// @{
 template <class T>
 struct VariantCast;
@@ -234,7 +234,7 @@ class MemberTable {
   MemberId m_Default = kNoMember;
 };
 
-/// An object whose members stand in a table.
+/// An object with a table of members.
 class TableObject : public Object {
  public:
   MemberId FindMember(std::u16string_view name) const override { return Members().Find(name); }

@@ -4,11 +4,11 @@
 
 namespace cardwright {
 
-/// The memory that the calling thread's texts, arrays and objects take, counted so that whoever runs foreign
-/// code can bound it. Without a limit nothing is refused.
+/// Counts the memory of the calling thread's texts, arrays and objects, so that a program that runs scripts
+/// can limit it. Without a limit nothing is refused.
 class MemoryBudget {
  public:
-  /// Error 7 where the limit would be passed.
+  /// Error 7 where the limit would be exceeded.
   static void Charge(std::size_t bytes) {
     if (t_Used + bytes > t_Limit) Refuse();
     t_Used += bytes;
@@ -16,7 +16,7 @@ class MemoryBudget {
   static void Refund(std::size_t bytes) noexcept { t_Used -= bytes; }
   static std::size_t Used() noexcept { return t_Used; }
 
-  /// Allows that many further bytes for as long as it lives; an outer limit that is stricter stays.
+  /// Allows that many further bytes as long as it lives; a stricter outer limit stays in force.
   class Limit {
    public:
     explicit Limit(std::size_t furtherBytes) noexcept;
@@ -28,7 +28,7 @@ class MemoryBudget {
     std::size_t m_Outer;
   };
 
-  /// Lifts the limits for as long as it lives, for what there is to say about a failure: that must not fail.
+  /// Lifts the limits as long as it lives: reporting a failure must not fail.
   class Exemption {
    public:
     Exemption() noexcept;
@@ -43,8 +43,8 @@ class MemoryBudget {
  private:
   [[noreturn]] static void Refuse();
 
-  // Values may go from one thread to another only as a whole engine does, so a plain count a thread will do.
-  // It may wrap where a thread releases what another made; the comparison above then refuses nothing.
+  // A plain count for each thread is enough, as values change the thread only together with their engine. The
+  // count may wrap where a thread releases what another allocated; the comparison above then refuses nothing.
   static constinit thread_local std::size_t t_Used;
   static constinit thread_local std::size_t t_Limit;
 };

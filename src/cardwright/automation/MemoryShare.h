@@ -7,7 +7,7 @@
 
 namespace cardwright {
 
-/// The part of the thread's memory budget that an object takes for what is neither a text nor an array.
+/// An object's charge to the thread's MemoryBudget for memory other than texts and arrays.
 class MemoryShare {
  public:
   MemoryShare() = default;
@@ -19,7 +19,7 @@ class MemoryShare {
   }
   ~MemoryShare() { MemoryBudget::Refund(m_Bytes); }
 
-  /// Error 7 where the budget has no more.
+  /// Error 7 where the limit would be exceeded.
   void Grow(std::size_t bytes) {
     MemoryBudget::Charge(bytes);
     m_Bytes += bytes;

@@ -12,7 +12,7 @@ namespace {
 
 constexpr char16_t kNoBreakSpace = 0x00A0;
 constexpr char16_t kNarrowNoBreakSpace = 0x202F;
-// No type has exponents past that; the rest of the digits only must not overflow.
+// Beyond the exponents of all types. Further digits must not overflow the int.
 constexpr int kMaxExponent = 99999;
 
 bool IsSpace(char16_t c) noexcept { return c == u' ' || (c >= u'\t' && c <= u'\r'); }
@@ -114,7 +114,7 @@ class NumericReader {
 
   bool IsGroup(char16_t c) const noexcept {
     if (c == m_Locale.group) return true;
-    // Where numbers are grouped by a blank that does not break, people type the one on their keyboard.
+    // Where the group separator is a no-break space, people type a plain one.
     const bool byBlank = m_Locale.group == kNoBreakSpace || m_Locale.group == kNarrowNoBreakSpace;
     return byBlank && (c == kNoBreakSpace || c == kNarrowNoBreakSpace || (c == u' ' && IsDigit(Peek(1))));
   }

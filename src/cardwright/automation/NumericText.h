@@ -15,9 +15,9 @@ struct NumericText {
   std::optional<std::uint64_t> bits;
 };
 
-/// Reads a number as the platform's conversions do: blanks around it, one sign in front or behind or
-/// parentheses for a negative one, the currency symbol, group separators anywhere behind the first digit, an
-/// exponent with E or D. None where the text is anything else.
+/// Reads a number as the platform's conversions do: blanks around it, one sign before or after it or
+/// parentheses for a negative number, the currency symbol, group separators anywhere after the first digit,
+/// an exponent with E or D. None for any other text.
 std::optional<NumericText> ReadNumericText(std::u16string_view text, const Locale& locale);
 
 }  // namespace cardwright

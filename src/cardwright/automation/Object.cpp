@@ -13,10 +13,10 @@ struct Object::Connections {
     bool connected = true;
   };
 
-  // Handlers are held by pointer: one may connect another while it runs, which moves the list.
+  // By pointer, as a handler that connects another one while it runs moves the list.
   std::vector<std::unique_ptr<Entry>> entries;
   int lastNumber = 0;
-  int raising = 0;  // depth of RaiseEvent, during which no entry goes away
+  int raising = 0;  // depth of RaiseEvent, during which entries are not removed
 
   void Sweep() {
     if (raising == 0) std::erase_if(entries, [](const auto& entry) { return !entry->connected; });
@@ -47,7 +47,7 @@ void Object::Disconnect(int connection) {
 
 void Object::RaiseEvent(std::u16string_view event, Args args) {
   if (!m_Connections || m_Connections->entries.empty()) return;
-  // Held until all handlers ran, but never by the first reference: its release would delete the object.
+  // Keeps the object alive until all handlers ran. Not during construction: the release would delete it.
   const Ref<Object> held(IsHeld() ? this : nullptr);
   struct Raising {
     Connections& connections;
@@ -67,8 +67,8 @@ void Object::RaiseEvent(std::u16string_view event, Args args) {
 
 namespace {
 
-// A default member may answer with an object that has one of its own; an object that answers with itself is
-// told from a chain by its length.
+// A default value may be an object with a default member in turn. A longer chain is taken for an object that
+// is its own default value.
 constexpr int kMaxDefaultChain = 16;
 
 MemberId RequireMember(const Object& object, std::u16string_view name) {

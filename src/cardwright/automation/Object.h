@@ -13,13 +13,13 @@
 
 namespace cardwright {
 
-/// How a member is called; a request may allow several, as `o(1)` allows a method or a get.
+/// How a member is called. A request may allow several kinds: `o(1)` is a method call or a get.
 enum class CallKind : std::uint8_t { Method = 1, Get = 2, MethodOrGet = 3, Let = 4, Set = 8 };
 constexpr bool Allows(CallKind request, CallKind kind) noexcept {
   return (static_cast<int>(request) & static_cast<int>(kind)) != 0;
 }
 
-/// Number of a member of one object's class: looked up once by name, then called.
+/// Identifies a member of a class: looked up once by name, then used for calls.
 using MemberId = std::int32_t;
 inline constexpr MemberId kNoMember = -1;
 
@@ -40,34 +40,34 @@ using EventHandler = std::function<void(std::u16string_view event, Args args)>;
 /// An object that scripts and C++ reach by member names, whatever their case.
 class Object : public RefCounted {
  public:
-  /// Name that TypeName answers.
+  /// The name that TypeName gives to scripts.
   virtual Text TypeName() const = 0;
-  /// Number of the member of that name, or kNoMember. Stays valid for the life of the object.
+  /// The member of a name in any case, or kNoMember. Valid as long as the object lives.
   virtual MemberId FindMember(std::u16string_view name) const = 0;
-  /// Number of the default member, or kNoMember.
+  /// The default member, or kNoMember.
   virtual MemberId DefaultMember() const { return kNoMember; }
   /// Calls a member. Errors: 438 for an unknown number or a kind that the member does not offer, 450 for a
   /// wrong count of arguments, 449 for a missing one, and whatever the member itself raises.
   virtual Variant Invoke(MemberId member, CallKind kind, Args args) = 0;
-  /// Objects of one shape answer the same numbers to the same names, so that a caller may keep a number for
-  /// all of them; null for an object whose names are its own.
+  /// Objects of one shape have the same ids for the same names, so that callers can cache an id for all of
+  /// them. Null for an object with names of its own.
   virtual const void* Shape() const { return nullptr; }
-  /// Mark by which an engine knows the objects that it made itself; null for all others.
+  /// Marks the objects that an engine made itself; null for all others.
   const void* Family() const noexcept { return m_Family; }
   /// Names of the public members, in declared order, for documentation and completion.
   virtual std::vector<Text> MemberNames() const { return {}; }
   /// For Each; error 451 where the object is no collection.
   virtual std::unique_ptr<Enumerator> Enumerate();
 
-  /// Hooks all events of the object until the connection is dropped; the number is for Disconnect.
+  /// Subscribes to all events of the object; returns the id of the connection for Disconnect.
   int Connect(EventHandler handler);
   void Disconnect(int connection);
 
  protected:
   explicit Object(const void* family = nullptr);
   ~Object() override;
-  /// Calls every handler connected at this moment, in order of connection. A handler may connect, disconnect
-  /// or release the object; one that is disconnected before its turn is passed over.
+  /// Calls the handlers that are connected now, in order of connection. A handler may connect and disconnect
+  /// handlers and release the object; a handler that is disconnected before its turn is not called.
   void RaiseEvent(std::u16string_view event, Args args = {});
 
  private:
@@ -83,8 +83,8 @@ void LetProperty(Object& object, std::u16string_view name, const Variant& value,
                  std::initializer_list<Variant> args = {});
 void SetProperty(Object& object, std::u16string_view name, const Variant& value);
 Variant CallMethod(Object& object, std::u16string_view name, std::initializer_list<Variant> args = {});
-/// The value of the default member where `value` is an object that has one, else the value; error 438
-/// for an object without a default member, 91 for Nothing.
+/// The value of an object's default member; any other value itself. Error 438 for an object without a default
+/// member, 91 for Nothing.
 Variant DefaultValue(const Variant& value);
 /// The object in `value`; error 91 for Nothing, 424 where it holds none.
 Object& RequireObject(const Variant& value);

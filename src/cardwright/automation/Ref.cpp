@@ -6,31 +6,32 @@ namespace cardwright {
 
 namespace {
 
-// Objects within objects that are unmade by recursion; those deeper wait for their turn.
-constexpr int kDeepest = 64;
+// An object may hold the last reference to another one, and so on. Up to this depth they are destroyed by
+// recursion; deeper ones are queued, so that a chain of millions does not overflow the stack.
+constexpr int kMaxRecursion = 64;
 
-struct Unmaking {
+struct Destruction {
   int depth = 0;
-  std::vector<const RefCounted*> waiting;
+  std::vector<const RefCounted*> queue;
 };
-thread_local Unmaking t_Unmaking;
+thread_local Destruction t_Destruction;
 
 }  // namespace
 
-void RefCounted::Unmake() const noexcept {
-  Unmaking& unmaking = t_Unmaking;
-  if (unmaking.depth == kDeepest) {
-    unmaking.waiting.push_back(this);
+void RefCounted::Destroy() const noexcept {
+  Destruction& destruction = t_Destruction;
+  if (destruction.depth == kMaxRecursion) {
+    destruction.queue.push_back(this);
     return;
   }
-  ++unmaking.depth;
+  ++destruction.depth;
   OnLastRelease();
-  while (unmaking.depth == 1 && !unmaking.waiting.empty()) {
-    const RefCounted* next = unmaking.waiting.back();
-    unmaking.waiting.pop_back();
+  while (destruction.depth == 1 && !destruction.queue.empty()) {
+    const RefCounted* next = destruction.queue.back();
+    destruction.queue.pop_back();
     next->OnLastRelease();
   }
-  --unmaking.depth;
+  --destruction.depth;
 }
 
 }  // namespace cardwright

@@ -19,11 +19,11 @@ class RefCounted {
 
   void AddRef() const noexcept { ++m_Count; }
   void Release() const noexcept {
-    if (--m_Count == 0) Unmake();
+    if (--m_Count == 0) Destroy();
   }
-  /// True when exactly one reference is left, so that its holder may change the object in place.
+  /// True with exactly one reference, whose holder may then change the object in place.
   bool IsUnique() const noexcept { return m_Count == 1; }
-  /// @name Memory: what is shared counts as the thread's, as texts and arrays do.
+  /// @name Allocation is charged to the thread's MemoryBudget, as that of texts and arrays.
   /// @{
   static void* operator new(std::size_t size) {
     MemoryBudget::Charge(size);
@@ -34,20 +34,19 @@ class RefCounted {
     MemoryBudget::Refund(size);
   }
   /// @}
-  /// False while it is being made or unmade, and for one that no reference ever held.
+  /// False during construction and destruction, and while no reference was made yet.
   bool IsHeld() const noexcept { return m_Count != 0; }
 
  protected:
   virtual ~RefCounted() = default;
-  /// Called when the last reference is gone. A class that has something to do first overrides it; it may hand
-  /// out references meanwhile and stay alive by them.
+  /// Called when the last reference is released. An override may do something first, and may hand out
+  /// references that keep the object alive.
   virtual void OnLastRelease() const noexcept { delete this; }
   std::uint32_t Count() const noexcept { return m_Count; }
 
  private:
-  // Out of line: an object that held the last reference to a chain of millions must not unmake it by
-  // recursion.
-  void Unmake() const noexcept;
+  // Bounds the recursion through chains of objects.
+  void Destroy() const noexcept;
 
   mutable std::uint32_t m_Count = 0;
 };

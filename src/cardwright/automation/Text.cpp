@@ -12,7 +12,7 @@ namespace cardwright {
 
 namespace {
 
-// The longest text whose size in bytes a signed 32-bit length, as the platform's texts have it, can tell.
+// The size in bytes must fit into a signed 32-bit length, as in the platform's strings.
 constexpr std::size_t kMaxLength = 0x3FFFFFFF;
 constexpr std::size_t kSmallestGrowth = 16;
 
@@ -56,12 +56,14 @@ Text& Text::operator+=(std::u16string_view tail) {
     m_Rep->length = length;
     return *this;
   }
-  // Only a text that nobody shares is being built up; a sum of two is usually final and gets no slack.
+  // An unshared text is probably being built up and gets spare capacity; the sum of two texts is usually
+  // final.
   const bool grows = m_Rep && m_Rep->count == 1;
   const std::size_t slack = grows ? std::max(length, kSmallestGrowth) : 0;
   Rep* rep = Rep::Allocate(length > kMaxLength ? length : std::min(length + slack, kMaxLength));
   CopyCharacters(rep->Characters(), View());
-  CopyCharacters(rep->Characters() + Size(), tail);  // `tail` may lie in the old characters: freed below
+  CopyCharacters(rep->Characters() + Size(),
+                 tail);  // `tail` may be part of the old characters, which are freed below
   rep->length = length;
   if (m_Rep) m_Rep->Release();
   m_Rep = rep;

@@ -8,9 +8,9 @@
 
 namespace cardwright {
 
-/// Counted UTF-16 text of the automation world: any code unit may stand in it, NUL included. A copy shares
-/// the characters and costs one count; appending to a text that nobody shares is amortised constant. Belongs
-/// to one thread, like every counted thing here.
+/// UTF-16 text with shared characters: any code unit may be in it, NUL included. A copy shares the characters
+/// and only increments a count; appending to an unshared text is amortised constant. Counts are not atomic,
+/// so a text belongs to one thread.
 class Text {
  public:
   Text() noexcept = default;
@@ -27,8 +27,8 @@ class Text {
     return *this;
   }
 
-  /// A text of `size` characters, which `fill` writes: it is called once with a pointer to them, unless there
-  /// are none. Error 7 where the size is beyond all bounds.
+  /// A text of `size` characters that `fill` writes: it is called with a pointer to them, unless there are
+  /// none. Error 7 for an impossible size.
   template <class Fill>
   static Text OfSize(std::size_t size, Fill&& fill) {
     Text text;
@@ -66,7 +66,7 @@ class Text {
   inline void Retain() const noexcept;
   inline void Drop() noexcept;
 
-  Rep* m_Rep = nullptr;  // null stands for the empty text
+  Rep* m_Rep = nullptr;  // null is the empty text
 };
 
 /// Position of the first occurrence of `part` from `from` on, or npos. An empty part is found at once.
@@ -82,13 +82,13 @@ Text ToUpper(std::u16string_view text);
 bool EqualsNoCase(std::u16string_view a, std::u16string_view b) noexcept;
 /// Position of the first occurrence from `from` on, or npos.
 std::size_t FindNoCase(std::u16string_view text, std::u16string_view part, std::size_t from = 0) noexcept;
-/// Hash that agrees with EqualsNoCase.
+/// Equal for texts that EqualsNoCase.
 std::size_t HashNoCase(std::u16string_view text) noexcept;
 /// @}
 
 /// Whether it is one of 0 to 9.
 constexpr bool IsDigit(char16_t c) noexcept { return c >= u'0' && c <= u'9'; }
-/// Blanks (U+0020) cut off both ends, as the platform's Trim does; other white space stays.
+/// The text without blanks (U+0020) at both ends, as the platform's Trim; other white space stays.
 std::u16string_view Trim(std::u16string_view text) noexcept;
 /// Every occurrence of `from` replaced by `to`; with `noCase` the search ignores case.
 Text Replace(std::u16string_view text, std::u16string_view from, std::u16string_view to, bool noCase = false);

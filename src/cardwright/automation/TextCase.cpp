@@ -18,8 +18,8 @@ struct CaseRange {
 
 constexpr CaseRange kRanges[] = {
     {u'A', u'Z', 32, 1},
-    // Latin-1 and Latin Extended-A; the dotted and the dotless I stay themselves, as neither is the other
-    // case of a letter that has one already.
+    // Latin-1 and Latin Extended-A; the dotted capital I and the dotless small i are not mapped, as i and I
+    // are each other's case.
     {0x00C0, 0x00D6, 32, 1},
     {0x00D8, 0x00DE, 32, 1},
     {0x0100, 0x012E, 1, 2},

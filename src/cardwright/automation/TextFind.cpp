@@ -8,17 +8,17 @@ namespace cardwright {
 
 namespace {
 
-// Places looked at together: a loop of a fixed count, which compilers turn into vector instructions where it
-// is too long for them to unroll.
+// Positions compared together: a loop with a fixed count that compilers vectorise, as it is too long to
+// unroll.
 constexpr std::size_t kBlock = 32;
-// Comparisons for each character of the text before the search becomes a linear one.
+// After so many comparisons for each character the search switches to the linear algorithm.
 constexpr std::size_t kMostLooks = 16;
 
 bool AreEqual(const char16_t* a, const char16_t* b, std::size_t count) noexcept {
   return std::memcmp(a, b, count * sizeof(char16_t)) == 0;
 }
 
-/// Exact search: a place is worth a look where the first and the last character of the part are right.
+/// Exact search: a candidate is a position where the first and the last character of the part match.
 struct Exact {
   explicit Exact(std::u16string_view wanted) noexcept
       : part(wanted), first(part.front()), last(part.back()) {}
@@ -80,7 +80,7 @@ std::size_t FindWith(std::u16string_view text, std::u16string_view part, std::si
   if (from > text.size() || part.size() > text.size() - from) return std::u16string_view::npos;
   if (part.empty()) return from;
   const Matcher matcher(part);
-  // Where the ends of a long part are right time and again and the rest is not, the bet is lost.
+  // The ends of a long part match again and again, and the rest does not: switch to the linear algorithm.
   const std::size_t start = from;
   std::size_t compared = 0;
   const char16_t* const fronts = text.data();

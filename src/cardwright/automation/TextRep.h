@@ -6,7 +6,7 @@
 
 namespace cardwright {
 
-/// The shared characters behind a Text. They follow the header in the same block of memory.
+/// The shared characters of a Text, which follow this header in the same block of memory.
 struct Text::Rep {
   std::uint32_t count;
   std::size_t length;
@@ -19,7 +19,7 @@ struct Text::Rep {
     if (--count == 0) Free(this);
   }
 
-  /// One reference, no characters yet; error 7 where the size is beyond all bounds.
+  /// One reference, no characters yet; error 7 for an impossible size.
   static Rep* Allocate(std::size_t capacity);
   static void Free(Rep* rep) noexcept;
 };

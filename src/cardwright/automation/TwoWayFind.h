@@ -8,7 +8,7 @@ namespace cardwright {
 
 /// Search in linear time and without memory of its own, whatever the text and the part are: the two-way
 /// algorithm of Crochemore and Perrin. Slower than a search that bets on the part's ends; for parts that such
-/// a search could take quadratic time for. `text` and `part` answer the unit at an index; units compare with
+/// a search could take quadratic time. `text` and `part` answer the unit at an index; units compare with
 /// < and ==.
 template <class Text, class Part>
 class TwoWayFind {

@@ -11,8 +11,8 @@ constexpr char32_t kReplacement = 0xFFFD;
 bool IsHighSurrogate(char16_t c) noexcept { return (c & 0xFC00) == 0xD800; }
 bool IsLowSurrogate(char16_t c) noexcept { return (c & 0xFC00) == 0xDC00; }
 
-// What a first byte promises: how many bytes follow and which range the second one must keep to, so that
-// overlong forms, surrogates and numbers past U+10FFFF are refused at the first byte that shows them.
+// What a first byte requires: how many bytes follow, and the range of the second byte, which excludes
+// overlong forms, surrogates and numbers beyond U+10FFFF.
 struct Sequence {
   int tail = 0;
   unsigned char low = 0x80;

@@ -9,8 +9,8 @@ namespace cardwright {
 
 namespace {
 
-// The text without the characters that Val passes over wherever they stand, cut at the first one that can be
-// part of no number.
+// The text without the white space that Val skips anywhere, up to the first character that cannot be part of
+// a number.
 std::string NumberCharacters(std::u16string_view text) {
   constexpr std::u16string_view kPassedOver = u" \t\n";
   constexpr std::u16string_view kInNumbers = u"0123456789abcdefho&.+-";

@@ -43,10 +43,10 @@ Variant Variant::Nothing() noexcept {
 }
 
 Variant Variant::ByRef(Variant& target) noexcept {
-  // A reference to a reference would outlive its middle, so it refers to the end of the chain.
+  // Refers to the end of a chain of references, as one in the middle may not live as long.
   Variant reference;
   if (target.IsByRef()) {
-    reference.TakeBits(target);
+    reference.CopyBits(target);
   } else {
     reference.m_Header = HeaderOf(VarType::ByRef);
     reference.m_Data.reference = &target;

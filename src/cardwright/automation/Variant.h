@@ -48,12 +48,12 @@ struct Decimal {
   std::uint8_t scale = 0;
   bool negative = false;
 };
-/// Number of an error carried as a value, as a missing argument is.
+/// An error number as a value. A missing argument is one.
 struct ErrorValue {
   std::int32_t code = 0;
 };
 
-/// The value that a call receives for an argument left out.
+/// The error value that stands for an argument that was left out.
 inline constexpr std::int32_t kMissingArgument = static_cast<std::int32_t>(0x80020004u);
 
 /// The script-visible variant: 16 bytes, numbers unboxed, texts, objects and arrays counted.
@@ -84,22 +84,22 @@ class Variant {
   Variant(T*) = delete;  // a pointer must not turn into a Boolean
 
   Variant(const Variant& other) noexcept {
-    TakeBits(other);
+    CopyBits(other);
     if (IsCounted()) Retain();
   }
   Variant(Variant&& other) noexcept {
-    TakeBits(other);
+    CopyBits(other);
     other.m_Header = 0;
   }
   ~Variant() {
     if (IsCounted()) Drop();
   }
-  // What is overwritten goes last: its release may run code that looks at this very variable.
+  // The old value is released last: that may run code that reads this variable.
   Variant& operator=(const Variant& other) noexcept {
     if ((m_Header | other.m_Header) & kCounted) {
       AssignCounted(other);
     } else {
-      TakeBits(other);
+      CopyBits(other);
     }
     return *this;
   }
@@ -107,7 +107,7 @@ class Variant {
     if (IsCounted()) {
       AssignCounted(std::move(other));
     } else {
-      TakeBits(other);
+      CopyBits(other);
       if (&other != this) other.m_Header = 0;
     }
     return *this;
@@ -144,17 +144,17 @@ class Variant {
     m_Data.whole = value;
   }
   /// @}
-  /// Adds characters to the text held, in place where nobody shares it. The type must be String.
+  /// Appends to the text, in place unless it is shared. The type must be String.
   void Append(std::u16string_view tail);
 
   static Variant Null() noexcept;
-  /// The object reference that refers to none.
+  /// The object reference without an object.
   static Variant Nothing() noexcept;
   static Variant Missing() noexcept { return ErrorValue{kMissingArgument}; }
   /// A reference to `target`, which must outlive it: an argument passed by reference.
   static Variant ByRef(Variant& target) noexcept;
-  /// Likewise to the element at a position of the array that `holder` has: the array may be resized or
-  /// replaced meanwhile; an element that is gone reads as Empty.
+  /// A reference to an element of the array in `holder`. The array may be resized or replaced meanwhile; an
+  /// element that no longer exists reads as Empty.
   static Variant ByRefElement(Variant& holder, std::uint32_t position) noexcept;
 
   VarType Type() const noexcept { return static_cast<VarType>(m_Header & 0xFFFF); }
@@ -164,7 +164,7 @@ class Variant {
   bool IsObject() const noexcept { return Type() == VarType::Object; }
   bool IsArray() const noexcept { return Type() == VarType::Array; }
   bool IsByRef() const noexcept { return (m_Header & kReference) != 0; }
-  /// True for a value that is all here: neither counted nor a reference.
+  /// True for a plain value: neither counted nor a reference.
   bool IsInPlace() const noexcept { return (m_Header & (kCounted | kReference)) == 0; }
   /// Integer or Long.
   bool IsWhole() const noexcept { return Type() == VarType::Long || Type() == VarType::Integer; }
@@ -180,7 +180,7 @@ class Variant {
     if (!IsByRef()) return *this;
     return Type() == VarType::ByRef ? *m_Data.reference : ReadElement();
   }
-  /// For writing: an element's array is made the holder's own first.
+  /// For writing: the array of an element is copied first if it is shared.
   Variant& Deref() {
     if (!IsByRef()) return *this;
     return Type() == VarType::ByRef ? *m_Data.reference : WriteElement();
@@ -206,11 +206,11 @@ class Variant {
   /// @}
 
  private:
-  // The header is one word, as the data are: copied so, a value can be read from where it was just written
-  // without waiting. The type stands in its low 16 bits, what these flags tell of the type next to it.
+  // The header is one word like the data: a copy by whole words can be read back at once, where a copy by
+  // parts would stall the processor (store forwarding). Its low 16 bits are the type, then come these flags,
+  // which follow from the type.
   static constexpr std::uint64_t kCounted = 1u << 16, kReference = 1u << 17;
-  // Of a Decimal, its sign and scale; its high part is in the upper half, as is the position of a
-  // ByRefElement.
+  // The sign and scale of a Decimal. The upper half holds its high part, or the position of a ByRefElement.
   static constexpr std::uint64_t kNegative = 1u << 18;
   static constexpr int kScaleShift = 24, kHighShift = 32;
 
@@ -221,11 +221,11 @@ class Variant {
   }
   std::uint32_t High() const noexcept { return static_cast<std::uint32_t>(m_Header >> kHighShift); }
   bool IsCounted() const noexcept { return (m_Header & kCounted) != 0; }
-  void TakeBits(const Variant& other) noexcept {
+  void CopyBits(const Variant& other) noexcept {
     m_Header = other.m_Header;
     m_Data = other.m_Data;
   }
-  // Before a plain value is put in place of any.
+  // Before a plain value overwrites this one.
   void Free() noexcept {
     if (IsCounted()) ResetCounted();
   }

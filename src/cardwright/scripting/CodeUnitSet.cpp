@@ -14,8 +14,7 @@ constexpr char16_t kLast = 0xFFFF;
 // Beyond every unit that ToUpper and ToLower change.
 constexpr std::size_t kCased = 0x600;
 
-// What two units must share to be the same whatever their case. A unit beyond ASCII never equals one of
-// ASCII.
+// Equal for units that differ only in case. A unit beyond ASCII never equals one of ASCII.
 constexpr char16_t Fold(char16_t unit, char16_t upper) noexcept {
   return unit >= 0x80 && upper < 0x80 ? unit : upper;
 }
@@ -113,7 +112,7 @@ std::u16string CodeUnitSet::Notation() const {
   const std::vector<Range> ranges = Sorted();
   if (ranges.empty()) return u"(?!)";
   if (ranges.front() == Range{0, kLast}) return u".";
-  // The shorter notation of a set that goes up to the end is by what is not in it.
+  // A set that includes the last unit has a shorter notation by its complement.
   const bool isNegated = ranges.back().second == kLast;
   std::u16string result = isNegated ? u"[^" : u"[";
   for (const auto& [first, last] : isNegated ? Complement().Sorted() : ranges) {

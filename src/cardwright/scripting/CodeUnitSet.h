@@ -10,12 +10,12 @@ namespace cardwright::scripting {
 /// A set of UTF-16 code units, as a class of a regular expression names it.
 class CodeUnitSet {
  public:
-  /// @name The sets that have an escape or a sign of their own
+  /// @name Predefined sets
   /// @{
   static const CodeUnitSet& Digits();           ///< \d: ASCII digits
   static const CodeUnitSet& WordUnits();        ///< \w: ASCII letters, digits and the underscore
   static const CodeUnitSet& Blanks();           ///< \s: white space, line ends and Unicode's space separators
-  static const CodeUnitSet& LineTerminators();  ///< where ^ and $ stand with MultiLine
+  static const CodeUnitSet& LineTerminators();  ///< where ^ and $ match with MultiLine
   /// @}
 
   CodeUnitSet() = default;
@@ -28,7 +28,7 @@ class CodeUnitSet {
 
   bool IsSingle() const;
   CodeUnitSet Complement() const;
-  /// With it every unit that differs from one of its units in case only.
+  /// The set with every unit that differs from one of its units only in case.
   CodeUnitSet WithOtherCases() const;
   /// The set in the notation of the matching library, good outside classes.
   std::u16string Notation() const;

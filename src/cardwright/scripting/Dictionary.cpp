@@ -14,9 +14,9 @@ constexpr std::int32_t kLastCompareMode = 2;
 Dictionary::Dictionary() : m_Table(KeyCase::Matters) {}
 
 void Dictionary::Add(const Variant& key, const Variant& item) {
-  const KeyTable::Place place = m_Table.FindOrAdd(key);
-  if (!place.isNew) Raise(ErrorNumber::KeyExists);
-  *place.value = item;
+  const KeyTable::Insertion inserted = m_Table.FindOrAdd(key);
+  if (!inserted.isNew) Raise(ErrorNumber::KeyExists);
+  *inserted.value = item;
 }
 
 void Dictionary::LetKey(const Variant& key, const Variant& newKey) {
@@ -28,12 +28,12 @@ void Dictionary::LetKey(const Variant& key, const Variant& newKey) {
 }
 
 void Dictionary::Remove(const Variant& key) {
-  if (!m_Table.Take(key)) Raise(ErrorNumber::ElementNotFound);
+  if (!m_Table.Remove(key)) Raise(ErrorNumber::ElementNotFound);
 }
 
 void Dictionary::RemoveAll() {
-  // The old table goes when the new one is in place: the end of an object in it may run code that comes back
-  // here.
+  // The old table is released when the new one is in place: an object in it may end with code that uses this
+  // dictionary.
   KeyTable removed(m_Table.Case());
   m_Table.Swap(removed);
 }
@@ -58,8 +58,8 @@ std::unique_ptr<Enumerator> Dictionary::Enumerate() {
 
 namespace {
 
-// The calls that scripts make by the hundred thousand: what they are given is used in place, where the
-// table's usual calls take a copy of each argument first.
+// For the calls that scripts make by the hundred thousand: the arguments are used in place, where the usual
+// calls of member tables copy each argument.
 template <auto Function, std::size_t... I>
 Variant CallWith(Object& self, Args args, std::index_sequence<I...>) {
   auto& dictionary = static_cast<Dictionary&>(self);

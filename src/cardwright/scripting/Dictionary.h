@@ -5,9 +5,9 @@
 
 namespace cardwright::scripting {
 
-/// `Scripting.Dictionary`: values by key, in the order in which the keys came. A key is any value but an
-/// array or an error value (error 5): numbers by value whatever their type, objects when they are one object;
-/// a text never equals a number, nor Empty an empty text. Values keep what they are given, objects too.
+/// `Scripting.Dictionary`: values by key, in the order in which the keys were added. A key is any value but
+/// an array or an error value (error 5): numbers of any type by their value, objects by identity; a text
+/// never equals a number, nor Empty an empty text.
 class Dictionary final : public TableObject {
  public:
   Dictionary();
@@ -15,31 +15,29 @@ class Dictionary final : public TableObject {
   Text TypeName() const override { return u"Dictionary"; }
 
   std::int32_t Count() const noexcept { return static_cast<std::int32_t>(m_Table.Size()); }
-  /// Error 457 for a key that is there.
+  /// Error 457 for a key that exists.
   void Add(const Variant& key, const Variant& item);
   bool Exists(const Variant& key) const { return m_Table.Find(key) != nullptr; }
-  /// The value of a key. One that is missing is added, with Empty.
+  /// The value of a key. A missing key is added with Empty.
   Variant Item(const Variant& key) { return *m_Table.FindOrAdd(key).value; }
   /// Sets the value of a key, new or not; an object may be given with or without Set.
   void LetItem(const Variant& key, const Variant& item) { *m_Table.FindOrAdd(key).value = item; }
-  /// Gives a value another key in the same place. Error 32811 where there is no such key, 457 where the new
-  /// one exists.
+  /// Replaces a key; the value keeps its place. Error 32811 for a missing key, 457 where the new one exists.
   void LetKey(const Variant& key, const Variant& newKey);
-  /// Error 32811 where there is no such key.
+  /// Error 32811 for a missing key.
   void Remove(const Variant& key);
   void RemoveAll();
   /// Arrays from 0, in order.
   Variant Keys() const;
   Variant Items() const;
 
-  /// 0 where the case of texts matters, 1 or 2 where it does not. Changing it needs an empty dictionary:
-  /// error 5.
+  /// 0 where the case of texts matters, 1 or 2 where it does not. Error 5 for a change while it has keys.
   std::int32_t CompareMode() const noexcept { return m_CompareMode; }
   void SetCompareMode(std::int32_t mode);
-  /// Number that equal keys share, not negative.
+  /// Equal for equal keys, not negative.
   std::int32_t HashVal(const Variant& key) const;
 
-  /// The keys of this moment: changes during the enumeration do not matter.
+  /// The keys as they are now: changes during the enumeration have no effect on it.
   std::unique_ptr<Enumerator> Enumerate() override;
 
  protected:

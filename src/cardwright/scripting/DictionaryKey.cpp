@@ -71,14 +71,14 @@ bool IsNumber(const Variant& value) noexcept {
   }
 }
 
-// By bits, so that what is no number equals itself and can be found again.
+// By bits, so that NaN equals itself and can be found again.
 bool IsSameNumber(double a, double b) noexcept {
   return std::bit_cast<std::uint64_t>(a + 0.0) == std::bit_cast<std::uint64_t>(b + 0.0);
 }
 
 bool AreSameNumbers(const Variant& a, const Variant& b) noexcept {
   if (IsWholeNumber(a) && IsWholeNumber(b)) return a.Long() == b.Long();
-  // Two amounts may differ by less than a Double can tell.
+  // Amounts may differ by less than the precision of a Double.
   if (a.Type() == VarType::Currency && b.Type() == VarType::Currency) {
     return a.CurrencyValue().tenThousandths == b.CurrencyValue().tenThousandths;
   }

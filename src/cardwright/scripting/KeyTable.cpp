@@ -29,13 +29,13 @@ std::size_t KeyTable::FindSlot(const Variant& key, std::uint32_t hash) const noe
   for (std::size_t at = hash & mask;; at = (at + 1) & mask) {
     const Slot slot = m_Slots[at];
     if (slot == kFree) return kNoSlot;
-    if (slot == kGivenUp) continue;
+    if (slot == kDeleted) continue;
     const bool mayBe = ((slot ^ hash) & ~m_EntryMask) == 0;
     if (mayBe && IsSameKey(m_Entries[slot & m_EntryMask].key, key, m_KeyCase)) return at;
   }
 }
 
-void KeyTable::Occupy(std::uint32_t hash, std::size_t entry) noexcept {
+void KeyTable::InsertSlot(std::uint32_t hash, std::size_t entry) noexcept {
   const std::size_t mask = m_Slots.size() - 1;
   std::size_t at = hash & mask;
   while (m_Slots[at] != kFree) at = (at + 1) & mask;
@@ -43,8 +43,8 @@ void KeyTable::Occupy(std::uint32_t hash, std::size_t entry) noexcept {
   ++m_Used;
 }
 
-// The entries close up, and the slots become so many that half of the room for entries is free.
-void KeyTable::MakeRoom() {
+// Removes the gaps between entries, and makes the table large enough that at most half of it is used.
+void KeyTable::Rehash() {
   std::size_t count = std::max(m_Slots.size(), kFirstSlots);
   while (m_Size * 2 * kSlotsPerEntry > count) count *= 2;
   if (count > kMaxSlots) Raise(ErrorNumber::OutOfMemory);
@@ -56,7 +56,7 @@ void KeyTable::MakeRoom() {
   std::erase_if(m_Entries, [](const Entry& entry) { return entry.isGap; });
   m_Used = 0;
   std::size_t index = 0;
-  for (const Entry& entry : m_Entries) Occupy(entry.hash, index++);
+  for (const Entry& entry : m_Entries) InsertSlot(entry.hash, index++);
 }
 
 Variant* KeyTable::Find(const Variant& key) const {
@@ -65,13 +65,13 @@ Variant* KeyTable::Find(const Variant& key) const {
   return const_cast<Variant*>(&m_Entries[EntryOf(slot)].value);
 }
 
-KeyTable::Place KeyTable::FindOrAdd(const Variant& key) {
+KeyTable::Insertion KeyTable::FindOrAdd(const Variant& key) {
   const std::uint32_t hash = HashOfKey(key, m_KeyCase);
   const std::size_t slot = FindSlot(key, hash);
   if (slot != kNoSlot) return {&m_Entries[EntryOf(slot)].value, false};
-  if (IsFull()) MakeRoom();
+  if (IsFull()) Rehash();
   Entry& entry = m_Entries.emplace_back();
-  Occupy(hash, m_Entries.size() - 1);
+  InsertSlot(hash, m_Entries.size() - 1);
   entry.key = key;
   entry.hash = hash;
   ++m_Size;
@@ -87,11 +87,11 @@ void KeyTable::Swap(KeyTable& other) noexcept {
   std::swap(m_KeyCase, other.m_KeyCase);
 }
 
-std::optional<KeyTable::Entry> KeyTable::Take(const Variant& key) {
+std::optional<KeyTable::Entry> KeyTable::Remove(const Variant& key) {
   const std::size_t slot = FindSlot(key, HashOfKey(key, m_KeyCase));
   if (slot == kNoSlot) return {};
   Entry& entry = m_Entries[EntryOf(slot)];
-  m_Slots[slot] = kGivenUp;
+  m_Slots[slot] = kDeleted;
   --m_Size;
   Entry taken = std::move(entry);
   entry.isGap = true;
@@ -99,16 +99,16 @@ std::optional<KeyTable::Entry> KeyTable::Take(const Variant& key) {
 }
 
 KeyTable::Renaming KeyTable::Rename(const Variant& key, const Variant& newKey) {
-  if (IsFull()) MakeRoom();
+  if (IsFull()) Rehash();
   const std::size_t slot = FindSlot(key, HashOfKey(key, m_KeyCase));
   if (slot == kNoSlot) return Renaming::NoSuchKey;
   const std::uint32_t hash = HashOfKey(newKey, m_KeyCase);
   if (FindSlot(newKey, hash) != kNoSlot) return Renaming::NewKeyExists;
   const std::size_t index = EntryOf(slot);
-  m_Slots[slot] = kGivenUp;
-  Occupy(hash, index);
+  m_Slots[slot] = kDeleted;
+  InsertSlot(hash, index);
   m_Entries[index].hash = hash;
-  m_Entries[index].key = newKey;  // last, as the old key may be an object that ends with this
+  m_Entries[index].key = newKey;  // last, as this may release an object, the old key
   return Renaming::Done;
 }
 

@@ -11,9 +11,9 @@ namespace cardwright::scripting {
 
 enum class KeyCase : std::uint8_t;
 
-/// Values by key, kept in the order in which their keys came: what a dictionary holds. The entries stand in a
-/// row that grows without moving them; a table of slots with open addressing leads to them. An entry that is
-/// removed leaves a gap, and the gaps go when the table grows. Error 5 for a key that can be none.
+/// Values by key, in the order in which the keys were added. The entries are a list that grows without moving
+/// them; a hash table with open addressing gives their numbers. A removed entry leaves a gap in the list
+/// until the table is rehashed. Error 5 for a value that cannot be a key.
 class KeyTable {
  public:
   explicit KeyTable(KeyCase keyCase) : m_KeyCase(keyCase) {}
@@ -29,41 +29,40 @@ class KeyTable {
 
   /// Valid until the next change of the table; null for a key that it does not have.
   Variant* Find(const Variant& key) const;
-  struct Place {
+  struct Insertion {
     Variant* value;
     bool isNew;
   };
-  /// The value of the key, which joins with Empty where it is new.
-  Place FindOrAdd(const Variant& key);
-  /// The key and its value, taken out. They come back to the caller as their release may run code that uses
-  /// this very table.
+  /// The value of the key, which is added with Empty if it is new.
+  Insertion FindOrAdd(const Variant& key);
+  /// Removes a key. The key and its value are returned, as their release may run code that uses this table.
   struct Entry {
     Variant key, value;
     std::uint32_t hash = 0;
     bool isGap = false;
   };
-  std::optional<Entry> Take(const Variant& key);
+  std::optional<Entry> Remove(const Variant& key);
   enum class Renaming : std::uint8_t { Done, NoSuchKey, NewKeyExists };
-  /// Another key for a value, which keeps its place in the order.
+  /// Replaces the key of a value, which keeps its place in the order.
   Renaming Rename(const Variant& key, const Variant& newKey);
 
   std::vector<Variant> Keys() const;
   std::vector<Variant> Values() const;
 
  private:
-  // Number of an entry in the low bits, and above them what there is room for of its hash: enough to pass
-  // over nearly every other key without a look at it, and small tables stay in the cache. A slot that was
-  // given up stays in the way of later searches until the table grows.
+  // The number of an entry in the low bits, and as many bits of its hash as fit above: enough to skip nearly
+  // every other key without reading it. A deleted slot stays part of the probe sequences until the next
+  // rehash.
   using Slot = std::uint32_t;
   static constexpr Slot kFree = 0xFFFFFFFF;
-  static constexpr Slot kGivenUp = 0xFFFFFFFE;
+  static constexpr Slot kDeleted = 0xFFFFFFFE;
   static constexpr std::size_t kNoSlot = static_cast<std::size_t>(-1);
 
   std::size_t FindSlot(const Variant& key, std::uint32_t hash) const noexcept;
   std::size_t EntryOf(std::size_t slot) const noexcept { return m_Slots[slot] & m_EntryMask; }
-  void Occupy(std::uint32_t hash, std::size_t entry) noexcept;
+  void InsertSlot(std::uint32_t hash, std::size_t entry) noexcept;
   bool IsFull() const noexcept { return m_Used + 1 >= m_EntryMask; }
-  void MakeRoom();
+  void Rehash();
   static std::size_t BytesFor(std::size_t slots) noexcept;
 
   std::deque<Entry> m_Entries;

@@ -9,7 +9,7 @@ namespace cardwright::scripting {
 RegExp::RegExp(std::size_t maxTextUnits) : m_MaxTextUnits(maxTextUnits) {}
 RegExp::~RegExp() = default;
 
-// Scripts often set again what is set already, so a program goes only where it would be another.
+// Scripts often set what is already set: the program is dropped only where it changes.
 void RegExp::SetPattern(Text pattern) {
   if (m_Pattern == pattern) return;
   m_Pattern = std::move(pattern);
@@ -17,22 +17,22 @@ void RegExp::SetPattern(Text pattern) {
 }
 
 void RegExp::SetIgnoreCase(bool ignoreCase) {
-  if (std::exchange(m_IgnoresCase, ignoreCase) != ignoreCase) m_Program.reset();
+  if (std::exchange(m_IgnoreCase, ignoreCase) != ignoreCase) m_Program.reset();
 }
 
 void RegExp::SetMultiLine(bool multiLine) {
-  if (std::exchange(m_IsMultiLine, multiLine) != multiLine) m_Program.reset();
+  if (std::exchange(m_MultiLine, multiLine) != multiLine) m_Program.reset();
 }
 
 RegExpProgram& RegExp::Program() {
   if (!m_Program) {
-    const RegExpFlags flags{.ignoreCase = m_IgnoresCase, .multiLine = m_IsMultiLine};
+    const RegExpFlags flags{.ignoreCase = m_IgnoreCase, .multiLine = m_MultiLine};
     m_Program = std::make_unique<RegExpProgram>(m_Pattern, flags);
   }
   return *m_Program;
 }
 
-// Each search starts where the last match ended, one unit further after an empty one.
+// Each search starts where the last match ended, one unit later after an empty match.
 template <class Visit>
 void RegExp::ForEachMatch(const Text& text, Visit visit) {
   RegExpProgram& program = Program();
@@ -43,7 +43,7 @@ void RegExp::ForEachMatch(const Text& text, Visit visit) {
     if (spans.empty()) return;
     visit(spans);
     from = spans[1] > spans[0] ? spans[1] : spans[1] + 1;
-  } while (m_IsGlobal && from <= text.Size());
+  } while (m_Global && from <= text.Size());
 }
 
 bool RegExp::Test(const Text& text) {
@@ -52,9 +52,9 @@ bool RegExp::Test(const Text& text) {
 }
 
 Ref<RegExpMatches> RegExp::Execute(const Text& text) {
-  const auto findings = MakeRef<RegExpFindings>(text, Program().Groups());
-  ForEachMatch(text, [&](std::span<const std::size_t> spans) { findings->Add(spans); });
-  return MakeRef<RegExpMatches>(findings);
+  const auto matches = MakeRef<RegExpSpans>(text, Program().Groups());
+  ForEachMatch(text, [&](std::span<const std::size_t> spans) { matches->Add(spans); });
+  return MakeRef<RegExpMatches>(matches);
 }
 
 Text RegExp::Replace(const Text& text, const Text& replacement) {
@@ -77,9 +77,9 @@ Text RegExp::Replace(const Text& text, const Text& replacement) {
 const MemberTable& RegExp::Members() const {
   static constexpr Member kMembers[] = {
       Property<&RegExp::Pattern, &RegExp::SetPattern>(u"Pattern"),
-      Property<&RegExp::IgnoresCase, &RegExp::SetIgnoreCase>(u"IgnoreCase"),
-      Property<&RegExp::IsGlobal, &RegExp::SetGlobal>(u"Global"),
-      Property<&RegExp::IsMultiLine, &RegExp::SetMultiLine>(u"MultiLine"),
+      Property<&RegExp::IgnoreCase, &RegExp::SetIgnoreCase>(u"IgnoreCase"),
+      Property<&RegExp::Global, &RegExp::SetGlobal>(u"Global"),
+      Property<&RegExp::MultiLine, &RegExp::SetMultiLine>(u"MultiLine"),
       Method<&RegExp::Execute>(u"Execute"),
       Method<&RegExp::Test>(u"Test"),
       Method<&RegExp::Replace>(u"Replace"),

@@ -10,10 +10,9 @@ namespace cardwright::scripting {
 class RegExpMatches;
 class RegExpProgram;
 
-/// The language's regular expressions, `VBScript.RegExp`. A pattern is read when it is first used, not when
-/// it is set; its mistakes are errors 5017 (syntax), 5018 (quantifier), 5019 (no closing bracket), 5020 (no
-/// closing parenthesis) and 5021 (range) of that use. A search that takes more than about a second or too
-/// much memory is given up with error 17; a pattern that is too large is error 7.
+/// `VBScript.RegExp`. A pattern is translated when it is first used, and that use raises its errors: 5017
+/// (syntax), 5018 (quantifier), 5019 (no closing bracket), 5020 (no closing parenthesis), 5021 (range), 7
+/// (too large). A search that takes more than about a second or too much memory ends with error 17.
 class RegExp final : public TableObject {
  public:
   /// Longest result of a replacement without a limit of its own, in UTF-16 units.
@@ -27,13 +26,13 @@ class RegExp final : public TableObject {
 
   Text Pattern() const { return m_Pattern; }
   void SetPattern(Text pattern);
-  /// Whether Execute and Replace go through all of the text; else they end with the first match.
-  bool IsGlobal() const noexcept { return m_IsGlobal; }
-  void SetGlobal(bool global) noexcept { m_IsGlobal = global; }
-  bool IgnoresCase() const noexcept { return m_IgnoresCase; }
+  /// Whether Execute and Replace find all matches, or only the first.
+  bool Global() const noexcept { return m_Global; }
+  void SetGlobal(bool global) noexcept { m_Global = global; }
+  bool IgnoreCase() const noexcept { return m_IgnoreCase; }
   void SetIgnoreCase(bool ignoreCase);
   /// Whether ^ and $ match at each line of the text.
-  bool IsMultiLine() const noexcept { return m_IsMultiLine; }
+  bool MultiLine() const noexcept { return m_MultiLine; }
   void SetMultiLine(bool multiLine);
 
   /// Whether the text has a match.
@@ -52,10 +51,10 @@ class RegExp final : public TableObject {
 
   const std::size_t m_MaxTextUnits;
   Text m_Pattern;
-  bool m_IsGlobal = false;
-  bool m_IgnoresCase = false;
-  bool m_IsMultiLine = false;
-  std::unique_ptr<RegExpProgram> m_Program;  // none until the pattern is used as it stands
+  bool m_Global = false;
+  bool m_IgnoreCase = false;
+  bool m_MultiLine = false;
+  std::unique_ptr<RegExpProgram> m_Program;  // null until the pattern is used, and after each change
 };
 
 }  // namespace cardwright::scripting

@@ -7,7 +7,7 @@
 
 namespace cardwright::scripting {
 
-/// What an escape of a pattern stands for: a set where it names one, else a single unit.
+/// The meaning of an escape: a set of units, or a single unit.
 struct RegExpEscape {
   const CodeUnitSet* set = nullptr;
   bool isNegated = false;  ///< the set's complement

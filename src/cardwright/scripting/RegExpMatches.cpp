@@ -9,7 +9,7 @@ namespace cardwright::scripting {
 
 namespace {
 
-// Limit of the numbers kept for one search: a quarter of a gigabyte.
+// Limit of the numbers of one search: a quarter of a gigabyte.
 constexpr std::size_t kMaxSpans = std::size_t{1} << 26;
 constexpr std::uint32_t kUnset = ~std::uint32_t{0};
 
@@ -21,7 +21,7 @@ std::size_t CheckedIndex(std::int32_t index, std::int32_t count) {
 
 }  // namespace
 
-void RegExpFindings::Add(std::span<const std::size_t> spans) {
+void RegExpSpans::Add(std::span<const std::size_t> spans) {
   const std::size_t needed = m_Spans.size() + spans.size();
   if (needed > kMaxSpans) Raise(ErrorNumber::OutOfMemory);
   if (needed > m_Spans.capacity()) {
@@ -29,18 +29,18 @@ void RegExpFindings::Add(std::span<const std::size_t> spans) {
     m_Memory.Grow((capacity - m_Spans.capacity()) * sizeof(std::uint32_t));
     m_Spans.reserve(capacity);
   }
-  // Texts are shorter than 2^32, and the largest number stands for none in both forms.
+  // Texts are shorter than 2^32, and the largest number means "none" in both types.
   for (const std::size_t place : spans) m_Spans.push_back(static_cast<std::uint32_t>(place));
 }
 
-Variant RegExpFindings::Value(std::size_t match, std::size_t group) const {
+Variant RegExpSpans::Value(std::size_t match, std::size_t group) const {
   const std::size_t at = match * Width() + group * 2;
   if (m_Spans[at] == kUnset) return {};
   return m_Text.View().substr(m_Spans[at], m_Spans[at + 1] - m_Spans[at]);
 }
 
 Variant RegExpSubMatches::Item(std::int32_t index) const {
-  return m_Findings->Value(m_Match, CheckedIndex(index, Count()) + 1);
+  return m_Matches->Value(m_Match, CheckedIndex(index, Count()) + 1);
 }
 
 std::unique_ptr<Enumerator> RegExpSubMatches::Enumerate() {
@@ -56,7 +56,7 @@ const MemberTable& RegExpSubMatches::Members() const {
   return table;
 }
 
-Ref<RegExpSubMatches> RegExpMatch::SubMatches() { return MakeRef<RegExpSubMatches>(m_Findings, m_Match); }
+Ref<RegExpSubMatches> RegExpMatch::SubMatches() { return MakeRef<RegExpSubMatches>(m_Matches, m_Match); }
 
 const MemberTable& RegExpMatch::Members() const {
   static constexpr Member kMembers[] = {
@@ -71,9 +71,9 @@ const MemberTable& RegExpMatch::Members() const {
 
 Ref<RegExpMatch> RegExpMatches::Item(std::int32_t index) {
   const std::size_t place = CheckedIndex(index, Count());
-  if (m_Objects.empty()) m_Objects.resize(m_Findings->Count());
+  if (m_Objects.empty()) m_Objects.resize(m_Matches->Count());
   Ref<RegExpMatch>& object = m_Objects[place];
-  if (!object) object = MakeRef<RegExpMatch>(m_Findings, place);
+  if (!object) object = MakeRef<RegExpMatch>(m_Matches, place);
   return object;
 }
 

@@ -11,13 +11,13 @@
 
 namespace cardwright::scripting {
 
-/// Where the matches of one search lie: numbers only, out of which the objects are made when a script asks
-/// for them.
-class RegExpFindings final : public RefCounted {
+/// The positions of the matches of one search. Numbers only: match objects are made when a script asks for
+/// them.
+class RegExpSpans final : public RefCounted {
  public:
-  RegExpFindings(Text text, std::size_t groups) : m_Text(std::move(text)), m_Groups(groups) {}
+  RegExpSpans(Text text, std::size_t groups) : m_Text(std::move(text)), m_Groups(groups) {}
 
-  /// Adds a match by its spans, as RegExpProgram::Search gives them. Error 7 where there are too many.
+  /// Adds a match by its spans, as RegExpProgram::Search returns them. Error 7 where there are too many.
   void Add(std::span<const std::size_t> spans);
 
   std::size_t Count() const noexcept { return m_Spans.size() / Width(); }
@@ -39,11 +39,11 @@ class RegExpFindings final : public RefCounted {
 /// The texts of a match's groups, counted from 0.
 class RegExpSubMatches final : public TableObject {
  public:
-  RegExpSubMatches(Ref<const RegExpFindings> findings, std::size_t match)
-      : m_Findings(std::move(findings)), m_Match(match) {}
+  RegExpSubMatches(Ref<const RegExpSpans> matches, std::size_t match)
+      : m_Matches(std::move(matches)), m_Match(match) {}
 
   Text TypeName() const override { return u"ISubMatches"; }
-  std::int32_t Count() const noexcept { return static_cast<std::int32_t>(m_Findings->Groups()); }
+  std::int32_t Count() const noexcept { return static_cast<std::int32_t>(m_Matches->Groups()); }
   /// Error 5 outside.
   Variant Item(std::int32_t index) const;
   std::unique_ptr<Enumerator> Enumerate() override;
@@ -52,38 +52,38 @@ class RegExpSubMatches final : public TableObject {
   const MemberTable& Members() const override;
 
  private:
-  const Ref<const RegExpFindings> m_Findings;
+  const Ref<const RegExpSpans> m_Matches;
   const std::size_t m_Match;
 };
 
 /// One match.
 class RegExpMatch final : public TableObject {
  public:
-  RegExpMatch(Ref<const RegExpFindings> findings, std::size_t match)
-      : m_Findings(std::move(findings)), m_Match(match) {}
+  RegExpMatch(Ref<const RegExpSpans> matches, std::size_t match)
+      : m_Matches(std::move(matches)), m_Match(match) {}
 
   Text TypeName() const override { return u"IMatch2"; }
-  /// Place of its first unit in the text, counted from 0.
-  std::int32_t FirstIndex() const noexcept { return static_cast<std::int32_t>(m_Findings->Start(m_Match)); }
-  std::int32_t Length() const noexcept { return static_cast<std::int32_t>(m_Findings->Length(m_Match)); }
-  Variant Value() const { return m_Findings->Value(m_Match, 0); }
+  /// Position of its first unit, from 0.
+  std::int32_t FirstIndex() const noexcept { return static_cast<std::int32_t>(m_Matches->Start(m_Match)); }
+  std::int32_t Length() const noexcept { return static_cast<std::int32_t>(m_Matches->Length(m_Match)); }
+  Variant Value() const { return m_Matches->Value(m_Match, 0); }
   Ref<RegExpSubMatches> SubMatches();
 
  protected:
   const MemberTable& Members() const override;
 
  private:
-  const Ref<const RegExpFindings> m_Findings;
+  const Ref<const RegExpSpans> m_Matches;
   const std::size_t m_Match;
 };
 
-/// The matches of one search in the order of the text, counted from 0.
+/// The matches of one search in the order of the text, from 0.
 class RegExpMatches final : public TableObject {
  public:
-  explicit RegExpMatches(Ref<const RegExpFindings> findings) : m_Findings(std::move(findings)) {}
+  explicit RegExpMatches(Ref<const RegExpSpans> matches) : m_Matches(std::move(matches)) {}
 
   Text TypeName() const override { return u"IMatchCollection2"; }
-  std::int32_t Count() const noexcept { return static_cast<std::int32_t>(m_Findings->Count()); }
+  std::int32_t Count() const noexcept { return static_cast<std::int32_t>(m_Matches->Count()); }
   /// The same object each time. Error 5 outside.
   Ref<RegExpMatch> Item(std::int32_t index);
   std::unique_ptr<Enumerator> Enumerate() override;
@@ -92,8 +92,8 @@ class RegExpMatches final : public TableObject {
   const MemberTable& Members() const override;
 
  private:
-  const Ref<const RegExpFindings> m_Findings;
-  std::vector<Ref<RegExpMatch>> m_Objects;  // those made so far, by their place
+  const Ref<const RegExpSpans> m_Matches;
+  std::vector<Ref<RegExpMatch>> m_Objects;  // those made so far, by index
 };
 
 }  // namespace cardwright::scripting

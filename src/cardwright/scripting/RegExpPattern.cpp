@@ -6,47 +6,23 @@
 #include "cardwright/automation/Errors.h"
 #include "cardwright/scripting/CodeUnitSet.h"
 #include "cardwright/scripting/RegExpEscape.h"
+#include "cardwright/scripting/RegExpQuantifier.h"
 
 namespace cardwright::scripting {
 
 namespace {
 
-// Where the matching library asks whether it has worked long enough: at each start, at each turn of a group,
-// and before each part that can be long.
+// Here the matching library calls back, so that a search can be ended: at each start, at each repetition of a
+// group, and before each part that can be long.
 constexpr std::u16string_view kCheckpoint = u"(?C)";
-// A part repeated no more often than this is short.
-constexpr int kShortRepeat = 16;
-constexpr int kUnlimited = -1;
-
-std::u16string DecimalNotation(std::size_t number) {
-  const std::string digits = std::to_string(number);
-  return {digits.begin(), digits.end()};
-}
-
-struct Quantifier {
-  int least = 0;
-  int most = 0;
-  bool isLazy = false;
-
-  bool IsLong() const noexcept { return most == kUnlimited || most > kShortRepeat; }
-  std::u16string Notation() const;
-};
-
-std::u16string Quantifier::Notation() const {
-  std::u16string result = u'{' + DecimalNotation(static_cast<std::size_t>(least)) + u',';
-  if (most != kUnlimited) result += DecimalNotation(static_cast<std::size_t>(most));
-  result += u'}';
-  if (isLazy) result += u'?';
-  return result;
-}
 
 const std::u16string& NoLineTerminator() {
   static const std::u16string notation = CodeUnitSet::LineTerminators().Complement().Notation();
   return notation;
 }
 
-// The full stop leaves out line feeds only: scripts that read texts with both line end characters count on
-// the carriage return being part of what it matches.
+// The full stop matches all but line feeds: scripts that read text with CR LF rely on it matching the
+// carriage return.
 const std::u16string& NoLineFeed() {
   static const std::u16string notation = CodeUnitSet{{u'\n', u'\n'}}.Complement().Notation();
   return notation;
@@ -61,9 +37,9 @@ class Translator {
 
  private:
   bool AtEnd() const noexcept { return m_At == m_Pattern.size(); }
-  bool Sees(std::u16string_view text) const noexcept { return m_Pattern.substr(m_At).starts_with(text); }
+  bool LooksAt(std::u16string_view text) const noexcept { return m_Pattern.substr(m_At).starts_with(text); }
 
-  void Survey();
+  void CountGroups();
   void Part();
   void OpenGroup();
   void CloseGroup();
@@ -75,8 +51,7 @@ class Translator {
   void Class();
   CodeUnitSet ClassAtom(bool& isSingle, char16_t& unit);
   void Unit(char16_t unit);
-  std::optional<Quantifier> ReadQuantifier();
-  std::optional<Quantifier> ReadCounts();
+  std::optional<RegExpQuantifier> TakeQuantifier();
   void Atom(std::u16string_view notation, bool mayBeLong = false);
   void Checkpoint();
 
@@ -89,7 +64,7 @@ class Translator {
 };
 
 LibraryPattern Translator::Run() {
-  Survey();
+  CountGroups();
   m_Result.foldsReferences = m_Flags.ignoreCase && m_HasReferences;
   m_Result.isCaseless = m_Flags.ignoreCase && !m_HasReferences;
   Checkpoint();
@@ -98,9 +73,9 @@ LibraryPattern Translator::Run() {
   return std::move(m_Result);
 }
 
-// Counts the groups, as a number after a backslash refers to a group wherever in the pattern that stands, and
-// is an octal one where there is no such group.
-void Translator::Survey() {
+// The number of groups must be known first: a number after a backslash refers to a group anywhere in the
+// pattern, and is octal where there is no such group.
+void Translator::CountGroups() {
   bool inClass = false;
   for (std::size_t i = 0; i < m_Pattern.size(); ++i) {
     switch (m_Pattern[i]) {
@@ -138,7 +113,7 @@ void Translator::Part() {
     case u'[': return Class();
     default: break;
   }
-  if (ReadQuantifier()) Raise(ErrorNumber::RegExpUnexpectedQuantifier);
+  if (TakeQuantifier()) Raise(ErrorNumber::RegExpUnexpectedQuantifier);
   ++m_At;
   if (unit == u'.') {
     Atom(NoLineFeed());
@@ -149,14 +124,14 @@ void Translator::Part() {
 
 void Translator::OpenGroup() {
   for (const std::u16string_view opening : {u"(?:", u"(?=", u"(?!"}) {
-    if (!Sees(opening)) continue;
+    if (!LooksAt(opening)) continue;
     m_At += opening.size();
     m_Result.text += opening;
     ++m_Depth;
     return Checkpoint();
   }
-  // What other dialects open so, such as names and options, is a quantifier of nothing here: that is met
-  // next.
+  // After "(?" other dialects have names and options. Here the question mark is a quantifier of nothing, and
+  // raises its error next.
   ++m_At;
   m_Result.text += u'(';
   ++m_Depth;
@@ -168,7 +143,7 @@ void Translator::CloseGroup() {
   --m_Depth;
   ++m_At;
   m_Result.text += u')';
-  if (const auto quantifier = ReadQuantifier()) m_Result.text += quantifier->Notation();
+  if (const auto quantifier = TakeQuantifier()) m_Result.text += quantifier->Notation();
 }
 
 void Translator::LineStart() {
@@ -196,7 +171,7 @@ void Translator::Escape() {
   const RegExpEscape escape = ReadEscape(m_Pattern.substr(m_At));
   m_At += escape.length;
   if (!escape.set) return Unit(escape.unit);
-  // The sets of escapes hold every letter in both cases.
+  // The sets of escapes have both cases of their letters.
   Atom((escape.isNegated ? escape.set->Complement() : *escape.set).Notation());
 }
 
@@ -209,7 +184,8 @@ bool Translator::WordBoundary() {
     m_Result.text += letter;
     return true;
   }
-  // The library knows all of Unicode then, and its boundaries are no longer those of ASCII words.
+  // With folded references the library uses Unicode, and its word boundaries are no longer those of ASCII
+  // words.
   const std::u16string word = CodeUnitSet::WordUnits().Notation() + u')';
   const std::u16string_view ifWord = letter == u'b' ? u"(?!" : u"(?=";
   const std::u16string_view ifNone = letter == u'b' ? u"(?=" : u"(?!";
@@ -221,8 +197,8 @@ bool Translator::WordBoundary() {
   return true;
 }
 
-// As many digits as name a group of the pattern. In parentheses, as the library's machine code counts turns
-// of a bare reference to a group that matched nothing otherwise than its interpreter.
+// Takes as many digits as give the number of a group. The reference is put into parentheses: the library's
+// machine code and its interpreter count repetitions of a bare reference to an unmatched group differently.
 bool Translator::BackReference() {
   if (m_Pattern[m_At] == u'0') return false;
   std::size_t digits = 0;
@@ -237,27 +213,27 @@ bool Translator::BackReference() {
   }
   if (digits == 0) return false;
   m_At += digits;
-  const std::u16string notation = u"\\g{" + DecimalNotation(group) + u'}';
+  const std::u16string notation = u"\\g{" + NumberNotation(group) + u'}';
   Atom((m_Result.foldsReferences ? u"(?i:" : u"(?:") + notation + u')', true);
   return true;
 }
 
 void Translator::Class() {
   ++m_At;
-  const bool isNegated = Sees(u"^");
+  const bool isNegated = LooksAt(u"^");
   if (isNegated) ++m_At;
   CodeUnitSet set;
-  while (!Sees(u"]")) {
+  while (!LooksAt(u"]")) {
     bool isSingle = false;
     char16_t first = 0;
     set.Add(ClassAtom(isSingle, first));
-    if (!Sees(u"-") || Sees(u"-]")) continue;
+    if (!LooksAt(u"-") || LooksAt(u"-]")) continue;
     ++m_At;
     bool isLastSingle = false;
     char16_t last = 0;
     set.Add(ClassAtom(isLastSingle, last));
     if (!isSingle || !isLastSingle) {
-      set.Add(u'-');  // a set is no end of a range: [\w-.] is meant literally, and much in use
+      set.Add(u'-');  // a set cannot be the end of a range: scripts often have [\w-.], meant literally
     } else if (first > last) {
       Raise(ErrorNumber::RegExpInvalidRange);
     } else {
@@ -277,7 +253,7 @@ CodeUnitSet Translator::ClassAtom(bool& isSingle, char16_t& unit) {
   if (unit == u'\\') {
     if (AtEnd()) Raise(ErrorNumber::RegExpExpectedBracket);
     RegExpEscape escape = ReadEscape(m_Pattern.substr(m_At));
-    if (Sees(u"b")) escape.unit = u'\b';
+    if (LooksAt(u"b")) escape.unit = u'\b';
     m_At += escape.length;
     unit = escape.unit;
     isSingle = escape.set == nullptr;
@@ -293,45 +269,14 @@ void Translator::Unit(char16_t unit) {
   Atom(set.IsSingle() ? UnitNotation(unit) : set.Notation());
 }
 
-std::optional<Quantifier> Translator::ReadQuantifier() {
-  std::optional<Quantifier> result;
-  if (Sees(u"{")) {
-    result = ReadCounts();
-  } else {
-    if (Sees(u"*")) result = Quantifier{.least = 0, .most = kUnlimited};
-    if (Sees(u"+")) result = Quantifier{.least = 1, .most = kUnlimited};
-    if (Sees(u"?")) result = Quantifier{.least = 0, .most = 1};
-    if (result) ++m_At;
-  }
-  if (result && Sees(u"?")) {
-    result->isLazy = true;
-    ++m_At;
-  }
-  return result;
-}
-
-// {n}, {n,} or {n,m}; braces around anything else are characters like others.
-std::optional<Quantifier> Translator::ReadCounts() {
-  std::u16string_view rest = m_Pattern.substr(m_At + 1);
-  const RegExpNumber least = ReadNumber(rest, kMaxRegExpCount);
-  if (least.digits == 0) return {};
-  rest.remove_prefix(least.digits);
-  Quantifier result{.least = least.value, .most = least.value};
-  if (rest.starts_with(u',')) {
-    rest.remove_prefix(1);
-    const RegExpNumber most = ReadNumber(rest, kMaxRegExpCount);
-    rest.remove_prefix(most.digits);
-    result.most = most.digits == 0 || most.value > kMaxRegExpCount ? kUnlimited : most.value;
-  }
-  if (!rest.starts_with(u'}')) return {};
-  if (result.most != kUnlimited && result.least > result.most) Raise(ErrorNumber::RegExpSyntax);
-  if (result.least > kMaxRegExpCount) Raise(ErrorNumber::OutOfMemory);
-  m_At = m_Pattern.size() - rest.size() + 1;
-  return result;
+std::optional<RegExpQuantifier> Translator::TakeQuantifier() {
+  const std::optional<RegExpQuantifier> quantifier = ReadQuantifier(m_Pattern.substr(m_At));
+  if (quantifier) m_At += quantifier->length;
+  return quantifier;
 }
 
 void Translator::Atom(std::u16string_view notation, bool mayBeLong) {
-  const std::optional<Quantifier> quantifier = ReadQuantifier();
+  const std::optional<RegExpQuantifier> quantifier = TakeQuantifier();
   if (mayBeLong || (quantifier && quantifier->IsLong())) Checkpoint();
   m_Result.text += notation;
   if (quantifier) m_Result.text += quantifier->Notation();

@@ -16,16 +16,16 @@ static_assert(kUnsetGroup == PCRE2_UNSET);
 
 // Turns of a pattern's loops from one start: some 50 ms of machine code. What takes long without many turns,
 // or at many starts, meets the time limit of the budget.
-constexpr std::uint32_t kMostTurns = 10'000'000;
+constexpr std::uint32_t kMaxBacktracking = 10'000'000;
 // Memory of a search: what is kept for the next one, and what a second attempt may take and gives back.
 // Machine code has a stack, in bytes; without it there is a heap, in KiB.
 constexpr std::size_t kFirstStack = std::size_t{32} << 10;
 constexpr std::size_t kKeptStack = std::size_t{1} << 20;
-constexpr std::size_t kMostStack = std::size_t{128} << 20;
+constexpr std::size_t kMaxStack = std::size_t{128} << 20;
 constexpr std::uint32_t kKeptHeap = 1 << 10;
-constexpr std::uint32_t kMostHeap = 64 << 10;
+constexpr std::uint32_t kMaxHeap = 64 << 10;
 // Units to be searched before machine code pays. Making it takes as long as searching some thousands.
-constexpr std::size_t kWorthPreparing = 2000;
+constexpr std::size_t kUnitsWorthCompiling = 2000;
 constexpr std::size_t kUnitsOfCall = 64;
 
 struct FreeStack {
@@ -42,14 +42,14 @@ struct FreeContext {
 };
 
 int AtCheckpoint(pcre2_callout_block*, void* budget) {
-  return static_cast<SearchBudget*>(budget)->Spend() ? 0 : PCRE2_ERROR_CALLOUT;
+  return static_cast<SearchBudget*>(budget)->HasTimeLeft() ? 0 : PCRE2_ERROR_CALLOUT;
 }
 
 /// Limits of all searches of a thread, and the stack that they use one after the other.
-class Environment {
+class MatchEnvironment {
  public:
-  static Environment& OfThread() {
-    static thread_local Environment environment;
+  static MatchEnvironment& OfThread() {
+    static thread_local MatchEnvironment environment;
     return environment;
   }
 
@@ -65,9 +65,9 @@ class Environment {
   }
 
  private:
-  Environment() : m_Context(pcre2_match_context_create(nullptr)), m_Stack(NewStack(kKeptStack)) {
+  MatchEnvironment() : m_Context(pcre2_match_context_create(nullptr)), m_Stack(NewStack(kKeptStack)) {
     if (!m_Context) throw std::bad_alloc();
-    pcre2_set_match_limit(m_Context.get(), kMostTurns);
+    pcre2_set_match_limit(m_Context.get(), kMaxBacktracking);
   }
 
   std::unique_ptr<pcre2_match_context, FreeContext> m_Context;
@@ -118,32 +118,32 @@ RegExpProgram::MatchData RegExpProgram::NewMatchData() const {
   return data;
 }
 
-void RegExpProgram::Prepare(std::size_t textUnits) {
+void RegExpProgram::CompileIfWorthwhile(std::size_t textUnits) {
   m_Searched += textUnits + kUnitsOfCall;
-  if (m_IsPrepared || m_Searched < kWorthPreparing) return;
-  m_IsPrepared = true;
+  if (m_IsCompiled || m_Searched < kUnitsWorthCompiling) return;
+  m_IsCompiled = true;
   pcre2_jit_compile(m_Code.get(), PCRE2_JIT_COMPLETE);  // where it cannot be done, searches are slower
   m_Memory.Grow(Size(*m_Code, PCRE2_INFO_JITSIZE));
 }
 
 std::span<const std::size_t> RegExpProgram::Search(std::u16string_view text, std::size_t from,
                                                    SearchBudget& budget) {
-  Prepare(text.size() - from);
+  CompileIfWorthwhile(text.size() - from);
   int found = pcre2_match(m_Code.get(), Units(text), text.size(), from, 0, m_Data.get(),
-                          Environment::OfThread().Context(budget));
+                          MatchEnvironment::OfThread().Context(budget));
   if (found == PCRE2_ERROR_JIT_STACKLIMIT || found == PCRE2_ERROR_HEAPLIMIT)
-    found = SearchAtLength(text, from, budget);
+    found = SearchWithMoreMemory(text, from, budget);
   if (found == PCRE2_ERROR_NOMATCH) return {};
   if (found < 0) Raise(ErrorNumber::CannotPerform);
   return {pcre2_get_ovector_pointer(m_Data.get()), (m_Groups + 1) * 2};
 }
 
 // The memory of this search goes with it.
-int RegExpProgram::SearchAtLength(std::u16string_view text, std::size_t from, SearchBudget& budget) {
+int RegExpProgram::SearchWithMoreMemory(std::u16string_view text, std::size_t from, SearchBudget& budget) {
   const MatchData data = NewMatchData();
-  const Stack stack = NewStack(kMostStack);
+  const Stack stack = NewStack(kMaxStack);
   const int found = pcre2_match(m_Code.get(), Units(text), text.size(), from, 0, data.get(),
-                                Environment::OfThread().Context(budget, stack.get(), kMostHeap));
+                                MatchEnvironment::OfThread().Context(budget, stack.get(), kMaxHeap));
   if (found > 0) {
     std::copy_n(pcre2_get_ovector_pointer(data.get()), (m_Groups + 1) * 2,
                 pcre2_get_ovector_pointer(m_Data.get()));

@@ -28,7 +28,7 @@ class RegExpProgram {
 
   /// The first match in `text` that starts at `from` or after it: start and end of the whole, then of each
   /// group. Nothing where there is none. Good until the next search. Error 17 where the search would take too
-  /// long, or more memory than it is worth.
+  /// long or too much memory.
   std::span<const std::size_t> Search(std::u16string_view text, std::size_t from, SearchBudget& budget);
 
  private:
@@ -39,14 +39,14 @@ class RegExpProgram {
   using MatchData = std::unique_ptr<pcre2_real_match_data_16, Free>;
 
   MatchData NewMatchData() const;
-  void Prepare(std::size_t textUnits);
-  int SearchAtLength(std::u16string_view text, std::size_t from, SearchBudget& budget);
+  void CompileIfWorthwhile(std::size_t textUnits);
+  int SearchWithMoreMemory(std::u16string_view text, std::size_t from, SearchBudget& budget);
 
   std::unique_ptr<pcre2_real_code_16, Free> m_Code;
   MatchData m_Data;
   std::size_t m_Groups = 0;
   std::size_t m_Searched = 0;
-  bool m_IsPrepared = false;
+  bool m_IsCompiled = false;
   MemoryShare m_Memory;
 };
 

@@ -10,7 +10,7 @@ RegExpReplacement::RegExpReplacement(std::u16string_view notation, std::size_t g
   std::size_t sign = notation.find(u'$');
   while (sign != std::u16string_view::npos) {
     std::size_t length = 0;
-    const Piece piece = ReadSign(notation.substr(sign + 1), groups, length);
+    const Piece piece = ReadPlaceholder(notation.substr(sign + 1), groups, length);
     if (length > 0) {
       if (sign > done) m_Pieces.push_back({.characters = notation.substr(done, sign - done)});
       m_Pieces.push_back(piece);
@@ -21,9 +21,9 @@ RegExpReplacement::RegExpReplacement(std::u16string_view notation, std::size_t g
   if (done < notation.size()) m_Pieces.push_back({.characters = notation.substr(done)});
 }
 
-// What stands behind a dollar; its length is 0 where that is no sign.
-RegExpReplacement::Piece RegExpReplacement::ReadSign(std::u16string_view rest, std::size_t groups,
-                                                     std::size_t& length) {
+// The placeholder after a dollar; its length is 0 where there is none.
+RegExpReplacement::Piece RegExpReplacement::ReadPlaceholder(std::u16string_view rest, std::size_t groups,
+                                                            std::size_t& length) {
   length = 0;
   if (rest.empty()) return {};
   length = 1;

@@ -9,10 +9,9 @@
 
 namespace cardwright::scripting {
 
-/// What stands in place of a match: characters, and parts of the text by a sign: $1 to $99 a group, $& the
-/// match,
-/// $` what precedes it, $' what follows it, $$ a dollar. A dollar in front of anything else, and the number
-/// of a group that the pattern does not have, are characters like others.
+/// The replacement of a match: characters, and placeholders: $1 to $99 for a group, $& for the match, $` for
+/// the text before it, $' for the text after it, $$ for a dollar. A dollar before anything else, or before
+/// the number of a group that the pattern lacks, is a character like others.
 class RegExpReplacement {
  public:
   /// `notation` must outlive the replacement.
@@ -34,7 +33,7 @@ class RegExpReplacement {
 
   static std::u16string_view PartOf(const Piece& piece, std::u16string_view text,
                                     std::span<const std::size_t> spans);
-  static Piece ReadSign(std::u16string_view rest, std::size_t groups, std::size_t& length);
+  static Piece ReadPlaceholder(std::u16string_view rest, std::size_t groups, std::size_t& length);
 
   std::vector<Piece> m_Pieces;
 };

@@ -5,7 +5,7 @@
 
 namespace cardwright::scripting {
 
-/// The time that one call of a regular expression's method may take, asked for at every checkpoint of the
+/// The time that one call of a regular expression's method may take, checked at every checkpoint of the
 /// pattern.
 class SearchBudget {
  public:
@@ -13,13 +13,13 @@ class SearchBudget {
   /// too.
   explicit SearchBudget(std::size_t textUnits) noexcept;
 
-  /// False once the time is over or the script is to stop. Looks at the clock only now and then: more often
-  /// the longer the text, as the work between two checkpoints grows with it.
-  bool Spend() noexcept { return --m_Left > 0 || LookAtClock(); }
+  /// False once the time is over or the script should stop. Reads the clock only now and then, more often for
+  /// a longer text, as the work between two checkpoints grows with it.
+  bool HasTimeLeft() noexcept { return --m_Left > 0 || CheckClock(); }
 
  private:
   using Clock = std::chrono::steady_clock;
-  bool LookAtClock() noexcept;
+  bool CheckClock() noexcept;
 
   const Clock::time_point m_End;
   const int m_Interval;

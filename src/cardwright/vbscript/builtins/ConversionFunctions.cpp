@@ -23,14 +23,14 @@ Variant ConvertFunction(Context&, Args args) {
 // CStr(expression)
 Variant CStrFunction(Context&, Args args) {
   const Operand value(args[0]);
-  if (value.Kind() == Side::Unfit) Raise(ErrorNumber::TypeMismatch);
+  if (value.Kind() == OperandType::Unsupported) Raise(ErrorNumber::TypeMismatch);
   return ToText(value);
 }
 
 // A negative number shows all bits of its type: 16 of an Integer, 32 of a Long, as which numbers with
 // decimals count.
 std::uint32_t BitPattern(const Operand& value) {
-  if (value.Kind() == Side::Boolean || value.Kind() == Side::Integer) {
+  if (value.Kind() == OperandType::Boolean || value.Kind() == OperandType::Integer) {
     return static_cast<std::uint16_t>(WholeValue(value));
   }
   return static_cast<std::uint32_t>(ToLong(value));
@@ -38,7 +38,7 @@ std::uint32_t BitPattern(const Operand& value) {
 
 Variant DigitsOf(const Variant& number, unsigned bitsPerDigit) {
   const Operand value(number);
-  if (value.Kind() == Side::Null) return Variant::Null();
+  if (value.Kind() == OperandType::Null) return Variant::Null();
   constexpr std::size_t kMostDigits = 11;  // of 32 bits in octal
   std::array<char16_t, kMostDigits> digits;
   std::size_t first = digits.size();
@@ -60,7 +60,7 @@ constexpr std::int32_t kMaxByte = 255;
 
 char16_t FirstCharacter(const Variant& argument) {
   const Operand value(argument);
-  if (value.Kind() == Side::Unfit) Raise(ErrorNumber::TypeMismatch);
+  if (value.Kind() == OperandType::Unsupported) Raise(ErrorNumber::TypeMismatch);
   const Text text = ToText(value);
   if (text.IsEmpty()) Raise(ErrorNumber::InvalidCall);
   return text[0];

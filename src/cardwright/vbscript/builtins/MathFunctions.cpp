@@ -34,9 +34,9 @@ double Logarithm(double value) {
 }
 
 bool IsNegative(const Operand& value) {
-  const Side kind = value.Kind();
-  if (kind == Side::Currency) return value.Value().CurrencyValue().tenThousandths < 0;
-  if (kind == Side::Decimal) return value.Value().DecimalValue().negative;
+  const OperandType kind = value.Kind();
+  if (kind == OperandType::Currency) return value.Value().CurrencyValue().tenThousandths < 0;
+  if (kind == OperandType::Decimal) return value.Value().DecimalValue().negative;
   return RealValue(value) < 0;
 }
 
@@ -44,12 +44,12 @@ bool IsNegative(const Operand& value) {
 // which has no positive counterpart, becomes one of a larger type.
 Variant AbsFunction(Context&, Args args) {
   const Operand value(args[0]);
-  if (value.Kind() == Side::Null) return Variant::Null();
+  if (value.Kind() == OperandType::Null) return Variant::Null();
   if (IsNegative(value)) return Negate(value);
   switch (value.Kind()) {
-    case Side::Empty:
-    case Side::Boolean: return std::int16_t{0};
-    case Side::Text: return RealValue(value);
+    case OperandType::Empty:
+    case OperandType::Boolean: return std::int16_t{0};
+    case OperandType::Text: return RealValue(value);
     default: return value.Value();
   }
 }
@@ -84,19 +84,19 @@ template <class Way>
 Variant RoundNumber(const Variant& number, const Way& way) {
   const Operand value(number);
   switch (value.Kind()) {
-    case Side::Empty:
-    case Side::Boolean: return FittingWhole(WholeValue(value), Working::Integer);
-    case Side::Byte:
-    case Side::Integer:
-    case Side::Long:
-    case Side::Null: return value.Value();
-    case Side::Single: return static_cast<float>(way.Of(RealValue(value)));
-    case Side::Double:
-    case Side::Text: return way.Of(RealValue(value));
-    case Side::Date: return FittingDate(way.Of(RealValue(value)));
-    case Side::Currency: return way.Of(value.Value().CurrencyValue());
-    case Side::Decimal: return way.Of(value.Value().DecimalValue());
-    case Side::Unfit: Raise(ErrorNumber::TypeMismatch);
+    case OperandType::Empty:
+    case OperandType::Boolean: return FittingWhole(WholeValue(value), WorkingType::Integer);
+    case OperandType::Byte:
+    case OperandType::Integer:
+    case OperandType::Long:
+    case OperandType::Null: return value.Value();
+    case OperandType::Single: return static_cast<float>(way.Of(RealValue(value)));
+    case OperandType::Double:
+    case OperandType::Text: return way.Of(RealValue(value));
+    case OperandType::Date: return FittingDate(way.Of(RealValue(value)));
+    case OperandType::Currency: return way.Of(value.Value().CurrencyValue());
+    case OperandType::Decimal: return way.Of(value.Value().DecimalValue());
+    case OperandType::Unsupported: Raise(ErrorNumber::TypeMismatch);
   }
   return {};
 }

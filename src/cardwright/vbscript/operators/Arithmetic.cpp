@@ -12,7 +12,7 @@ __extension__ using Wide = __int128;
 
 constexpr int kTenThousand = 10000;
 
-// The three operators differ in their table and in what they do with two values of one type.
+// What differs between the three operators: the table, and the operation on two values of one type.
 struct Sum {
   static constexpr const RuleTable& kRules = kSumRules;
   template <class T>
@@ -74,19 +74,19 @@ Variant Calculate(const Variant& left, const Variant& right) {
   const Operand a(left);
   const Operand b(right);
   if (HasNull(a.Kind(), b.Kind())) return Variant::Null();
-  const Working type = RuleOf(Operator::kRules, a.Kind(), b.Kind());
+  const WorkingType type = RuleOf(Operator::kRules, a.Kind(), b.Kind());
   switch (type) {
-    case Working::Boolean:
-    case Working::Byte:
-    case Working::Integer:
-    case Working::Long:
+    case WorkingType::Boolean:
+    case WorkingType::Byte:
+    case WorkingType::Integer:
+    case WorkingType::Long:
       return FittingWhole(Operator::template Of<std::int64_t>(WholeValue(a), WholeValue(b)), type);
-    case Working::Single: return FittingSingle(Operator::Of(RealValue(a), RealValue(b)));
-    case Working::Double: return FiniteDouble(Operator::Of(RealValue(a), RealValue(b)));
-    case Working::Currency: return OfCurrencies<Operator>(a, b);
-    case Working::Date: return FittingDate(Operator::Of(RealValue(a), RealValue(b)));
-    case Working::Decimal: return Operator::Of(ToDecimal(a), ToDecimal(b));
-    case Working::Text: return Concatenate(a, b);
+    case WorkingType::Single: return FittingSingle(Operator::Of(RealValue(a), RealValue(b)));
+    case WorkingType::Double: return FiniteDouble(Operator::Of(RealValue(a), RealValue(b)));
+    case WorkingType::Currency: return OfCurrencies<Operator>(a, b);
+    case WorkingType::Date: return FittingDate(Operator::Of(RealValue(a), RealValue(b)));
+    case WorkingType::Decimal: return Operator::Of(ToDecimal(a), ToDecimal(b));
+    case WorkingType::Text: return Concatenate(a, b);
   }
   return {};
 }
@@ -111,27 +111,27 @@ Variant Multiply(const Variant& a, const Variant& b) { return Calculate<Product>
 Variant Negate(const Variant& value) {
   const Operand a(value);
   switch (a.Kind()) {
-    case Side::Empty:
-    case Side::Boolean:
-    case Side::Byte:
-    case Side::Integer: return FittingWhole(-std::int64_t{WholeValue(a)}, Working::Integer);
-    case Side::Long: return FittingWhole(-std::int64_t{WholeValue(a)}, Working::Long);
-    case Side::Single: return -a.Value().Single();
-    case Side::Double:
-    case Side::Text: return -RealValue(a);
-    case Side::Currency: return Negated(a.Value().CurrencyValue());
-    case Side::Date: return FittingDate(-RealValue(a));
-    case Side::Decimal: return Negated(a.Value().DecimalValue());
-    case Side::Null: return Variant::Null();
-    case Side::Unfit: Raise(ErrorNumber::TypeMismatch);
+    case OperandType::Empty:
+    case OperandType::Boolean:
+    case OperandType::Byte:
+    case OperandType::Integer: return FittingWhole(-std::int64_t{WholeValue(a)}, WorkingType::Integer);
+    case OperandType::Long: return FittingWhole(-std::int64_t{WholeValue(a)}, WorkingType::Long);
+    case OperandType::Single: return -a.Value().Single();
+    case OperandType::Double:
+    case OperandType::Text: return -RealValue(a);
+    case OperandType::Currency: return Negated(a.Value().CurrencyValue());
+    case OperandType::Date: return FittingDate(-RealValue(a));
+    case OperandType::Decimal: return Negated(a.Value().DecimalValue());
+    case OperandType::Null: return Variant::Null();
+    case OperandType::Unsupported: Raise(ErrorNumber::TypeMismatch);
   }
   return {};
 }
 
-// The sign plus says nothing about a type: a text stays a text.
+// Plus does not convert: a string stays a string.
 Variant UnaryPlus(const Variant& value) {
   const Operand a(value);
-  if (a.Kind() == Side::Unfit) Raise(ErrorNumber::TypeMismatch);
+  if (a.Kind() == OperandType::Unsupported) Raise(ErrorNumber::TypeMismatch);
   return a.Value();
 }
 

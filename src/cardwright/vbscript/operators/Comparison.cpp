@@ -28,54 +28,57 @@ Ordering Reversed(Ordering order) noexcept {
   }
 }
 
-bool IsWhole(Side side) noexcept { return side <= Side::Long; }
+bool IsWhole(OperandType side) noexcept { return side <= OperandType::Long; }
 
 // Whether a value can be turned into an exact type that holds numbers up to the limit.
-bool IsWithin(const Operand& value, Side exact, double limit) {
+bool IsWithin(const Operand& value, OperandType exact, double limit) {
   return value.Kind() == exact || std::fabs(RealValue(value)) < limit;
 }
 
-// A number with decimals is compared with money in money's four decimals, unless money cannot hold it.
+// A number is compared with a Currency in four decimals, unless a Currency cannot hold it.
 Ordering OrderOfCurrencies(const Operand& a, const Operand& b) {
   constexpr double kLimit = 922337203685477;
-  const bool isExact = IsWithin(a, Side::Currency, kLimit) && IsWithin(b, Side::Currency, kLimit);
+  const bool isExact =
+      IsWithin(a, OperandType::Currency, kLimit) && IsWithin(b, OperandType::Currency, kLimit);
   if (!isExact) return OrderOf(RealValue(a), RealValue(b));
   return OrderOf(ToCurrency(a).tenThousandths, ToCurrency(b).tenThousandths);
 }
 
 Ordering OrderOfDecimals(const Operand& a, const Operand& b) {
   constexpr double kLimit = 7.9e28;
-  const bool isExact = IsWithin(a, Side::Decimal, kLimit) && IsWithin(b, Side::Decimal, kLimit);
+  const bool isExact = IsWithin(a, OperandType::Decimal, kLimit) && IsWithin(b, OperandType::Decimal, kLimit);
   if (!isExact) return OrderOf(RealValue(a), RealValue(b));
   return CompareDecimals(ToDecimal(a), ToDecimal(b));
 }
 
 // A Double is rounded to a Single before it is compared with one, so that 0.1 equals CSng(0.1).
-bool ComparesAsSingle(Side a, Side b) noexcept {
-  return (a == Side::Single && b == Side::Double) || (a == Side::Double && b == Side::Single);
+bool ComparesAsSingle(OperandType a, OperandType b) noexcept {
+  return (a == OperandType::Single && b == OperandType::Double) ||
+         (a == OperandType::Double && b == OperandType::Single);
 }
 
 Ordering OrderOfNumbers(const Operand& a, const Operand& b) {
-  const Side left = a.Kind();
-  const Side right = b.Kind();
+  const OperandType left = a.Kind();
+  const OperandType right = b.Kind();
   if (IsWhole(left) && IsWhole(right)) return OrderOf(WholeValue(a), WholeValue(b));
-  if (left == Side::Decimal || right == Side::Decimal) return OrderOfDecimals(a, b);
-  if (left == Side::Currency || right == Side::Currency) return OrderOfCurrencies(a, b);
+  if (left == OperandType::Decimal || right == OperandType::Decimal) return OrderOfDecimals(a, b);
+  if (left == OperandType::Currency || right == OperandType::Currency) return OrderOfCurrencies(a, b);
   if (ComparesAsSingle(left, right)) {
     return OrderOf(static_cast<float>(RealValue(a)), static_cast<float>(RealValue(b)));
   }
   return OrderOf(RealValue(a), RealValue(b));
 }
 
-/// A text against a number. Of two variables the number is the lesser, whatever they hold. A number written
-/// in the program makes the text a number (error 13 where it is none), a text written there makes the number
-/// a text. Truth values have no literals in this sense: `"True" = True` compares text only where the text is
-/// the literal.
+/// A string against a number. Between two variables the number is always less. A numeric literal converts the
+/// string to a number (error 13 where it is none), a string literal converts the number to a string. Booleans
+/// have no literals in this sense: `"True" = True` compares strings only because the string is a literal.
 Ordering OrderOfTextAndNumber(const Operand& text, const Operand& number, bool textIsLiteral,
                               bool numberIsLiteral) {
-  if (number.Kind() == Side::Empty) return OrderOfTexts(text.Value().StringView(), {});
-  if (numberIsLiteral && number.Kind() == Side::Date) return OrderOf(ToDate(text).days, RealValue(number));
-  if (numberIsLiteral && number.Kind() != Side::Boolean) return OrderOf(RealValue(text), RealValue(number));
+  if (number.Kind() == OperandType::Empty) return OrderOfTexts(text.Value().StringView(), {});
+  if (numberIsLiteral && number.Kind() == OperandType::Date)
+    return OrderOf(ToDate(text).days, RealValue(number));
+  if (numberIsLiteral && number.Kind() != OperandType::Boolean)
+    return OrderOf(RealValue(text), RealValue(number));
   if (textIsLiteral) return OrderOfTexts(text.Value().StringView(), ToText(number));
   return Ordering::Greater;
 }
@@ -98,8 +101,8 @@ Ordering Compare(const Variant& left, const Variant& right, LiteralSide literals
   const Operand a(left);
   const Operand b(right);
   if (HasNull(a.Kind(), b.Kind())) return Ordering::Unknown;
-  const bool leftIsText = a.Kind() == Side::Text;
-  const bool rightIsText = b.Kind() == Side::Text;
+  const bool leftIsText = a.Kind() == OperandType::Text;
+  const bool rightIsText = b.Kind() == OperandType::Text;
   if (leftIsText && rightIsText) return OrderOfTexts(a.Value().StringView(), b.Value().StringView());
   if (!leftIsText && !rightIsText) return OrderOfNumbers(a, b);
   const bool leftIsLiteral = literals == LiteralSide::Left || literals == LiteralSide::Both;

@@ -9,17 +9,17 @@ namespace cardwright::vbscript {
 
 namespace {
 
-/// The characters of a value; those of a text and of a whole number without a text being made for them.
+/// The characters of a value. For strings and whole numbers no new string is made.
 class Spelling {
  public:
   explicit Spelling(const Operand& operand) {
     switch (operand.Kind()) {
-      case Side::Empty:
-      case Side::Null: break;
-      case Side::Text: m_View = operand.Value().StringView(); break;
-      case Side::Byte:
-      case Side::Integer:
-      case Side::Long: Spell(WholeValue(operand)); break;
+      case OperandType::Empty:
+      case OperandType::Null: break;
+      case OperandType::Text: m_View = operand.Value().StringView(); break;
+      case OperandType::Byte:
+      case OperandType::Integer:
+      case OperandType::Long: Spell(WholeValue(operand)); break;
       default: m_Text = ToText(operand); m_View = m_Text;
     }
   }

@@ -69,7 +69,7 @@ class Words {
     }
     return result;
   }
-  /// Divides by ten and answers the remainder.
+  /// Divides by ten and returns the remainder.
   unsigned CutDigit() noexcept {
     UInt128 rest = 0;
     for (std::size_t i = m_Words.size(); i-- > 0;) {
@@ -97,7 +97,7 @@ Words Scaled(const Decimal& value, int scale) noexcept {
   return words;
 }
 
-// Cuts decimals until the number fits. What is cut is rounded once, at the end.
+// Cuts decimals until the number fits, and rounds once, at the end.
 Decimal Rounded(Words words, int scale, bool negative, int maxScale = kMaxScale) {
   unsigned last = 0;
   bool more = false;  // whether anything but zeros came before the last digit cut
@@ -134,7 +134,7 @@ Decimal DivideDecimals(const Decimal& a, const Decimal& b) {
   UInt128 quotient = Magnitude(a) / divisor;
   UInt128 rest = Magnitude(a) % divisor;
   int scale = a.scale - b.scale;
-  // One more decimal at a time, while there is something left to divide and room for it.
+  // Adds one decimal at a time while there is a remainder and the number fits.
   while (scale < 0 || (rest != 0 && scale < kMaxScale && quotient <= (kMaxMagnitude - 9) / 10)) {
     if (quotient > kMaxMagnitude) Raise(ErrorNumber::Overflow);
     rest *= 10;

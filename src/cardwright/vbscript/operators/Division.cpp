@@ -10,7 +10,7 @@ namespace cardwright::vbscript {
 
 namespace {
 
-// Nothing divided by nothing is told apart from a division by zero: the language calls it an overflow.
+// Zero divided by zero is not a division by zero but an overflow in the language.
 void CheckDivisor(bool dividendIsZero, bool divisorIsZero) {
   if (divisorIsZero) Raise(dividendIsZero ? ErrorNumber::Overflow : ErrorNumber::DivisionByZero);
 }
@@ -33,7 +33,7 @@ Variant OnWhole(const Variant& left, const Variant& right, Operation operation) 
   const Operand a(left);
   const Operand b(right);
   if (HasNull(a.Kind(), b.Kind())) return Variant::Null();
-  const Working type = RuleOf(kWholeRules, a.Kind(), b.Kind());
+  const WorkingType type = RuleOf(kWholeRules, a.Kind(), b.Kind());
   const std::int64_t dividend = ToLong(a);
   const std::int64_t divisor = ToLong(b);
   if (divisor == 0) Raise(ErrorNumber::DivisionByZero);
@@ -50,8 +50,8 @@ Variant Divide(const Variant& left, const Variant& right) {
   const Operand b(right);
   if (HasNull(a.Kind(), b.Kind())) return Variant::Null();
   switch (RuleOf(kQuotientRules, a.Kind(), b.Kind())) {
-    case Working::Single: return FittingSingle(Quotient(a, b));
-    case Working::Decimal: return DecimalQuotient(ToDecimal(a), ToDecimal(b));
+    case WorkingType::Single: return FittingSingle(Quotient(a, b));
+    case WorkingType::Decimal: return DecimalQuotient(ToDecimal(a), ToDecimal(b));
     default: return FiniteDouble(Quotient(a, b));
   }
 }

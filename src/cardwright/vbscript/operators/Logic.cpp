@@ -7,50 +7,50 @@ namespace cardwright::vbscript {
 
 namespace {
 
-/// An operand of the logical operators: a pattern of bits and the type it counts as.
+/// An operand of the logical operators: its bits and its type.
 struct Bits {
-  Side kind;
+  OperandType kind;
   std::int32_t value = 0;
 };
 
-// A text is the number it spells; one that spells a truth value is that.
+// A string is converted to its number, or to the Boolean that it spells.
 Bits BitsOfText(const Variant& text) {
   const std::u16string_view word = text.StringView();
-  if (EqualsNoCase(word, u"True")) return {Side::Boolean, -1};
-  if (EqualsNoCase(word, u"False")) return {Side::Boolean, 0};
-  return {Side::Long, ToLong(text)};
+  if (EqualsNoCase(word, u"True")) return {OperandType::Boolean, -1};
+  if (EqualsNoCase(word, u"False")) return {OperandType::Boolean, 0};
+  return {OperandType::Long, ToLong(text)};
 }
 
 Bits BitsOf(const Operand& operand) {
   switch (operand.Kind()) {
-    case Side::Empty:
-    case Side::Boolean:
-    case Side::Byte:
-    case Side::Integer:
-    case Side::Long: return {operand.Kind(), WholeValue(operand)};
-    case Side::Text: return BitsOfText(operand);
-    case Side::Null: return {Side::Null};
-    case Side::Unfit: Raise(ErrorNumber::TypeMismatch);
-    default: return {Side::Long, ToLong(operand)};
+    case OperandType::Empty:
+    case OperandType::Boolean:
+    case OperandType::Byte:
+    case OperandType::Integer:
+    case OperandType::Long: return {operand.Kind(), WholeValue(operand)};
+    case OperandType::Text: return BitsOfText(operand);
+    case OperandType::Null: return {OperandType::Null};
+    case OperandType::Unsupported: Raise(ErrorNumber::TypeMismatch);
+    default: return {OperandType::Long, ToLong(operand)};
   }
 }
 
-Variant OfType(Working type, std::int32_t bits) noexcept {
+Variant OfType(WorkingType type, std::int32_t bits) noexcept {
   switch (type) {
-    case Working::Boolean: return bits != 0;
-    case Working::Byte: return static_cast<std::uint8_t>(bits);
-    case Working::Integer: return static_cast<std::int16_t>(bits);
+    case WorkingType::Boolean: return bits != 0;
+    case WorkingType::Byte: return static_cast<std::uint8_t>(bits);
+    case WorkingType::Integer: return static_cast<std::int16_t>(bits);
     default: return bits;
   }
 }
 
-// A value on its own, in the type that the operators give it.
+// A single operand as a result.
 Variant Alone(const Bits& a) noexcept { return OfType(RuleOf(kLogicRules, a.kind, a.kind), a.value); }
 
 struct Pair {
   Pair(const Variant& left, const Variant& right) : Pair(Operand(left), Operand(right)) {}
 
-  bool HasNull() const noexcept { return a.kind == Side::Null || b.kind == Side::Null; }
+  bool HasNull() const noexcept { return a.kind == OperandType::Null || b.kind == OperandType::Null; }
   Variant Of(std::int32_t bits) const noexcept { return OfType(RuleOf(kLogicRules, a.kind, b.kind), bits); }
 
   Bits a, b;
@@ -64,24 +64,24 @@ struct Pair {
 Variant Not(const Variant& value) {
   const Operand operand(value);
   const Bits a = BitsOf(operand);
-  if (a.kind == Side::Null) return Variant::Null();
+  if (a.kind == OperandType::Null) return Variant::Null();
   return OfType(RuleOf(kLogicRules, a.kind, a.kind), ~a.value);
 }
 
-// Null is a value not known: where the other side decides alone, the result is known all the same.
+// Null is an unknown value. Where the other operand decides the result alone, the result is known.
 
 Variant And(const Variant& left, const Variant& right) {
   const Pair p(left, right);
   if (!p.HasNull()) return p.Of(p.a.value & p.b.value);
-  const Bits& known = p.a.kind == Side::Null ? p.b : p.a;
-  return known.kind != Side::Null && known.value == 0 ? Alone(known) : Variant::Null();
+  const Bits& known = p.a.kind == OperandType::Null ? p.b : p.a;
+  return known.kind != OperandType::Null && known.value == 0 ? Alone(known) : Variant::Null();
 }
 
 Variant Or(const Variant& left, const Variant& right) {
   const Pair p(left, right);
   if (!p.HasNull()) return p.Of(p.a.value | p.b.value);
-  const Bits& known = p.a.kind == Side::Null ? p.b : p.a;
-  return known.kind != Side::Null && known.value != 0 ? Alone(known) : Variant::Null();
+  const Bits& known = p.a.kind == OperandType::Null ? p.b : p.a;
+  return known.kind != OperandType::Null && known.value != 0 ? Alone(known) : Variant::Null();
 }
 
 Variant Xor(const Variant& left, const Variant& right) {
@@ -97,20 +97,20 @@ Variant Eqv(const Variant& left, const Variant& right) {
 Variant Imp(const Variant& left, const Variant& right) {
   const Pair p(left, right);
   if (!p.HasNull()) return p.Of(~p.a.value | p.b.value);
-  if (p.a.kind != Side::Null) {
-    // True implies the unknown value, anything else leaves some bits set whatever that is.
+  if (p.a.kind != OperandType::Null) {
+    // All bits set: the result is the unknown value. Otherwise some result bits are set in any case.
     const Variant inverse = OfType(RuleOf(kLogicRules, p.a.kind, p.a.kind), ~p.a.value);
     return WholeValue(inverse) != 0 ? inverse : Variant::Null();
   }
-  return p.b.kind != Side::Null && p.b.value != 0 ? Alone(p.b) : Variant::Null();
+  return p.b.kind != OperandType::Null && p.b.value != 0 ? Alone(p.b) : Variant::Null();
 }
 
 bool IsTrue(const Variant& value) {
   const Operand operand(value);
   switch (operand.Kind()) {
-    case Side::Null: return false;
-    case Side::Boolean: return operand.Value().Boolean();
-    case Side::Unfit: Raise(ErrorNumber::TypeMismatch);
+    case OperandType::Null: return false;
+    case OperandType::Boolean: return operand.Value().Boolean();
+    case OperandType::Unsupported: Raise(ErrorNumber::TypeMismatch);
     default: return ToBoolean(operand);
   }
 }

@@ -12,7 +12,7 @@ namespace cardwright::vbscript {
 
 namespace {
 
-// A default value may be an object with a default value in turn. More of them in a row are a circle.
+// A default value may be an object with a default value in turn. A longer chain is taken for a cycle.
 constexpr int kMaxDefaults = 32;
 
 template <class Whole>
@@ -31,9 +31,9 @@ void Operand::TakeDefault() {
   }
 }
 
-bool HasNull(Side left, Side right) {
-  if (left == Side::Unfit || right == Side::Unfit) Raise(ErrorNumber::TypeMismatch);
-  return left == Side::Null || right == Side::Null;
+bool HasNull(OperandType left, OperandType right) {
+  if (left == OperandType::Unsupported || right == OperandType::Unsupported) Raise(ErrorNumber::TypeMismatch);
+  return left == OperandType::Null || right == OperandType::Null;
 }
 
 std::int32_t WholeValue(const Variant& value) noexcept {
@@ -60,9 +60,9 @@ double RealValue(const Variant& value) {
   }
 }
 
-Variant FittingWhole(std::int64_t value, Working type) noexcept {
-  if (type == Working::Byte && Fits<std::uint8_t>(value)) return static_cast<std::uint8_t>(value);
-  if (type != Working::Long && Fits<std::int16_t>(value)) return static_cast<std::int16_t>(value);
+Variant FittingWhole(std::int64_t value, WorkingType type) noexcept {
+  if (type == WorkingType::Byte && Fits<std::uint8_t>(value)) return static_cast<std::uint8_t>(value);
+  if (type != WorkingType::Long && Fits<std::int16_t>(value)) return static_cast<std::int16_t>(value);
   if (Fits<std::int32_t>(value)) return static_cast<std::int32_t>(value);
   return static_cast<double>(value);
 }

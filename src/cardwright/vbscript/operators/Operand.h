@@ -5,8 +5,8 @@
 
 namespace cardwright::vbscript {
 
-/// An operand as an operator works on it: references followed, an object replaced by its default value.
-/// Errors 91 and 438 for an object that has none. Refers to the Variant it is made from.
+/// An operand, dereferenced, and with an object replaced by its default value: errors 91 and 438 for an
+/// object without one. Refers to the Variant that it is made from.
 class Operand {
  public:
   explicit Operand(const Variant& value) : m_Value(&value.Deref()) {
@@ -17,7 +17,7 @@ class Operand {
 
   const Variant& Value() const noexcept { return *m_Value; }
   operator const Variant&() const noexcept { return *m_Value; }
-  Side Kind() const noexcept { return SideOf(m_Value->Type()); }
+  OperandType Kind() const noexcept { return OperandTypeOf(m_Value->Type()); }
 
  private:
   void TakeDefault();
@@ -26,8 +26,8 @@ class Operand {
   Variant m_Held;  // the default value of an object
 };
 
-/// Raises error 13 for an operand that no operator takes; otherwise tells whether one of the two is Null.
-bool HasNull(Side left, Side right);
+/// Whether one of the two is Null; error 13 for an unsupported operand.
+bool HasNull(OperandType left, OperandType right);
 
 /// @name Operands as numbers
 /// @{
@@ -39,11 +39,11 @@ double RealValue(const Variant& value);
 
 /// @name Results
 /// @{
-/// A whole number in the type asked for, or in the next larger one that holds it.
-Variant FittingWhole(std::int64_t value, Working type) noexcept;
+/// A whole number in the given type, or in the next larger one that holds it.
+Variant FittingWhole(std::int64_t value, WorkingType type) noexcept;
 /// As a Single, or as a Double where a Single cannot hold it; error 6 beyond both.
 Variant FittingSingle(double value);
-/// Error 6 for what is no finite number.
+/// Error 6 for infinity and NaN.
 Variant FiniteDouble(double value);
 /// As a Date, or as a Double where the calendar has no such day.
 Variant FittingDate(double days);

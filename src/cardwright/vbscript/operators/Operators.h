@@ -4,7 +4,7 @@
 #include "cardwright/vbscript/syntax/Ast.h"
 
 /// The operators on values of any type: promotion, overflow, Null, text, dates and objects' default values,
-/// as the language has them. References are followed. Errors: 6 overflow, 11 division by zero, 13 type
+/// as the language has them. References are dereferenced. Errors: 6 overflow, 11 division by zero, 13 type
 /// mismatch, 438 for an object without a default value, 91 for Nothing.
 namespace cardwright::vbscript {
 
@@ -28,17 +28,17 @@ Variant Imp(const Variant& a, const Variant& b);
 
 /// Outcome of a comparison; Unknown where a side is Null.
 enum class Ordering : std::uint8_t { Less, Equal, Greater, Unknown };
-/// How the operands were written. A literal on one side makes the other side convert where two variables of
-/// different kinds would just differ.
+/// Which operands are literals. A literal converts the other operand to its type, where two variables of
+/// different types are just unequal.
 enum class LiteralSide : std::uint8_t { None, Left, Right, Both };
 Ordering Compare(const Variant& a, const Variant& b, LiteralSide literals = LiteralSide::None);
 /// `Is`: error 424 where a side is no object.
 bool IsSameObject(const Variant& a, const Variant& b);
 
-/// A condition of If, While and the like: Null is false; error 13 for what is no truth value.
+/// A condition of If, While and the like: Null is false; error 13 for a value without a truth value.
 bool IsTrue(const Variant& value);
 
-/// The operator as the tree names it; `Equal` to `GreaterOrEqual` answer a Boolean or Null.
+/// Applies the operator of a syntax tree; `Equal` to `GreaterOrEqual` return a Boolean or Null.
 Variant Apply(BinaryOperator op, const Variant& a, const Variant& b,
               LiteralSide literals = LiteralSide::None);
 

@@ -8,29 +8,29 @@ namespace {
 
 // A letter for each type: b Boolean, y Byte, i Integer, l Long, s Single, d Double, c Currency, t Date (a
 // time), x Decimal (exact), & text joined to text.
-consteval Working WorkingOf(char letter) {
+consteval WorkingType WorkingTypeOf(char letter) {
   switch (letter) {
-    case 'b': return Working::Boolean;
-    case 'y': return Working::Byte;
-    case 'i': return Working::Integer;
-    case 'l': return Working::Long;
-    case 's': return Working::Single;
-    case 'd': return Working::Double;
-    case 'c': return Working::Currency;
-    case 't': return Working::Date;
-    case 'x': return Working::Decimal;
-    case '&': return Working::Text;
+    case 'b': return WorkingType::Boolean;
+    case 'y': return WorkingType::Byte;
+    case 'i': return WorkingType::Integer;
+    case 'l': return WorkingType::Long;
+    case 's': return WorkingType::Single;
+    case 'd': return WorkingType::Double;
+    case 'c': return WorkingType::Currency;
+    case 't': return WorkingType::Date;
+    case 'x': return WorkingType::Decimal;
+    case '&': return WorkingType::Text;
     default: throw "no type has this letter";
   }
 }
 
 // Each row has a letter and a blank for each column.
-consteval RuleTable Rules(const std::array<std::string_view, kTabledSides>& rows) {
+consteval RuleTable Rules(const std::array<std::string_view, kTabledTypes>& rows) {
   RuleTable table{};
-  for (std::size_t row = 0; row < kTabledSides; ++row) {
-    if (rows[row].size() != 2 * kTabledSides - 1) throw "a column is missing";
-    for (std::size_t column = 0; column < kTabledSides; ++column) {
-      table[row][column] = WorkingOf(rows[row][2 * column]);
+  for (std::size_t row = 0; row < kTabledTypes; ++row) {
+    if (rows[row].size() != 2 * kTabledTypes - 1) throw "a column is missing";
+    for (std::size_t column = 0; column < kTabledTypes; ++column) {
+      table[row][column] = WorkingTypeOf(rows[row][2 * column]);
     }
   }
   return table;
@@ -40,7 +40,7 @@ consteval RuleTable Rules(const std::array<std::string_view, kTabledSides>& rows
 
 // clang-format off
 
-// What is added to Empty stays as it is, so a text does. Currency is more exact than Double here, but not in a product.
+// A value added to Empty keeps its type, a string too. With Double the result is Currency here, but Double in a product.
 constexpr RuleTable kSumRules = Rules({
     // Empty, Boolean, Byte, Integer, Long, Single, Double, Currency, Date, Decimal, Text
     "i i y i l s d c t x &",   // Empty
@@ -65,7 +65,7 @@ constexpr RuleTable kDifferenceRules = Rules({
     "s s s s d s d c t x d",   // Single
     "d d d d d d d c t x d",   // Double
     "c c c c c c c c t x c",   // Currency
-    "t t t t t t t t d t t",   // Date: two dates are so many days apart
+    "t t t t t t t t d t t",   // Date: the difference of two dates is a number of days
     "x x x x x x x x t x x",   // Decimal
     "d d d d d d d c t x d",   // Text
 });

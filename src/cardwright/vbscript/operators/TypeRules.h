@@ -8,7 +8,7 @@
 namespace cardwright::vbscript {
 
 /// Type of an operand, in the order of the rows and columns of the tables below.
-enum class Side : std::uint8_t {
+enum class OperandType : std::uint8_t {
   Empty,
   Boolean,
   Byte,
@@ -21,12 +21,13 @@ enum class Side : std::uint8_t {
   Decimal,
   Text,
   Null,
-  Unfit,  ///< what no operator takes: an array, an error value
+  Unsupported,  ///< by any operator: an array, an error value
 };
-inline constexpr std::size_t kTabledSides = 11;
+inline constexpr std::size_t kTabledTypes = 11;
 
-/// Type in which an operator works. The whole types, Single and Date grow where a result does not fit.
-enum class Working : std::uint8_t {
+/// The type in which an operator calculates. Where a result does not fit a whole type, Single or Date, it
+/// gets a larger type.
+enum class WorkingType : std::uint8_t {
   Boolean,
   Byte,
   Integer,
@@ -39,7 +40,7 @@ enum class Working : std::uint8_t {
   Text
 };
 
-using RuleTable = std::array<std::array<Working, kTabledSides>, kTabledSides>;
+using RuleTable = std::array<std::array<WorkingType, kTabledTypes>, kTabledTypes>;
 
 /// @name The type rules, one table for a group of operators: row by the left operand, column by the right
 /// one.
@@ -52,24 +53,24 @@ extern const RuleTable kWholeRules;       ///< \ and Mod
 extern const RuleTable kLogicRules;       ///< And, Or, Xor, Eqv, Imp
 /// @}
 
-constexpr Side SideOf(VarType type) noexcept {
+constexpr OperandType OperandTypeOf(VarType type) noexcept {
   switch (type) {
-    case VarType::Empty: return Side::Empty;
-    case VarType::Null: return Side::Null;
-    case VarType::Integer: return Side::Integer;
-    case VarType::Long: return Side::Long;
-    case VarType::Single: return Side::Single;
-    case VarType::Double: return Side::Double;
-    case VarType::Currency: return Side::Currency;
-    case VarType::Date: return Side::Date;
-    case VarType::String: return Side::Text;
-    case VarType::Boolean: return Side::Boolean;
-    case VarType::Decimal: return Side::Decimal;
-    case VarType::Byte: return Side::Byte;
-    default: return Side::Unfit;
+    case VarType::Empty: return OperandType::Empty;
+    case VarType::Null: return OperandType::Null;
+    case VarType::Integer: return OperandType::Integer;
+    case VarType::Long: return OperandType::Long;
+    case VarType::Single: return OperandType::Single;
+    case VarType::Double: return OperandType::Double;
+    case VarType::Currency: return OperandType::Currency;
+    case VarType::Date: return OperandType::Date;
+    case VarType::String: return OperandType::Text;
+    case VarType::Boolean: return OperandType::Boolean;
+    case VarType::Decimal: return OperandType::Decimal;
+    case VarType::Byte: return OperandType::Byte;
+    default: return OperandType::Unsupported;
   }
 }
-constexpr Working RuleOf(const RuleTable& table, Side left, Side right) noexcept {
+constexpr WorkingType RuleOf(const RuleTable& table, OperandType left, OperandType right) noexcept {
   return table[static_cast<std::size_t>(left)][static_cast<std::size_t>(right)];
 }
 
