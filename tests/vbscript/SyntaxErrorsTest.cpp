@@ -1,4 +1,4 @@
-#include "cardwright/vbscript/syntax/SyntaxError.h"
+#include "cardwright/vbscript/syntax/SyntaxErrors.h"
 
 #include <gtest/gtest.h>
 

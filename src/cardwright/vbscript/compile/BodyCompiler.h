@@ -146,7 +146,8 @@ class BodyCompiler {
   // CallExpressions.cpp
   void CompileCall(const CallExpr& call, std::uint16_t target);
   void CompileCallStatement(const CallStmt& statement);
-  void EmitCall(const Binding& binding, Expressions arguments, std::uint16_t flags, std::uint16_t* result);
+  std::uint16_t EmitCall(const Binding& binding, Expressions arguments, std::uint16_t flags);
+  std::uint16_t EmitCallOfValue(const Binding& binding, Expressions arguments, std::uint16_t flags);
   std::uint16_t EmitMemberCall(const MemberExpr& member, Expressions arguments, std::uint16_t flags);
   std::uint16_t EmitCallOfMe(NameId name, Expressions arguments, std::uint16_t flags);
   void EmitMemberWord(const MemberExpr& member);

@@ -80,25 +80,11 @@ void BodyCompiler::EmitElementReference(const CallExpr& call, const Binding& bin
   }
 }
 
-// Calls whatever a name is bound to. `result` becomes the register of the result; null where nobody wants it.
-void BodyCompiler::EmitCall(const Binding& binding, Expressions arguments, std::uint16_t flags,
-                            std::uint16_t* result) {
-  if (binding.kind == BindingKind::Constant || binding.IsOwnVariable()) {
-    std::uint16_t callee = binding.r;
-    if (binding.kind != BindingKind::Register) {
-      callee = m_Code.AllocateTemporary();
-      LoadBinding(binding, callee);
-    }
-    const std::uint16_t base = EmitArguments(arguments, Passing::ByReference);
-    m_Code.Emit(Op::CallValue, base, callee, flags, Count(arguments.size()));
-    if (result) *result = binding.kind == BindingKind::Register ? base : callee;
-    return;
-  }
-  if (binding.kind == BindingKind::Member) {
-    const std::uint16_t me = EmitCallOfMe(binding.name, arguments, flags);
-    if (result) *result = me;
-    return;
-  }
+// Calls whatever a name is bound to. Returns the register of the result.
+std::uint16_t BodyCompiler::EmitCall(const Binding& binding, Expressions arguments, std::uint16_t flags) {
+  if (binding.kind == BindingKind::Constant || binding.IsOwnVariable())
+    return EmitCallOfValue(binding, arguments, flags);
+  if (binding.kind == BindingKind::Member) return EmitCallOfMe(binding.name, arguments, flags);
   // A function's own name with parentheses is a call of it, not its variable.
   const std::uint32_t symbol =
       binding.kind == BindingKind::Symbol ? binding.index : SymbolIndex(binding.name);
@@ -107,7 +93,17 @@ void BodyCompiler::EmitCall(const Binding& binding, Expressions arguments, std::
   // Lists of hundreds of values are written as Array(…). There are registers for all of them by now.
   m_Code.Emit(Op::Call, base, static_cast<std::uint16_t>(arguments.size()), flags);
   m_Code.EmitWord(symbol);
-  if (result) *result = base;
+  return base;
+}
+
+std::uint16_t BodyCompiler::EmitCallOfValue(const Binding& binding, Expressions arguments,
+                                            std::uint16_t flags) {
+  const bool isRegister = binding.kind == BindingKind::Register;
+  const std::uint16_t callee = isRegister ? binding.r : m_Code.AllocateTemporary();
+  if (!isRegister) LoadBinding(binding, callee);
+  const std::uint16_t base = EmitArguments(arguments, Passing::ByReference);
+  m_Code.Emit(Op::CallValue, base, callee, flags, Count(arguments.size()));
+  return isRegister ? base : callee;
 }
 
 std::uint16_t BodyCompiler::EmitCallOfMe(NameId name, Expressions arguments, std::uint16_t flags) {
@@ -145,11 +141,11 @@ std::uint16_t BodyCompiler::ObjectOf(const MemberExpr& member) {
 }
 
 void BodyCompiler::CompileCall(const CallExpr& call, std::uint16_t target) {
-  std::uint16_t result = kNoRegister;
+  std::uint16_t result;
   if (call.callee->kind == ExprKind::Name) {
     const Binding binding = ResolveCallee(*call.callee);
     if (CompileElement(binding, call.arguments, target)) return;
-    EmitCall(binding, call.arguments, 0, &result);
+    result = EmitCall(binding, call.arguments, 0);
   } else if (call.callee->kind == ExprKind::Member) {
     result = EmitMemberCall(static_cast<const MemberExpr&>(*call.callee), call.arguments, 0);
   } else {
@@ -164,7 +160,7 @@ void BodyCompiler::CompileCall(const CallExpr& call, std::uint16_t target) {
 void BodyCompiler::CompileCallStatement(const CallStmt& statement) {
   const std::uint32_t used = m_Code.NextTemporary();
   if (statement.callee->kind == ExprKind::Name) {
-    EmitCall(ResolveCallee(*statement.callee), statement.arguments, kDropResult, nullptr);
+    EmitCall(ResolveCallee(*statement.callee), statement.arguments, kDropResult);
   } else if (statement.callee->kind == ExprKind::Member) {
     EmitMemberCall(static_cast<const MemberExpr&>(*statement.callee), statement.arguments, kDropResult);
   } else if (statement.callee->kind == ExprKind::Call && statement.arguments.empty()) {

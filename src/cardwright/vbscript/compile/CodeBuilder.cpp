@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "cardwright/vbscript/syntax/SyntaxError.h"
+#include "cardwright/vbscript/syntax/SyntaxErrors.h"
 
 namespace cardwright::vbscript {
 

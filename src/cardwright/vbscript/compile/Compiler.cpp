@@ -135,6 +135,77 @@ void BlockCompiler::CompileOutermost() {
   compiler.CompileBody(m_Tree.body);
 }
 
+// Compiles code that runs in the scope of a procedure. Each variable of that scope which the code uses
+// becomes a parameter of the compiled code.
+class ScopeCompiler {
+ public:
+  ScopeCompiler(const CompileContext& context, const Procedure& outer, const ScopeVariables* scope)
+      : m_Context(context), m_Outer(outer), m_Scope(scope) {
+    m_Compiled.code = MakeRef<Procedure>();
+    m_Compiled.code->module = outer.module;
+    m_Compiled.code->owner = outer.owner;
+    m_Compiled.code->isExplicit = context.isExplicit;
+    m_Compiled.code->isGenerated = true;
+  }
+
+  CompiledInScope Compile(const SyntaxTree& tree);
+
+ private:
+  bool IsInScope(NameId name) const;
+  bool IsUnbound(NameId name) const;
+  void Refer(BodyCompiler& body, NameId name);
+  void ReferToVariables(BodyCompiler& body, const NamesOfBody& names);
+
+  const CompileContext& m_Context;
+  const Procedure& m_Outer;
+  const ScopeVariables* m_Scope;
+  CompiledInScope m_Compiled;
+};
+
+CompiledInScope ScopeCompiler::Compile(const SyntaxTree& tree) {
+  Names& allNames = m_Context.linkage.names;
+  const NamesOfBody names =
+      tree.expression ? CollectNames(*tree.expression, allNames) : CollectNames(tree.body, allNames);
+  BodyCompiler body(m_Context, *m_Compiled.code, m_Outer.owner);
+  ReferToVariables(body, names);
+  for (const auto& [name, value] : names.constants) body.AddConstant(name, value);
+  if (tree.expression) body.AddResult(kNoName);
+  body.AddOutermostNames(names);
+  if (tree.expression) {
+    body.CompileResult(*tree.expression, m_Compiled.code->result);
+  } else {
+    body.CompileBody(tree.body);
+  }
+  return std::move(m_Compiled);
+}
+
+// Names that the text declares, and unbound names that it assigns, join the scope of the procedure.
+void ScopeCompiler::ReferToVariables(BodyCompiler& body, const NamesOfBody& names) {
+  for (const NameId name : names.mentioned)
+    if (IsInScope(name)) Refer(body, name);
+  for (const NameId name : names.variables) Refer(body, name);
+  for (const NameId name : names.assigned)
+    if (IsUnbound(name)) Refer(body, name);
+}
+
+bool ScopeCompiler::IsInScope(NameId name) const {
+  for (const auto& [local, r] : m_Outer.locals)
+    if (local == name) return true;
+  return m_Scope && m_Scope->contains(name);
+}
+
+bool ScopeCompiler::IsUnbound(NameId name) const {
+  if (m_Outer.owner && m_Outer.owner->Find(name)) return false;
+  return !m_Context.block.contains(name) && !m_Context.linkage.Lookup(*m_Outer.module, name);
+}
+
+void ScopeCompiler::Refer(BodyCompiler& body, NameId name) {
+  if (body.Knows(name)) return;
+  m_Compiled.variables.push_back(name);
+  body.AddParameter(name, false);
+  if (name == m_Outer.resultName) body.MarkResult(name);
+}
+
 }  // namespace
 
 CompiledBlock CompileBlock(const SyntaxTree& tree, Linkage& linkage, Module& module) {
@@ -150,43 +221,7 @@ CompiledInScope CompileInScope(const SyntaxTree& tree, Linkage& linkage, const P
   BlockCompiler definitions(tree, linkage, *outer.module, block);
   definitions.DeclareProcedures();
   definitions.CompileProcedures();
-
-  CompiledInScope compiled{.code = MakeRef<Procedure>(), .variables = {}};
-  compiled.code->module = outer.module;
-  compiled.code->owner = outer.owner;
-  compiled.code->isExplicit = tree.optionExplicit;
-  compiled.code->isGenerated = true;
-  BodyCompiler body(definitions.Context(), *compiled.code, outer.owner);
-  const NamesOfBody names = tree.expression ? CollectNames(*tree.expression, linkage.names)
-                                            : CollectNames(tree.body, linkage.names);
-  const auto refer = [&](NameId name) {
-    if (body.Knows(name)) return;
-    compiled.variables.push_back(name);
-    body.AddParameter(name, false);
-    if (name == outer.resultName) body.MarkResult(name);
-  };
-  const auto isOuter = [&](NameId name) {
-    for (const auto& [local, r] : outer.locals)
-      if (local == name) return true;
-    return scope && scope->contains(name);
-  };
-  for (const NameId name : names.mentioned)
-    if (isOuter(name)) refer(name);
-  // Names that the text declares, and unbound names that it assigns, join the scope of the procedure.
-  for (const NameId name : names.variables) refer(name);
-  for (const NameId name : names.assigned) {
-    if (outer.owner && outer.owner->Find(name)) continue;
-    if (!block.names.contains(name) && !linkage.Lookup(*outer.module, name)) refer(name);
-  }
-  for (const auto& [name, value] : names.constants) body.AddConstant(name, value);
-  std::uint16_t result = kNoRegister;
-  if (tree.expression) {
-    body.AddResult(kNoName);
-    result = compiled.code->result;
-  }
-  body.AddOutermostNames(names);
-  tree.expression ? body.CompileResult(*tree.expression, result) : body.CompileBody(tree.body);
-  return compiled;
+  return ScopeCompiler(definitions.Context(), outer, scope).Compile(tree);
 }
 
 }  // namespace cardwright::vbscript

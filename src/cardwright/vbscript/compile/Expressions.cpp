@@ -119,12 +119,7 @@ void BodyCompiler::LoadBinding(const Binding& binding, std::uint16_t target) {
     case BindingKind::Constant: LoadConstant(*binding.constant, target); break;
     case BindingKind::Field: m_Code.EmitWide(Op::LoadField, target, binding.index); break;
     case BindingKind::Symbol: m_Code.EmitWide(Op::LoadSymbol, target, binding.index); break;
-    case BindingKind::Member: {
-      std::uint16_t result = kNoRegister;
-      EmitCall(binding, {}, 0, &result);
-      m_Code.Emit(Op::Move, target, result);
-      break;
-    }
+    case BindingKind::Member: m_Code.Emit(Op::Move, target, EmitCallOfMe(binding.name, {}, 0)); break;
   }
 }
 

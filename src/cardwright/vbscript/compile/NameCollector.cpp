@@ -40,35 +40,22 @@ class Collector {
       m_Found.assigned.insert(m_Names.Add(static_cast<const NameExpr*>(base)->name));
     Visit(target);
   }
-  void Visit(const DimStmt& statement) {
-    for (const VariableDecl& variable : statement.variables) {
-      const NameId name = m_Names.Add(variable.name);
-      Declare(name);
-      if (variable.isArray) m_Found.arrays.push_back({name, variable.bounds});
-    }
-  }
-  void Visit(const ReDimStmt& statement) {
-    for (const ReDimTarget& target : statement.targets) {
-      // ReDim declares its name.
-      if (target.array->kind == ExprKind::Name) {
-        const NameId name = m_Names.Add(static_cast<const NameExpr*>(target.array)->name);
-        Mention(name);
-        m_Redimmed.push_back(name);
-      } else {
-        Visit(target.array);
-      }
-      VisitAll(target.bounds);
-    }
-  }
+  void Visit(const DimStmt& statement);
+  void Visit(const ReDimStmt& statement);
+  void Visit(const ConstStmt& statement);
+  void Visit(const AssignStmt& statement);
+  void Visit(const CallStmt& statement);
+  void Visit(const IfStmt& statement);
+  void Visit(const SelectStmt& statement);
+  void Visit(const ForStmt& statement);
+  void Visit(const ForEachStmt& statement);
+  void Visit(const LoopStmt& statement);
+  void Visit(const WithStmt& statement);
 
   Names& m_Names;
   NamesOfBody m_Found;
   std::unordered_set<NameId> m_Mentioned, m_Declared;
-  std::vector<NameId> m_Redimmed;
   std::uint16_t m_Hidden = 0;
-
- public:
-  const std::vector<NameId>& Redimmed() const noexcept { return m_Redimmed; }
 };
 
 void Collector::Visit(const Expr* expression) {
@@ -100,76 +87,100 @@ void Collector::Visit(const Expr* expression) {
 
 void Collector::Visit(const Stmt& statement) {
   switch (statement.kind) {
-    case StmtKind::Dim: Visit(static_cast<const DimStmt&>(statement)); break;
-    case StmtKind::ReDim: Visit(static_cast<const ReDimStmt&>(statement)); break;
-    case StmtKind::Erase: VisitAll(static_cast<const EraseStmt&>(statement).arrays); break;
-    case StmtKind::Const:
-      for (const ConstDecl& constant : static_cast<const ConstStmt&>(statement).constants)
-        m_Found.constants.emplace_back(m_Names.Add(constant.name), constant.value);
-      break;
-    case StmtKind::Assign: {
-      const auto& assign = static_cast<const AssignStmt&>(statement);
-      Assign(assign.target);
-      Visit(assign.value);
-      break;
-    }
-    case StmtKind::Call: {
-      const auto& call = static_cast<const CallStmt&>(statement);
-      Visit(call.callee);
-      VisitAll(call.arguments);
-      break;
-    }
-    case StmtKind::If: {
-      const auto& choice = static_cast<const IfStmt&>(statement);
-      for (const IfBranch& branch : choice.branches) {
-        Visit(branch.condition);
-        Visit(branch.body);
-      }
-      Visit(choice.otherwise);
-      break;
-    }
-    case StmtKind::Select: {
-      const auto& select = static_cast<const SelectStmt&>(statement);
-      Visit(select.subject);
-      for (const SelectCase& part : select.cases) {
-        VisitAll(part.values);
-        Nested(kSelectRegisters, part.body);
-      }
-      Nested(kSelectRegisters, select.otherwise);
-      break;
-    }
-    case StmtKind::For: {
-      const auto& loop = static_cast<const ForStmt&>(statement);
-      Assign(loop.variable);
-      Visit(loop.from);
-      Visit(loop.to);
-      Visit(loop.step);
-      Nested(kForRegisters, loop.body);
-      break;
-    }
-    case StmtKind::ForEach: {
-      const auto& loop = static_cast<const ForEachStmt&>(statement);
-      Assign(loop.variable);
-      Visit(loop.collection);
-      Nested(kEachRegisters, loop.body);
-      break;
-    }
-    case StmtKind::Loop: {
-      const auto& loop = static_cast<const LoopStmt&>(statement);
-      Visit(loop.condition);
-      Visit(loop.body);
-      break;
-    }
-    case StmtKind::With: {
-      const auto& with = static_cast<const WithStmt&>(statement);
-      Visit(with.object);
-      Nested(kWithRegisters, with.body);
-      break;
-    }
+    case StmtKind::Dim: return Visit(static_cast<const DimStmt&>(statement));
+    case StmtKind::ReDim: return Visit(static_cast<const ReDimStmt&>(statement));
+    case StmtKind::Erase: return VisitAll(static_cast<const EraseStmt&>(statement).arrays);
+    case StmtKind::Const: return Visit(static_cast<const ConstStmt&>(statement));
+    case StmtKind::Assign: return Visit(static_cast<const AssignStmt&>(statement));
+    case StmtKind::Call: return Visit(static_cast<const CallStmt&>(statement));
+    case StmtKind::If: return Visit(static_cast<const IfStmt&>(statement));
+    case StmtKind::Select: return Visit(static_cast<const SelectStmt&>(statement));
+    case StmtKind::For: return Visit(static_cast<const ForStmt&>(statement));
+    case StmtKind::ForEach: return Visit(static_cast<const ForEachStmt&>(statement));
+    case StmtKind::Loop: return Visit(static_cast<const LoopStmt&>(statement));
+    case StmtKind::With: return Visit(static_cast<const WithStmt&>(statement));
     case StmtKind::Exit:
     case StmtKind::OnError:
-    case StmtKind::Stop: break;
+    case StmtKind::Stop: return;
   }
+}
+
+void Collector::Visit(const DimStmt& statement) {
+  for (const VariableDecl& variable : statement.variables) {
+    const NameId name = m_Names.Add(variable.name);
+    Declare(name);
+    if (variable.isArray) m_Found.arrays.push_back({name, variable.bounds});
+  }
+}
+
+void Collector::Visit(const ReDimStmt& statement) {
+  for (const ReDimTarget& target : statement.targets) {
+    // ReDim declares its name.
+    if (target.array->kind == ExprKind::Name) {
+      const NameId name = m_Names.Add(static_cast<const NameExpr*>(target.array)->name);
+      Mention(name);
+      m_Found.redimmed.push_back(name);
+    } else {
+      Visit(target.array);
+    }
+    VisitAll(target.bounds);
+  }
+}
+
+void Collector::Visit(const ConstStmt& statement) {
+  for (const ConstDecl& constant : statement.constants)
+    m_Found.constants.emplace_back(m_Names.Add(constant.name), constant.value);
+}
+
+void Collector::Visit(const AssignStmt& statement) {
+  Assign(statement.target);
+  Visit(statement.value);
+}
+
+void Collector::Visit(const CallStmt& statement) {
+  Visit(statement.callee);
+  VisitAll(statement.arguments);
+}
+
+void Collector::Visit(const IfStmt& statement) {
+  for (const IfBranch& branch : statement.branches) {
+    Visit(branch.condition);
+    Visit(branch.body);
+  }
+  Visit(statement.otherwise);
+}
+
+void Collector::Visit(const SelectStmt& statement) {
+  Visit(statement.subject);
+  for (const SelectCase& part : statement.cases) {
+    VisitAll(part.values);
+    Nested(kSelectRegisters, part.body);
+  }
+  Nested(kSelectRegisters, statement.otherwise);
+}
+
+void Collector::Visit(const ForStmt& statement) {
+  Assign(statement.variable);
+  Visit(statement.from);
+  Visit(statement.to);
+  Visit(statement.step);
+  Nested(kForRegisters, statement.body);
+}
+
+void Collector::Visit(const ForEachStmt& statement) {
+  Assign(statement.variable);
+  Visit(statement.collection);
+  Nested(kEachRegisters, statement.body);
+}
+
+void Collector::Visit(const LoopStmt& statement) {
+  Visit(statement.condition);
+  Visit(statement.body);
+}
+
+void Collector::Visit(const WithStmt& statement) {
+  Visit(statement.object);
+  Nested(kWithRegisters, statement.body);
 }
 
 }  // namespace
@@ -177,9 +188,7 @@ void Collector::Visit(const Stmt& statement) {
 NamesOfBody CollectNames(Block body, Names& names) {
   Collector collector(names);
   collector.Visit(body);
-  NamesOfBody found = collector.Take();
-  found.redimmed = collector.Redimmed();
-  return found;
+  return collector.Take();
 }
 
 NamesOfBody CollectNames(const Expr& expression, Names& names) {

@@ -147,7 +147,7 @@ class Machine final : public Context, public Linkage, private StopSignal {
   MemberId FindMember(MemberUse& use, const Object& object) const;
   const ClassMember& FindMember(MemberUse& use, const Instance& object) const;
 
-  // IndexedAssignment.cpp
+  // MemberAssignment.cpp
   void AssignIndexedSymbol(SymbolUse& use, Args arguments, std::uint16_t flags);
   bool AssignMember(RegisterView view, Instruction i, MemberUse& use);
   bool AssignInstanceMember(MemberUse& use, Instance& object, Args arguments, bool isSet);
@@ -163,6 +163,8 @@ class Machine final : public Context, public Linkage, private StopSignal {
   bool ReferToSymbolElement(RegisterView view, Instruction i, SymbolUse& use);
 
   // Variables.cpp
+  Symbol* BindHostMember(NameId name);
+  Symbol* BindLibraryName(NameId name);
   void Resolve(SymbolUse& use);
   Variant& VariableToWrite(SymbolUse& use);
   bool LoadSymbol(SymbolUse& use, Variant& target);

@@ -16,13 +16,19 @@ Text Machine::LocalName(const Procedure& procedure, std::uint16_t r) const {
   return {};
 }
 
+// Names of the script come first, then objects of the host, their global members, and the library. The last
+// two are bound when a script first uses them.
 Symbol* Machine::Lookup(Module& module, NameId name) {
   if (Symbol* own = module.FindBound(name)) return own;
   if (Symbol* object = m_Objects.Find(name)) return object;
   if (Symbol* known = m_Library.Find(name)) return known;
-  const Text spelling = names.Spelling(name);
+  if (Symbol* member = BindHostMember(name)) return member;
+  return BindLibraryName(name);
+}
+
+Symbol* Machine::BindHostMember(NameId name) {
   for (const Ref<Object>& object : m_MemberObjects) {
-    const MemberId member = object->FindMember(spelling);
+    const MemberId member = object->FindMember(names.Spelling(name));
     if (member == kNoMember) continue;
     Symbol& symbol = m_Library.Add(name);
     symbol.kind = SymbolKind::HostMember;
@@ -30,6 +36,11 @@ Symbol* Machine::Lookup(Module& module, NameId name) {
     symbol.member = member;
     return &symbol;
   }
+  return nullptr;
+}
+
+Symbol* Machine::BindLibraryName(NameId name) {
+  const Text spelling = names.Spelling(name);
   const Builtin* builtin = FindMachineFunction(spelling);
   if (!builtin) builtin = FindBuiltin(spelling);
   if (builtin) {

@@ -2,7 +2,7 @@
 
 #include <string_view>
 
-#include "cardwright/vbscript/syntax/SyntaxError.h"
+#include "cardwright/vbscript/syntax/SyntaxErrors.h"
 #include "cardwright/vbscript/syntax/Token.h"
 
 namespace cardwright::vbscript {

@@ -2,7 +2,7 @@
 
 #include <memory>
 
-#include "cardwright/vbscript/syntax/SyntaxError.h"
+#include "cardwright/vbscript/syntax/SyntaxErrors.h"
 #include "cardwright/vbscript/syntax/SyntaxTree.h"
 
 namespace cardwright::vbscript {
