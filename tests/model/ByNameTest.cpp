@@ -1,4 +1,4 @@
-// Members and rows as scripts reach them: by name, in any case.
+// Members and rows by name, in any case, as scripts use them.
 
 #include "cardwright/model/CItems.h"
 #include "model/Forms.h"
@@ -69,7 +69,7 @@ TEST(ByName, ProvidesEveryRowAsAProperty) {
     const auto control = on.Add(entry->className);
     for (const auto rows : {entry->rows, entry->hidden})
       for (const PropertyRow& row : rows) {
-        if (row.name == u"Name") continue;  // the contract's own, which gives the widget's name
+        if (row.name == u"Name") continue;  // a member of the contract: the widget's name
         const Variant byRow = control->PropertyValue(row.name);
         const Variant byName = Ask(*control, row.name);
         const std::string where = Text(entry->className).ToUtf8() + "." + Text(row.name).ToUtf8();
@@ -143,9 +143,9 @@ TEST(ByName, WritesReadOnlyMembersThroughTheirRow) {
   const auto option = on.Add(u"COptionButton", u"opt", u"object_2");
   LetProperty(*option, u"vALUE", u"A");
   EXPECT_EQ(TextOf(*option, u"Value"), u"A");
-  EXPECT_EQ(ToText(Ask(*option, u"Value")), u"");  // what it gives while it is not selected
+  EXPECT_EQ(ToText(Ask(*option, u"Value")), u"");  // not selected
   const auto check = on.Add(u"CCheckBox", u"chk", u"object_3");
-  LetProperty(*check, u"Value", 1);  // its row only reads
+  LetProperty(*check, u"Value", 1);  // its row is read-only
   EXPECT_EQ(ToText(Ask(*check, u"Value")), u"0");
   LetProperty(*check, u"sELECTED", true);
   EXPECT_EQ(ToText(Ask(*check, u"Value")), u"1");

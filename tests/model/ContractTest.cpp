@@ -7,7 +7,7 @@
 namespace cardwright {
 namespace {
 
-/// An object of a type that is no owner of forms.
+/// An object that is no owner of forms.
 class Stranger final : public TableObject {
  public:
   explicit Stranger(Text typeName = u"Stranger") : m_TypeName(std::move(typeName)) {}
@@ -23,7 +23,7 @@ class Stranger final : public TableObject {
   Text m_TypeName;
 };
 
-/// The contract's own class, which answers nothing.
+/// The contract itself, without behaviour.
 class Bare final : public IControl {
  public:
   Text TypeName() const override { return u"IControl"; }
@@ -161,7 +161,7 @@ TEST(Control, RaisesPropertyChangedForMovesByAccessorsOnly) {
   EXPECT_EQ(on.owner->Take(),
             "PropertyChanged 4 24; PropertyChanged 5 16; PropertyChanged 6 200; PropertyChanged 7 40.5");
   EXPECT_EQ(box->Left(), 24);
-  box->SetLeft(24);  // told even where nothing changes
+  box->SetLeft(24);  // raised even without a change
   EXPECT_EQ(on.owner->Take(), "PropertyChanged 4 24");
 }
 
@@ -211,7 +211,7 @@ TEST(Control, RaisesPropertyChangedWithTheRowNumberOfItsClass) {
   EXPECT_EQ(on.owner->Take(), "PropertyChanged 5 3");
   on.Add(u"CCommandButton", u"b", u"object_2")->SetLeft(3);
   EXPECT_EQ(on.owner->Take(), "PropertyChanged 3 3");
-  // Its height follows the font and stands in no row.
+  // Its height follows the font and has no row.
   on.Add(u"CComboBox", u"c", u"object_3")->SetHeight(99);
   EXPECT_EQ(on.owner->Take(), "");
 }
@@ -264,7 +264,7 @@ TEST(ParentForm, AcceptsDesignersAndFormsAndIgnoresOtherObjects) {
   InputForm input;
   const Ref<Control> control = ControlClasses().front()->create();
   control->SetParentForm(MakeRef<Stranger>());
-  control->SetParentForm(MakeRef<Stranger>(u"FormDesigner"));  // of that name, but none
+  control->SetParentForm(MakeRef<Stranger>(u"FormDesigner"));  // only by its name
   control->SetParentForm(nullptr);
   EXPECT_FALSE(control->ParentForm());
   EXPECT_EQ(control->Designer(), nullptr);

@@ -53,17 +53,17 @@ TEST(Read, SkipsValuesThatDoNotConvert) {
   LetProperty(*label->GetFont(), u"Bold", true);
   EXPECT_TRUE(label->Read(file, u"CONTROLS_1"));
   EXPECT_EQ(label->DisplayText(), u"x");
-  EXPECT_EQ(label->BackColor(), 255);        // no number: stays
-  EXPECT_EQ(label->ForeColor(), foreColor);  // too great: stays
+  EXPECT_EQ(label->BackColor(), 255);        // not a number: unchanged
+  EXPECT_EQ(label->ForeColor(), foreColor);  // too large: unchanged
   const FontValues font = label->GetFont()->Values();
   EXPECT_EQ(font.name, u"Arial");
   EXPECT_EQ(font.size, 8.25);  // no font has size 0
-  EXPECT_TRUE(font.bold);      // no boolean: stays
+  EXPECT_TRUE(font.bold);      // not a boolean: unchanged
   EXPECT_TRUE(font.italic);
   EXPECT_TRUE(font.underline);
-  EXPECT_EQ(label->Left(), 0);     // no number is 0
-  EXPECT_EQ(label->Top(), 12);     // what follows the number is passed over
-  EXPECT_EQ(label->Width(), 130);  // no widget has it: stays
+  EXPECT_EQ(label->Left(), 0);     // not a number: 0
+  EXPECT_EQ(label->Top(), 12);     // text after the number is ignored
+  EXPECT_EQ(label->Width(), 130);  // not a valid width: unchanged
   EXPECT_EQ(label->Height(), 1);
   EXPECT_EQ(label->AttributeName(), u"DEPTH");
 }

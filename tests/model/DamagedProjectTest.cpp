@@ -1,4 +1,4 @@
-// Projects that nobody has saved: whatever the bytes, reading ends and nothing breaks.
+// Damaged projects: any bytes are read without a crash or a hang.
 
 #include <chrono>
 #include <cstdlib>
@@ -15,7 +15,7 @@ namespace {
 
 constexpr auto kEndsSoon = std::chrono::seconds(10);  // with a sanitizer on a slow machine
 
-/// Thousands of files that nobody needs after a crash stand in memory, where there is such a folder.
+/// Thousands of files are written: to a folder in memory, where there is one.
 class DamagedProject : public testing::Test {
  protected:
   void SetUp() override {
@@ -54,7 +54,7 @@ std::string Noise(Random& random, std::size_t length) {
   return bytes;
 }
 
-/// Values that a number, a colour, a flag or a name is not made for.
+/// Values that are unusual for numbers, colours, flags and names.
 const std::string kOddValues[] = {"",
                                   "-1",
                                   "1e308",

@@ -9,7 +9,7 @@
 
 namespace cardwright {
 
-/// What both owners keep: the objects on a real surface, and one line for each call that came back.
+/// Base of the fake owners: the objects on a real surface, and a log with a line for each call.
 class OwnerRecord {
  public:
   explicit OwnerRecord(Surface& surface) : m_Surface(&surface) {}
@@ -32,7 +32,7 @@ class OwnerRecord {
   std::vector<std::string> m_Log;
 };
 
-/// A design surface that does what the form model asks and writes it down.
+/// A design surface that logs the calls of the form model.
 class FakeDesigner final : public TableObject, public DesignerOwner, public OwnerRecord {
  public:
   explicit FakeDesigner(Surface& surface) : OwnerRecord(surface) {}
@@ -79,7 +79,7 @@ class FakeDesigner final : public TableObject, public DesignerOwner, public Owne
   std::vector<Ref<IControl>> m_ZList;
 };
 
-/// A form being filled in that writes down which procedures its elements run.
+/// A form being filled in that logs the procedures that its elements run.
 class FakeInput final : public TableObject, public InputOwner, public OwnerRecord {
  public:
   explicit FakeInput(Surface& surface) : OwnerRecord(surface) {}

@@ -74,7 +74,7 @@ TEST(CForm, ShowsTheHostsSizeInItsRows) {
   design.surface.SetScale(ScaleMode::Twips);
   EXPECT_EQ(ToSingle(design.form->PropertyValue(u"Height")), 6000);
   InputForm input;
-  EXPECT_EQ(ToSingle(input.form->PropertyValue(u"Width")), 7500);  // as the window counts: twips
+  EXPECT_EQ(ToSingle(input.form->PropertyValue(u"Width")), 7500);  // the window counts in twips
   InputForm alone(false);
   EXPECT_EQ(ToSingle(alone.form->PropertyValue(u"Width")), 400);
   DesignForm aloneInDesign(false);
@@ -98,7 +98,7 @@ TEST(CForm, PassesItsTitleToTheHostWhileItIsFilledIn) {
   on.window.setWindowTitle("Host");
   on.form->SetPropertyValue(u"Text", u"Wells");
   EXPECT_EQ(on.owner->Take(), "SetParentCaption Wells");
-  EXPECT_EQ(TextOf(*on.form, u"Text"), u"Host");  // the window's own, whatever was handed over
+  EXPECT_EQ(TextOf(*on.form, u"Text"), u"Host");  // the window's title, not the one that was set
   InputForm alone(false);
   alone.form->SetPropertyValue(u"Text", u"Wells");
   EXPECT_EQ(TextOf(*alone.form, u"Text"), u"Wells");

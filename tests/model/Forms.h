@@ -15,8 +15,8 @@
 
 namespace cardwright {
 
-/// A window with a canvas on which an owner of the kind stands, with its form as first object. A canvas that
-/// is a window itself has no host.
+/// A window with an owner of the kind, whose form is the first object. A canvas that is a window itself has
+/// no host.
 template <class Owner>
 struct FormOn {
   explicit FormOn(bool hasHost = true) : canvas(new QWidget(hasHost ? &window : nullptr)) {

@@ -80,7 +80,7 @@ TEST(CItems, AddsBeforeAnItemAndNeverReusesAKey) {
   EXPECT_TRUE(items->Remove(u"Item_3"));
   items->Add(Item(u"5", u"Five"));
   EXPECT_FALSE(items->Item(u"Item_3"));
-  EXPECT_FALSE(items->Item(u"Item_4"));  // used up by the failure
+  EXPECT_FALSE(items->Item(u"Item_4"));  // the failed Add used the key
   EXPECT_EQ(items->Item(u"Item_5")->m_Text, u"Five");
 }
 
@@ -179,10 +179,10 @@ TEST(CComboBox, SelectsWholeEntriesByTextInAnyCase) {
   Fill(*combo);
   combo->SetPropertyValue(u"Text", u"tWO");
   EXPECT_EQ(combo->Value(), u"2");
-  combo->SetPropertyValue(u"Text", u"Thr");  // no entry: the choice stays
+  combo->SetPropertyValue(u"Text", u"Thr");  // no such entry: the selection is unchanged
   EXPECT_EQ(combo->Value(), u"2");
   ComboOf(*combo).SetListIndex(-1);
-  combo->SetPropertyValue(u"Text", u"Four");  // not editable: nothing to show it in
+  combo->SetPropertyValue(u"Text", u"Four");  // not editable: not shown
   EXPECT_EQ(ComboOf(*combo).ListIndex(), -1);
   EXPECT_EQ(combo->DisplayText(), u"");
 }
@@ -317,7 +317,7 @@ TEST(CListBox, ShowsItsItemsAndTheSelectedTextAfterRefresh) {
   EXPECT_EQ(Rows(ViewOf(*list)), "One,Two,Three");
   EXPECT_EQ(ViewOf(*list).SelectedRow(), 2);
   EXPECT_EQ(list->Value(), u"2");
-  EXPECT_EQ(list->DisplayText(), u"two");  // the stored text, whatever is selected
+  EXPECT_EQ(list->DisplayText(), u"two");  // the stored text, not the selected one
 }
 
 TEST(CListBox, GivesTheValueAndTheItemOfTheSelectedEntry) {

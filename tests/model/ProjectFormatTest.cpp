@@ -9,7 +9,7 @@
 namespace cardwright {
 namespace {
 
-/// What a designer saves of a project that it has read. The script's last line break is one more each time.
+/// What a designer saves of a project that it has read. Each save adds a line break to the script.
 std::string Resaved(const TempFolder& folder, const std::string& project) {
   DesignForm on;
   const Text file = folder.Put("in.frm", project);
@@ -79,9 +79,9 @@ TEST(Project, IgnoresTheZOrderOfUnknownControls) {
   project.replace(project.find("[ZORDER]"), 8, "[ZORDER]\r\ngone= 1\r\nLBLDEPTH= 7");
   DesignForm on;
   EXPECT_TRUE(on.form->Read(folder.Put("a.frm", project), {}));
-  EXPECT_EQ(on.owner->ZList().size(), 4U);  // a name that stands twice counts twice
+  EXPECT_EQ(on.owner->ZList().size(), 4U);  // a name that is listed twice counts twice
   EXPECT_EQ(on.owner->ZList().front()->UserName(), u"lblDepth");
-  EXPECT_EQ(on.Find(u"lblDepth")->ZOrder(), 7);  // the first of the two is what reads
+  EXPECT_EQ(on.Find(u"lblDepth")->ZOrder(), 7);  // the first of the two entries
 }
 
 TEST(Project, StoresEveryClassInItsScale) {
@@ -168,7 +168,7 @@ TEST(Project, UsesDefaultsForMissingKeys) {
   EXPECT_EQ(TextOf(*on.form, u"StartMode"), u"Always");
   EXPECT_EQ(ToLong(on.form->PropertyValue(u"FeatureType")), -1);
   EXPECT_EQ(TextOf(*on.form, u"ThemeName"), u"");
-  EXPECT_EQ(on.Names(), "Form, object_2");  // named after the number of its section, and one
+  EXPECT_EQ(on.Names(), "Form, object_2");  // named after the number of its section plus one
   EXPECT_EQ(Module().scriptContent, u"");
   EXPECT_EQ(Module().scriptLanguage, u"");
 }

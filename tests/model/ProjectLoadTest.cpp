@@ -11,7 +11,7 @@
 namespace cardwright {
 namespace {
 
-/// The control that a person fills a form in with.
+/// A real form in a window, as a host has it.
 struct RealInput {
   RealInput() {
     window.resize(500, 400);
@@ -25,7 +25,7 @@ struct RealInput {
   Ref<FormInput> input = FormInput::Create(surface);
 };
 
-/// Notes whether the thread saves for a while only, at the moment when it is saved itself.
+/// Records, when it is saved, whether the save is a temporary one.
 class Witness final : public IControl {
  public:
   Text TypeName() const override { return u"Witness"; }
@@ -36,7 +36,7 @@ class Witness final : public IControl {
   bool wasTemporary = false;
 };
 
-/// Puts itself at the end of a form and notes the order of the calls.
+/// Appends itself to a form and records the order of the calls.
 class Linker final : public IControl {
  public:
   explicit Linker(FakeInput& owner) : m_Owner(owner) {}
@@ -215,7 +215,7 @@ TEST(Read, ReplacesAnUnknownThemeByTheActiveOne) {
   EXPECT_EQ(TextOf(*on.form, u"ThemeName"), u"pipes");
   EXPECT_TRUE(on.form->Save(folder.Name("a.frm"), {}));
   EXPECT_NE(folder.Get("a.frm").find("ThemeName=pipes\r\n"), std::string::npos);
-  EXPECT_EQ(on.owner->Take().find("AttribsList"), std::string::npos);  // only the grid asks for that
+  EXPECT_EQ(on.owner->Take().find("AttribsList"), std::string::npos);  // raised only for the grid
 }
 
 TEST(Read, KeepsAKnownTheme) {
@@ -310,7 +310,7 @@ TEST(Save, OmitsTheControlsOfAFilledFormButNotTheirNumber) {
   EXPECT_TRUE(on.form->Read(folder.Put("a.frm", Example()), {}));
   EXPECT_TRUE(on.form->Save(folder.Name("a.frm"), {}));
   const std::string saved = folder.Get("a.frm");
-  EXPECT_NE(saved.find("Text=Well inspection\r\n"), std::string::npos);  // as the host was told
+  EXPECT_NE(saved.find("Text=Well inspection\r\n"), std::string::npos);  // as the host has it
   EXPECT_TRUE(
       saved.ends_with("ControlsNumber= 2\r\n[SCRIPT]\r\nVBScript\r\nSub Form_Initialize()\r\nEnd "
                       "Sub\r\n\r\n"))

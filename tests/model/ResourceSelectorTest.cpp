@@ -16,7 +16,7 @@ const std::string kSection =
     "Attribute=PHOTO\nIsNeeded=True\nBrowseForFolder=False\nFilter=Texts (*.csv)|*.csv\n"
     "InputTextEnabled=False\nShowSave=True\nTitle=Choose\nMultiSelect=True\nContainer=\n";
 
-/// What is kept in the place that kSection names.
+/// The setting that kSection names.
 Text Kept(const FakeDesktop& desktop) { return desktop.Get(u"Cardwright", u"Tests", u"Folder", u"nothing"); }
 
 }  // namespace
@@ -80,9 +80,9 @@ namespace {
 
 struct KeptCase {
   const char* name;
-  std::u16string_view path;  // "@" stands for a folder that is there
+  std::u16string_view path;  // "@" is replaced by an existing folder
   bool folders;
-  std::u16string_view kept;  // "nothing" where the settings stay as they are
+  std::u16string_view kept;  // "nothing" for unchanged settings
 };
 
 Text At(const TempFolder& folder, std::u16string_view path) {

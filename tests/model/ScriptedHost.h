@@ -9,7 +9,7 @@
 
 namespace cardwright {
 
-/// A host that answers as it was told and keeps what it was asked.
+/// A host with prepared answers that records the commands it gets.
 class ScriptedHost final : public HostConnection {
  public:
   Text Execute(std::u16string_view) override { return {}; }
@@ -19,9 +19,9 @@ class ScriptedHost final : public HostConnection {
     const auto found = answers.find(std::u16string(command));
     return found == answers.end() ? answer : found->second;
   }
-  Text answer;  ///< to whatever has no answer of its own
+  Text answer;  ///< to commands without a prepared answer
   std::map<std::u16string, Text> answers;
-  Text asked;  ///< last
+  Text asked;  ///< last command
   std::function<void()> onRequest;
 };
 

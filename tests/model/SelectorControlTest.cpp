@@ -1,4 +1,4 @@
-// What all five selectors do alike.
+// What the five selectors have in common.
 
 #include "cardwright/automation/Array.h"
 #include "model/SelectorForms.h"

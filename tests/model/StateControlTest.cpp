@@ -57,7 +57,7 @@ TEST(Selected, IsStoredWithoutEffectIfItIsNoBoolean) {
     const Text file = folder.Put("a.frm", "");
     EXPECT_TRUE(box->Save(file, u"S"));
     EXPECT_NE(folder.Get("a.frm").find("Selected=Yes\r\n"), std::string::npos);
-    EXPECT_EQ(TextOf(*box, u"Selected"), u"True");  // asked for, it follows the widget
+    EXPECT_EQ(TextOf(*box, u"Selected"), u"True");  // reading it updates it from the widget
     EXPECT_TRUE(box->Save(file, u"S"));
     EXPECT_NE(folder.Get("a.frm").find("Selected=True\r\n"), std::string::npos);
   }
@@ -101,7 +101,7 @@ TEST(CCheckBox, HasItsStateAsValue) {
   EXPECT_EQ(box->Value(), u"0");
   box->SetPropertyValue(u"Selected", true);
   EXPECT_EQ(box->Value(), u"1");
-  box->SetPropertyValue(u"Value", u"0");  // only to be read
+  box->SetPropertyValue(u"Value", u"0");  // read-only
   EXPECT_EQ(box->Value(), u"1");
   box->SetPropertyValue(u"Text", u"Dry");
   EXPECT_EQ(box->DisplayText(), u"Dry");
@@ -120,7 +120,7 @@ TEST(COptionButton, HasAValueOnlyWhileItIsSelected) {
   b->SetPropertyValue(u"Selected", true);
   EXPECT_EQ(a->Value(), u"");
   EXPECT_EQ(b->Value(), u"B");
-  EXPECT_EQ(TextOf(*a, u"Value"), u"A");  // the row keeps it
+  EXPECT_EQ(TextOf(*a, u"Value"), u"A");  // the row still has it
   EXPECT_TRUE(a->PropertyValue(u"IsNeeded").IsEmpty());
 }
 

@@ -32,7 +32,7 @@ std::string_view NameOf(KeyForm form) {
   return "";
 }
 
-// One line for each message: a line break in it stands as "\n".
+// A message on one line: a line break is shown as "\n".
 std::string Message(int id) {
   std::string text = Utf8(Replace(GetMessage(id), u"\r\n", u"\\n"));
   return std::to_string(id) + " \"" + text + "\"";
@@ -107,7 +107,7 @@ class EveryClassTable : public testing::TestWithParam<const ClassTable*> {};
 INSTANTIATE_TEST_SUITE_P(, EveryClassTable, testing::ValuesIn(AllTables()),
                          [](const auto& test) { return Utf8(test.param->className); });
 
-// CARDWRIGHT_PROMOTE=1 makes what the tables say now the truth: read the change before it is kept.
+// CARDWRIGHT_PROMOTE=1 writes the golden files anew: review the difference before you commit it.
 TEST_P(EveryClassTable, MatchesItsGoldenFile) {
   const ClassTable& table = *GetParam();
   const std::string path = CARDWRIGHT_SOURCE_DIR "/tests/model/golden/" + Utf8(table.className) + ".txt";

@@ -11,7 +11,7 @@ namespace {
 
 constexpr std::u16string_view kTextBoxes[] = {u"CTextBox", u"CTextBoxMultiline"};
 
-/// What stands in the widget after the text was typed into it, character by character.
+/// The widget's text after `text` was typed into it, character by character.
 Text Typed(IControl& control, std::string_view text) {
   WidgetOf(control).SetDisplayText({});
   for (const char c : text) QTest::keyClick(&NativeOf(control), c);
@@ -40,7 +40,7 @@ TEST_F(TextEntry, AcceptsAnyTextByDefault) {
   }
   const auto box = on.Add(u"CTextBox");
   EXPECT_EQ(TextOf(*box, u"InputType"), u"Text");
-  box->SetPropertyValue(u"InputType", u"String");  // as any text but the two that mean a number
+  box->SetPropertyValue(u"InputType", u"String");  // any text other than Integer and Float
   EXPECT_EQ(Typed(*box, "a-1.5"), u"a-1.5");
   EXPECT_EQ(WidgetOf(*box).Tag(), u"");
 }
@@ -68,7 +68,7 @@ TEST_F(TextEntry, TogglesTheSignIfAllowed) {
   EXPECT_EQ(Typed(*box, "12-"), u"-12");
   box->SetPropertyValue(u"MinusSignEnabled", u"False");
   EXPECT_EQ(Typed(*box, "12-"), u"12");
-  box->SetPropertyValue(u"MinusSignEnabled", u"perhaps");  // no boolean counts as false
+  box->SetPropertyValue(u"MinusSignEnabled", u"perhaps");  // a text that is no boolean counts as false
   EXPECT_EQ(Typed(*box, "12-"), u"12");
 }
 
@@ -81,7 +81,7 @@ TEST_F(TextEntry, KeepsTheInputModeOfTheFirstKey) {
   // "0" counts as no mode yet.
   WidgetOf(*box).SetTag(u"0");
   EXPECT_EQ(Typed(*box, "1.5"), u"1.5");
-  // Another number is a mode that filters nothing.
+  // Any other number is a mode without a filter.
   WidgetOf(*box).SetTag(u"7");
   EXPECT_EQ(Typed(*box, "x.y"), u"x.y");
 }

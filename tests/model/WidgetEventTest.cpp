@@ -37,7 +37,7 @@ const std::vector<Text> kAllClasses = [] {
   return names;
 }();
 
-/// Those that a click does not open something of.
+/// Classes whose widgets open nothing on a click.
 const std::vector<Text> kPlainClasses = [] {
   std::vector<Text> names;
   for (const Text& name : kAllClasses)
@@ -129,7 +129,7 @@ TEST_P(EveryPlainClass, RunsItsProceduresOnlyIfScriptsMayRun) {
   InputForm on;
   const auto control = on.Add(GetParam());
   on.Show();
-  // A click of a combo box is the choice of an entry.
+  // A combo box is clicked by the choice of an entry.
   auto* combo = dynamic_cast<ComboWidget*>(control->Bound());
   if (combo) combo->AddItem(u"x");
   auto act = [&](int entry) { combo ? combo->SetListIndex(entry) : Click(*control); };
@@ -255,7 +255,7 @@ TEST(CFrame, ForwardsADrawingAndIsNotSelectedByItsClick) {
   EXPECT_EQ(on.owner->Take(), "down on a 1+0@5,6");
   Move(*frame);
   EXPECT_EQ(on.owner->Take(), "arrow; move0+0@7,8");
-  Release(*frame);  // the press's own click follows and selects nothing
+  Release(*frame);  // the click of the press itself selects nothing
   EXPECT_EQ(on.owner->Take(), "up1+0@5,6");
   on.owner->typeToAdd = ControlTypeEnum::ctDefault;
   Click(*frame);
@@ -270,7 +270,7 @@ TEST(CFrame, IgnoresTheClickAfterADrawing) {
   on.owner->Take();
   on.owner->typeToAdd = ControlTypeEnum::ctLabel;
   Press(*frame, Qt::LeftButton);
-  on.owner->typeToAdd = ControlTypeEnum::ctDefault;  // placed in the loop of the press
+  on.owner->typeToAdd = ControlTypeEnum::ctDefault;  // placed while the press was handled
   on.owner->Take();
   Release(*frame);
   EXPECT_EQ(on.owner->Take(), "");
