@@ -86,7 +86,7 @@ void CAttributeSelector::AttachControls(Collection& controls) {
   if (m_ThemeSelectorName.IsEmpty() || !Bound()) return;
   HandOverConnection();
   LinkWidgets(controls);
-  ChooseWaiting();
+  ChoosePending();
 }
 
 void CAttributeSelector::LinkWidgets(const Collection& controls) {

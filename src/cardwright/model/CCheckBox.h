@@ -4,7 +4,7 @@
 
 namespace cardwright {
 
-/// A check box; its state, "1" or "0", reaches the attribute.
+/// A check box; its state, "1" or "0", is written to the attribute.
 class CCheckBox final : public StateControl {
  public:
   static const ClassTable kTable;

@@ -27,7 +27,8 @@ constexpr Member kColorMembers[] = {
 };
 
 // Elsewhere the high bit alone marks a system colour. CColor goes by hexadecimal digits: any number of more
-// than six digits is a system colour, and the digits after the first two are its index. Scripts may rely on it.
+// than six digits is a system colour, and the digits after the first two are its index. Scripts may rely on
+// it.
 OleColor ResolvedByDigits(OleColor color) {
   const auto number = static_cast<std::uint32_t>(color);
   if (number <= 0xFFFFFF) return color;

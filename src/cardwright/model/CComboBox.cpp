@@ -21,7 +21,7 @@ struct CComboBox::Tables {
       PropertyRow{u"Items", PropertyTypeEnum::ptCollection, messages::ComboItemsHelp, kItemsField<CComboBox>},
       PropertyRow{u"MinusSignEnabled", PropertyTypeEnum::ptBoolean, messages::MinusSignHelp, kMinusSign},
       rows::Attribute, rows::IsNeeded);
-  // Text is a selection: it is read last, when the items are there.
+  // Text selects an item: it is read last, after the items.
   static constexpr auto kKeys =
       Keys(keys::Key(u"Text", ReadOnly(kText)), keys::BackColor, keys::Font, keys::GeometryWithoutHeight,
            keys::ForeColor, keys::Key(u"Editable", kEditable), keys::Attribute, kItemsNumberKey<CComboBox>,
@@ -100,7 +100,7 @@ void CComboBox::FinishRead(const CIni& ini, const Text& sectionName) {
   if (Designer()) Box().SetLocked(true);
 }
 
-// Without the leave to type no key reaches the widget, arrow keys included: forms rely on a list that only
+// While Editable is false, no key reaches the widget, not even an arrow key: forms rely on lists that only
 // the mouse changes.
 void CComboBox::OnKeyDown(int& keyCode, int& shift) {
   if (TakesTyping()) return;

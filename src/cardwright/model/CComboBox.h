@@ -5,15 +5,15 @@
 
 namespace cardwright {
 
-/// A drop-down list; the value of the chosen entry reaches the attribute.
+/// A drop-down list; the value of the selected item is written to the attribute.
 class CComboBox final : public TextEntry {
  public:
   static const ClassTable kTable;
   CComboBox() : TextEntry(kTable) {}
 
-  /// Value of the selected item; "" without a selection, whatever was typed.
+  /// Value of the selected item; "" without a selection, even if a text was typed.
   Text Value(std::optional<Variant> params = {}) const override;
-  /// Fills the widget from the items, as a grid asks for after it edited them.
+  /// Fills the widget from the items; to be called after a grid edited them.
   void Refresh() override;
   void ShowValue(const Text& attribute, const Text& value) override;
   /// Value of the selected item; without a selection the typed text.

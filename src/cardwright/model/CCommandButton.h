@@ -4,7 +4,7 @@
 
 namespace cardwright {
 
-/// A push button; it acts only through its script procedure.
+/// A push button; it does nothing but run its script procedure.
 class CCommandButton final : public Control {
  public:
   static const ClassTable kTable;
@@ -15,7 +15,7 @@ class CCommandButton final : public Control {
   void SetBackColor(OleColor) override {}
   OleColor ForeColor() const override { return 0; }
   void SetForeColor(OleColor) override {}
-  /// Always "": a button feeds no attribute.
+  /// Always "": a button has no value.
   Text Value(std::optional<Variant> = {}) const override { return {}; }
   bool TakeValue(Text&) const override { return false; }
 

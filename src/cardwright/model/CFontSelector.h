@@ -22,7 +22,7 @@ class CFontSelector final : public SelectorControl {
   void OnChange() override { RunScriptEvent(u"OnChange"); }
   void OnBeforeButtonClick() override { RunScriptEvent(u"BeforeButtonClick"); }
   void OnAfterButtonClick() override { RunScriptEvent(u"AfterButtonClick"); }
-  void OnResize() override { TellHeight(); }
+  void OnResize() override { ReportHeight(); }
 
  private:
   struct Tables;

@@ -65,7 +65,7 @@ struct CForm::Tables {
                   .field = kImage,
                   .filter = messages::ImageFilter});
   static constexpr auto kHidden = Rows(PropertyRow{u"ShowMenu", ptNone, 0, kShowMenu});
-  // The form's own section is written around its controls', in an order that no single list of keys tells.
+  // The settings of the form are written by CFormFile.cpp: they are spread over several sections.
   static constexpr std::array<FileKey, 0> kKeys{};
   static constexpr auto kEvents = EventNames(u"AfterOkClick", u"BeforeCancelClick", u"BeforeOkClick",
                                              u"Initialize", u"AfterSetAttributes");
@@ -74,7 +74,7 @@ struct CForm::Tables {
 constinit const ClassTable CForm::kTable =
     DefineClass<Tables::kRows, Tables::kHidden, Tables::kKeys, Tables::kEvents>({.className = u"CForm"});
 
-// A new form begins without a script: the last form made or read on a thread owns the script that it runs.
+// The last form that was made or read on a thread owns the script, so a new form clears it.
 CForm::CForm() : TableControl(kTable) {
   Module().scriptContent = Text();
   Module().scriptLanguage = Text();
@@ -155,8 +155,7 @@ void CForm::SetBackColor(OleColor color) {
 
 Ref<Font> CForm::GetFont() const { return OwnerSurface() ? OwnerSurface()->GetFont() : nullptr; }
 
-// Only the default member travels, as a plain assignment of the font would on the platform: the name, not the
-// size.
+// An assignment without Set copies the default member of a font, its name, and not its size.
 void CForm::SetFont(const Variant& font) {
   const Ref<Font> own = GetFont();
   if (!own) return;

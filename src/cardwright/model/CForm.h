@@ -8,8 +8,8 @@ namespace cardwright {
 
 class Steps;
 
-/// The root of a form and its project file: always the first object of its owner's collection. It has no
-/// widget; where a control talks to its widget, the form talks to its owner and to the owner's host window.
+/// The root of a form, and its project file: always the first object of its owner's collection. It has no
+/// widget; its size, colours and title are those of its owner and of the owner's host window.
 class CForm final : public TableControl {
  public:
   static const ClassTable kTable;
@@ -22,14 +22,14 @@ class CForm final : public TableControl {
   OleColor BackColor() const override;
   void SetBackColor(OleColor color) override;
   Ref<cardwright::Font> GetFont() const override;
-  /// Takes the value of the default member of `font` into the form's font object.
+  /// Copies the default member of `font`, its name, to the form's font.
   void SetFont(const Variant& font) override;
   /// The designer, where the form is being designed.
   Ref<Object> BoundObject() const override;
 
-  /// Stacking means nothing to the form itself.
+  /// The form itself has no z-order.
   void SetZOrder(std::int16_t) override {}
-  /// The start modes, whatever row is asked for.
+  /// The start modes, for any row.
   std::vector<Text> PropertyList(const Variant& index) const override;
 
   /// Loads a form project into the owner: the form's settings, every control, the stacking, the script and,
@@ -39,7 +39,7 @@ class CForm final : public TableControl {
   /// False without an owner or a folder.
   bool Save(const Text& filePath, const Text& sectionName) override;
 
-  /// Called by a designer when its surface was resized: a grid that shows the form follows.
+  /// To be called after the design surface was resized: raises PropertyChanged if the form is selected.
   void OnDesignerResized();
 
  private:
@@ -47,8 +47,8 @@ class CForm final : public TableControl {
   Ref<HostWindow> Host() const;
   /// The surface of whichever owner there is; error 91 without one.
   Surface& Canvas() const;
-  /// All objects of the owner; error 91 without one. An owner can end while its form is read: hosts answer
-  /// events and requests as they like.
+  /// All objects of the owner; error 91 without one. An owner can end while its form is read, in an event
+  /// handler or a request to the host.
   Collection& Elements() const;
   Text Caption() const;
   void SetCaption(const Text& caption);

@@ -42,7 +42,7 @@ void CFrame::OnClick() {
 
 void CFrame::OnMouseDown(int button, int shift, float x, float y) {
   if (!Designer()) return;
-  const Ref<Control> keepAlive(this);  // drawing runs its own loop, in which anything may happen
+  const Ref<Control> keepAlive(this);  // drawing runs an event loop, in which the frame may be deleted
   m_ClickConsumed = IsDrawing();
   if (m_ClickConsumed) Designer()->FrameMouseDown(*this, button, shift, x, y);
   Control::OnMouseDown(button, shift, x, y);

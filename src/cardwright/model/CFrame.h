@@ -20,7 +20,7 @@ class CFrame final : public Control {
   struct Tables;
   bool IsDrawing() const;
 
-  /// The press that began a drawing ends in a click, which must not select the frame.
+  /// The press that starts a drawing is followed by a click, which must not select the frame.
   bool m_ClickConsumed = false;
 };
 

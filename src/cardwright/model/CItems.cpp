@@ -8,8 +8,8 @@ constexpr Member kItemsMembers[] = {
     Method<&CItems::Remove>(u"Remove"), Method<&CItems::Clear>(u"Clear"),
 };
 
-// A project may state any number of items. Up to this count missing ones are read as empty; beyond it they
-// end the list, so that a damaged number cannot fill the memory.
+// Missing items are read as empty ones up to this number; beyond it the first missing item ends the list, so
+// that a damaged ItemsNumber cannot exhaust the memory.
 constexpr int kMostMissingItems = 32767;
 
 Text ItemKey(std::u16string_view prefix, std::int32_t number) {

@@ -6,16 +6,16 @@
 
 namespace cardwright {
 
-/// Entries of a list control, reached by 1-based position or by key. Keys are "Item_" and a number that only
-/// grows between calls of Clear.
+/// Entries of a list control, by 1-based position or by key. A key is "Item_" and a number, which no other
+/// item gets until Clear is called.
 class CItems final : public TableObject {
  public:
   Text TypeName() const override { return u"CItems"; }
 
   std::int32_t Count() const noexcept { return m_Items->Count(); }
-  /// Nothing where there is no such item.
+  /// Null if there is no such item.
   Ref<CItem> Item(const Variant& index) const;
-  /// False where the place named by `before` does not exist.
+  /// False if the item `before` does not exist.
   bool Add(Ref<CItem> item, std::optional<Variant> before = {});
   /// Always true, as scripts expect.
   bool Remove(const Variant& index);

@@ -138,7 +138,7 @@ void CListBox::FinishRead(const CIni& ini, const Text& sectionName) {
   }
   Attempt([&] {
     FitColumn(Input() ? kColumnMargin : 0, Module().formScaleMode);
-  });  // a list narrower than the margin keeps its column
+  });  // fails for a list narrower than the margin
   if (!Input() || m_Text.IsEmpty()) return;
   SelectStoredText();
   const int selected = View().SelectedRow();

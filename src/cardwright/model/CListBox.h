@@ -5,8 +5,8 @@
 
 namespace cardwright {
 
-/// A list of one column, with check boxes where several entries may be marked; the value of the selected
-/// entry reaches the attribute. On the design surface it shows its name instead of its items.
+/// A list of one column, with check boxes if MultiSelect is set; the value of the selected entry is written
+/// to the attribute. On the design surface it shows its name instead of its items.
 class CListBox final : public Control {
  public:
   static const ClassTable kTable;
@@ -15,10 +15,10 @@ class CListBox final : public Control {
   void SetName(const Text& name) override;
   /// Value of the selected entry's item; "" without one.
   Text Value(std::optional<Variant> params = {}) const override;
-  /// Fills the widget from the items, as a grid asks for after it edited them.
+  /// Fills the widget from the items; to be called after a grid edited them.
   void Refresh() override;
   void ShowValue(const Text& attribute, const Text& value) override;
-  /// Without a selected entry `value` stays, as forms have always written it.
+  /// Leaves `value` unchanged without a selected entry; forms rely on what is written then.
   bool TakeValue(Text& value) const override;
   void FinishDrawing() override;
 

@@ -4,15 +4,16 @@
 
 namespace cardwright {
 
-/// One of several buttons that exclude each other; the selected one's fixed text reaches the attribute.
+/// One of several buttons that exclude each other; the fixed text of the selected one is written to the
+/// attribute.
 class COptionButton final : public StateControl {
  public:
   static const ClassTable kTable;
   COptionButton() : StateControl(kTable) {}
 
-  /// The button's text while it is selected, else "".
+  /// The button's fixed text while it is selected, else "".
   Text Value(std::optional<Variant> params = {}) const override;
-  /// Selects the button of the group that stands for the value.
+  /// Selects the button of the group whose fixed text is the value.
   void ShowValue(const Text& attribute, const Text& value) override;
   /// Only the selected button of a group writes.
   bool TakeValue(Text& value) const override;

@@ -70,7 +70,7 @@ ResourceSelectorWidget& CResourceSelector::Selector() const { return BoundAs<Res
 void CResourceSelector::MoveHeight(const Variant& height) {
   const bool differs = Selector().Height() != ToSingle(height);
   rows::MoveHeight(*this, height);
-  if (differs) TellHeight();
+  if (differs) ReportHeight();
 }
 
 void CResourceSelector::ReadRegKey(const Text& key) {

@@ -43,7 +43,7 @@ void CTextBox::ChooseInputMode() {
   if (EqualsNoCase(m_InputType, u"float")) Bound()->SetTag(u"2");
 }
 
-// On the design surface the box shows its text and takes none.
+// On the design surface the text cannot be edited.
 void CTextBox::FinishRead(const CIni&, const Text&) {
   if (Designer()) static_cast<TextWidget*>(Bound())->SetLocked(true);
 }

@@ -4,7 +4,7 @@
 
 namespace cardwright {
 
-/// A line of text that can be held to an integer or a real number while it is typed.
+/// A line of text; InputType restricts typing to integers or real numbers.
 class CTextBox final : public TextEntry {
  public:
   static const ClassTable kTable;

@@ -22,8 +22,8 @@ Control::~Control() {
 
 Text Control::Name() const { return m_Obj ? m_Obj->Name() : m_UserName; }
 
-// The accessors are the designer's own moves and so tell the host's grid; the table's rows are the grid's and
-// tell the designer instead.
+// The designer moves controls by the accessors, which therefore raise PropertyChanged for the host's grid.
+// The grid moves them by the rows of the table, which select the control in the designer instead.
 void Control::SetLeft(float value) {
   if (!m_Obj) return;
   m_Obj->SetLeft(value);
@@ -48,7 +48,7 @@ void Control::SetHeight(float value) {
   RaisePropertyChanged(u"Height", value);
 }
 
-// BackColor stays silent where ForeColor speaks: hosts' grids rely on hearing of one and not of the other.
+// Unlike SetForeColor, this raises no PropertyChanged: the grids of hosts rely on the difference.
 void Control::SetBackColor(OleColor color) {
   if (m_Obj) m_Obj->SetBackColor(color);
 }
@@ -140,7 +140,7 @@ void Control::OnGotFocus() {
 
 void Control::OnMouseDown(int button, int shift, float, float) {
   if (!Designer() || button != MouseButton::Right || shift != 0) return;
-  const Ref<Control> keepAlive(this);  // the menu can delete the very control that it is opened for
+  const Ref<Control> keepAlive(this);  // a command of the menu may delete this control
   SelectInDesigner();
   if (Designer()) OpenDesignerMenu();  // a handler may have ended it
 }
@@ -151,7 +151,7 @@ void Control::OnMouseMove(int, int, float, float) {
 
 void Control::RunScriptEvent(std::u16string_view event) {
   if (!Input() || !Input()->CanRunScripts()) return;
-  const Ref<Control> keepAlive(this);  // a script may remove the very control that it answers for
+  const Ref<Control> keepAlive(this);  // the script may remove this control
   Input()->RunEvent(BuildEventName(m_UserName, event));
 }
 
@@ -159,7 +159,7 @@ void Control::SelectInDesigner() {
   if (Designer()) Designer()->SetCtrl(Ref<IControl>(this));
 }
 
-// A widget with a menu of its own is switched off meanwhile.
+// A widget with a menu of its own is disabled meanwhile, so that only one menu opens.
 void Control::OpenDesignerMenu() {
   if (!HasOwnMenu()) return Designer()->OpenControlMenu(*this);
   const Ref<Widget> widget = m_Obj;

@@ -6,8 +6,8 @@
 
 namespace cardwright {
 
-/// A form element that wraps exactly one widget: the pattern of all control classes. A class adds its table
-/// and overrides only what is special to it.
+/// A form element with exactly one widget, and the base of all control classes. A class adds its table and
+/// overrides only what it does differently.
 class Control : public TableControl, protected WidgetListener {
  public:
   Text Name() const override;
@@ -34,14 +34,14 @@ class Control : public TableControl, protected WidgetListener {
   bool Read(const Text& filePath, const Text& sectionName) override;
   bool Save(const Text& filePath, const Text& sectionName) override;
   void Refresh() override;
-  /// What the row `Attribute` holds; a class without that row never has one.
+  /// Value of the row `Attribute`; "" in classes without that row.
   Text AttributeName() const override { return m_Attribute; }
 
   /// @name The value of the bound feature attribute.
   /// @{
   /// Limits what can be typed to the attribute's length and type, in classes that take typed text.
   virtual void LimitInput(std::int32_t /*maxLength*/, InputTypeEnum /*type*/) {}
-  /// Shows a value that was read from `attribute`: in the class's row, unless the class has a way of its own.
+  /// Shows a value that was read from `attribute`: in the row of the class, unless the class overrides it.
   virtual void ShowValue(const Text& attribute, const Text& value);
   /// Puts what is to be written to the attribute into `value`. False where nothing is to be written. A class
   /// may leave `value` unchanged, and then the value of the control before it is written again.
@@ -56,7 +56,7 @@ class Control : public TableControl, protected WidgetListener {
   /// The bound widget, or null.
   Widget* Bound() const noexcept { return m_Obj.get(); }
 
-  /// @name Fields that several classes keep, as texts just as grid or file handed them in.
+  /// @name Fields that several classes have, as the texts that grid or file set.
   /// @{
   Text m_Attribute;
   Text m_IsNeeded = u"False";
@@ -85,7 +85,7 @@ class Control : public TableControl, protected WidgetListener {
   /// Makes this the designer's current control.
   void SelectInDesigner();
   virtual void OpenDesignerMenu();
-  /// Whether the widget has a menu of its own, which must not open beside the designer's.
+  /// Whether the widget has a menu of its own, which must not open together with the designer's.
   virtual bool HasOwnMenu() const { return false; }
 
  private:
@@ -95,7 +95,7 @@ class Control : public TableControl, protected WidgetListener {
 /// The widget that an element of a form is bound to; null for the form itself and for an unbound control.
 Ref<Widget> BoundWidget(const IControl& control);
 
-/// Boolean of a flag that is kept as text; a text that is none counts as false.
+/// Boolean value of a flag that is kept as text; false for a text that is no boolean.
 bool FlagIsSet(const Text& flag) noexcept;
 
 }  // namespace cardwright

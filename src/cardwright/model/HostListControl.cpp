@@ -15,36 +15,36 @@ void HostListControl::HandOverConnection() {
   BoundAs<HostListWidget>(*this).SetConnectionHandle(SharedHost().Handle());
 }
 
-void HostListControl::Choose(const Text& text) {
+void HostListControl::Select(const Text& text) {
   auto& list = BoundAs<HostListWidget>(*this);
   list.SetListIndex(FindListItem(list, text, {.exact = true}));
 }
 
-// A selector that was only just drawn has not asked for its list yet.
+// A selector that was just drawn has not requested its list yet.
 void HostListControl::SelectText(TableControl& control, const Variant& text) {
   auto& self = As<HostListControl>(control);
   const Text wanted = ToText(text);
   if (self.Designer() && BoundAs<HostListWidget>(self).ListCount() == 0) Attempt([&] { self.FillList(); });
-  self.m_Waiting = Text();
-  self.Choose(wanted);
+  self.m_PendingText = Text();
+  self.Select(wanted);
 }
 
-// A project that is opened and saved without its data keeps what its author chose.
+// A project that is read and saved without a connection keeps its author's choice.
 Variant HostListControl::StoredText(const TableControl& control) {
   const Text chosen = BoundAs<HostListWidget>(control).DisplayText();
-  return chosen.IsEmpty() ? As<HostListControl>(control).m_Waiting : chosen;
+  return chosen.IsEmpty() ? As<HostListControl>(control).m_PendingText : chosen;
 }
 
-void HostListControl::ChooseWaiting() {
-  if (m_Waiting.IsEmpty() || BoundAs<HostListWidget>(*this).ListCount() == 0) return;
-  const Text wanted = m_Waiting;
-  m_Waiting = Text();
-  Choose(wanted);
+void HostListControl::ChoosePending() {
+  if (m_PendingText.IsEmpty() || BoundAs<HostListWidget>(*this).ListCount() == 0) return;
+  const Text wanted = m_PendingText;
+  m_PendingText = Text();
+  Select(wanted);
 }
 
-// A press that chooses nothing, as on a locked list, is a click too.
+// A press that chooses nothing, as on a locked list, is a click as well.
 void HostListControl::OnClick() {
-  if (Bound() && !Bound()->DisplayText().IsEmpty()) m_Waiting = Text();
+  if (Bound() && !Bound()->DisplayText().IsEmpty()) m_PendingText = Text();
   SelectorControl::OnClick();
 }
 
@@ -53,8 +53,8 @@ void HostListControl::FinishRead(const CIni& ini, const Text& sectionName) {
   Attempt([&] {
     const auto stored = ini.Find(sectionName, u"Text");
     const Text wanted = stored ? ToText(*stored) : Bound()->DisplayText();
-    Choose(wanted);
-    m_Waiting = BoundAs<HostListWidget>(*this).ListCount() == 0 ? wanted : Text();
+    Select(wanted);
+    m_PendingText = BoundAs<HostListWidget>(*this).ListCount() == 0 ? wanted : Text();
   });
   SelectorControl::FinishRead(ini, sectionName);
 }

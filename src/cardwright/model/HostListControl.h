@@ -12,15 +12,15 @@ class HostListControl : public SelectorControl {
  protected:
   using SelectorControl::SelectorControl;
 
-  /// Chooses the entry of that text, whatever its case; a text that the list does not have chooses none.
+  /// Selects the entry with that text, in any case; none for a text that is not in the list.
   static void SelectText(TableControl& control, const Variant& text);
-  /// What a project keeps: the chosen text, or the one that waits for a list.
+  /// What a project stores: the selected text, or the pending one.
   static Variant StoredText(const TableControl& control);
-  /// Chooses the text that waits, now that there may be a list.
-  void ChooseWaiting();
-  /// The list asks over the connection that the form has now.
+  /// Selects the pending text once there is a list.
+  void ChoosePending();
+  /// Gives the widget the form's present connection.
   void HandOverConnection();
-  /// Asks the host for the list before the stored text is looked for in it.
+  /// Requests the list from the host; called before the stored text is selected.
   virtual void FillList() {}
 
   bool ClickSelects() const override { return false; }
@@ -28,9 +28,9 @@ class HostListControl : public SelectorControl {
   void FinishRead(const CIni& ini, const Text& sectionName) override;
 
  private:
-  void Choose(const Text& text);
+  void Select(const Text& text);
 
-  Text m_Waiting;  // of the project, read while there was nothing to look it up in
+  Text m_PendingText;  // read from the project while there was no list to select it in
 };
 
 }  // namespace cardwright

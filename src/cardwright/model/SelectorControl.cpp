@@ -8,13 +8,13 @@ void SelectorControl::FinishRead(const CIni&, const Text&) {
   if (Designer()) static_cast<SelectorWidget*>(Bound())->SetLocked(true);
 }
 
-void SelectorControl::TellHeight() {
+void SelectorControl::ReportHeight() {
   if (!Designer() || !Bound()) return;
   RaisePropertyChanged(u"Height", Variant(Bound()->Height()));
   if (Designer()) Designer()->ShowHandles(true);
 }
 
-// Scripts may also hand in the template itself, not in an array.
+// Scripts may also pass the template itself instead of an array.
 Text TemplateOf(const std::optional<Variant>& params, const Text& own) {
   if (!params) return own;
   const Variant& given = params->Deref();

@@ -14,7 +14,7 @@ Text StateControl::ReadSelected() const {
   return m_Selected;
 }
 
-// A text that is no boolean is stored all the same and leaves the widget as it is.
+// A text that is no boolean is stored, but does not change the widget.
 void StateControl::ApplySelected(const Text& selected) {
   m_Selected = Trim(selected).empty() ? Text(u"False") : selected;
   Attempt([&] { Box().SetState(ToBoolean(Variant(m_Selected)) ? 1 : 0); });

@@ -4,7 +4,7 @@
 
 namespace cardwright {
 
-/// What check box and option button share: the `Selected` flag, kept as text beside the widget's state.
+/// Base of check box and option button: the flag `Selected`, a text beside the state of the widget.
 class StateControl : public Control {
  protected:
   explicit StateControl(const ClassTable& table) : Control(table) {}
@@ -14,7 +14,7 @@ class StateControl : public Control {
 
   /// The bound widget; error 91 where there is none.
   StateWidget& Box() const;
-  /// "True" or "False" by the widget; the text is stored as well.
+  /// Stores and returns "True" or "False", by the state of the widget.
   Text ReadSelected() const;
   void ApplySelected(const Text& selected);
 
@@ -22,7 +22,7 @@ class StateControl : public Control {
   static void LetSelected(TableControl& control, const Variant& value);
 
  public:
-  /// Last state that was set or asked for. A project keeps this text, whatever was clicked since.
+  /// The state that was last set or read. Projects store this text, in spite of clicks since then.
   mutable Text m_Selected;
 };
 
