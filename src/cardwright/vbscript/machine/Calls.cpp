@@ -18,6 +18,22 @@ void FinishCall(Variant* arguments, std::size_t count, Variant* result, Variant 
   ClearArguments(arguments, count);
   if (result) *result = std::move(outcome);
 }
+// The library takes values, not references. Its work is charged by the size of its arguments.
+void PrepareArguments(Variant* arguments, std::size_t count) {
+  for (std::size_t k = 0; k < count; ++k) {
+    Variant& argument = arguments[k];
+    if (argument.IsByRef()) {
+      Variant value = static_cast<const Variant&>(argument).Deref();
+      argument = std::move(value);
+    }
+    if (argument.IsString()) {
+      Context::ChargeWork(argument.StringView().size());
+    } else if (argument.IsArray()) {
+      Context::ChargeWork(argument.ArrayPtr()->Values().size());
+    }
+  }
+}
+
 }  // namespace
 
 bool Machine::CallSymbol(SymbolUse& use, Variant* arguments, std::size_t count, std::uint16_t flags) {
@@ -53,18 +69,7 @@ void Machine::CallBuiltin(const Builtin& builtin, Variant* arguments, std::size_
   if (count < builtin.minArguments || (count > builtin.maxArguments && builtin.maxArguments != kAnyCount))
     throw NamedError(ErrorNumber::WrongArgumentCount, builtin.name);
   ThrowIfStopping();
-  for (std::size_t k = 0; k < count; ++k) {
-    Variant& argument = arguments[k];
-    if (argument.IsByRef()) {
-      Variant value = static_cast<const Variant&>(argument).Deref();
-      argument = std::move(value);
-    }
-    if (argument.IsString()) {
-      ChargeWork(argument.StringView().size());
-    } else if (argument.IsArray()) {
-      ChargeWork(argument.ArrayPtr()->Values().size());
-    }
-  }
+  PrepareArguments(arguments, count);
   try {
     FinishCall(arguments, count, result, builtin.call(*this, {arguments, count}));
   } catch (const Error& error) {

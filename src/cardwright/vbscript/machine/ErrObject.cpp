@@ -14,7 +14,7 @@ ErrObject::State ErrObject::Exchange(State state) noexcept {
           .helpContext = std::exchange(m_HelpContext, state.helpContext)};
 }
 
-void ErrObject::Note(int number, Text description, Text source) {
+void ErrObject::Set(int number, Text description, Text source) {
   m_Number = number;
   m_Description = std::move(description);
   m_Source = std::move(source);
@@ -23,7 +23,7 @@ void ErrObject::Note(int number, Text description, Text source) {
 void ErrObject::Clear() { Exchange({}); }
 
 void ErrObject::SetNumber(std::int32_t number) {
-  Note(number, number ? StandardErrorText(number) : Text(), number ? Text(kRuntimeErrorSource) : Text());
+  Set(number, number ? StandardErrorText(number) : Text(), number ? Text(kRuntimeErrorSource) : Text());
 }
 
 void ErrObject::Raise(std::int32_t number, std::optional<Text> source, std::optional<Text> description,

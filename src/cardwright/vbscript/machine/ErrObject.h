@@ -19,7 +19,7 @@ class ErrObject final : public TableObject {
   };
   /// Sets the state and returns the previous one.
   State Exchange(State state) noexcept;
-  void Note(int number, Text description, Text source);
+  void Set(int number, Text description, Text source);
   void Clear();
 
  protected:

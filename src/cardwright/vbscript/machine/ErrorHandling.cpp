@@ -24,8 +24,8 @@ Machine::PendingError Machine::Describe(const Error& error) const {
 // and ends the frames on the way. The found frame continues after the failed statement. Where there is none,
 // the error leaves Run as a ScriptFault.
 void Machine::Handle(PendingError pending, std::size_t entry) {
-  // A stop reaches a host that the script called, and that called the script, as an error; the stop still
-  // holds.
+  // A host that the script has called, and that has called the script, gets a stop as an error. Here it
+  // becomes the stop again.
   if (IsStopping()) {
     Unwind(entry - 1);
     throw Interrupted{};
@@ -40,10 +40,8 @@ void Machine::Handle(PendingError pending, std::size_t entry) {
       pending.hasPosition = true;
     }
     if (frame.resumeNext && mark) {
-      m_Err->Note(pending.number, pending.description, pending.source);
-      Variant* const registers = frame.registers;
-      frame.pc = procedure.code.data() + mark->resume;
-      for (std::size_t k = procedure.firstTemporary; k < procedure.registers; ++k) registers[k].Reset();
+      m_Err->Set(pending.number, pending.description, pending.source);
+      ResumeAfter(*mark, frame);
       return;
     }
     frame.result = nullptr;
@@ -52,6 +50,14 @@ void Machine::Handle(PendingError pending, std::size_t entry) {
   const MemoryBudget::Exemption exemption;
   throw ScriptFault(Error(pending.number, pending.description, pending.source), pending.position,
                     pending.report, *this);
+}
+
+// The failed statement may have left values in temporaries. Releasing them may run code that moves the frame.
+void Machine::ResumeAfter(const StatementMark& mark, Frame& frame) noexcept {
+  const Procedure& procedure = *frame.procedure;
+  Variant* const registers = frame.registers;
+  frame.pc = procedure.code.data() + mark.resume;
+  for (std::size_t k = procedure.firstTemporary; k < procedure.registers; ++k) registers[k].Reset();
 }
 
 void Machine::Unwind(std::size_t depth) noexcept {

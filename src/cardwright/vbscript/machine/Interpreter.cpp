@@ -10,31 +10,29 @@
 // The interpreter's loop.
 //
 // Where things are. The state that every operation needs is in local variables of Run: the next instruction
-// (pc), the registers of the running frame (R), the constants of its procedure (K). As locals that nobody has
-// the address of they stay in machine registers. Members of the machine would be read again after every store
-// through a Variant, as the compiler cannot know that the store leaves them alone. For the same reason a
-// function that works on registers gets copies of these locals (RegisterView).
+// (pc), the registers of the running frame (R), the constants of its procedure (K). Their addresses are never
+// taken, so the compiler keeps them in machine registers. Members of the machine would be read again after
+// every store through a Variant, because the compiler cannot know that the store leaves them unchanged. For
+// the same reason functions that work on registers get copies of these locals (RegisterView).
 //
-// Calls. The locals and the topmost frame are brought in line where frames change: an operation that may call
-// stores pc in the frame first, because the frame continues there afterwards. The function that it calls
-// either has the result already, as from the library or the host, or it has pushed a frame: then AFTER_CALL
-// loads the locals from the new frame and the loop continues in the callee. Return pops the frame and loads
-// them from the caller's.
+// Calls. An operation that may call a procedure first stores pc in the running frame, which continues there
+// when the call returns. The function that makes the call returns false when the result is in place already,
+// as from the library or the host, and true when it has pushed a frame. Then AFTER_CALL loads the locals from
+// the new frame, and the loop continues in the callee. Return pops the frame and loads the caller's.
 //
-// Temporaries. An operation that reads a temporary clears it, or moves its value on (Procedure.h). The quick
+// Temporaries. An operation that reads a temporary clears it or moves its value on (Procedure.h). The quick
 // paths here work on numbers, which need no clearing; all others do it.
 //
-// Errors are exceptions. They end in the handlers at the end of Run, outside the loop's quick paths, which
-// cost nothing there. Handle finds the frame to continue, and the loop starts again with it.
+// Errors. They are exceptions, so that the quick paths need not test for them. The handlers at the end of Run
+// catch them; Handle finds the frame that continues, and the loop starts again with it.
 //
-// As an example, `x = a(i) + 1` with variables of the procedure and temporaries t0, t1 is
+// As an example, `x = a(i) + 1` with variables of the procedure and temporaries t0 and t1:
 //
-//     GetElement t1 a i    finds the element, copies it to t1. If `a` holds no array or `i` no whole number,
-//                          GetElementSlowly converts the index, or calls the default member of an object.
-//     Move t0 t1           moves the value, so that t1 is empty again.
-//     Add x t0 1           adds whole numbers or doubles at once; anything else takes ApplyAdd, which clears
-//     t0
-//                          and stores the operator's result.
+//   GetElement t1 a i   Copies the element to t1. If `a` holds no array or `i` no whole number, then
+//                       GetElementSlowly converts the index, or calls the default member of an object.
+//   Move t0 t1          Moves the value; t1 is empty again.
+//   Add x t0 1          Adds whole numbers or doubles at once. For anything else ApplyAdd calls the operator,
+//                       clears t0 and stores the result.
 
 // Jumps to the addresses of labels are what makes the loop quick: each operation ends with a jump of its own
 // to the next operation (NEXT), which the processor predicts by what usually follows this one. All compilers

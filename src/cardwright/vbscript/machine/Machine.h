@@ -177,6 +177,7 @@ class Machine final : public Context, public Linkage, private StopSignal {
   // ErrorHandling.cpp
   PendingError Describe(const Error& error) const;
   void Handle(PendingError pending, std::size_t entry);
+  void ResumeAfter(const StatementMark& mark, Frame& frame) noexcept;
   void Unwind(std::size_t depth) noexcept;
 
   // Interrupts.cpp
