@@ -59,7 +59,7 @@ int main(int argc, char** argv) {
                 "ms", 0);
   bench::Report("a change taken into the history" + form, MedianOf([&](int round) {
                   at(round)->SetLeft(static_cast<float>(round));
-                  window.Project().NoteNow();
+                  window.Project().RecordNow();
                 }),
                 "ms", 0);
   bench::Report("a step undone" + form, MedianOf([&](int) { window.Project().Undo(); }), "ms", 0);

@@ -25,7 +25,7 @@
 #include "workbench/panes/PaneFrame.h"
 #include "workbench/panes/ScriptPane.h"
 #include "workbench/panes/ToolBox.h"
-#include "workbench/project/Kinds.h"
+#include "workbench/project/KindName.h"
 
 namespace cardwright::workbench {
 namespace {
@@ -150,7 +150,7 @@ void Workbench::ConnectDocument() {
   connect(m_Document, &Document::RowChanged, m_Grid, [this](int row) { m_Grid->Model().Refresh(row); });
   connect(m_Document, &Document::DrawingEnded, m_Tools, &ToolBox::Reset);
   connect(m_Document, &Document::Resized, this, &Workbench::UpdateGrid);
-  connect(m_Document, &Document::PropertiesWanted, this, [this] {
+  connect(m_Document, &Document::PropertiesRequested, this, [this] {
     m_Panes[QStringLiteral("paneProperties")]->show();
     m_Grid->View().setFocus();
   });
@@ -168,7 +168,7 @@ void Workbench::ConnectDocument() {
     for (const char* name : {"mnuForeground", "mnuBackground"}) m_MenuStates.erase(QLatin1String(name));
     m_ListSoon.start(0);
   });
-  connect(m_Document, &Document::Begun, this, [this] {
+  connect(m_Document, &Document::ProjectOpened, this, [this] {
     m_List->Forget();
     m_Script->Begin(m_Document->GetScript());
   });
@@ -201,7 +201,7 @@ void Workbench::ConnectPanes() {
   connect(&m_Grid->Model(), &PropertyModel::Assigned, this, [this] {
     m_Document->Designer().ShowHandles(true);  // which do not follow the height that a font gives a list
     UpdateGrid();
-    m_Document->NoteSoon();
+    m_Document->RecordSoon();
   });
   connect(m_Script, &ScriptPane::Edited, m_Document, &Document::SetScript);
   connect(m_Features, &FeaturePane::OpenWanted, this, &Workbench::ChooseData);

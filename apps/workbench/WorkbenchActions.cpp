@@ -15,7 +15,7 @@
 #include "workbench/panes/Icons.h"
 #include "workbench/panes/PaneFrame.h"
 #include "workbench/panes/ToolBox.h"
-#include "workbench/project/Kinds.h"
+#include "workbench/project/KindName.h"
 
 namespace cardwright::workbench {
 namespace {
@@ -74,7 +74,7 @@ void Workbench::RunOnControl(void (cardwright::FormDesigner::*command)()) {
     const Ref<cardwright::FormDesigner> designer(&m_Document->Designer());
     (designer.get()->*command)();
   }
-  m_Document->NoteSoon();
+  m_Document->RecordSoon();
   m_ListSoon.start(0);
 }
 

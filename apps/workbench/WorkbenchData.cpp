@@ -116,7 +116,7 @@ void Workbench::BindTo(const QString& theme) {
     designer.SetFeatureType(listed.featureType);
   }
   m_Features->ShowTheme(theme);
-  m_Document->NoteNow();
+  m_Document->RecordNow();
 }
 
 void Workbench::Fill(RunKind kind) {
@@ -137,7 +137,7 @@ void Workbench::Fill(RunKind kind) {
     QMessageBox::information(this, tr("Fill in"), tr("The form has no controls yet."));
     return;
   }
-  m_Document->NoteNow();
+  m_Document->RecordNow();
   StartRun(theme, id, kind);
 }
 
@@ -190,7 +190,7 @@ void Workbench::ShowRun() {
 
 void Workbench::EndRun() {
   m_Run = nullptr;
-  m_Document->Reclaim();
+  m_Document->RestoreModuleState();
   AllowWork(true);
   const FocusKeeper keeper;
   m_Features->Reload();

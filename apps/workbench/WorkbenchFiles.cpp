@@ -39,7 +39,7 @@ bool Workbench::OpenProject(const QString& path) {
 
 void Workbench::TellOpened() {
   if (QFileInfo::exists(m_Document->Path())) kRecentProjects.Add(m_Document->Path());
-  if (!m_Document->Remark().isEmpty()) QMessageBox::information(this, tr("Open"), m_Document->Remark());
+  if (!m_Document->Notice().isEmpty()) QMessageBox::information(this, tr("Open"), m_Document->Notice());
 }
 
 void Workbench::NewProject() {
@@ -90,7 +90,7 @@ bool Workbench::SaveTo(const QString& path) {
 
 bool Workbench::MayLeave() {
   m_Grid->FinishEditing();
-  m_Document->NoteNow();
+  m_Document->RecordNow();
   if (!m_Document->IsModified()) return true;
   const QString name =
       m_Document->Path().isEmpty() ? tr("the new form") : QFileInfo(m_Document->Path()).fileName();
@@ -139,7 +139,7 @@ bool Workbench::Offer(const LeftWork& work) {
     Recovery::SetAside(work);
     return false;
   }
-  const QString failure = m_Document->OpenWork(work.file, work.project);
+  const QString failure = m_Document->OpenUnsaved(work.file, work.project);
   if (!failure.isEmpty()) {
     QMessageBox::warning(this, tr("Unsaved work"), failure);
     return false;

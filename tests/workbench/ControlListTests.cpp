@@ -12,7 +12,7 @@ class ControlListTest : public WorkbenchTest {
     frame = Selected();
     bench->Project().Insert(ControlTypeEnum::ctLabel);
     inside = Selected();
-    Settle();
+    RecordStep();
     QTest::qWait(5);
   }
   QTreeWidgetItem* Row(const QString& name) {
@@ -31,52 +31,52 @@ class ControlListTest : public WorkbenchTest {
 TEST_F(ControlListTest, LeavesAClosedFrameClosed) {
   Row(frame)->setExpanded(false);
   Type(QStringLiteral("Text"), QStringLiteral("changed"));
-  Settle();
+  RecordStep();
   QTest::qWait(5);
   EXPECT_FALSE(IsOpen(frame));
   Select(QStringLiteral("Form"));
   bench->Project().Insert(ControlTypeEnum::ctTextBox);
-  Settle();
+  RecordStep();
   QTest::qWait(5);
   EXPECT_FALSE(IsOpen(frame));
   Trigger("mnuUndo");
   EXPECT_FALSE(IsOpen(frame));
 }
 
-TEST_F(ControlListTest, LeavesARenamedFrameClosedAlsoAroundTheSelectedControl) {
+TEST_F(ControlListTest, KeepsARenamedFrameClosedEvenWithTheSelectedControlInside) {
   Select(frame);
   Row(frame)->setExpanded(false);
   Type(QStringLiteral("Name"), QStringLiteral("fraSite"));
-  Settle();
+  RecordStep();
   QTest::qWait(5);
   EXPECT_FALSE(IsOpen(QStringLiteral("fraSite")));
   Select(inside);
   EXPECT_TRUE(IsOpen(QStringLiteral("fraSite")));
   Row(QStringLiteral("fraSite"))->setExpanded(false);
   Type(QStringLiteral("Name"), QStringLiteral("lblSite"));
-  Settle();
+  RecordStep();
   QTest::qWait(5);
   EXPECT_FALSE(IsOpen(QStringLiteral("fraSite")));
 }
 
-TEST_F(ControlListTest, KeepsItsRowsWhereNothingThatTheyShowHasChanged) {
+TEST_F(ControlListTest, KeepsItsRowsIfNothingTheyShowHasChanged) {
   const QTreeWidgetItem* row = Row(inside);
   Select(inside);
   Type(QStringLiteral("Left"), QStringLiteral("40"));
-  Settle();
+  RecordStep();
   QTest::qWait(5);
   EXPECT_EQ(Row(inside), row);
   Trigger("mnuUndo");
   EXPECT_EQ(Row(inside), row);
   bench->List().setFocus();
-  bench->List().setCurrentItem(Row(frame));  // stands for the control of now, not for that of before
+  bench->List().setCurrentItem(Row(frame));  // the row refers to the current control, not the former one
   EXPECT_EQ(Selected(), frame);
   bench->List().setCurrentItem(Row(inside));
   Trigger("mnuDelete");
   EXPECT_FALSE(Has(inside));
 }
 
-TEST_F(ControlListTest, BeginsAnotherFormWithAllFramesOpen) {
+TEST_F(ControlListTest, ShowsANewFormWithAllFramesOpen) {
   Row(frame)->setExpanded(false);
   ASSERT_EQ(bench->Project().Save(PathOf(QStringLiteral("form.cwf"))), QString());
   ASSERT_TRUE(bench->OpenProject(PathOf(QStringLiteral("form.cwf"))));

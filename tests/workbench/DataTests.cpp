@@ -40,7 +40,7 @@ TEST_F(DataTest, ShowsTheFeaturesOfTheFormsTheme) {
   EXPECT_FALSE(Cell(0, QStringLiteral("NAME")).isEmpty());
 }
 
-TEST_F(DataTest, ShowsTheAttributeThatASelectorOfTheProjectHolds) {
+TEST_F(DataTest, ShowsTheAttributeOfASelectorInTheProject) {
   Trigger("mnuNew");
   bench->Project().Insert(ControlTypeEnum::ctThemeSelector);
   Designer().CurrentControl()->SetPropertyValue(Variant(u"Text"), Variant(u"wells"));
@@ -49,14 +49,14 @@ TEST_F(DataTest, ShowsTheAttributeThatASelectorOfTheProjectHolds) {
   const Text name = Designer().CurrentControl()->UserName();
   Designer().CurrentControl()->SetPropertyValue(Variant(u"ThemeSelectorName"), Variant(theme));
   Designer().CurrentControl()->SetPropertyValue(Variant(u"Text"), Variant(u"OWNER"));
-  Settle();
+  RecordStep();
   const QString path = PathOf(QStringLiteral("selectors.cwf"));
   ASSERT_EQ(bench->Project().Save(path), QString());
   ASSERT_TRUE(bench->OpenProject(path));
   Select(qt::ToQString(name));
   EXPECT_EQ(ValueOf(QStringLiteral("Text")), QStringLiteral("OWNER"));
   Type(QStringLiteral("Left"), QStringLiteral("40"));
-  Settle();
+  RecordStep();
   Trigger("mnuUndo");
   EXPECT_EQ(ValueOf(QStringLiteral("Text")), QStringLiteral("OWNER"));
 }
@@ -66,7 +66,7 @@ TEST_F(DataTest, ShowsAnotherTheme) {
   EXPECT_EQ(bench->Features().Theme(), QStringLiteral("pipelines"));
 }
 
-TEST_F(DataTest, FillsInTheChosenFeatureAndShowsWhatIsStored) {
+TEST_F(DataTest, FillsInTheChosenFeatureAndShowsTheStoredValues) {
   bench->Features().ChooseFeature(QStringLiteral("3"));
   const int row = bench->Features().Model().RowOf(QStringLiteral("3"));
   Trigger("mnuFill");
@@ -80,7 +80,7 @@ TEST_F(DataTest, FillsInTheChosenFeatureAndShowsWhatIsStored) {
   EXPECT_EQ(bench->Features().Feature(), QStringLiteral("3"));
 }
 
-TEST_F(DataTest, ShowsTheCommandsThatTheHostWasSent) {
+TEST_F(DataTest, ShowsTheCommandsSentToTheHost) {
   bench->Features().ChooseFeature(QStringLiteral("2"));
   Trigger("mnuFill");
   ASSERT_NE(bench->Run(), nullptr);
@@ -90,7 +90,7 @@ TEST_F(DataTest, ShowsTheCommandsThatTheHostWasSent) {
       QStringLiteral("THEME_SELECTION_BYVALUE |wells| |POINT| OVTARVOUNIQUEID = 2 NEW")));
 }
 
-TEST_F(DataTest, OnlyShowsWhatADebuggingRunWouldStore) {
+TEST_F(DataTest, ShowsButDoesNotStoreTheValuesOfADebuggingRun) {
   bench->Features().ChooseFeature(QStringLiteral("3"));
   const QString before = Cell(bench->Features().Model().RowOf(QStringLiteral("3")), QStringLiteral("NAME"));
   Trigger("mnuDebug");
@@ -102,7 +102,7 @@ TEST_F(DataTest, OnlyShowsWhatADebuggingRunWouldStore) {
   EXPECT_EQ(Cell(bench->Features().Model().RowOf(QStringLiteral("3")), QStringLiteral("NAME")), before);
 }
 
-TEST_F(DataTest, SortsByNumbersOrWordsAndBackToTheStoresOrder) {
+TEST_F(DataTest, SortsNumbersAndTextsAndRestoresTheStoreOrder) {
   FeatureModel& model = bench->Features().Model();
   const auto column = [&](const QString& name) {
     QStringList cells;
@@ -130,7 +130,7 @@ TEST_F(DataTest, SortsByNumbersOrWordsAndBackToTheStoresOrder) {
   EXPECT_EQ(column(QStringLiteral("NAME")), stored);
 }
 
-TEST_F(DataTest, ShowsOnlyWhatASearchFinds) {
+TEST_F(DataTest, ShowsOnlyTheFoundFeatures) {
   FeaturePane& pane = bench->Features();
   const int all = pane.Model().rowCount();
   const QString name = Cell(2, QStringLiteral("NAME"));
@@ -170,7 +170,7 @@ TEST_F(DataTest, CopiesTheSelectedRowsForASpreadsheet) {
   }
 }
 
-TEST_F(DataTest, OpensAFolderAndOffersItAgain) {
+TEST_F(DataTest, OpensAFolderAndListsItAsRecent) {
   const QString shapes = PathOf(QStringLiteral("shapes"));
   ASSERT_TRUE(QDir().mkpath(shapes));
   for (const char* name : {"wells", "pumps"})
@@ -187,7 +187,7 @@ TEST_F(DataTest, OpensAFolderAndOffersItAgain) {
   EXPECT_EQ(bench->Features().Model().Themes().size(), 2U);
 }
 
-TEST_F(DataTest, ConnectsByATextAndRemembersNoPassword) {
+TEST_F(DataTest, ConnectsByAConnectionStringAndStoresNoPassword) {
   const auto connect = [&](const QString& text) {
     qt::Meet<QInputDialog>([&](QInputDialog& dialog) {
       dialog.setTextValue(text);
@@ -213,7 +213,7 @@ TEST_F(DataTest, ConnectsByATextAndRemembersNoPassword) {
   EXPECT_FALSE(recent().contains(QLatin1String("PWD")));
 }
 
-TEST_F(DataTest, PaintsTheSignsOfThemesInTheColourOfTheText) {
+TEST_F(DataTest, PaintsThemeIconsInTheTextColor) {
   const QColor ink(0x10, 0x90, 0x20);
   const auto hasInk = [&] {
     const auto* themes = bench->Features().findChild<QComboBox*>();
@@ -229,7 +229,7 @@ TEST_F(DataTest, PaintsTheSignsOfThemesInTheColourOfTheText) {
   EXPECT_TRUE(hasInk());
 }
 
-TEST_F(DataTest, KeepsWhatIsSearchedAndSortedThroughARun) {
+TEST_F(DataTest, KeepsSearchAndSortOrderAfterARun) {
   FeaturePane& pane = bench->Features();
   pane.View().horizontalHeader()->setSortIndicator(0, Qt::DescendingOrder);
   pane.ChooseFeature(QStringLiteral("3"));
@@ -242,7 +242,7 @@ TEST_F(DataTest, KeepsWhatIsSearchedAndSortedThroughARun) {
   EXPECT_EQ(pane.Feature(), QStringLiteral("3"));
 }
 
-TEST_F(DataTest, SortsByKeysFromTheMenuOfTheTable) {
+TEST_F(DataTest, SortsByKeyboardFromTheMenuOfTheTable) {
   FeaturePane& pane = bench->Features();
   const QHeaderView& header = *pane.View().horizontalHeader();
   const auto choose = [&](const QList<Qt::Key>& keys) {
@@ -272,7 +272,7 @@ TEST_F(DataTest, SortsByKeysFromTheMenuOfTheTable) {
   EXPECT_EQ(pane.Model().IdOf(0), first);
 }
 
-TEST_F(DataTest, KeepsTheWidthsOfColumnsThroughARun) {
+TEST_F(DataTest, KeepsColumnWidthsAfterARun) {
   QHeaderView& header = *bench->Features().View().horizontalHeader();
   header.resizeSection(ColumnOf(QStringLiteral("NAME")), 231);
   const auto widths = [&] {
@@ -288,7 +288,7 @@ TEST_F(DataTest, KeepsTheWidthsOfColumnsThroughARun) {
   EXPECT_EQ(widths(), before);
 }
 
-TEST_F(DataTest, FitsOnlyColumnsThatAreNew) {
+TEST_F(DataTest, ResizesOnlyNewColumnsToTheirContents) {
   const QString file = PathOf(QStringLiteral("pumps.csv"));
   Write(file, "NAME,DEPTH\nOne,12\n");
   ASSERT_TRUE(bench->OpenData(file));
@@ -302,7 +302,7 @@ TEST_F(DataTest, FitsOnlyColumnsThatAreNew) {
             pane.fontMetrics().averageCharWidth() * 30);
 }
 
-TEST_F(DataTest, TellsWhatCannotBeOpenedAndKeepsWhatIsOpen) {
+TEST_F(DataTest, ReportsAFailedOpenAndKeepsTheOpenSource) {
   QString text;
   AnswerBox(QStringLiteral("OK"), &text);
   EXPECT_FALSE(bench->OpenData(PathOf(QStringLiteral("none.gpkg"))));

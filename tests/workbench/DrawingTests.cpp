@@ -1,15 +1,15 @@
-// A form drawn from nothing with the mouse, bound, saved, and filled in.
+// Forms drawn with the mouse, bound, saved, and filled in.
 
 #include "cardwright/qt/FormInput.h"
 #include "workbench/WorkbenchTest.h"
-#include "workbench/project/Kinds.h"
+#include "workbench/project/KindName.h"
 
 namespace cardwright::workbench {
 namespace {
 
 using DrawingTest = WorkbenchTest;
 
-TEST_F(DrawingTest, DrawsEveryKindWhereTheMouseGoes) {
+TEST_F(DrawingTest, DrawsEveryClassWithTheMouse) {
   bench->Action(QStringLiteral("mnuSnap"))->trigger();
   bench->Stage().Designer().resize(900, 700);
   int made = 0;
@@ -26,18 +26,18 @@ TEST_F(DrawingTest, DrawsEveryKindWhereTheMouseGoes) {
   EXPECT_EQ(Designer().Controls().Count(), made + 1);
 }
 
-TEST_F(DrawingTest, HoldsADragToTheGrid) {
+TEST_F(DrawingTest, SnapsADragToTheGrid) {
   const Ref<IControl> label = Draw(ControlTypeEnum::ctLabel, QRect(16, 16, 80, 24));
   Trigger("mnuSnap");
   Trigger("mnuSnap");
   ASSERT_TRUE(Designer().GridAlignment());
-  // A place off the grid is refused, not rounded; of those on it none is passed unseen.
+  // A position off the grid is refused, not rounded; none on it is missed.
   DragOnForm({56, 28}, {56 + 21, 28 + 13});
   EXPECT_EQ(label->Left(), 32);
   EXPECT_EQ(label->Top(), 24);
 }
 
-TEST_F(DrawingTest, PutsAControlIntoTheFrameThatIsPressed) {
+TEST_F(DrawingTest, DrawsIntoTheFrameUnderTheMouse) {
   Draw(ControlTypeEnum::ctFrame, QRect(16, 16, 240, 160));
   const Ref<IControl> frame = Designer().CurrentControl();
   Draw(ControlTypeEnum::ctTextBox, QRect(48, 64, 96, 24));
@@ -46,7 +46,7 @@ TEST_F(DrawingTest, PutsAControlIntoTheFrameThatIsPressed) {
   EXPECT_EQ(Ref<Object>(widget.Container()), frame->BoundObject());
 }
 
-TEST_F(DrawingTest, SetsTheGridInBlackButOnDarkGround) {
+TEST_F(DrawingTest, PaintsTheGridBlackExceptOnADarkBackground) {
   const auto pointOn = [&](OleColor ground) {
     Designer().GetSurface()->SetBackColor(ground);
     return bench->Stage().Designer().grab().toImage().pixelColor(8, 8);
@@ -56,7 +56,7 @@ TEST_F(DrawingTest, SetsTheGridInBlackButOnDarkGround) {
   EXPECT_GT(pointOn(0x2E2D2D).lightness(), 128);
 }
 
-TEST_F(DrawingTest, SizesTheFormByItsEdge) {
+TEST_F(DrawingTest, ResizesTheFormByItsEdge) {
   const QSize before = bench->Stage().Designer().size();
   bench->Stage().Designer().resize(before + QSize(40, 24));
   bench->Grid().EditRow(QStringLiteral("Width"));
@@ -64,7 +64,7 @@ TEST_F(DrawingTest, SizesTheFormByItsEdge) {
   EXPECT_TRUE(QTest::qWaitFor([&] { return bench->Project().CanUndo(); }, 2000));
 }
 
-TEST_F(DrawingTest, MakesABoundFormThatIsFilledIn) {
+TEST_F(DrawingTest, CreatesABoundFormThatCanBeFilledIn) {
   ASSERT_TRUE(QFile::copy(Example("wells.gpkg"), PathOf(QStringLiteral("wells.gpkg"))));
   ASSERT_TRUE(bench->OpenData(PathOf(QStringLiteral("wells.gpkg"))));
   auto* themes = bench->findChild<QMenu*>(QStringLiteral("mnuThemes"));

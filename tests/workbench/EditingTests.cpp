@@ -1,4 +1,4 @@
-// Menus, keys, the tool box and the list of controls.
+// Menus, keys, the tool box, the list of controls.
 
 #include "workbench/WorkbenchTest.h"
 
@@ -12,7 +12,7 @@ class EditingTest : public WorkbenchTest {
     first = Selected();
     bench->Project().Insert(ControlTypeEnum::ctTextBox);
     second = Selected();
-    Settle();
+    RecordStep();
     QTest::qWait(5);
   }
   QStringList Listed() {
@@ -29,21 +29,21 @@ TEST_F(EditingTest, ListsTheFrontControlFirst) {
   Select(first);
   Trigger("mnuForeground");
   EXPECT_EQ(Listed(), (QStringList{QStringLiteral("Form"), first, second}));
-  Settle();
+  RecordStep();
   Trigger("mnuBackground");
   EXPECT_EQ(Listed(), (QStringList{QStringLiteral("Form"), second, first}));
-  Settle();
+  RecordStep();
   Trigger("mnuUndo");
   QTest::qWait(5);
   EXPECT_EQ(Listed(), (QStringList{QStringLiteral("Form"), first, second}));
 }
 
-TEST_F(EditingTest, ListsWhatAFrameHoldsBelowIt) {
+TEST_F(EditingTest, ListsTheControlsOfAFrameBelowIt) {
   bench->Project().Insert(ControlTypeEnum::ctFrame);
   const QString frame = Selected();
   bench->Project().Insert(ControlTypeEnum::ctLabel);
   QTest::qWait(5);
-  Settle();
+  RecordStep();
   QTest::qWait(5);
   const QTreeWidgetItem* form = bench->List().topLevelItem(0);
   ASSERT_EQ(form->childCount(), 1);
@@ -51,7 +51,7 @@ TEST_F(EditingTest, ListsWhatAFrameHoldsBelowIt) {
   EXPECT_EQ(form->child(0)->childCount(), 1);
 }
 
-TEST_F(EditingTest, SelectsByTheKeysOfTheListAndStaysInIt) {
+TEST_F(EditingTest, SelectsByKeyboardInTheListAndKeepsTheFocusThere) {
   AddTwo();
   bench->List().setFocus();
   bench->List().setCurrentItem(bench->List().topLevelItem(0));
@@ -62,7 +62,7 @@ TEST_F(EditingTest, SelectsByTheKeysOfTheListAndStaysInIt) {
   EXPECT_EQ(Selected(), first);
 }
 
-TEST_F(EditingTest, PutsAControlOnTheFormByTheKeysOfTheToolBox) {
+TEST_F(EditingTest, AddsAControlByKeyboardFromTheToolBox) {
   ToolBox& tools = bench->Tools();
   tools.setFocus();
   tools.setCurrentRow(2);
@@ -73,7 +73,7 @@ TEST_F(EditingTest, PutsAControlOnTheFormByTheKeysOfTheToolBox) {
   EXPECT_EQ(QApplication::focusWidget(), &tools);
 }
 
-TEST_F(EditingTest, CopiesAndPastesByTheMenu) {
+TEST_F(EditingTest, CopiesAndPastesFromTheMenu) {
   AddTwo();
   EXPECT_FALSE(bench->Action(QStringLiteral("mnuPaste"))->isEnabled());
   Trigger("mnuCopy");
@@ -83,7 +83,7 @@ TEST_F(EditingTest, CopiesAndPastesByTheMenu) {
   EXPECT_EQ(Designer().CurrentControl()->Left(), 0);
 }
 
-TEST_F(EditingTest, GoesBackToThePointerWhereTheFormIsSelected) {
+TEST_F(EditingTest, ReturnsToTheSelectionToolWhenTheFormIsSelected) {
   AddTwo();
   Choose(ControlTypeEnum::ctLabel);
   EXPECT_NE(bench->Tools().currentRow(), 0);
@@ -91,7 +91,7 @@ TEST_F(EditingTest, GoesBackToThePointerWhereTheFormIsSelected) {
   EXPECT_TRUE(QTest::qWaitFor([&] { return bench->Tools().currentRow() == 0; }));
 }
 
-TEST_F(EditingTest, ShowsThePastedControlAlsoWhereItIsLikeTheCopiedOne) {
+TEST_F(EditingTest, ShowsAPastedControlThatEqualsTheCopiedOne) {
   bench->Project().Insert(ControlTypeEnum::ctComboBox);
   Designer().CurrentControl()->SetLeft(0);
   Designer().CurrentControl()->SetTop(0);
@@ -102,7 +102,7 @@ TEST_F(EditingTest, ShowsThePastedControlAlsoWhereItIsLikeTheCopiedOne) {
   EXPECT_EQ(Rows().Control(), Designer().CurrentControl());
 }
 
-TEST_F(EditingTest, DeletesByTheKeyOnTheForm) {
+TEST_F(EditingTest, DeletesByTheDeleteKeyOnTheForm) {
   AddTwo();
   ClickOnForm({static_cast<int>(Find(first).Left()) + 4, static_cast<int>(Find(first).Top()) + 4});
   EXPECT_EQ(Selected(), first);
@@ -110,7 +110,7 @@ TEST_F(EditingTest, DeletesByTheKeyOnTheForm) {
   EXPECT_FALSE(Has(first));
 }
 
-TEST_F(EditingTest, DoesNotDeleteAControlByTheKeyInAnotherPane) {
+TEST_F(EditingTest, DoesNotDeleteByTheDeleteKeyInAnotherPane) {
   AddTwo();
   for (QTableView* table : {&bench->Grid().View(), &bench->Features().View()}) {
     table->window()->activateWindow();
@@ -120,7 +120,7 @@ TEST_F(EditingTest, DoesNotDeleteAControlByTheKeyInAnotherPane) {
   }
 }
 
-TEST_F(EditingTest, PutsAControlThatHasNoRoomBelowTheOthersAtTheTop) {
+TEST_F(EditingTest, AddsAControlAtTheTopIfThereIsNoRoomBelow) {
   AddTwo();
   Find(second).SetTop(Designer().GetSurface()->Height() - Find(second).Height());
   Select(second);
@@ -128,7 +128,7 @@ TEST_F(EditingTest, PutsAControlThatHasNoRoomBelowTheOthersAtTheTop) {
   EXPECT_LT(Designer().CurrentControl()->Top(), Find(second).Top());
 }
 
-TEST_F(EditingTest, DoesNotDeleteAControlWhileAValueIsTyped) {
+TEST_F(EditingTest, DoesNotDeleteWhileAValueIsEdited) {
   AddTwo();
   bench->Grid().EditRow(QStringLiteral("Text"));
   QTest::keyClick(&bench->Grid().View(), Qt::Key_F2);
@@ -136,14 +136,14 @@ TEST_F(EditingTest, DoesNotDeleteAControlWhileAValueIsTyped) {
   EXPECT_TRUE(Has(second));
 }
 
-TEST_F(EditingTest, OffersNoCommandsOnTheForm) {
+TEST_F(EditingTest, DisablesControlCommandsForTheForm) {
   AddTwo();
   Select(QStringLiteral("Form"));
   for (const char* name : {"mnuCut", "mnuCopy", "mnuDelete", "mnuForeground", "mnuCenterAcross"})
     EXPECT_FALSE(bench->Action(QLatin1String(name))->isEnabled()) << name;
 }
 
-TEST_F(EditingTest, ChecksTheLockAsTheDesignerHasIt) {
+TEST_F(EditingTest, ShowsTheLockStateOfTheDesigner) {
   Trigger("mnuLock");
   EXPECT_FALSE(bench->Action(QStringLiteral("mnuLock"))->isChecked());
   AddTwo();
@@ -157,24 +157,24 @@ TEST_F(EditingTest, ChecksTheLockAsTheDesignerHasIt) {
   EXPECT_FALSE(bench->Action(QStringLiteral("mnuLock"))->isChecked());
 }
 
-TEST_F(EditingTest, CentresTheSelectedControl) {
+TEST_F(EditingTest, CentersTheSelectedControl) {
   AddTwo();
   Trigger("mnuCenterAcross");
   const IControl& box = Find(second);
   EXPECT_EQ(box.Left(), (static_cast<float>(bench->Stage().Designer().width()) - box.Width()) / 2);
 }
 
-TEST_F(EditingTest, GivesEveryControlANameForScreenReaders) {
+TEST_F(EditingTest, NamesEveryPaneForScreenReaders) {
   AddTwo();
   Type(QStringLiteral("Name"), QStringLiteral("txtDepth"));
-  Settle();
+  RecordStep();
   QTest::qWait(5);
   const Ref<Object> bound = Find(QStringLiteral("txtDepth")).BoundObject();
   const auto* core = dynamic_cast<const qt::WidgetCore*>(bound.get());
   EXPECT_EQ(core->Native()->accessibleName(), QStringLiteral("txtDepth"));
 }
 
-TEST_F(EditingTest, ReachesEveryPaneByAKey) {
+TEST_F(EditingTest, FocusesEveryPaneByAShortcut) {
   struct {
     Qt::Key key;
     QWidget* pane;

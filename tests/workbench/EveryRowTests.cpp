@@ -1,4 +1,4 @@
-// Every row of every kind of form element is opened, changed and put back by the keyboard alone.
+// Every row of every class of form element is opened, changed and restored by keyboard alone.
 
 #include <QFileDialog>
 #include <QFontDialog>
@@ -7,14 +7,14 @@
 #include "cardwright/platform/Picture.h"
 #include "workbench/PropertyGridTest.h"
 #include "workbench/grid/ItemsDialog.h"
-#include "workbench/project/Kinds.h"
+#include "workbench/project/KindName.h"
 
 namespace cardwright::workbench {
 namespace {
 
 using enum PropertyTypeEnum;
 
-/// Texts that lists take, as they pass over any other.
+/// Texts that lists accept; they ignore any other.
 struct Wanted {
   const char* kind;
   const char* row;
@@ -44,18 +44,18 @@ class EveryRowTest : public PropertyGridTest, public testing::WithParamInterface
     Press(Qt::Key_Home, Qt::ControlModifier);
   }
 
-  /// What links may name.
+  /// Controls that links can name.
   void MakeTargets() {
     for (const ControlTypeEnum kind : {ControlTypeEnum::ctThemeSelector, ControlTypeEnum::ctComboBox})
       for (int i = 0; i < 2; ++i) Add(kind);
   }
-  /// Something to choose from, and a choice that can be gone back to.
+  /// Choices for the row, one of them its value.
   void MakeChoices() {
     const auto set = [&](const char16_t* row, const char16_t* text) {
       control->SetPropertyValue(Text(row), Variant(text));
     };
     const Variant font = control->PropertyValue(u"Font");
-    if (font.IsObject()) dynamic_cast<Font&>(*font.ObjectPtr()).Assign({.size = 9});  // as its dialog can
+    if (font.IsObject()) dynamic_cast<Font&>(*font.ObjectPtr()).Assign({.size = 9});  // as its dialog does
     const Variant list = control->PropertyValue(u"Items");
     if (list.IsObject()) {
       auto* items = dynamic_cast<CItems*>(list.ObjectPtr());
@@ -74,7 +74,7 @@ class EveryRowTest : public PropertyGridTest, public testing::WithParamInterface
   }
 
   Variant Now() { return control->PropertyValue(Variant(std::int32_t{View().currentIndex().row()})); }
-  /// A value as a text that is the same for the same value.
+  /// A text for a value; equal values have equal texts.
   static std::string Shown(const Variant& value) {
     if (!value.IsObject()) return qt::ToQString(ToText(value)).toStdString();
     if (const auto* font = dynamic_cast<const Font*>(value.ObjectPtr()))
@@ -89,30 +89,30 @@ class EveryRowTest : public PropertyGridTest, public testing::WithParamInterface
     return all;
   }
 
-  /// Writes a value where one can be written.
+  /// Types a value, where the row allows it.
   void WriteValue(const QString& text) {
     Press(Qt::Key_F2);
     ASSERT_NE(EditorAs<QWidget>(), nullptr);
     Press(Qt::Key_A, Qt::ControlModifier);
     Press(Qt::Key_Delete);
     KeyIn(text);
-    PressAndSettle(Qt::Key_Return);
+    PressAndWait(Qt::Key_Return);
     ASSERT_EQ(Editor(), nullptr) << Notice().toStdString();
   }
-  /// Steps through a list, from its first choice.
+  /// Moves through a list from its first choice.
   void Step(int steps) {
-    PressAndSettle(Qt::Key_F4);
+    PressAndWait(Qt::Key_F4);
     ASSERT_NE(EditorAs<QComboBox>(), nullptr);
     Press(Qt::Key_Home);
     for (int i = 0; i < steps; ++i) Press(Qt::Key_Down);
-    PressAndSettle(Qt::Key_Return);
+    PressAndWait(Qt::Key_Return);
     ASSERT_EQ(Editor(), nullptr);
   }
   void StepToAnother() {
     Press(Qt::Key_F2);
     ASSERT_NE(EditorAs<QComboBox>(), nullptr);
     const int now = EditorAs<QComboBox>()->currentIndex();
-    PressAndSettle(Qt::Key_Escape);
+    PressAndWait(Qt::Key_Escape);
     Step(now == 1 ? 0 : 1);
   }
   void SetFontSize(double points) {
@@ -123,16 +123,16 @@ class EveryRowTest : public PropertyGridTest, public testing::WithParamInterface
       dialog.accept();
     });
     Press(Qt::Key_Return);  // opens the cell
-    PressAndSettle(Qt::Key_Return);
+    PressAndWait(Qt::Key_Return);
   }
   void AddOrRemoveItem(bool adds) {
     MeetByKeys<ItemsDialog>([this, adds](ItemsDialog&) {
-      if (!adds) Press(Qt::Key_Down);  // what is added comes behind the first one
+      if (!adds) Press(Qt::Key_Down);  // a new item is added after the first one
       Press(adds ? Qt::Key_Insert : Qt::Key_Delete);
       if (adds) KeyIn(QStringLiteral("new"));
       Press(Qt::Key_O, Qt::AltModifier);
     });
-    PressAndSettle(Qt::Key_Space);
+    PressAndWait(Qt::Key_Space);
   }
   void ChooseImage() {
     qt::Meet<QFileDialog>([this](QFileDialog& dialog) {
@@ -143,7 +143,7 @@ class EveryRowTest : public PropertyGridTest, public testing::WithParamInterface
       dialog.selectFile(path);
       static_cast<QDialog&>(dialog).accept();
     });
-    PressAndSettle(Qt::Key_F4);
+    PressAndWait(Qt::Key_F4);
   }
 
   void Change(const QString& name);
@@ -191,7 +191,7 @@ void EveryRowTest::PutBack(const QString& text) {
     case ptBoolean: Press(Qt::Key_F2); return;
     case ptFont: SetFontSize(fontSize); return;
     case ptCollection: AddOrRemoveItem(false); return;
-    case ptImage: PressAndSettle(Qt::Key_Delete); return;
+    case ptImage: PressAndWait(Qt::Key_Delete); return;
     case ptList:
     case ptControls:
     case ptFeatureType: {
@@ -199,14 +199,14 @@ void EveryRowTest::PutBack(const QString& text) {
       auto* combo = EditorAs<QComboBox>();
       ASSERT_NE(combo, nullptr);
       const int at = combo->findText(text);
-      PressAndSettle(Qt::Key_Escape);
+      PressAndWait(Qt::Key_Escape);
       return Step(at);
     }
     default: WriteValue(text);
   }
 }
 
-TEST_P(EveryRowTest, IsChangedAndPutBackByTheKeyboardAlone) {
+TEST_P(EveryRowTest, IsChangedAndRestoredByKeyboard) {
   for (int row = 0; row < Rows().rowCount(); ++row) {
     const QString name = Rows().NameOf(row);
     ASSERT_EQ(CurrentRow(), name);
@@ -214,7 +214,7 @@ TEST_P(EveryRowTest, IsChangedAndPutBackByTheKeyboardAlone) {
     const QString text = ValueOf(name);
 
     Press(Qt::Key_F2);
-    PressAndSettle(Qt::Key_Escape);
+    PressAndWait(Qt::Key_Escape);
     if (Rows().TypeOf(row) == ptBoolean) Press(Qt::Key_F2);
     EXPECT_EQ(Shown(Now()), before) << name.toStdString();
 
@@ -230,7 +230,7 @@ TEST_P(EveryRowTest, IsChangedAndPutBackByTheKeyboardAlone) {
   }
 }
 
-TEST_P(EveryRowTest, IsPassedByTabFromEditorToEditor) {
+TEST_P(EveryRowTest, MovesToTheNextEditorByTab) {
   const std::string before = [&] {
     std::string all;
     for (int row = 0; row < Rows().rowCount(); ++row)
@@ -241,7 +241,7 @@ TEST_P(EveryRowTest, IsPassedByTabFromEditorToEditor) {
     const bool isFlag = Rows().TypeOf(row) == ptBoolean;
     if (!Editor() && !isFlag) Press(Qt::Key_F2);
     ASSERT_EQ(Editor() == nullptr, isFlag) << row;
-    PressAndSettle(isFlag ? Qt::Key_Down : Qt::Key_Tab);
+    PressAndWait(isFlag ? Qt::Key_Down : Qt::Key_Tab);
     ASSERT_EQ(View().currentIndex().row(), row + 1);
   }
   std::string after;
@@ -250,13 +250,13 @@ TEST_P(EveryRowTest, IsPassedByTabFromEditorToEditor) {
   EXPECT_EQ(after, before);
 }
 
-std::vector<ControlTypeEnum> EveryKind() {
+std::vector<ControlTypeEnum> EveryClass() {
   std::vector<ControlTypeEnum> kinds{ControlTypeEnum::ctDefault};
   for (const ClassTable* kind : ControlClasses()) kinds.push_back(kind->type);
   return kinds;
 }
 
-INSTANTIATE_TEST_SUITE_P(Kinds, EveryRowTest, testing::ValuesIn(EveryKind()), [](const auto& kind) {
+INSTANTIATE_TEST_SUITE_P(Classes, EveryRowTest, testing::ValuesIn(EveryClass()), [](const auto& kind) {
   return KindName(kind.param).remove(u' ').remove(u',').toStdString();
 });
 

@@ -1,4 +1,4 @@
-// Where the keyboard is, as a person sees it.
+// How the workbench shows the keyboard focus.
 
 #include <QContextMenuEvent>
 
@@ -10,7 +10,7 @@ namespace {
 
 class FocusTest : public WorkbenchTest {
  protected:
-  /// By the key of each pane, in turn.
+  /// By the shortcut of each pane in turn.
   static constexpr Qt::Key kPanes[] = {Qt::Key_0, Qt::Key_1, Qt::Key_2, Qt::Key_3,
                                        Qt::Key_4, Qt::Key_5, Qt::Key_6};
   void GoTo(Qt::Key pane) { QTest::keyClick(QApplication::focusWidget(), pane, Qt::AltModifier); }
@@ -23,7 +23,7 @@ class FocusTest : public WorkbenchTest {
     }
     return found;
   }
-  /// The colour of a pixel of the frame itself.
+  /// The colour of a pixel of the frame.
   static QColor FrameColor(PaneFrame& frame) {
     return frame.grab().toImage().pixelColor(0, frame.height() / 2);
   }
@@ -32,7 +32,7 @@ class FocusTest : public WorkbenchTest {
   }
 };
 
-TEST_F(FocusTest, FramesThePaneThatHasTheKeyboardAndNoOther) {
+TEST_F(FocusTest, FramesOnlyTheFocusedPane) {
   bench->List().setFocus();
   const QColor mark = bench->palette().color(QPalette::Active, QPalette::Highlight);
   for (const Qt::Key pane : kPanes) {
@@ -45,7 +45,7 @@ TEST_F(FocusTest, FramesThePaneThatHasTheKeyboardAndNoOther) {
   }
 }
 
-TEST_F(FocusTest, ShowsSelectionsGreyWhereKeysDoNotGo) {
+TEST_F(FocusTest, ShowsSelectionsGreyWithoutFocus) {
   const QColor mark = bench->palette().color(QPalette::Active, QPalette::Highlight);
   bench->List().setFocus();
   EXPECT_EQ(SelectionIn(bench->List()), mark);
@@ -57,13 +57,13 @@ TEST_F(FocusTest, ShowsSelectionsGreyWhereKeysDoNotGo) {
   }
 }
 
-TEST_F(FocusTest, LeavesTheColoursOfTheFormAlone) {
+TEST_F(FocusTest, DoesNotChangeTheColorsOfTheForm) {
   bench->List().setFocus();
   EXPECT_EQ(SelectionIn(bench->Stage().Designer()),
             bench->palette().color(QPalette::Active, QPalette::Highlight));
 }
 
-TEST_F(FocusTest, ShowsTheTitleOfTheFormInColourOnceTheFormHasTheKeyboard) {
+TEST_F(FocusTest, HighlightsTheTitleOfTheFormWithFocus) {
   bench->List().setFocus();
   const auto ground = [&] { return bench->Stage().Title().grab().toImage().pixelColor(2, 2); };
   EXPECT_EQ(ground().saturation(), 0);
@@ -71,7 +71,7 @@ TEST_F(FocusTest, ShowsTheTitleOfTheFormInColourOnceTheFormHasTheKeyboard) {
   EXPECT_EQ(ground(), bench->palette().color(QPalette::Active, QPalette::Highlight));
 }
 
-TEST_F(FocusTest, FollowsAnotherPalette) {
+TEST_F(FocusTest, FollowsAPaletteChange) {
   bench->List().setFocus();
   QPalette other = bench->palette();
   other.setColor(QPalette::Highlight, QColor(0xa0, 0x20, 0x20));
@@ -81,7 +81,7 @@ TEST_F(FocusTest, FollowsAnotherPalette) {
   EXPECT_EQ(SelectionIn(bench->Tools()), QColor(grey, grey, grey));
 }
 
-TEST_F(FocusTest, OpensTheMenuOfTheSelectedControlByTheMenuKeys) {
+TEST_F(FocusTest, OpensTheMenuOfTheSelectedControlByKeyboard) {
   bench->Project().Insert(ControlTypeEnum::ctLabel);
   const Ref<IControl> label = Designer().CurrentControl();
   const auto* const core = dynamic_cast<const qt::WidgetCore*>(label->BoundObject().get());
@@ -116,7 +116,7 @@ TEST_F(FocusTest, OpensTheMenuOfTheSelectedControlByTheMenuKeys) {
   EXPECT_EQ(Designer().CurrentControl(), label);
 }
 
-TEST_F(FocusTest, OpensTheMenuOfTheFormWhereTheFormIsSelected) {
+TEST_F(FocusTest, OpensTheMenuOfTheSelectedFormByKeyboard) {
   bench->Project().Insert(ControlTypeEnum::ctLabel);
   Select(QStringLiteral("Form"));
   GoTo(Qt::Key_0);

@@ -15,16 +15,16 @@ namespace {
 struct Opening {
   Qt::Key key;
   Qt::KeyboardModifiers modifiers;
-  bool isEditing;  ///< the editor is open before
+  bool isEditing;  ///< the editor is already open
 };
 
-/// F4 is a shortcut of the window as well.
+/// F4 is also a shortcut of the window.
 class OpeningKeyTest : public PropertyGridTest, public testing::WithParamInterface<Opening> {
  protected:
   void Open(const QString& row) {
     GoTo(row);
     if (GetParam().isEditing) Press(Qt::Key_F2);
-    PressAndSettle(GetParam().key, GetParam().modifiers);
+    PressAndWait(GetParam().key, GetParam().modifiers);
   }
 };
 
@@ -35,9 +35,9 @@ TEST_P(OpeningKeyTest, OpensTheListOfARow) {
     auto* combo = EditorAs<QComboBox>();
     ASSERT_NE(combo, nullptr) << row;
     EXPECT_TRUE(combo->view()->isVisible()) << row;
-    PressAndSettle(Qt::Key_Escape);
+    PressAndWait(Qt::Key_Escape);
     EXPECT_FALSE(combo->view()->isVisible()) << row;
-    PressAndSettle(Qt::Key_Escape);
+    PressAndWait(Qt::Key_Escape);
     EXPECT_EQ(Editor(), nullptr) << row;
     EXPECT_EQ(CurrentRow(), QLatin1String(row));
   }
@@ -59,7 +59,7 @@ TEST_P(OpeningKeyTest, OpensTheDialogOfARow) {
   EXPECT_EQ(QApplication::focusWidget(), &View());
 }
 
-TEST_P(OpeningKeyTest, LeavesTheEditorOfATextAlone) {
+TEST_P(OpeningKeyTest, DoesNothingInATextEditor) {
   Add(ControlTypeEnum::ctLabel);
   Open(QStringLiteral("Text"));
   ASSERT_NE(EditorAs<QLineEdit>(), nullptr);
@@ -73,14 +73,14 @@ INSTANTIATE_TEST_SUITE_P(Keys, OpeningKeyTest,
 
 using GridKeyTest = PropertyGridTest;
 
-TEST_F(GridKeyTest, F4ElsewhereGoesToTheGrid) {
+TEST_F(GridKeyTest, F4FocusesTheGridFromOtherPanes) {
   Add(ControlTypeEnum::ctLabel);
   bench->List().setFocus();
   Press(Qt::Key_F4);
   EXPECT_EQ(QApplication::focusWidget(), &View());
 }
 
-TEST_F(GridKeyTest, AButtonThatIsPressedTwiceOpensOneDialog) {
+TEST_F(GridKeyTest, ADoubleClickOnAButtonOpensOneDialog) {
   Add(ControlTypeEnum::ctLabel);
   int met = 0;
   qt::Meet<QFontDialog>([&](QFontDialog& dialog) { ++met, dialog.reject(); });
@@ -94,7 +94,7 @@ TEST_F(GridKeyTest, AButtonThatIsPressedTwiceOpensOneDialog) {
   EXPECT_EQ(Editor(), nullptr);
 }
 
-TEST_F(GridKeyTest, TurnsAFlagWhereAnotherRowWouldBeEdited) {
+TEST_F(GridKeyTest, TogglesAFlagInsteadOfEditingIt) {
   const Ref<IControl> box = Add(ControlTypeEnum::ctTextBox);
   GoTo(QStringLiteral("IsNeeded"));
   const auto isOn = [&] { return ToText(box->PropertyValue(u"IsNeeded")) == u"True"; };
@@ -109,7 +109,7 @@ TEST_F(GridKeyTest, TurnsAFlagWhereAnotherRowWouldBeEdited) {
   EXPECT_EQ(Editor(), nullptr);
 }
 
-TEST_F(GridKeyTest, TurnsAFlagByADoubleClickOnItsTextAndAClickOnItsBox) {
+TEST_F(GridKeyTest, TogglesAFlagByADoubleClickOrAClickOnItsBox) {
   const Ref<IControl> box = Add(ControlTypeEnum::ctTextBox);
   const auto isOn = [&] { return ToText(box->PropertyValue(u"IsNeeded")) == u"True"; };
   const QModelIndex cell = Rows().index(Rows().RowOf(QStringLiteral("IsNeeded")), PropertyModel::kValue);
@@ -125,30 +125,30 @@ TEST_F(GridKeyTest, TurnsAFlagByADoubleClickOnItsTextAndAClickOnItsBox) {
   EXPECT_FALSE(isOn());
 }
 
-TEST_F(GridKeyTest, TabTakesTheValueAndEditsTheNextRow) {
+TEST_F(GridKeyTest, TabCommitsTheValueAndEditsTheNextRow) {
   const Ref<IControl> label = Add(ControlTypeEnum::ctLabel);
   Edit(QStringLiteral("Left"));
   Press(Qt::Key_A, Qt::ControlModifier);
   KeyIn(QStringLiteral("40"));
-  PressAndSettle(Qt::Key_Tab);
+  PressAndWait(Qt::Key_Tab);
   EXPECT_EQ(label->Left(), 40);
   EXPECT_EQ(CurrentRow(), QStringLiteral("Top"));
   ASSERT_NE(EditorAs<QLineEdit>(), nullptr);
   Press(Qt::Key_A, Qt::ControlModifier);
   KeyIn(QStringLiteral("60"));
-  PressAndSettle(Qt::Key_Backtab, Qt::ShiftModifier);
+  PressAndWait(Qt::Key_Backtab, Qt::ShiftModifier);
   EXPECT_EQ(label->Top(), 60);
   EXPECT_EQ(CurrentRow(), QStringLiteral("Left"));
   ASSERT_NE(Editor(), nullptr);
   KeyIn(QStringLiteral("x"));
-  PressAndSettle(Qt::Key_Tab);  // which a refused text holds back
+  PressAndWait(Qt::Key_Tab);  // an invalid text prevents it
   EXPECT_EQ(CurrentRow(), QStringLiteral("Left"));
   EXPECT_TRUE(IsRefused(QStringLiteral("Left")));
-  PressAndSettle(Qt::Key_Escape);
+  PressAndWait(Qt::Key_Escape);
   EXPECT_EQ(label->Left(), 40);
 }
 
-TEST_F(GridKeyTest, TypingReplacesTheValueOfAListHoweverItWasOpened) {
+TEST_F(GridKeyTest, TypingReplacesTheValueOfAList) {
   const Ref<IControl> box = Add(ControlTypeEnum::ctTextBox);
   struct {
     const char* row;
@@ -159,11 +159,11 @@ TEST_F(GridKeyTest, TypingReplacesTheValueOfAListHoweverItWasOpened) {
     const QString name = QLatin1String(row);
     Edit(name);
     KeyIn(QLatin1String(first));
-    PressAndSettle(Qt::Key_Return);
+    PressAndWait(Qt::Key_Return);
     EXPECT_EQ(ValueOf(name), QLatin1String(first));
     GoTo(name);
     KeyIn(QLatin1String(second));
-    PressAndSettle(Qt::Key_Return);
+    PressAndWait(Qt::Key_Return);
     EXPECT_EQ(ValueOf(name), QLatin1String(second));
   }
 }
@@ -179,32 +179,32 @@ TEST_F(GridKeyTest, HomeAndEndGoToTheFirstAndTheLastRow) {
   EXPECT_EQ(View().currentIndex().column(), PropertyModel::kValue);
 }
 
-TEST_F(GridKeyTest, TabFromTheLastRowEndsTheEditing) {
+TEST_F(GridKeyTest, TabFromTheLastRowEndsEditing) {
   Add(ControlTypeEnum::ctLabel);
   Edit(Rows().NameOf(Rows().rowCount() - 1));
-  PressAndSettle(Qt::Key_Tab);
+  PressAndWait(Qt::Key_Tab);
   EXPECT_EQ(Editor(), nullptr);
   EXPECT_EQ(QApplication::focusWidget(), &View());
 }
 
-TEST_F(GridKeyTest, ArrowsStepThroughAListUntilEnterTakesTheChoice) {
+TEST_F(GridKeyTest, ArrowsMoveThroughAListUntilEnterCommits) {
   const Ref<IControl> box = Add(ControlTypeEnum::ctTextBox);
   Edit(QStringLiteral("InputType"));
   ASSERT_NE(EditorAs<QComboBox>(), nullptr);
-  PressAndSettle(Qt::Key_Down);
-  PressAndSettle(Qt::Key_Down);
+  PressAndWait(Qt::Key_Down);
+  PressAndWait(Qt::Key_Down);
   ASSERT_NE(Editor(), nullptr);
   EXPECT_EQ(ToText(box->PropertyValue(u"InputType")), u"Text");
-  PressAndSettle(Qt::Key_Return);
+  PressAndWait(Qt::Key_Return);
   EXPECT_EQ(Editor(), nullptr);
   EXPECT_EQ(ToText(box->PropertyValue(u"InputType")), u"Integer");
   Edit(QStringLiteral("InputType"));
   Press(Qt::Key_Up);
-  PressAndSettle(Qt::Key_Escape);
+  PressAndWait(Qt::Key_Escape);
   EXPECT_EQ(ToText(box->PropertyValue(u"InputType")), u"Integer");
 }
 
-TEST_F(GridKeyTest, ShowsAValueThatIsNoneOfTheChoices) {
+TEST_F(GridKeyTest, ShowsAValueOutsideTheChoices) {
   const Ref<IControl> box = Add(ControlTypeEnum::ctTextBox);
   box->SetPropertyValue(u"InputType", Variant(u"String"));
   Rows().RefreshAll();
@@ -213,11 +213,11 @@ TEST_F(GridKeyTest, ShowsAValueThatIsNoneOfTheChoices) {
   ASSERT_NE(combo, nullptr);
   EXPECT_EQ(combo->currentText(), QStringLiteral("String"));
   EXPECT_EQ(combo->count(), 4);
-  PressAndSettle(Qt::Key_Return);
+  PressAndWait(Qt::Key_Return);
   EXPECT_EQ(ToText(box->PropertyValue(u"InputType")), u"String");
 }
 
-TEST_F(GridKeyTest, TakesWhatIsTypedWhenTheMouseGoesToTheForm) {
+TEST_F(GridKeyTest, CommitsTheTypedValueOnAClickOnTheForm) {
   const Ref<IControl> first = Add(ControlTypeEnum::ctLabel);
   const Ref<IControl> second = Add(ControlTypeEnum::ctLabel);
   Edit(QStringLiteral("Left"));
@@ -247,24 +247,24 @@ class ImageRowTest : public PropertyGridTest {
   }
 };
 
-TEST_F(ImageRowTest, IsEmptiedByTheDeleteKeyInTheRowAndInTheCell) {
+TEST_F(ImageRowTest, IsClearedByTheDeleteKeyInTheRowAndInTheCell) {
   SetImage();
   EXPECT_EQ(ValueOf(QStringLiteral("Image")), QString::fromUtf8("16 × 16 pixels"));
   GoTo(QStringLiteral("Image"));
-  PressAndSettle(Qt::Key_Delete);
+  PressAndWait(Qt::Key_Delete);
   EXPECT_FALSE(HasImage());
   EXPECT_EQ(ValueOf(QStringLiteral("Image")), QStringLiteral("(none)"));
   EXPECT_EQ(Editor(), nullptr);
-  Settle();
+  RecordStep();
   Trigger("mnuUndo");
   SelectForm();
   SetImage();
   Edit(QStringLiteral("Image"));
-  PressAndSettle(Qt::Key_Backspace);
+  PressAndWait(Qt::Key_Backspace);
   EXPECT_FALSE(HasImage());
 }
 
-TEST_F(ImageRowTest, IsEmptiedByItsButtonWhichIsOffWhereThereIsNone) {
+TEST_F(ImageRowTest, IsClearedByItsButtonWhichIsDisabledWithoutAnImage) {
   SetImage();
   Edit(QStringLiteral("Image"));
   ASSERT_NE(ClearButton(), nullptr);
@@ -274,7 +274,7 @@ TEST_F(ImageRowTest, IsEmptiedByItsButtonWhichIsOffWhereThereIsNone) {
   Edit(QStringLiteral("Image"));
   ASSERT_NE(ClearButton(), nullptr);
   EXPECT_FALSE(ClearButton()->isEnabled());
-  PressAndSettle(Qt::Key_Delete);
+  PressAndWait(Qt::Key_Delete);
   EXPECT_FALSE(HasImage());
 }
 
@@ -284,7 +284,7 @@ TEST_F(ImageRowTest, StaysEmptyInTheFile) {
   ASSERT_EQ(bench->Project().Save(path), QString());
   EXPECT_TRUE(Read(path).contains("FORM_IMAGE"));
   GoTo(QStringLiteral("Image"));
-  PressAndSettle(Qt::Key_Delete);
+  PressAndWait(Qt::Key_Delete);
   ASSERT_EQ(bench->Project().Save(path), QString());
   EXPECT_FALSE(Read(path).contains("FORM_IMAGE"));
 }

@@ -1,5 +1,5 @@
-// The grid around any form element, also one with rows that no class of the library has: what it looks like
-// and what it tells of itself.
+// The grid with any form element, including one with rows that no class of the library has: its look and what
+// it reports to screen readers.
 
 #include <QHeaderView>
 #include <QToolButton>
@@ -14,11 +14,11 @@ using enum PropertyTypeEnum;
 
 constexpr std::int32_t kRows = 17;
 
-/// Each type of row stands in a row of its own, in the order of their numbers, which begin at -1.
+/// One row for each type, in the order of their numbers, which begin at -1.
 constexpr std::int32_t RowOf(PropertyTypeEnum type) { return static_cast<std::int32_t>(type) + 1; }
 constexpr PropertyTypeEnum TypeAt(std::int32_t row) { return static_cast<PropertyTypeEnum>(row - 1); }
 
-/// A form element with a row of each type, as a class to come may be.
+/// A form element with a row of each type.
 class AnyControl final : public IControl {
  public:
   Text TypeName() const override { return u"AnyControl"; }
@@ -64,7 +64,7 @@ class GridPartsTest : public testing::Test {
   PropertyGrid grid{choices, nullptr};
 };
 
-TEST_F(GridPartsTest, HasAnEditorForEachTypeThatTellsItsRow) {
+TEST_F(GridPartsTest, HasALabelledEditorForEachType) {
   static_assert(RowOf(ptNone) == 0 && RowOf(ptConnectionString) == kRows - 1);
   for (int type = 0; type < kRows; ++type) {
     const PropertyTypeEnum row = TypeAt(type);
@@ -81,7 +81,7 @@ TEST_F(GridPartsTest, HasAnEditorForEachTypeThatTellsItsRow) {
   }
 }
 
-TEST_F(GridPartsTest, TakesATypedFileAndARealNumberOfAnySize) {
+TEST_F(GridPartsTest, AcceptsATypedFileAndAnyRealNumber) {
   Edit(ptFileName);
   QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("/data/a b.txt"));
   QTest::keyClick(grid.windowHandle(), Qt::Key_Return);
@@ -117,7 +117,7 @@ TEST_F(GridPartsTest, ShowsTheNamesInANarrowPane) {
   EXPECT_LE(grid.View().horizontalHeader()->length(), grid.View().viewport()->width());
 }
 
-TEST_F(GridPartsTest, GivesNamesTheWidthTheyNeedUpToHalfOfTheGrid) {
+TEST_F(GridPartsTest, GivesNamesTheirWidthUpToHalfOfTheGrid) {
   const Ref<AnyControl> other = MakeRef<AnyControl>();
   other->beginning = u"AThemeSelectorOfThisName";
   const QTableView& view = grid.View();
@@ -142,7 +142,7 @@ TEST_F(GridPartsTest, GivesNamesTheWidthTheyNeedUpToHalfOfTheGrid) {
   EXPECT_TRUE(cell.data(Qt::ToolTipRole).toString().startsWith(name + u'\n'));
 }
 
-TEST_F(GridPartsTest, KeepsTheShareOfTheNamesThatTheUserChose) {
+TEST_F(GridPartsTest, KeepsTheColumnRatioChosenByTheUser) {
   QTableView& view = grid.View();
   view.horizontalHeader()->resizeSection(PropertyModel::kName, view.viewport()->width() / 4);
   grid.resize(1000, 600);
@@ -151,7 +151,7 @@ TEST_F(GridPartsTest, KeepsTheShareOfTheNamesThatTheUserChose) {
   EXPECT_NEAR(view.columnWidth(PropertyModel::kName), view.viewport()->width() / 4, 2);
 }
 
-TEST_F(GridPartsTest, ShowsSystemColoursAsTheyAreNow) {
+TEST_F(GridPartsTest, ShowsTheCurrentSystemColors) {
   control->values[RowOf(ptColor)] = Variant(ToOleColor(SystemColor::Window));
   grid.Model().RefreshAll();
   const QPalette before = QApplication::palette();
@@ -168,7 +168,7 @@ TEST_F(GridPartsTest, ShowsSystemColoursAsTheyAreNow) {
   QApplication::setPalette(before);
 }
 
-TEST_F(GridPartsTest, RowAtHandLooksOtherwiseWithoutTheKeyboard) {
+TEST_F(GridPartsTest, TheCurrentRowLooksDifferentWithoutFocus) {
   grid.EditRow(NameOf(ptString));
   const QImage with = grid.View().viewport()->grab().toImage();
   grid.View().clearFocus();

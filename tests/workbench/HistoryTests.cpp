@@ -16,17 +16,18 @@ ProjectState StateOf(const char* file, const Text& script = {}) {
   return state;
 }
 
-TEST(HistoryOfStates, ForgetsTheOldestBeyondItsLimit) {
+TEST(HistoryOfStates, DropsTheOldestBeyondItsLimit) {
   History history;
   history.Begin(StateOf("first"), true);
-  for (std::size_t i = 0; i < History::kMostSteps + 10; ++i) history.Add(StateOf(std::to_string(i).c_str()));
+  for (std::size_t i = 0; i < History::kMaximumSteps + 10; ++i)
+    history.Add(StateOf(std::to_string(i).c_str()));
   std::size_t steps = 0;
   for (; history.CanUndo(); ++steps) history.Undo();
-  EXPECT_EQ(steps, History::kMostSteps);
+  EXPECT_EQ(steps, History::kMaximumSteps);
   EXPECT_FALSE(history.IsSaved());
 }
 
-TEST(HistoryOfStates, LosesTheSavedStateWhenItIsOverwritten) {
+TEST(HistoryOfStates, IsModifiedAfterTheSavedStateIsDropped) {
   History history;
   history.Begin(StateOf("a"), false);
   history.Add(StateOf("b"));
@@ -38,7 +39,7 @@ TEST(HistoryOfStates, LosesTheSavedStateWhenItIsOverwritten) {
   EXPECT_FALSE(history.IsSaved());
 }
 
-TEST(HistoryOfStates, KeepsTheStepsOfTheFormHoweverMuchIsTyped) {
+TEST(HistoryOfStates, KeepsTheStepsOfTheFormDespiteMuchTyping) {
   History history;
   history.Begin(StateOf("0"), true);
   for (const char* form : {"1", "2", "3"}) history.Add(StateOf(form));
@@ -53,7 +54,7 @@ TEST(HistoryOfStates, KeepsTheStepsOfTheFormHoweverMuchIsTyped) {
   EXPECT_TRUE(history.IsSaved());
 }
 
-TEST(HistoryOfStates, TakesTypingAsOneStepUntilItEnds) {
+TEST(HistoryOfStates, MergesTypingIntoOneStepUntilItEnds) {
   History history;
   history.Begin(StateOf("form"), true);
   for (const char16_t* typed : {u"S", u"Su", u"Sub"}) history.AddTyped(StateOf("form", typed));
@@ -65,30 +66,30 @@ TEST(HistoryOfStates, TakesTypingAsOneStepUntilItEnds) {
   EXPECT_FALSE(history.CanRedo());
 }
 
-TEST(HistoryOfStates, GoesBackToTheSavedScriptAndNotPastIt) {
+TEST(HistoryOfStates, UndoesTypingToTheSavedScriptFirst) {
   History history;
   history.Begin(StateOf("form"), false);
   history.AddTyped(StateOf("form", u"a"));
   history.MarkSaved();
   history.AddTyped(StateOf("form", u"ab"));
   EXPECT_FALSE(history.IsSaved());
-  history.AddTyped(StateOf("form", u"a"));  // what was typed is deleted again
+  history.AddTyped(StateOf("form", u"a"));  // the typed text is deleted again
   EXPECT_TRUE(history.IsSaved());
   EXPECT_FALSE(history.CanRedo());
   EXPECT_TRUE(history.Undo().script.content.IsEmpty());
 }
 
-TEST_F(HistoryTest, TakesAHundredStepsBackAndForthWithTheSelection) {
+TEST_F(HistoryTest, UndoesAndRedoesAHundredStepsWithTheSelection) {
   bench->Project().Insert(ControlTypeEnum::ctLabel);
   Type(QStringLiteral("Name"), QStringLiteral("lblA"));
   bench->Project().Insert(ControlTypeEnum::ctTextBox);
   Type(QStringLiteral("Name"), QStringLiteral("txtB"));
-  Settle();
+  RecordStep();
   constexpr int kSteps = 120;
   for (int i = 1; i <= kSteps; ++i) {
     Select(i % 2 ? QStringLiteral("lblA") : QStringLiteral("txtB"));
     Designer().CurrentControl()->SetLeft(static_cast<float>(10 + i));
-    Settle();
+    RecordStep();
   }
   for (int i = kSteps; i > 1; --i) {
     EXPECT_EQ(Designer().CurrentControl()->Left(), 10 + i);
@@ -103,11 +104,11 @@ TEST_F(HistoryTest, TakesAHundredStepsBackAndForthWithTheSelection) {
   EXPECT_FALSE(bench->Project().CanRedo());
 }
 
-TEST_F(HistoryTest, GoesBackToAFormWithoutControlsAndItsSettings) {
+TEST_F(HistoryTest, UndoesToAFormWithoutControlsAndItsSettings) {
   Type(QStringLiteral("Text"), QStringLiteral("Inspection"));
-  Settle();
+  RecordStep();
   bench->Project().Insert(ControlTypeEnum::ctLabel);
-  Settle();
+  RecordStep();
   bench->Project().Undo();
   EXPECT_TRUE(bench->Project().IsEmpty());
   EXPECT_EQ(bench->Stage().Caption(), QStringLiteral("Inspection"));
@@ -118,10 +119,10 @@ TEST_F(HistoryTest, GoesBackToAFormWithoutControlsAndItsSettings) {
   EXPECT_EQ(Designer().Controls().Count(), 2);
 }
 
-TEST_F(HistoryTest, BringsADeletedControlBackSelected) {
+TEST_F(HistoryTest, RestoresAndSelectsADeletedControl) {
   bench->Project().Insert(ControlTypeEnum::ctLabel);
   const QString name = Selected();
-  Settle();
+  RecordStep();
   Trigger("mnuDelete");
   EXPECT_FALSE(Has(name));
   Trigger("mnuUndo");
@@ -129,10 +130,10 @@ TEST_F(HistoryTest, BringsADeletedControlBackSelected) {
   EXPECT_EQ(Selected(), name);
 }
 
-TEST_F(HistoryTest, KeepsWhatWasCopied) {
+TEST_F(HistoryTest, KeepsTheClipboard) {
   bench->Project().Insert(ControlTypeEnum::ctCommandButton);
   Trigger("mnuCopy");
-  Settle();
+  RecordStep();
   Trigger("mnuUndo");
   EXPECT_TRUE(bench->Project().IsEmpty());
   ASSERT_TRUE(bench->Action(QStringLiteral("mnuPaste"))->isEnabled());
@@ -140,11 +141,11 @@ TEST_F(HistoryTest, KeepsWhatWasCopied) {
   EXPECT_EQ(Designer().Controls().Count(), 2);
 }
 
-TEST_F(HistoryTest, CoversTheScript) {
+TEST_F(HistoryTest, UndoesChangesOfTheScript) {
   bench->Project().Insert(ControlTypeEnum::ctLabel);
-  Settle();
+  RecordStep();
   bench->Script().Editor().setPlainText(QStringLiteral("Sub Form_Initialize()\nEnd Sub\n"));
-  Settle();
+  RecordStep();
   EXPECT_EQ(bench->Project().GetScript().content, u"Sub Form_Initialize()\r\nEnd Sub\r\n");
   Trigger("mnuUndo");
   EXPECT_EQ(bench->Script().Editor().toPlainText(), QString());
@@ -156,10 +157,10 @@ class TypingTest : public HistoryTest {
  protected:
   TypingTest() {
     bench->Project().Insert(ControlTypeEnum::ctLabel);
-    Settle();
+    RecordStep();
   }
   QPlainTextEdit& Editor() { return bench->Script().Editor(); }
-  /// Types as a person does who stops for a moment behind each character.
+  /// Types with a short pause after each character.
   void TypeScript(const QString& text) {
     for (const QChar character : text) {
       if (character == u'\n') {
@@ -185,7 +186,7 @@ TEST_F(TypingTest, IsOneStepForEachLine) {
   EXPECT_EQ(Editor().toPlainText(), QStringLiteral("one\ntwo"));
 }
 
-TEST_F(TypingTest, LosesNothingWithoutAnyPause) {
+TEST_F(TypingTest, RecordsEverythingWithoutAPause) {
   Designer().CurrentControl()->SetLeft(77);
   QTest::keyClicks(&Editor(), QStringLiteral("a"));
   QTest::keyClick(&Editor(), Qt::Key_Return);
@@ -198,7 +199,7 @@ TEST_F(TypingTest, LosesNothingWithoutAnyPause) {
   EXPECT_EQ(Find(QStringLiteral("object_1")).Left(), 77);
 }
 
-TEST_F(TypingTest, IsAnotherStepBehindALongPause) {
+TEST_F(TypingTest, BeginsAnotherStepAfterALongPause) {
   TypeScript(QStringLiteral("a"));
   QTest::qWait(3100);
   TypeScript(QStringLiteral("b"));
@@ -206,11 +207,11 @@ TEST_F(TypingTest, IsAnotherStepBehindALongPause) {
   EXPECT_EQ(Editor().toPlainText(), QStringLiteral("a"));
 }
 
-TEST_F(TypingTest, IsAnotherStepBehindAStepOfTheForm) {
+TEST_F(TypingTest, BeginsAnotherStepAfterAStepOfTheForm) {
   TypeScript(QStringLiteral("a"));
   Designer().CurrentControl()->SetLeft(77);
   QTest::keyClicks(&Editor(), QStringLiteral("b"));
-  Settle();
+  RecordStep();
   Trigger("mnuUndo");
   EXPECT_EQ(Editor().toPlainText(), QStringLiteral("a"));
   EXPECT_EQ(Find(QStringLiteral("object_1")).Left(), 77);
@@ -221,16 +222,16 @@ TEST_F(TypingTest, IsAnotherStepBehindAStepOfTheForm) {
   EXPECT_EQ(Editor().toPlainText(), QString());
 }
 
-TEST_F(TypingTest, LeavesTheEditorWhereItIsWhenItIsUndoneOnTheForm) {
+TEST_F(TypingTest, KeepsTheEditorPositionWhenUndoneOnTheForm) {
   QStringList lines;
   for (int line = 0; line < 200; ++line) lines += QStringLiteral("' line %1").arg(line);
   Editor().setPlainText(lines.join(u'\n'));
   QTextCursor cursor(Editor().document()->findBlockByNumber(120));
   Editor().setTextCursor(cursor);
   Editor().centerCursor();
-  Settle();
+  RecordStep();
   QTest::keyClicks(&Editor(), QStringLiteral("typed"));
-  Settle();
+  RecordStep();
   const int scrolled = Editor().verticalScrollBar()->value();
   ASSERT_GT(scrolled, 0);
   Trigger("mnuUndo");
@@ -241,7 +242,7 @@ TEST_F(TypingTest, LeavesTheEditorWhereItIsWhenItIsUndoneOnTheForm) {
   EXPECT_TRUE(Editor().toPlainText().contains(QStringLiteral("typed' line 120")));
 }
 
-TEST_F(TypingTest, IsUndoneWithoutAnotherDesigner) {
+TEST_F(TypingTest, IsUndoneWithoutReplacingTheDesigner) {
   QTest::keyClicks(&Editor(), QStringLiteral("a"));
   const cardwright::FormDesigner* before = &Designer();
   Trigger("mnuUndo");
@@ -271,7 +272,7 @@ TEST_F(TypingTest, WritesNoProjectForAPause) {
   EXPECT_EQ(steps(), before);
 }
 
-TEST_F(HistoryTest, GoesBackToTheEmptyFormAndForthOverEachKindFreshFromTheToolBox) {
+TEST_F(HistoryTest, UndoesAndRedoesEveryClassFromTheToolBox) {
   std::vector<QString> texts;
   const auto text = [this] {
     const Ref<IControl> last(AsControl(Designer().Controls().Item(Variant(Designer().Controls().Count()))));
@@ -280,7 +281,7 @@ TEST_F(HistoryTest, GoesBackToTheEmptyFormAndForthOverEachKindFreshFromTheToolBo
   for (int kind = 1; kind <= 14; ++kind) {
     texts.push_back(text());
     bench->Project().Insert(static_cast<ControlTypeEnum>(kind));
-    Settle();
+    RecordStep();
   }
   const QString end = text();
   for (auto before = texts.rbegin(); before != texts.rend(); ++before) {
@@ -299,14 +300,14 @@ TEST_F(HistoryTest, GoesBackToTheEmptyFormAndForthOverEachKindFreshFromTheToolBo
 
 TEST_F(HistoryTest, KeepsTheLock) {
   bench->Project().Insert(ControlTypeEnum::ctLabel);
-  Settle();
+  RecordStep();
   const auto isLocked = [&] { return bench->Action(QStringLiteral("mnuLock"))->isChecked(); };
   Trigger("mnuLock");
   Type(QStringLiteral("Text"), QStringLiteral("locked"));
   Trigger("mnuUndo");
   EXPECT_TRUE(isLocked());
   EXPECT_FALSE(bench->Action(QStringLiteral("mnuForeground"))->isEnabled());
-  Trigger("mnuUndo");  // to the form without controls, which has no lock
+  Trigger("mnuUndo");  // to the form without controls, which cannot be locked
   EXPECT_FALSE(isLocked());
   Trigger("mnuRedo");
   Trigger("mnuRedo");
@@ -320,12 +321,12 @@ TEST_F(HistoryTest, KeepsTheLock) {
   EXPECT_FALSE(isLocked());
 }
 
-TEST_F(HistoryTest, KnowsTheSavedStateAgain) {
+TEST_F(HistoryTest, RecognizesTheSavedState) {
   bench->Project().Insert(ControlTypeEnum::ctLabel);
   ASSERT_EQ(bench->Project().Save(PathOf(QStringLiteral("a.cwf"))), QString());
   EXPECT_FALSE(bench->isWindowModified());
   Type(QStringLiteral("Text"), QStringLiteral("other"));
-  Settle();
+  RecordStep();
   EXPECT_TRUE(bench->isWindowModified());
   Trigger("mnuUndo");
   EXPECT_FALSE(bench->isWindowModified());

@@ -1,4 +1,4 @@
-// The dialog of a list's entries, with real keys; a cell may be open when a command comes.
+// The dialog for the items of a list, with real keys; a cell may be open when a command is given.
 
 #include <QClipboard>
 
@@ -31,7 +31,7 @@ class ItemsDialogTest : public testing::Test {
   static void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
     QTest::keyClick(QGuiApplication::focusWindow(), key, modifiers);
   }
-  /// A button that is pressed by its letter stays down for a moment before it acts.
+  /// A button pressed by its letter acts after a moment.
   static void PressLetter(Qt::Key key) {
     Press(key, Qt::AltModifier);
     QTest::qWait(150);
@@ -39,7 +39,7 @@ class ItemsDialogTest : public testing::Test {
   void Write(const char* text) {
     for (; *text; ++text) QTest::keyClick(dialog.windowHandle(), *text);
   }
-  /// Opens a cell and writes into it without ending that.
+  /// Opens a cell and types into it without committing.
   void WriteInto(int row, int column, const char* text) {
     table->setCurrentCell(row, column);
     Press(Qt::Key_F2);
@@ -83,13 +83,13 @@ class ItemsCommandTest : public ItemsDialogTest, public testing::WithParamInterf
   ItemsCommandTest() { QApplication::clipboard()->setText(QStringLiteral("x\ny\n")); }
 };
 
-TEST_P(ItemsCommandTest, TakesTheOpenCellFirstWhereItComesByItsLetter) {
+TEST_P(ItemsCommandTest, CommitsTheOpenCellFirstByItsLetter) {
   WriteInto(1, 0, "new");
   PressLetter(GetParam().key);
   EXPECT_EQ(Texts(), GetParam().texts);
 }
 
-TEST_P(ItemsCommandTest, TakesTheOpenCellFirstWhereItsButtonIsPressed) {
+TEST_P(ItemsCommandTest, CommitsTheOpenCellFirstByItsButton) {
   WriteInto(1, 0, "new");
   QTest::mouseClick(&Button(QLatin1String(GetParam().button)), Qt::LeftButton);
   EXPECT_EQ(Texts(), GetParam().texts);
@@ -102,14 +102,14 @@ INSTANTIATE_TEST_SUITE_P(Dialog, ItemsCommandTest,
                                          Command{Qt::Key_R, "Remove", {"a", "c"}},
                                          Command{Qt::Key_P, "Paste lines", {"a", "new", "x", "y", "c"}}));
 
-TEST_F(ItemsDialogTest, TakesTheOpenCellBeforeOk) {
+TEST_F(ItemsDialogTest, CommitsTheOpenCellBeforeOk) {
   WriteInto(2, 1, "last");
   PressLetter(Qt::Key_O);
   EXPECT_EQ(dialog.result(), QDialog::Accepted);
   EXPECT_EQ(Values(), QStringList({"a", "b", "last"}));
 }
 
-TEST_F(ItemsDialogTest, EnterEndsTheCellAndThenTheDialog) {
+TEST_F(ItemsDialogTest, EnterCommitsTheCellAndThenTheDialog) {
   WriteInto(0, 0, "first");
   Press(Qt::Key_Return);
   QTest::qWait(5);
@@ -131,7 +131,7 @@ TEST_F(ItemsDialogTest, TabGoesToTheNextCell) {
   EXPECT_EQ(Values(), QStringList({"G", "b", "c"}));
 }
 
-TEST_F(ItemsDialogTest, InsertAddsAnItemAndDeleteRemovesTheOneAtHand) {
+TEST_F(ItemsDialogTest, InsertAddsAnItemAndDeleteRemovesTheCurrentOne) {
   table->setCurrentCell(0, 0);
   Press(Qt::Key_Insert);
   Write("new");
@@ -143,7 +143,7 @@ TEST_F(ItemsDialogTest, InsertAddsAnItemAndDeleteRemovesTheOneAtHand) {
   EXPECT_EQ(Texts(), QStringList({"a", "new", "c"}));
 }
 
-TEST_F(ItemsDialogTest, PutsPastedLinesIntoOneCellAsOneLine) {
+TEST_F(ItemsDialogTest, PastesSeveralLinesAsOneLine) {
   QApplication::clipboard()->setText(QStringLiteral("one\r\ntwo"));
   WriteInto(0, 0, "");
   Press(Qt::Key_V, Qt::ControlModifier);
@@ -152,7 +152,7 @@ TEST_F(ItemsDialogTest, PutsPastedLinesIntoOneCellAsOneLine) {
   EXPECT_EQ(Texts(), QStringList({"one two", "b", "c"}));
 }
 
-TEST_F(ItemsDialogTest, TellsScreenReadersWhichCellIsOpen) {
+TEST_F(ItemsDialogTest, NamesTheOpenCellForScreenReaders) {
   EXPECT_EQ(table->accessibleName(), QStringLiteral("Items"));
   WriteInto(1, 1, "B");
   EXPECT_EQ(QApplication::focusWidget()->accessibleName(), QStringLiteral("Value of the attribute, item 2"));
@@ -164,11 +164,11 @@ TEST_F(PropertyGridTest, ChangesItemsInTheirDialog) {
   MeetByKeys<ItemsDialog>([](ItemsDialog&) {
     Press(Qt::Key_V, Qt::ControlModifier);
     Press(Qt::Key_U, Qt::AltModifier);
-    QTest::qWait(150);  // a button that is pressed by its letter stays down for a moment
+    QTest::qWait(150);  // a button pressed by its letter acts after a moment
     Press(Qt::Key_O, Qt::AltModifier);
   });
   GoTo(QStringLiteral("Items"));
-  PressAndSettle(Qt::Key_F4);
+  PressAndWait(Qt::Key_F4);
   ASSERT_EQ(ValueOf(QStringLiteral("Items")), QStringLiteral("2 items"));
   const Variant value = box->PropertyValue(u"Items");
   const auto& items = dynamic_cast<const CItems&>(*value.ObjectPtr());

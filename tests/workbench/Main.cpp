@@ -9,8 +9,8 @@
 
 namespace {
 
-/// One application for the whole program, made before the first test and gone before the program ends.
-/// Nothing of the user who runs the tests is read or changed.
+/// One application for all tests, created before the first and destroyed before the program ends. Settings of
+/// the user who runs the tests are neither read nor changed.
 class Application final : public testing::Environment {
  public:
   void SetUp() override {

@@ -1,4 +1,4 @@
-// Opening and saving: nothing is lost, what cannot be read or written is told.
+// Opening and saving: nothing is lost, and failures are reported.
 
 #include "workbench/WorkbenchTest.h"
 #include "workbench/project/Stacking.h"
@@ -8,7 +8,7 @@ namespace {
 
 class ProjectTest : public WorkbenchTest {
  protected:
-  /// Opens and saves under another name; what stands there.
+  /// Opens a project, saves it under another name and returns the new file.
   QByteArray OpenedAndSaved(const QString& path) {
     EXPECT_TRUE(bench->OpenProject(path));
     const QString copy = PathOf(QStringLiteral("copy.cwf"));
@@ -19,8 +19,8 @@ class ProjectTest : public WorkbenchTest {
 
 class ExampleProjectTest : public ProjectTest, public testing::WithParamInterface<const char*> {};
 
-// The script's tail grows by a line break with each reading and saving, which is told of the format.
-TEST_P(ExampleProjectTest, IsSavedByteForByte) {
+// By the rules of the format, the script gets another line break with each save.
+TEST_P(ExampleProjectTest, RoundTripsByteForByte) {
   const QByteArray before = Read(Example(GetParam()));
   ASSERT_FALSE(before.isEmpty());
   EXPECT_EQ(OpenedAndSaved(Example(GetParam())), before + "\r\n");
@@ -29,14 +29,14 @@ TEST_P(ExampleProjectTest, IsSavedByteForByte) {
 INSTANTIATE_TEST_SUITE_P(Examples, ExampleProjectTest,
                          testing::Values("well-inspection.cwf", "map-symbol.cwf"));
 
-TEST_F(ProjectTest, GrowsNoMoreWhenItIsSavedAgainAndAgain) {
+TEST_F(ProjectTest, DoesNotGrowWhenSavedRepeatedly) {
   const QByteArray once = OpenedAndSaved(Example("well-inspection.cwf"));
   const QString copy = PathOf(QStringLiteral("copy.cwf"));
   ASSERT_EQ(bench->Project().Save(copy), QString());
   EXPECT_EQ(Read(copy), once);
 }
 
-TEST_F(ProjectTest, IsSavedWithTheValueThatIsBeingTyped) {
+TEST_F(ProjectTest, IsSavedWithTheValueBeingEdited) {
   const QString path = PathOf(QStringLiteral("form.cwf"));
   bench->Project().Insert(ControlTypeEnum::ctLabel);
   ASSERT_EQ(bench->Project().Save(path), QString());
@@ -49,17 +49,17 @@ TEST_F(ProjectTest, IsSavedWithTheValueThatIsBeingTyped) {
   EXPECT_TRUE(Read(path).contains("Text=still typed"));
 }
 
-TEST_F(ProjectTest, IsTheSameAfterAChangeIsUndone) {
+TEST_F(ProjectTest, IsUnchangedAfterUndo) {
   const QByteArray before = OpenedAndSaved(Example("well-inspection.cwf"));
   Select(QStringLiteral("lblName"));
   Type(QStringLiteral("Left"), QStringLiteral("500"));
-  Settle();
+  RecordStep();
   EXPECT_NE(bench->Project().Bytes(), before);
   Trigger("mnuUndo");
   EXPECT_EQ(bench->Project().Bytes(), before);
 }
 
-TEST_F(ProjectTest, KeepsTheScriptThroughAFillIn) {
+TEST_F(ProjectTest, KeepsTheScriptWhileAFormIsFilledIn) {
   ASSERT_TRUE(bench->OpenProject(Example("well-inspection.cwf")));
   const QByteArray before = bench->Project().Bytes();
   ASSERT_TRUE(bench->OpenData(Example("wells.gpkg")));
@@ -72,7 +72,7 @@ TEST_F(ProjectTest, KeepsTheScriptThroughAFillIn) {
   EXPECT_EQ(bench->Project().Bytes(), before);
 }
 
-TEST_F(ProjectTest, TellsWhatIsNotThereOrHoldsNoForm) {
+TEST_F(ProjectTest, ReportsAMissingFileAndAFileWithoutAForm) {
   QString text;
   AnswerBox(QStringLiteral("OK"), &text);
   EXPECT_FALSE(bench->OpenProject(PathOf(QStringLiteral("none.cwf"))));
@@ -84,7 +84,7 @@ TEST_F(ProjectTest, TellsWhatIsNotThereOrHoldsNoForm) {
   EXPECT_EQ(bench->Project().Path(), QString());
 }
 
-/// Takes a file away in the moment in which a project is about to be read into a new designer.
+/// Removes a file just before it is read into a new designer.
 class FileTaker final : public QObject {
  public:
   explicit FileTaker(QString path) : m_Path(std::move(path)) { qApp->installEventFilter(this); }
@@ -97,7 +97,7 @@ class FileTaker final : public QObject {
   QString m_Path;
 };
 
-TEST_F(ProjectTest, StaysWhereAnotherOneCannotBeRead) {
+TEST_F(ProjectTest, StaysOpenIfAnotherOneCannotBeRead) {
   const QString mine = PathOf(QStringLiteral("mine.cwf"));
   const QString gone = PathOf(QStringLiteral("gone.cwf"));
   Write(gone, Read(Example("well-inspection.cwf")));
@@ -120,7 +120,7 @@ TEST_F(ProjectTest, StaysWhereAnotherOneCannotBeRead) {
   EXPECT_FALSE(bench->isWindowModified());
 }
 
-TEST_F(ProjectTest, TellsOfControlsThatCouldNotBeRead) {
+TEST_F(ProjectTest, ReportsControlsThatCouldNotBeRead) {
   Write(PathOf(QStringLiteral("odd.cwf")),
         "[FORM]\r\nControlsNumber= 2\r\n[CONTROLS_1]\r\nType=Label\r\n"
         "[CONTROLS_2]\r\nType=Sundial\r\n");
@@ -130,7 +130,7 @@ TEST_F(ProjectTest, TellsOfControlsThatCouldNotBeRead) {
   EXPECT_TRUE(text.contains(QStringLiteral("1 control"))) << text.toStdString();
 }
 
-TEST_F(ProjectTest, DoesNotDeleteAFileByAnEmptyForm) {
+TEST_F(ProjectTest, IsNotDeletedBySavingAnEmptyForm) {
   const QString path = PathOf(QStringLiteral("form.cwf"));
   bench->Project().Insert(ControlTypeEnum::ctLabel);
   ASSERT_EQ(bench->Project().Save(path), QString());
@@ -139,7 +139,7 @@ TEST_F(ProjectTest, DoesNotDeleteAFileByAnEmptyForm) {
   EXPECT_TRUE(QFile::exists(path));
 }
 
-TEST_F(ProjectTest, TellsThatAFileCouldNotBeWritten) {
+TEST_F(ProjectTest, ReportsAFileThatCouldNotBeWritten) {
   bench->Project().Insert(ControlTypeEnum::ctLabel);
   EXPECT_FALSE(bench->Project().Save(PathOf(QStringLiteral("no/such/form.cwf"))).isEmpty());
   QDir(folder.path()).mkdir(QStringLiteral("is.cwf"));
@@ -147,16 +147,16 @@ TEST_F(ProjectTest, TellsThatAFileCouldNotBeWritten) {
   EXPECT_TRUE(bench->Project().IsModified());
 }
 
-TEST_F(ProjectTest, ShowsFileAndMarkInTheTitle) {
+TEST_F(ProjectTest, ShowsFileAndModifiedMarkInTheTitle) {
   bench->Project().Insert(ControlTypeEnum::ctLabel);
-  Settle();
+  RecordStep();
   EXPECT_TRUE(bench->isWindowModified());
   ASSERT_EQ(bench->Project().Save(PathOf(QStringLiteral("form.cwf"))), QString());
   EXPECT_TRUE(bench->windowTitle().startsWith(QStringLiteral("form.cwf[*]")));
   EXPECT_FALSE(bench->isWindowModified());
 }
 
-TEST_F(ProjectTest, AsksBeforeUnsavedChangesAreLost) {
+TEST_F(ProjectTest, AsksBeforeDiscardingUnsavedChanges) {
   bench->Project().Insert(ControlTypeEnum::ctLabel);
   ASSERT_EQ(bench->Project().Save(PathOf(QStringLiteral("form.cwf"))), QString());
   Type(QStringLiteral("Text"), QStringLiteral("changed"));
@@ -167,7 +167,7 @@ TEST_F(ProjectTest, AsksBeforeUnsavedChangesAreLost) {
   EXPECT_TRUE(Read(PathOf(QStringLiteral("form.cwf"))).contains("Text=changed"));
 }
 
-TEST_F(ProjectTest, RemembersWhatWasOpened) {
+TEST_F(ProjectTest, IsListedAmongRecentFiles) {
   ASSERT_TRUE(bench->OpenProject(Example("well-inspection.cwf")));
   auto* recent = bench->findChild<QMenu*>(QStringLiteral("mnuRecent"));
   Q_EMIT recent->aboutToShow();
@@ -175,7 +175,7 @@ TEST_F(ProjectTest, RemembersWhatWasOpened) {
   EXPECT_TRUE(recent->actions().first()->text().contains(QStringLiteral("well-inspection.cwf")));
 }
 
-TEST_F(ProjectTest, ForgetsOneThatIsGone) {
+TEST_F(ProjectTest, IsRemovedFromRecentFilesIfMissing) {
   const QString path = PathOf(QStringLiteral("short-lived.cwf"));
   Write(path, Read(Example("well-inspection.cwf")));
   ASSERT_TRUE(bench->OpenProject(path));
@@ -203,7 +203,7 @@ class FramesTest : public ProjectTest {
     Add(ControlTypeEnum::ctFrame, QStringLiteral("outer"), QStringLiteral("inner"));
     Add(ControlTypeEnum::ctTextBox, QStringLiteral("inner"), QStringLiteral("deep"));
     Add(ControlTypeEnum::ctLabel, QStringLiteral("outer"), QStringLiteral("last"));
-    Settle();
+    RecordStep();
   }
   void Add(ControlTypeEnum kind, const QString& frame, const QString& name) {
     if (!frame.isEmpty()) Select(frame);
@@ -213,9 +213,9 @@ class FramesTest : public ProjectTest {
   void Rename(const QString& name, const QString& wanted) {
     Select(name);
     Type(QStringLiteral("Name"), wanted);
-    Settle();
+    RecordStep();
   }
-  /// The controls in the order of the file, each below the frame that it lies in.
+  /// The controls in file order, each below its frame.
   QString Order() {
     QStringList order;
     for (const Ref<IControl>& control : ControlsOf(Designer().Controls())) {
@@ -234,7 +234,7 @@ class FramesTest : public ProjectTest {
   }
 };
 
-TEST_F(FramesTest, AreWholeAfterTheOuterOneIsRenamed) {
+TEST_F(FramesTest, KeepTheirContentsAfterTheOuterOneIsRenamed) {
   Rename(QStringLiteral("outer"), QStringLiteral("hull"));
   const auto* const wanted = u"Form hull hull/first hull/inner hull/inner/deep hull/last";
   EXPECT_EQ(Order(), wanted);
@@ -242,7 +242,7 @@ TEST_F(FramesTest, AreWholeAfterTheOuterOneIsRenamed) {
   EXPECT_EQ(Order(), wanted);
 }
 
-TEST_F(FramesTest, AreWholeAfterTheInnerOneIsRenamed) {
+TEST_F(FramesTest, KeepTheirContentsAfterTheInnerOneIsRenamed) {
   Rename(QStringLiteral("inner"), QStringLiteral("INNER"));
   const auto* const wanted = u"Form outer outer/first outer/last outer/INNER outer/INNER/deep";
   EXPECT_EQ(Order(), wanted);
@@ -250,7 +250,7 @@ TEST_F(FramesTest, AreWholeAfterTheInnerOneIsRenamed) {
   EXPECT_EQ(Order(), wanted);
 }
 
-TEST_F(FramesTest, AreWholeAfterARenamingIsUndoneAndDoneAgain) {
+TEST_F(FramesTest, KeepTheirContentsAfterUndoAndRedoOfARenaming) {
   const QString before = Order();
   Rename(QStringLiteral("outer"), QStringLiteral("hull"));
   Rename(QStringLiteral("hull"), QStringLiteral("hold"));
@@ -265,15 +265,15 @@ TEST_F(FramesTest, AreWholeAfterARenamingIsUndoneAndDoneAgain) {
   EXPECT_EQ(Order(), after);
 }
 
-TEST_F(ProjectTest, LeavesALineEndOfAnotherKindAloneUntilTheScriptIsChanged) {
+TEST_F(ProjectTest, KeepsOtherLineEndsUntilTheScriptChanges) {
   Write(PathOf(QStringLiteral("form.cwf")),
         "[FORM]\r\nControlsNumber= 1\r\n[CONTROLS_1]\r\nType=Label\r\n[SCRIPT]\r\nvbSCRIPT\r\n' a\n' b\r\n");
   const QByteArray saved = OpenedAndSaved(PathOf(QStringLiteral("form.cwf")));
   EXPECT_TRUE(saved.endsWith("[SCRIPT]\r\nvbSCRIPT\r\n' a\n' b\r\n\r\n")) << saved.toStdString();
 }
 
-// What the reader makes of any bytes is the library's affair; here the windows around it must stand it.
-TEST_F(ProjectTest, StandsProjectsOfAnyContent) {
+// The library's own tests check the result; here the windows must not fail.
+TEST_F(ProjectTest, AcceptsAnyContent) {
   const QByteArray example = Read(Example("well-inspection.cwf"));
   std::srand(20261121);
   for (int round = 0; round < 40; ++round) {
@@ -285,12 +285,12 @@ TEST_F(ProjectTest, StandsProjectsOfAnyContent) {
     ASSERT_EQ(bench->Project().Open(PathOf(QStringLiteral("fuzzed.cwf"))), QString());
     QTest::qWait(1);
     for (const Ref<IControl>& control : ControlsOf(Designer().Controls())) Designer().SetCtrl(control);
-    bench->Project().NoteNow();
+    bench->Project().RecordNow();
     bench->Project().Undo();
   }
 }
 
-TEST_F(ProjectTest, StandsFiveThousandControls) {
+TEST_F(ProjectTest, HandlesFiveThousandControls) {
   QByteArray bytes = "[FORM]\r\nScaleMode= 3\r\nWidth= 800\r\nHeight= 600\r\nControlsNumber= 5000\r\n";
   for (int i = 1; i <= 5000; ++i)
     bytes += QStringLiteral(
@@ -305,7 +305,7 @@ TEST_F(ProjectTest, StandsFiveThousandControls) {
   ASSERT_EQ(Designer().Controls().Count(), 5001);
   Select(QStringLiteral("l4321"));
   Trigger("mnuDelete");
-  Settle();
+  RecordStep();
   Trigger("mnuUndo");
   EXPECT_EQ(Selected(), QStringLiteral("l4321"));
 }

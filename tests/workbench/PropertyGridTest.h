@@ -7,7 +7,7 @@
 
 namespace cardwright::workbench {
 
-/// The property grid of a shown workbench, under real keys: they go to the window, whose shortcuts come
+/// The property grid of a shown workbench, with real keys: they go to the window, whose shortcuts are handled
 /// first.
 class PropertyGridTest : public WorkbenchTest {
  protected:
@@ -23,23 +23,23 @@ class PropertyGridTest : public WorkbenchTest {
   static void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
     QTest::keyClick(QGuiApplication::focusWindow(), key, modifiers);
   }
-  /// Ends what is left to the event loop, as an editing does.
-  static void PressAndSettle(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
+  /// Also processes the events that follow, such as the end of editing.
+  static void PressAndWait(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
     Press(key, modifiers);
     QTest::qWait(5);
   }
   static void KeyIn(const QString& text) {
     for (const QChar c : text) QTest::keyClick(QGuiApplication::focusWindow(), c.toLatin1());
   }
-  /// Puts the keyboard on a row.
+  /// Focuses a row.
   void GoTo(const QString& row) { bench->Grid().EditRow(row); }
-  /// Opens the editor of a row; what has the keyboard then.
+  /// Opens the editor of a row and returns the focused widget.
   QWidget* Edit(const QString& row) {
     GoTo(row);
     Press(Qt::Key_F2);
     return QApplication::focusWidget();
   }
-  /// The editor that is open, or null.
+  /// The open editor, or null.
   QWidget* Editor() { return View().indexWidget(View().currentIndex()); }
   template <class Kind>
   Kind* EditorAs() {
@@ -47,16 +47,16 @@ class PropertyGridTest : public WorkbenchTest {
   }
   QString CurrentRow() { return Rows().NameOf(View().currentIndex().row()); }
 
-  /// Answers the next dialog of that class by keys.
+  /// Answers the next dialog of a class by keys.
   template <class Dialog>
   static void MeetByKeys(std::function<void(Dialog& dialog)> answer) {
     qt::Meet<Dialog>([answer = std::move(answer)](Dialog& dialog) {
-      // Not when it is active, which it is as soon as its owner is.
+      // Being active is not enough: it is active as soon as its owner is.
       ASSERT_TRUE(QTest::qWaitFor([&] { return QGuiApplication::focusWindow() == dialog.windowHandle(); }));
       answer(dialog);
     });
   }
-  /// Picks from the list of a row's editor.
+  /// Chooses from the list of a row's editor.
   void Pick(const QString& row, const QString& text) {
     GoTo(row);
     Press(Qt::Key_F4);
@@ -65,7 +65,7 @@ class PropertyGridTest : public WorkbenchTest {
     const int at = combo->findText(text);
     ASSERT_GE(at, 0) << text.toStdString();
     combo->view()->setCurrentIndex(combo->model()->index(at, 0));
-    PressAndSettle(Qt::Key_Return);
+    PressAndWait(Qt::Key_Return);
     ASSERT_EQ(Editor(), nullptr);
   }
 };

@@ -1,4 +1,4 @@
-// The property grid: each kind of editor writes by the control's contract, and says why it refuses.
+// The property grid: each type of editor sets the property of the control, or shows why it refuses.
 
 #include <QColorDialog>
 #include <QFontDialog>
@@ -13,7 +13,7 @@
 namespace cardwright::workbench {
 namespace {
 
-TEST_F(PropertyGridTest, KeepsAFontSizeThatItsDialogHasNot) {
+TEST_F(PropertyGridTest, KeepsAFontSizeMissingInTheDialog) {
   const Ref<IControl> label = Add(ControlTypeEnum::ctLabel);
   ASSERT_EQ(label->GetFont()->Values().size, 8.25);
   qt::Meet<QFontDialog>([](QFontDialog& dialog) {
@@ -23,12 +23,12 @@ TEST_F(PropertyGridTest, KeepsAFontSizeThatItsDialogHasNot) {
     dialog.accept();
   });
   GoTo(QStringLiteral("Font"));
-  PressAndSettle(Qt::Key_F4);
+  PressAndWait(Qt::Key_F4);
   EXPECT_TRUE(label->GetFont()->Values().underline);
   EXPECT_EQ(label->GetFont()->Values().size, 8.25);
 }
 
-TEST_F(PropertyGridTest, ChoosesAColourOfItsOwnInADialog) {
+TEST_F(PropertyGridTest, SetsACustomColorInADialog) {
   const Ref<IControl> label = Add(ControlTypeEnum::ctLabel);
   qt::Meet<QColorDialog>([](QColorDialog& dialog) {
     dialog.setCurrentColor(QColor(1, 2, 3));
@@ -42,7 +42,7 @@ TEST_F(PropertyGridTest, ChoosesAColourOfItsOwnInADialog) {
   EXPECT_EQ(ValueOf(QStringLiteral("ForeColor")), QStringLiteral("#010203"));
 }
 
-TEST_F(PropertyGridTest, TakesColoursByNameByThreeDigitsAndByNumber) {
+TEST_F(PropertyGridTest, AcceptsColorsByNameByThreeDigitsAndByNumber) {
   const Ref<IControl> label = Add(ControlTypeEnum::ctLabel);
   for (const auto& [text, color] : std::initializer_list<std::pair<const char*, OleColor>>{
            {"tomato", Rgb(255, 99, 71)},
@@ -55,7 +55,7 @@ TEST_F(PropertyGridTest, TakesColoursByNameByThreeDigitsAndByNumber) {
   }
 }
 
-TEST_F(PropertyGridTest, ShowsTheRowsOfTheTableInItsOrder) {
+TEST_F(PropertyGridTest, ShowsTheRowsInTableOrder) {
   Add(ControlTypeEnum::ctTextBox);
   const Ref<IControl> box = Designer().CurrentControl();
   ASSERT_EQ(Rows().rowCount(), box->PropertyCount());
@@ -65,7 +65,7 @@ TEST_F(PropertyGridTest, ShowsTheRowsOfTheTableInItsOrder) {
   }
 }
 
-TEST_F(PropertyGridTest, ShowsTheDescriptionOfTheRowAtHand) {
+TEST_F(PropertyGridTest, ShowsTheDescriptionOfTheCurrentRow) {
   Add(ControlTypeEnum::ctTextBox);
   bench->Grid().EditRow(QStringLiteral("Width"));
   EXPECT_EQ(bench->Grid().Notice(), Rows().DescriptionOf(Rows().RowOf(QStringLiteral("Width"))));
@@ -83,13 +83,13 @@ TEST_F(PropertyGridTest, WritesTypedTextsAndNumbers) {
   EXPECT_EQ(label->Width(), 80.5F);
 }
 
-TEST_F(PropertyGridTest, KeepsTheKeyboardWhileItMovesTheControl) {
+TEST_F(PropertyGridTest, KeepsTheFocusWhileItMovesTheControl) {
   Add(ControlTypeEnum::ctLabel);
   Type(QStringLiteral("Left"), QStringLiteral("50"));
   EXPECT_TRUE(bench->Grid().isAncestorOf(QApplication::focusWidget()));
 }
 
-TEST_F(PropertyGridTest, TakesSystemColoursAndTypedOnes) {
+TEST_F(PropertyGridTest, AcceptsSystemColorsAndTypedOnes) {
   Add(ControlTypeEnum::ctLabel);
   const Ref<IControl> label = Designer().CurrentControl();
   Pick(QStringLiteral("BackColor"), QStringLiteral("Window background"));
@@ -102,13 +102,13 @@ TEST_F(PropertyGridTest, TakesSystemColoursAndTypedOnes) {
   EXPECT_TRUE(bench->Grid().Notice().contains(QStringLiteral("greenish")));
 }
 
-TEST_F(PropertyGridTest, OffersTheTextsOfAList) {
+TEST_F(PropertyGridTest, ListsTheChoicesOfAList) {
   Add(ControlTypeEnum::ctTextBox);
   Pick(QStringLiteral("InputType"), QStringLiteral("Integer"));
   EXPECT_EQ(ToText(Designer().CurrentControl()->PropertyValue(u"InputType")), u"Integer");
 }
 
-TEST_F(PropertyGridTest, OffersTheControlsThatALinkMayName) {
+TEST_F(PropertyGridTest, ListsTheControlsThatALinkCanName) {
   Add(ControlTypeEnum::ctThemeSelector);
   Type(QStringLiteral("Name"), QStringLiteral("selTheme"));
   Add(ControlTypeEnum::ctAttributeSelector);
@@ -116,7 +116,7 @@ TEST_F(PropertyGridTest, OffersTheControlsThatALinkMayName) {
   EXPECT_EQ(ToText(Designer().CurrentControl()->PropertyValue(u"ThemeSelectorName")), u"selTheme");
 }
 
-TEST_F(PropertyGridTest, OffersThemesAndAttributesOfTheDataSource) {
+TEST_F(PropertyGridTest, ListsThemesAndAttributesOfTheDataSource) {
   ASSERT_TRUE(bench->OpenData(Example("wells.gpkg")));
   SelectForm();
   Pick(QStringLiteral("ThemeName"), QStringLiteral("wells"));
@@ -128,7 +128,7 @@ TEST_F(PropertyGridTest, OffersThemesAndAttributesOfTheDataSource) {
   EXPECT_EQ(Designer().CurrentControl()->AttributeName(), u"NAME");
 }
 
-TEST_F(PropertyGridTest, KeepsTheTextOfAComboBoxWhoseItemsChange) {
+TEST_F(PropertyGridTest, KeepsTheTextOfAComboBoxWhenItsItemsChange) {
   const Ref<IControl> combo = Add(ControlTypeEnum::ctComboBox);
   const Variant row(u"Items");
   auto item = MakeRef<CItem>();
@@ -148,7 +148,7 @@ TEST_F(PropertyGridTest, KeepsTheTextOfAComboBoxWhoseItemsChange) {
   EXPECT_EQ(ValueOf(QStringLiteral("Text")), QStringLiteral("Sandstone"));
 }
 
-TEST_F(PropertyGridTest, KeepsTheHandlesAtAListThatAFontMakesHigher) {
+TEST_F(PropertyGridTest, MovesTheHandlesWhenAFontResizesAList) {
   const Ref<IControl> combo = Add(ControlTypeEnum::ctComboBox);
   const float before = combo->Height();
   const Ref<Font> font = combo->GetFont();
@@ -170,12 +170,12 @@ TEST_F(PropertyGridTest, ChangesTheFontInItsDialog) {
     dialog.accept();
   });
   Edit(QStringLiteral("Font"));
-  PressAndSettle(Qt::Key_Return);
+  PressAndWait(Qt::Key_Return);
   EXPECT_EQ(Designer().CurrentControl()->GetFont()->Values().size, 14);
   EXPECT_TRUE(ValueOf(QStringLiteral("Font")).contains(QStringLiteral("14 pt")));
 }
 
-TEST(PicturesTest, TurnAnImageIntoAnIconAndBack) {
+TEST(PicturesTest, ConvertAnImageToAnIconAndBack) {
   QImage image(32, 16, QImage::Format_RGB32);
   image.fill(Qt::blue);
   const Ref<Picture> icon = IconPicture(image);

@@ -13,9 +13,9 @@ class RecoveryTest : public WorkbenchTest {
     bench->Project().Insert(ControlTypeEnum::ctLabel);
     EXPECT_EQ(bench->Project().Save(project), QString());
     Type(QStringLiteral("Text"), QStringLiteral("not saved"));
-    Settle();
+    RecordStep();
   }
-  /// Leaves the work as a program does that ends in the middle of it: the file stays, nobody holds it.
+  /// Leaves the file as a crashed program does: it exists and nobody uses it.
   void LeaveWork() {
     const QString work = Recovery::FileFor(project);
     {
@@ -31,28 +31,28 @@ class RecoveryTest : public WorkbenchTest {
   const QString project = PathOf(QStringLiteral("form.cwf"));
 };
 
-TEST_F(RecoveryTest, IsKeptBesideTheProjectWithinSeconds) {
+TEST_F(RecoveryTest, IsSavedBesideTheProjectWithinSeconds) {
   const QString work = Recovery::FileFor(project);
   EXPECT_EQ(QFileInfo(work).absolutePath(), QFileInfo(project).absolutePath());
   EXPECT_TRUE(QTest::qWaitFor([&] { return QFile::exists(work); }, 30000));
   EXPECT_TRUE(Read(work).contains("Text=not saved"));
 }
 
-TEST_F(RecoveryTest, GoesOnceTheWorkIsSaved) {
+TEST_F(RecoveryTest, IsRemovedWhenTheProjectIsSaved) {
   const QString work = Recovery::FileFor(project);
   ASSERT_TRUE(QTest::qWaitFor([&] { return QFile::exists(work); }, 30000));
   ASSERT_EQ(bench->Project().Save(project), QString());
   EXPECT_FALSE(QFile::exists(work));
 }
 
-TEST_F(RecoveryTest, IsNotOfferedWhileAProgramStillKeepsIt) {
+TEST_F(RecoveryTest, IsNotOfferedWhileAnotherProgramUsesIt) {
   Recovery recovery;
   recovery.Keep(project, "[FORM]\r\n");
   EXPECT_TRUE(Recovery::LeftOn(project).empty());
   recovery.Drop();
 }
 
-TEST_F(RecoveryTest, IsOfferedWithItsDateAndTaken) {
+TEST_F(RecoveryTest, IsOfferedWithItsDateAndRestored) {
   LeaveWork();
   QString text;
   AnswerBox(QStringLiteral("Restore"), &text);
@@ -67,7 +67,7 @@ TEST_F(RecoveryTest, IsOfferedWithItsDateAndTaken) {
   EXPECT_TRUE(Read(project).contains("Text=not saved"));
 }
 
-TEST_F(RecoveryTest, IsOpenedAsAnyProjectOnceItIsTaken) {
+TEST_F(RecoveryTest, IsAnOrdinaryProjectAfterRestoring) {
   LeaveWork();
   Write(Recovery::FileFor(project),
         "[FORM]\r\nControlsNumber= 2\r\n[CONTROLS_1]\r\nType=Label\r\n"
@@ -82,11 +82,10 @@ TEST_F(RecoveryTest, IsOpenedAsAnyProjectOnceItIsTaken) {
   EXPECT_TRUE(recent->actions().first()->text().contains(project));
 }
 
-// A program that is killed in the middle of the work, as the machine or the user does it.
-TEST_F(RecoveryTest, IsThereAfterTheProgramIsKilled) {
+TEST_F(RecoveryTest, SurvivesAKilledProgram) {
   const QString work = Recovery::FileFor(project);
   const auto die = [&] {
-    ::alarm(60);  // it is waited for
+    ::alarm(60);  // the test kills it before
     if (QTest::qWaitFor([&] { return QFile::exists(work); }, 20000)) ::kill(::getpid(), SIGKILL);
   };
   EXPECT_EXIT(die(), testing::KilledBySignal(SIGKILL), "");
@@ -98,7 +97,7 @@ TEST_F(RecoveryTest, IsThereAfterTheProgramIsKilled) {
   EXPECT_TRUE(bench->isWindowModified());
 }
 
-TEST_F(RecoveryTest, IsGoneOnceItIsDiscarded) {
+TEST_F(RecoveryTest, IsRemovedWhenDiscarded) {
   LeaveWork();
   AnswerBox(QStringLiteral("Discard"));
   ASSERT_TRUE(bench->OpenProject(project));
@@ -106,7 +105,7 @@ TEST_F(RecoveryTest, IsGoneOnceItIsDiscarded) {
   EXPECT_FALSE(bench->isWindowModified());
 }
 
-TEST_F(RecoveryTest, StaysWhereThePersonAsksLater) {
+TEST_F(RecoveryTest, IsKeptForLater) {
   LeaveWork();
   const auto askLater = [this] {
     AnswerBox(QStringLiteral("Ask"));

@@ -1,4 +1,4 @@
-// While a form is being filled in: what can be used, and how it ends.
+// The workbench while a form is being filled in.
 
 #include <QClipboard>
 #include <QPlainTextEdit>
@@ -48,7 +48,7 @@ TEST_F(RunTest, OpensTheFormAboveTheWorkbenchOverTheStage) {
   EXPECT_TRUE(free.contains(run.geometry()));
 }
 
-TEST_F(RunTest, LetsTheOutputBeReadCopiedAndCleared) {
+TEST_F(RunTest, KeepsTheOutputPaneEnabled) {
   Begin("mnuDebug");
   QPlainTextEdit& commands = bench->Output().Commands();
   GoBackToTheWorkbench();
@@ -74,7 +74,7 @@ TEST_F(RunTest, LetsTheOutputBeReadCopiedAndCleared) {
   EXPECT_TRUE(HasEnded());
 }
 
-TEST_F(RunTest, LetsNothingOfTheFormBeChanged) {
+TEST_F(RunTest, DisablesAllEditing) {
   Select(QStringLiteral("txtName"));
   const QByteArray before = bench->Project().Bytes();
   Begin("mnuFill");
@@ -108,7 +108,7 @@ TEST_F(RunTest, LetsNothingOfTheFormBeChanged) {
   EXPECT_TRUE(bench->Stage().Designer().isEnabled());
 }
 
-TEST_F(RunTest, GivesTheKeyboardBackToWhoHadIt) {
+TEST_F(RunTest, RestoresTheFocus) {
   bench->Features().View().setFocus();
   Begin("mnuFill");
   bench->Run()->Form().Object()->Cancel();
@@ -117,14 +117,14 @@ TEST_F(RunTest, GivesTheKeyboardBackToWhoHadIt) {
   EXPECT_EQ(QApplication::focusWidget(), &bench->Features().View());
 }
 
-TEST_F(RunTest, EndsWhereItsWindowIsClosed) {
+TEST_F(RunTest, EndsWhenItsWindowIsClosed) {
   Begin("mnuFill");
   bench->Run()->close();
   EXPECT_TRUE(HasEnded());
   EXPECT_TRUE(bench->isVisible());
 }
 
-TEST_F(RunTest, KeepsTheWorkbenchOpenWhereThePersonGoesOnWithTheForm) {
+TEST_F(RunTest, KeepsTheWorkbenchOpenIfTheUserContinuesTheForm) {
   Begin("mnuFill");
   AnswerBox(QStringLiteral("Cancel"));
   EXPECT_FALSE(bench->close());
@@ -146,7 +146,7 @@ TEST_F(RunTest, ClosesTheFormBeforeTheWorkbench) {
   EXPECT_TRUE(QTest::qWaitFor([&] { return !bench->isVisible(); }));
 }
 
-TEST_F(RunTest, GoesSafelyWithAWorkbenchThatIsDeleted) {
+TEST_F(RunTest, EndsSafelyWithADeletedWorkbench) {
   Begin("mnuFill");
   bench.reset();
   QTest::qWait(5);
@@ -164,7 +164,7 @@ TEST_F(RunTest, LoadsNoValuesForANewFeature) {
   EXPECT_TRUE(HasEnded());
 }
 
-TEST_F(RunTest, KeepsWhatIsSelectedInTheOutputWhileMoreIsTold) {
+TEST_F(RunTest, KeepsTheSelectionInTheOutputWhileTextIsAdded) {
   desktop::DebugPane& told = *bench->Output().Debug();
   for (int line = 0; line < 200; ++line) told.SetSelText(u"line\r\n");
   QPlainTextEdit& pane = *told.Pane();

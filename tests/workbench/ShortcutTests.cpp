@@ -1,4 +1,4 @@
-// Keys pressed where a person's keyboard is, through the window's shortcuts.
+// Shortcuts of the window, with real keys in the focused widget.
 
 #include <QMenuBar>
 #include <QPlainTextEdit>
@@ -14,10 +14,10 @@ class ShortcutTest : public WorkbenchTest {
   ShortcutTest() {
     bench->Project().Insert(ControlTypeEnum::ctLabel);
     name = Selected();
-    Settle();
+    RecordStep();
     QTest::qWait(5);
   }
-  /// A key for whoever has the keyboard.
+  /// Sends a key to the focused widget.
   static void Press(Qt::Key key, Qt::KeyboardModifiers with = {}) {
     ASSERT_NE(QApplication::focusWidget(), nullptr);
     QTest::keyClick(QApplication::focusWidget(), key, with);
@@ -34,7 +34,7 @@ class ShortcutTest : public WorkbenchTest {
     ASSERT_TRUE(bench->OpenData(source));
   }
   void ShowScript() { Press(Qt::Key_4, Qt::AltModifier); }
-  /// All that can be chosen in a menu, the menus in it too.
+  /// The actions of a menu and its submenus.
   static void Collect(const QMenu& menu, QList<QAction*>& actions) {
     for (QAction* action : menu.actions()) {
       if (action->menu()) {
@@ -58,7 +58,7 @@ class ShortcutTest : public WorkbenchTest {
   QString name;
 };
 
-TEST_F(ShortcutTest, GivesNoKeyToTwoCommands) {
+TEST_F(ShortcutTest, AreUnique) {
   std::map<QString, QString> taken;
   QList<QAction*> actions;
   for (const QMenu* menu : Menus()) Collect(*menu, actions);
@@ -74,7 +74,7 @@ TEST_F(ShortcutTest, GivesNoKeyToTwoCommands) {
   EXPECT_GT(keys, 25);
 }
 
-TEST_F(ShortcutTest, GivesNoLetterToTwoEntriesOfAMenu) {
+TEST_F(ShortcutTest, HaveUniqueLettersPerMenu) {
   QList<QList<QAction*>> lists = {bench->menuBar()->actions()};
   for (const QMenu* menu : Menus()) lists += menu->actions();
   for (const QList<QAction*>& list : lists) {
@@ -88,12 +88,12 @@ TEST_F(ShortcutTest, GivesNoLetterToTwoEntriesOfAMenu) {
   }
 }
 
-TEST_F(ShortcutTest, ReachesEveryCommandThatHasAKey) {
+TEST_F(ShortcutTest, TriggerEveryCommand) {
   QList<QAction*> actions;
   for (const QMenu* menu : Menus()) Collect(*menu, actions);
   for (QAction* action : actions) {
     if (action->shortcuts().isEmpty()) continue;
-    // What the command does is tested elsewhere; it would open dialogs here.
+    // The commands themselves are not run: they would open dialogs.
     action->disconnect(SIGNAL(triggered(bool)));
     int reached = 0;
     QObject::connect(action, &QAction::triggered, bench.get(), [&reached] { ++reached; });
@@ -108,7 +108,7 @@ TEST_F(ShortcutTest, ReachesEveryCommandThatHasAKey) {
   }
 }
 
-TEST_F(ShortcutTest, DeletesAControlOnTheFormAndInTheList) {
+TEST_F(ShortcutTest, DeleteAControlOnTheFormAndInTheList) {
   GoToForm();
   Press(Qt::Key_Delete);
   EXPECT_FALSE(Has(name));
@@ -122,7 +122,7 @@ TEST_F(ShortcutTest, DeletesAControlOnTheFormAndInTheList) {
   EXPECT_FALSE(Has(name));
 }
 
-TEST_F(ShortcutTest, DeletesNoControlWhereTheKeyIsTheTextsOrTheTables) {
+TEST_F(ShortcutTest, DoNotDeleteAControlInTextsAndTables) {
   OpenCopyOfData();
   for (const Qt::Key pane : {Qt::Key_1, Qt::Key_3, Qt::Key_4, Qt::Key_5, Qt::Key_6}) {
     Select(name);
@@ -136,7 +136,7 @@ TEST_F(ShortcutTest, DeletesNoControlWhereTheKeyIsTheTextsOrTheTables) {
   EXPECT_TRUE(Has(name));
 }
 
-TEST_F(ShortcutTest, SavesWhatIsBeingTyped) {
+TEST_F(ShortcutTest, SaveTheValueBeingEdited) {
   const QString file = PathOf(QStringLiteral("typed.cwf"));
   ASSERT_EQ(bench->Project().Save(file), QString());
   bench->Grid().EditRow(QStringLiteral("Text"));
@@ -148,7 +148,7 @@ TEST_F(ShortcutTest, SavesWhatIsBeingTyped) {
   EXPECT_FALSE(bench->isWindowModified());
 }
 
-TEST_F(ShortcutTest, AnswersTheQuestionOfUnsavedChangesByLetters) {
+TEST_F(ShortcutTest, AnswerTheQuestionAboutUnsavedChanges) {
   const QString file = PathOf(QStringLiteral("left.cwf"));
   ASSERT_EQ(bench->Project().Save(file), QString());
   const auto leave = [&](Qt::Key letter) {
@@ -170,17 +170,17 @@ TEST_F(ShortcutTest, AnswersTheQuestionOfUnsavedChangesByLetters) {
   EXPECT_FALSE(Read(file).contains("second"));
 }
 
-TEST_F(ShortcutTest, GoesToTheGridByF4) {
+TEST_F(ShortcutTest, F4FocusesTheGrid) {
   GoToForm();
   Press(Qt::Key_F4);
   EXPECT_TRUE(bench->Grid().isAncestorOf(QApplication::focusWidget()));
   EXPECT_EQ(Selected(), name);
 }
 
-TEST_F(ShortcutTest, TakesStepsOfTheFormBackOnTheForm) {
+TEST_F(ShortcutTest, UndoStepsOfTheFormOnTheForm) {
   GoToForm();
   Press(Qt::Key_Delete);
-  Settle();
+  RecordStep();
   Press(Qt::Key_Z, Qt::ControlModifier);
   EXPECT_TRUE(Has(name));
   GoToForm();
@@ -191,10 +191,10 @@ TEST_F(ShortcutTest, TakesStepsOfTheFormBackOnTheForm) {
   EXPECT_FALSE(Has(name));
 }
 
-TEST_F(ShortcutTest, TakesTypingBackInTheScript) {
+TEST_F(ShortcutTest, UndoTypingInTheScript) {
   ShowScript();
   QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("Sub A()"));
-  Settle();
+  RecordStep();
   Press(Qt::Key_Z, Qt::ControlModifier);
   EXPECT_TRUE(Editor().toPlainText().isEmpty());
   EXPECT_TRUE(Has(name));
@@ -203,7 +203,7 @@ TEST_F(ShortcutTest, TakesTypingBackInTheScript) {
   EXPECT_EQ(QApplication::focusWidget(), &Editor());
 }
 
-TEST_F(ShortcutTest, LocksByItsKeyFromAnyPane) {
+TEST_F(ShortcutTest, LockFromAnyPane) {
   bench->List().setFocus();
   Press(Qt::Key_L, Qt::ControlModifier);
   EXPECT_TRUE(bench->Action(QStringLiteral("mnuLock"))->isChecked());
@@ -212,7 +212,7 @@ TEST_F(ShortcutTest, LocksByItsKeyFromAnyPane) {
   EXPECT_FALSE(bench->Action(QStringLiteral("mnuLock"))->isChecked());
 }
 
-TEST_F(ShortcutTest, RunsTheFormByItsKeyWithWhatIsBeingTyped) {
+TEST_F(ShortcutTest, RunTheFormWithTheValueBeingEdited) {
   ASSERT_TRUE(bench->OpenProject(Example("well-inspection.cwf")));
   OpenCopyOfData();
   Select(QStringLiteral("Form"));
@@ -227,7 +227,7 @@ TEST_F(ShortcutTest, RunsTheFormByItsKeyWithWhatIsBeingTyped) {
   ASSERT_TRUE(QTest::qWaitFor([&] { return !bench->Run(); }));
 }
 
-TEST_F(ShortcutTest, ListsThePanesInTheOrderOfTheirKeys) {
+TEST_F(ShortcutTest, ListThePanesInOrder) {
   QStringList shown;
   QStringList toggled;
   QList<QAction*> actions;

@@ -54,13 +54,13 @@ class WorkbenchTest : public testing::Test {
   cardwright::FormDesigner& Designer() { return bench->Project().Designer(); }
   PropertyModel& Rows() { return bench->Grid().Model(); }
 
-  /// Draws a control by a real drag of the mouse, between two places on the form, in pixels.
+  /// Draws a control with the mouse between two points of the form, in pixels.
   Ref<IControl> Draw(ControlTypeEnum kind, QRect rect) {
     Choose(kind);
     DragOnForm(rect.topLeft(), rect.topLeft() + QPoint(rect.width(), rect.height()));
     return Designer().CurrentControl();
   }
-  /// Chooses a tool by a click on it.
+  /// Clicks on a tool.
   void Choose(ControlTypeEnum kind) {
     ToolBox& tools = bench->Tools();
     for (int row = 0; row < tools.count(); ++row) {
@@ -70,9 +70,9 @@ class WorkbenchTest : public testing::Test {
       QTest::mouseClick(tools.viewport(), Qt::LeftButton, {}, tools.visualItemRect(item).center());
     }
   }
-  /// Goes through the window's own event queue: the drag polls the buttons, which widgets' own events do not
-  /// press. The press does not return before the drag ends, so the rest follows by itself, but not before the
-  /// press was seen: a button that is let go too early would be down for ever.
+  /// Sends events to the window: the drag polls the buttons, whose state events to widgets do not change. The
+  /// press returns only when the drag has ended, so a timer sends the other events, but not before the press
+  /// has been handled: a button released too early would stay down for ever.
   void DragOnForm(QPoint from, QPoint to) {
     QWidget& form = bench->Stage().Designer();
     QWindow* window = bench->windowHandle();
@@ -109,7 +109,7 @@ class WorkbenchTest : public testing::Test {
   QString ValueOf(const QString& row) {
     return Rows().index(Rows().RowOf(row), PropertyModel::kValue).data().toString();
   }
-  /// Types a value into a row of the grid and ends with Enter.
+  /// Types a value into a row of the grid and presses Enter.
   void Type(const QString& row, const QString& text) {
     bench->Grid().EditRow(row);
     QTest::keyClick(&bench->Grid().View(), Qt::Key_F2);
@@ -120,13 +120,13 @@ class WorkbenchTest : public testing::Test {
     QTest::keyClick(editor, Qt::Key_Return);
     QTest::qWait(5);
   }
-  /// Takes what is under way into the history.
-  void Settle() { bench->Project().NoteNow(); }
+  /// Adds pending changes to the history.
+  void RecordStep() { bench->Project().RecordNow(); }
   void Trigger(const char* action) {
     bench->Action(QLatin1String(action))->trigger();
     QTest::qWait(5);
   }
-  /// Answers the next message box by the button whose text begins so.
+  /// Answers the next message box by the button whose text begins with `button`.
   static void AnswerBox(const QString& button, QString* text = nullptr) {
     qt::Meet<QMessageBox>([button, text](QMessageBox& box) {
       if (text) *text = box.text();
@@ -156,8 +156,7 @@ class WorkbenchTest : public testing::Test {
   std::unique_ptr<Workbench> bench;
 
  private:
-  /// A dialog or menu that is still there when it is looked at again would stay for ever, and the test with
-  /// it.
+  /// Closes a dialog or menu that is still open at the second check: the test would never end.
   void EndWhatNobodyAnswers() {
     QWidget* const popup = QApplication::activePopupWidget();
     QWidget* const modal = popup ? popup : QApplication::activeModalWidget();

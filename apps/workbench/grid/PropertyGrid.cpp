@@ -8,7 +8,7 @@
 #include "cardwright/qt/values/QtText.h"
 #include "workbench/grid/CellEditing.h"
 #include "workbench/grid/ValueDelegate.h"
-#include "workbench/project/Kinds.h"
+#include "workbench/project/KindName.h"
 
 namespace cardwright::workbench {
 namespace {

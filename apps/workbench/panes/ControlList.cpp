@@ -5,7 +5,7 @@
 
 #include "cardwright/qt/values/QtText.h"
 #include "workbench/panes/Icons.h"
-#include "workbench/project/Kinds.h"
+#include "workbench/project/KindName.h"
 #include "workbench/project/Stacking.h"
 
 namespace cardwright::workbench {

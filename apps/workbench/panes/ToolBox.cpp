@@ -3,7 +3,7 @@
 #include <QKeyEvent>
 
 #include "workbench/panes/Icons.h"
-#include "workbench/project/Kinds.h"
+#include "workbench/project/KindName.h"
 
 namespace cardwright::workbench {
 namespace {

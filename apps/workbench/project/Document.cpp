@@ -6,16 +6,16 @@
 
 #include "cardwright/model/FormOwner.h"
 #include "cardwright/qt/values/QtText.h"
-#include "workbench/project/AfterReading.h"
-#include "workbench/project/Kinds.h"
+#include "workbench/project/CompleteReading.h"
+#include "workbench/project/KindName.h"
 #include "workbench/project/ModuleScope.h"
 
 namespace cardwright::workbench {
 namespace {
 
-constexpr int kSettling = 150;  // milliseconds of quiet before a change becomes a step
+constexpr int kQuietTime = 150;  // milliseconds without events before a change becomes a step
 
-// Steps are written and read for each change: in memory, where the machine has such a folder.
+// Steps are written and read for each change, in memory if the system has such a folder.
 QString StepFolder() {
   const QString runtime = qEnvironmentVariable("XDG_RUNTIME_DIR");
   const QString base = QFileInfo(runtime).isWritable() ? runtime : QDir::tempPath();
@@ -31,17 +31,17 @@ QByteArray ReadAll(const QString& path) {
 
 Document::Document(FormStage& stage, QObject* parent)
     : QObject(parent), m_Stage(stage), m_Folder(StepFolder()) {
-  m_Soon.setSingleShot(true);
-  m_Soon.setInterval(kSettling);
-  connect(&m_Soon, &QTimer::timeout, this, &Document::OnQuiet);
+  m_RecordTimer.setSingleShot(true);
+  m_RecordTimer.setInterval(kQuietTime);
+  connect(&m_RecordTimer, &QTimer::timeout, this, &Document::OnQuiet);
   qApp->installEventFilter(this);
   New();
 }
 
-void Document::Adopt() {
+void Document::UseNewDesigner() {
   if (m_Designer) {
     const Ref<cardwright::FormDesigner> before = m_Designer;
-    qt::FormDesigner& stage = m_Stage.Renew();
+    qt::FormDesigner& stage = m_Stage.ReplaceDesigner();
     m_Designer = stage.Object();
     m_Designer->TakeClipboard(*before);
     m_Designer->SetGridStep(before->GridStep());
@@ -54,7 +54,7 @@ void Document::Adopt() {
 }
 
 void Document::Connect() {
-  // The toolkit's signals lack nothing, but an event's order among the others counts here.
+  // Not by the widget's signals: the order of the events matters here.
   m_Designer->Connect([this, designer = m_Designer.get()](std::u16string_view event, Args args) {
     if (designer == m_Designer.get()) OnDesignerEvent(event, args);
   });
@@ -62,12 +62,12 @@ void Document::Connect() {
 
 void Document::New() {
   m_IsLoading = true;
-  Adopt();
+  UseNewDesigner();
   m_Path.clear();
-  m_Remark.clear();
+  m_Notice.clear();
   m_Script = {u"VBScript", {}};
   m_Stage.SetCaption(tr("Form"));
-  Reclaim();
+  RestoreModuleState();
   m_IsLoading = false;
   Begin(true);
 }
@@ -80,21 +80,21 @@ QString Document::Open(const QString& path) {
   return {};
 }
 
-QString Document::OpenWork(const QString& work, const QString& path) {
+QString Document::OpenUnsaved(const QString& work, const QString& path) {
   const QString failure = Read(work);
   if (!failure.isEmpty()) return failure;
-  // The work was saved by the rules of projects, which add a line break to the script.
+  // Saving a project adds a line break to its script.
   QString content = qt::ToQString(m_Script.content);
   if (content.endsWith(QLatin1String("\r\n"))) content.chop(2);
   m_Script.content = qt::FromQString(content);
   m_Path = path;
-  Reclaim();
+  RestoreModuleState();
   Begin(false);
   return {};
 }
 
-// What was shown comes back where the project cannot be read: on a stage that holds half of it, or nothing,
-// saving would take the file away.
+// If the project cannot be read, the former one is restored: saving a half-read or empty form would destroy
+// the file.
 QString Document::Read(const QString& path) {
   const QFileInfo info(path);
   if (!info.isFile()) return tr("There is no file %1.").arg(path);
@@ -103,9 +103,9 @@ QString Document::Read(const QString& path) {
   const QByteArray bytes = file.readAll();
   if (!bytes.isEmpty() && !bytes.toLower().contains("[form]"))
     return tr("%1 holds no form project.").arg(path);
-  NoteNow();
+  RecordNow();
   m_IsLoading = true;
-  Adopt();
+  UseNewDesigner();
   const bool isRead = Load(info.absoluteFilePath());
   m_IsLoading = false;
   if (!isRead) {
@@ -119,7 +119,7 @@ bool Document::Load(const QString& path) {
   const bool isRead = m_Designer->ProjectRead(qt::FromQString(path));
   m_Script = {Module().scriptLanguage, Module().scriptContent};
   const int missing = CompleteReading(*m_Designer, qt::FromQString(path));
-  m_Remark = missing > 0 ? tr("%n control(s) of this project could not be read. Saving leaves them out.",
+  m_Notice = missing > 0 ? tr("%n control(s) of this project could not be read. Saving leaves them out.",
                               nullptr, missing)
                          : QString();
   m_Designer->SetCtrl(Form());
@@ -127,13 +127,13 @@ bool Document::Load(const QString& path) {
 }
 
 void Document::Begin(bool isSaved) {
-  m_IsChanging = false;
+  m_HasUnrecordedChange = false;
   m_IsTyping = false;
   m_IsLocked = false;
-  m_Soon.stop();
+  m_RecordTimer.stop();
   m_History.Begin(StateNow(), isSaved);
   Q_EMIT Replaced();
-  Q_EMIT Begun();
+  Q_EMIT ProjectOpened();
   Q_EMIT Selected(m_Designer->CurrentControl().get());
   Q_EMIT Changed();
 }
@@ -144,7 +144,7 @@ Ref<IControl> Document::Form() const {
 
 bool Document::IsEmpty() const { return m_Designer->Controls().Count() <= 1; }
 
-void Document::Reclaim() { ModuleScope::Put(m_Script, m_Designer->GetSurface()->Scale()); }
+void Document::RestoreModuleState() { ModuleScope::Set(m_Script, m_Designer->GetSurface()->Scale()); }
 
 bool Document::WriteTo(const QString& path, const Script& script) const {
   if (IsEmpty()) return false;
@@ -168,7 +168,7 @@ QString Document::RunFile() const {
 
 QString Document::Save(const QString& path) {
   if (IsEmpty()) return tr("A form without controls has no file. Draw a control first, then save.");
-  NoteNow();
+  RecordNow();
   const QFileInfo info(path);
   if (!QFileInfo(info.absolutePath()).isDir()) return tr("There is no folder %1.").arg(info.absolutePath());
   const QByteArray wanted = Bytes();
@@ -176,7 +176,7 @@ QString Document::Save(const QString& path) {
     const ModuleScope scope(m_Script, m_Designer->GetSurface()->Scale());
     m_Designer->ProjectSave(qt::FromQString(info.absoluteFilePath()));
   }
-  // Saving passes over what it cannot write, so what counts is what stands in the file.
+  // Saving passes over what it cannot write, so the file itself is compared.
   if (wanted.isEmpty() || ReadAll(info.absoluteFilePath()) != wanted)
     return tr("%1 could not be written.").arg(path);
   m_Path = info.absoluteFilePath();
@@ -200,7 +200,7 @@ void Document::Insert(ControlTypeEnum type) {
                      .source = nullptr});
   const Ref<IControl> made = m_Designer->CurrentControl();
   if (!made || made == current) return;
-  // Below the control that was selected, so that one after the other forms a column.
+  // Below the selected control, so that several in succession form a column.
   const bool beside = current && !intoFrame && ClassOf(*current).type != ControlTypeEnum::ctDefault;
   const float below = beside ? current->Top() + current->Height() + pixels(8) : 0;
   const bool hasRoom = beside && below + height <= m_Designer->GetSurface()->Height();

@@ -10,7 +10,7 @@
 
 namespace cardwright::workbench {
 
-/// The project on the stage: its file, its script, and all states it went through since it was opened.
+/// The open project: its designer, its script, its file, and its states since it was opened.
 class Document final : public QObject {
   Q_OBJECT
  public:
@@ -19,16 +19,16 @@ class Document final : public QObject {
   cardwright::FormDesigner& Designer() const noexcept { return *m_Designer; }
 
   void New();
-  /// Shows a project; why it could not be read, or "". What was shown stays then.
+  /// Opens a project. Returns why it could not be read, or "". After a failure the former project stays open.
   QString Open(const QString& path);
-  /// Shows what the file `work` holds as unsaved work on the project `path` ("" for one without a file).
-  QString OpenWork(const QString& work, const QString& path);
-  /// Saves; why it could not be done, or "".
+  /// Opens the file `work` as unsaved changes of the project `path` ("" for one without a file).
+  QString OpenUnsaved(const QString& work, const QString& path);
+  /// Saves the project. Returns why it could not be saved, or "".
   QString Save(const QString& path);
-  /// Complete path of the project's file; "" while it has none.
+  /// Absolute path of the project's file; "" if it has none.
   const QString& Path() const noexcept { return m_Path; }
-  /// What a person should know about the project just opened; "" where there is nothing.
-  const QString& Remark() const noexcept { return m_Remark; }
+  /// A warning about the project just opened, or "".
+  const QString& Notice() const noexcept { return m_Notice; }
 
   bool IsModified() const noexcept { return !m_History.IsSaved(); }
   bool IsEmpty() const;
@@ -40,40 +40,40 @@ class Document final : public QObject {
   const Script& GetScript() const noexcept { return m_Script; }
   void SetScript(const Script& script);
 
-  /// The project as it stands, as it is saved; empty for a form without controls.
+  /// The project as its file would be now; empty for a form without controls.
   QByteArray Bytes() const;
-  /// A file with the project as it stands, for a run: its own where it is saved.
+  /// A file with the current project, for a run: its own file if it is saved.
   QString RunFile() const;
-  /// Takes the state of now into the history if it differs from the last one.
-  void NoteNow();
-  /// The same soon, once the present step is done.
-  void NoteSoon();
-  /// Makes script and scale those of the thread again, after another form had it.
-  void Reclaim();
+  /// Adds the current state to the history if it differs from the last one.
+  void RecordNow();
+  /// The same after a short pause, so that the changes of one action become one step.
+  void RecordSoon();
+  /// Sets script and scale of the thread again, after another form has used them.
+  void RestoreModuleState();
 
-  /// Adds a control of a kind where a person has not drawn one: in the selected frame or on the form.
-  void Insert(ControlTypeEnum kind);
+  /// Adds a control without drawing, in the selected frame or on the form.
+  void Insert(ControlTypeEnum type);
 
  Q_SIGNALS:
-  /// Another designer stands on the stage.
+  /// The stage has another designer.
   void Replaced();
-  /// What is on the stage is another project than before.
-  void Begun();
-  /// What the project holds has changed, or whether it is saved, or what can be undone.
+  /// Another project was opened.
+  void ProjectOpened();
+  /// The project has changed, or whether it is saved, or what can be undone.
   void Changed();
   void Selected(cardwright::IControl* control);
-  /// A row of the selected control has a new value.
+  /// A property of the selected control has a new value.
   void RowChanged(int row);
-  /// The kind to draw is none any more.
+  /// The designer has returned to the selection tool.
   void DrawingEnded();
   void MenuChanged(const QString& name, bool enabled);
   void Locked(bool locked);
-  void PropertiesWanted();
+  void PropertiesRequested();
   /// The surface has another size.
   void Resized();
 
  private:
-  void Adopt();
+  void UseNewDesigner();
   void Connect();
   void OnDesignerEvent(std::u16string_view event, Args args);
   void OnChangeEvent(std::u16string_view event, Args args);
@@ -82,13 +82,13 @@ class Document final : public QObject {
   QByteArray BytesWith(const Script& script) const;
   ProjectState StateNow() const;
   void OnQuiet();
-  void TakeForm();
-  void TakeTyped();
+  void RecordForm();
+  void RecordTyping();
   void Restore(const ProjectState& state);
   bool Load(const QString& path);
   void RestoreForm(const ProjectState& state);
   void SelectByName(const Text& name);
-  void Go(const ProjectState& (History::*step)());
+  void Step(const ProjectState& (History::*step)());
   void GoTo(const ProjectState& state);
   void Begin(bool isSaved);
   Ref<IControl> Form() const;
@@ -97,15 +97,15 @@ class Document final : public QObject {
   FormStage& m_Stage;
   Ref<cardwright::FormDesigner> m_Designer;
   QTemporaryDir m_Folder;
-  QTimer m_Soon;
+  QTimer m_RecordTimer;
   History m_History;
   Typing m_Typing;
   Script m_Script;
   QString m_Path;
-  QString m_Remark;
+  QString m_Notice;
   bool m_IsLoading = false;
-  bool m_IsChanging = false;  // a change is under way that the history does not have yet
-  bool m_IsTyping = false;    // the same of the script, while the form is as the history has it
+  bool m_HasUnrecordedChange = false;  // of the form
+  bool m_IsTyping = false;             // an unrecorded change of the script alone
   bool m_IsLocked = false;
 };
 

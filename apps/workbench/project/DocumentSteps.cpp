@@ -1,4 +1,4 @@
-// The steps of a project: how a change becomes one, and the way back and forth.
+// The undo steps of a project: recording them, undo and redo.
 
 #include <QApplication>
 #include <QDir>
@@ -7,7 +7,7 @@
 
 #include "cardwright/model/FormOwner.h"
 #include "cardwright/qt/values/QtText.h"
-#include "workbench/project/AfterReading.h"
+#include "workbench/project/CompleteReading.h"
 #include "workbench/project/Document.h"
 #include "workbench/project/ModuleScope.h"
 #include "workbench/project/Stacking.h"
@@ -29,7 +29,7 @@ ProjectState Document::StateNow() const {
   const Ref<IControl> form = Form();
   if (!form) return state;
   for (std::int32_t row = 0; row < form->PropertyCount(); ++row) {
-    // The font is an object of the designer's, which another one has in its place after a step.
+    // The font is an object of the designer, and an undo step gets another designer.
     const bool isFont = form->PropertyType(Variant(row)) == PropertyTypeEnum::ptFont;
     state.formRows.push_back(
         isFont ? Variant() : AttemptOr(Variant(), [&] { return form->PropertyValue(Variant(row)); }));
@@ -38,44 +38,44 @@ ProjectState Document::StateNow() const {
   return state;
 }
 
-void Document::NoteSoon() {
+void Document::RecordSoon() {
   if (m_IsLoading) return;
-  TakeTyped();
-  m_IsChanging = true;
-  m_Soon.start();
+  RecordTyping();
+  m_HasUnrecordedChange = true;
+  m_RecordTimer.start();
 }
 
-void Document::NoteNow() {
-  if (m_IsLoading || m_History.IsEmpty()) return m_Soon.stop();
-  if (m_Designer->IsBusy() || Module().designDragging) return m_Soon.start();
-  TakeTyped();
-  TakeForm();
+void Document::RecordNow() {
+  if (m_IsLoading || m_History.IsEmpty()) return m_RecordTimer.stop();
+  if (m_Designer->IsBusy() || Module().designDragging) return m_RecordTimer.start();
+  RecordTyping();
+  RecordForm();
   Q_EMIT Changed();
 }
 
 void Document::OnQuiet() {
-  if (!m_IsTyping) return NoteNow();
-  TakeTyped();
+  if (!m_IsTyping) return RecordNow();
+  RecordTyping();
   Q_EMIT Changed();
 }
 
-// Nobody hears of the steps that are taken on the way: the editor would be shown the script of before.
+// Steps that are recorded here are not signalled: the editor would show the former script.
 void Document::SetScript(const Script& script) {
   if (m_Script == script) return;
-  if (m_Soon.isActive() && !m_IsTyping) TakeForm();
+  if (m_RecordTimer.isActive() && !m_IsTyping) RecordForm();
   if (!m_Typing.Continues(m_Script, script)) {
-    TakeTyped();
+    RecordTyping();
     m_History.EndTyping();
   }
   m_Script = script;
-  Reclaim();
+  RestoreModuleState();
   m_IsTyping = true;
-  m_Soon.start();
+  m_RecordTimer.start();
 }
 
-void Document::TakeForm() {
-  m_Soon.stop();
-  m_IsChanging = false;
+void Document::RecordForm() {
+  m_RecordTimer.stop();
+  m_HasUnrecordedChange = false;
   ProjectState now = StateNow();
   if (m_History.Current().IsSameProject(now)) {
     m_History.Select(now.selected);
@@ -84,10 +84,10 @@ void Document::TakeForm() {
   }
 }
 
-// The form is as it was, so it need not be written again to be compared.
-void Document::TakeTyped() {
+// The form is unchanged, so it is not written again to be compared.
+void Document::RecordTyping() {
   if (!m_IsTyping) return;
-  m_Soon.stop();
+  m_RecordTimer.stop();
   m_IsTyping = false;
   ProjectState now = m_History.Current();
   now.script = m_Script;
@@ -96,22 +96,22 @@ void Document::TakeTyped() {
 
 void Document::Undo() {
   if (m_Designer->IsBusy()) return;
-  NoteNow();
-  if (m_History.CanUndo()) Go(&History::Undo);
+  RecordNow();
+  if (m_History.CanUndo()) Step(&History::Undo);
 }
 
 void Document::Redo() {
   if (m_Designer->IsBusy()) return;
-  NoteNow();
-  if (m_History.CanRedo()) Go(&History::Redo);
+  RecordNow();
+  if (m_History.CanRedo()) Step(&History::Redo);
 }
 
-void Document::Go(const ProjectState& (History::*step)()) {
+void Document::Step(const ProjectState& (History::*step)()) {
   const ProjectState before = m_History.Current();
   const ProjectState& state = (m_History.*step)();
   if (!state.HasSameForm(before)) return GoTo(state);
   m_Script = state.script;
-  Reclaim();
+  RestoreModuleState();
   if (state.selected != before.selected) SelectByName(Text(state.selected));
   Q_EMIT Changed();
 }
@@ -121,15 +121,15 @@ void Document::GoTo(const ProjectState& state) {
   m_IsLoading = true;
   Restore(kept);
   m_IsLoading = false;
-  ProjectState now = StateNow();  // which may say the same otherwise
+  ProjectState now = StateNow();  // equal to the state, but it may be written differently
   now.selected = kept.selected;
-  m_History.Settle(std::move(now));
-  m_IsChanging = false;
+  m_History.ReplaceCurrent(std::move(now));
+  m_HasUnrecordedChange = false;
   m_IsTyping = false;
-  m_Soon.stop();
+  m_RecordTimer.stop();
   Q_EMIT Replaced();
   SelectByName(kept.selected);
-  if (m_IsLocked && !IsEmpty()) m_Designer->LockUnlock();  // no state holds the lock
+  if (m_IsLocked && !IsEmpty()) m_Designer->LockUnlock();  // not part of a state
   Q_EMIT Selected(m_Designer->CurrentControl().get());
   Q_EMIT Changed();
 }
@@ -137,7 +137,7 @@ void Document::GoTo(const ProjectState& state) {
 void Document::Restore(const ProjectState& state) {
   const QWidget* focus = QApplication::focusWidget();
   const bool hadFocus = focus && m_Stage.isAncestorOf(focus);
-  Adopt();
+  UseNewDesigner();
   if (state.file.isEmpty()) {
     RestoreForm(state);
   } else {
@@ -147,11 +147,11 @@ void Document::Restore(const ProjectState& state) {
     file.close();
     m_Designer->ProjectRead(qt::FromQString(step));
     CompleteReading(*m_Designer, qt::FromQString(step));
-    // Reading has put another theme in the place of one that the data does not have.
+    // Reading replaces a theme that the data does not have.
     if (m_Designer->GetThemeName() != state.theme) m_Designer->SetThemeName(state.theme);
   }
   m_Script = state.script;
-  Reclaim();
+  RestoreModuleState();
   if (hadFocus) m_Stage.Designer().setFocus();
 }
 
@@ -175,7 +175,7 @@ void Document::SelectByName(const Text& name) {
 void Document::OnDesignerEvent(std::u16string_view event, Args args) {
   if (event == u"CurrObjectChanged") {
     IControl* control = AsControl(args[0].Deref());
-    if (!m_IsLoading && !m_IsChanging && control) m_History.Select(control->UserName());
+    if (!m_IsLoading && !m_HasUnrecordedChange && control) m_History.Select(control->UserName());
     if (!m_IsLoading) Q_EMIT Selected(control);
   } else if (event == u"MenuStateChanged") {
     Q_EMIT MenuChanged(qt::ToQString(ToText(args[0])), ToBoolean(args[1]));
@@ -183,7 +183,7 @@ void Document::OnDesignerEvent(std::u16string_view event, Args args) {
     m_IsLocked = ToBoolean(args[0]);
     Q_EMIT Locked(m_IsLocked);
   } else if (event == u"PropertyMenuClick") {
-    Q_EMIT PropertiesWanted();
+    Q_EMIT PropertiesRequested();
   } else {
     OnChangeEvent(event, args);
   }
@@ -193,24 +193,24 @@ void Document::OnChangeEvent(std::u16string_view event, Args args) {
   if (event == u"AttribsList") return;
   if (event == u"ControlNameChanged")
     if (const IControl* renamed = AsControl(args[1].Deref()))
-      MoveContentsBehind(m_Designer->Controls(), *renamed);
+      MoveContentsAfter(m_Designer->Controls(), *renamed);
   if (!m_IsLoading && event == u"PropertyChanged") Q_EMIT RowChanged(ToLong(args[0]));
   if (event == u"Resize" || event == u"RefreshPropertyList") Q_EMIT Resized();
   if (!m_IsLoading && event == u"StateChanged") {
-    // A pasted control that differs in nothing is selected without a word.
+    // A pasted control may be selected without an event.
     Q_EMIT Selected(m_Designer->CurrentControl().get());
     Q_EMIT DrawingEnded();
   }
-  NoteSoon();
+  RecordSoon();
 }
 
-// The designer's popup menu restacks without a word, so what a right click leads to is looked at.
+// The designer's popup menu restacks without an event, so a right click checks for changes.
 bool Document::eventFilter(QObject* object, QEvent* event) {
   if (event->type() == QEvent::MouseButtonPress &&
       static_cast<QMouseEvent*>(event)->button() == Qt::RightButton && object->isWidgetType() &&
       m_Stage.isAncestorOf(static_cast<QWidget*>(object)) && !m_IsLoading) {
-    TakeTyped();
-    m_Soon.start();
+    RecordTyping();
+    m_RecordTimer.start();
   }
   return QObject::eventFilter(object, event);
 }

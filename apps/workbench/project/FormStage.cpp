@@ -11,10 +11,10 @@ namespace {
 
 constexpr int kMargin = 16;
 constexpr int kGrip = 8;
-constexpr QSize kNewForm(480, 320);
-constexpr QSize kLeast(40, 20);
+constexpr QSize kNewFormSize(480, 320);
+constexpr QSize kMinimumSize(40, 20);
 
-/// The title bar of the form, as a window would have it.
+/// The title bar of the form.
 class TitleBar final : public QWidget {
  public:
   TitleBar(QWidget* window, QWidget* parent) : QWidget(parent), m_Window(window) {}
@@ -38,7 +38,7 @@ class TitleBar final : public QWidget {
 
 }  // namespace
 
-/// An edge or the corner of the form, which the mouse pulls.
+/// An edge or the corner of the form, by which the mouse resizes it.
 class FormStage::Edge final : public QWidget {
  public:
   Edge(FormStage& stage, QWidget* parent, bool across, bool down)
@@ -52,7 +52,6 @@ class FormStage::Edge final : public QWidget {
     QPainter painter(this);
     painter.setPen(palette().color(QPalette::Mid));
     if (!m_Down || !m_Across) {
-      // The edge itself, with a small grip in its middle.
       const QRect grip = m_Across ? QRect(1, height() / 2 - 12, 3, 24) : QRect(width() / 2 - 12, 1, 24, 3);
       painter.fillRect(grip, palette().color(QPalette::Highlight));
     } else {
@@ -67,7 +66,7 @@ class FormStage::Edge final : public QWidget {
     if (!(event->buttons() & Qt::LeftButton)) return;
     const QPoint by = event->globalPosition().toPoint() - m_Pressed;
     const QSize size(m_Size.width() + (m_Across ? by.x() : 0), m_Size.height() + (m_Down ? by.y() : 0));
-    m_Stage.m_Designer->resize(size.expandedTo(kLeast));
+    m_Stage.m_Designer->resize(size.expandedTo(kMinimumSize));
   }
 
  private:
@@ -81,7 +80,6 @@ FormStage::FormStage(QWidget* parent)
     : QScrollArea(parent), m_Desk(new QWidget), m_Title(nullptr), m_Window(new QWidget(m_Desk)) {
   m_Desk->setObjectName(QStringLiteral("desk"));
   m_Title = new TitleBar(m_Window, m_Desk);
-  // The desk is darker; what lies on it is not.
   m_Window->setBackgroundRole(QPalette::Window);
   m_Window->setAutoFillBackground(true);
   m_Window->setProperty(qt::kStandsForWindow, true);
@@ -95,23 +93,23 @@ FormStage::FormStage(QWidget* parent)
   viewport()->setBackgroundRole(QPalette::Mid);
   viewport()->setAutoFillBackground(true);
   setAccessibleName(tr("Form"));
-  Renew();
+  ReplaceDesigner();
 }
 
 FormStage::~FormStage() = default;
 
-qt::FormDesigner& FormStage::Renew() {
+qt::FormDesigner& FormStage::ReplaceDesigner() {
   if (m_Designer) {
     m_Designer->removeEventFilter(this);
     m_Designer->hide();
-    m_Designer->deleteLater();  // it may be what is telling us something now
+    m_Designer->deleteLater();  // one of its events may be running
   }
   m_Window->setWindowTitle({});
   m_Designer = new qt::FormDesigner(m_Window);
   m_Designer->setAccessibleName(tr("Form that is drawn"));
   m_Designer->installEventFilter(this);
   m_Designer->move(0, 0);
-  m_Designer->resize(kNewForm);
+  m_Designer->resize(kNewFormSize);
   m_Designer->show();
   Arrange();
   return *m_Designer;

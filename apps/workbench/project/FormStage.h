@@ -8,16 +8,16 @@
 
 namespace cardwright::workbench {
 
-/// The room in which a form is drawn: a scrolled desk on which the form lies as a window, with a title bar
-/// and edges that are pulled to size it. The designer in it is replaced when another project is shown.
+/// The scroll area in which a form is drawn: the form is shown as a window with a title bar and with edges
+/// that can be dragged to resize it. Another project gets another designer.
 class FormStage final : public QScrollArea {
   Q_OBJECT
  public:
   explicit FormStage(QWidget* parent);
   ~FormStage() override;
 
-  /// Puts a new designer in the place of the one that is there.
-  qt::FormDesigner& Renew();
+  /// Replaces the designer by a new one.
+  qt::FormDesigner& ReplaceDesigner();
   qt::FormDesigner& Designer() const noexcept { return *m_Designer; }
   QString Caption() const { return m_Window->windowTitle(); }
   void SetCaption(const QString& caption) { m_Window->setWindowTitle(caption); }

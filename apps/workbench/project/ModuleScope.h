@@ -5,19 +5,19 @@
 
 namespace cardwright::workbench {
 
-/// Makes the script and the scale of a project those of the thread for a while. The thread has one of each,
-/// which the form that was read last owns, as one that is being filled in.
+/// Sets script and scale of the thread to those of a project, for the scope's life. The thread has one of
+/// each, and the form that was read last owns them, for example one that is being filled in.
 class ModuleScope {
  public:
   ModuleScope(const Script& script, ScaleMode scale)
       : m_Before{Module().scriptLanguage, Module().scriptContent}, m_ScaleBefore(Module().formScaleMode) {
-    Put(script, scale);
+    Set(script, scale);
   }
-  ~ModuleScope() { Put(m_Before, m_ScaleBefore); }
+  ~ModuleScope() { Set(m_Before, m_ScaleBefore); }
   ModuleScope(const ModuleScope&) = delete;
   ModuleScope& operator=(const ModuleScope&) = delete;
 
-  static void Put(const Script& script, ScaleMode scale) {
+  static void Set(const Script& script, ScaleMode scale) {
     Module().scriptLanguage = script.language;
     Module().scriptContent = script.content;
     Module().formScaleMode = scale;

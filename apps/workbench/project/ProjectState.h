@@ -11,19 +11,18 @@ namespace cardwright::workbench {
 
 /// A form's script, which belongs to the project and not to the designer.
 struct Script {
-  Text language;  ///< "VBScript", "JScript" or what the project has
+  Text language;  ///< "VBScript", "JScript" or any other text of the project
   Text content;
 
   friend bool operator==(const Script&, const Script&) = default;
 };
 
-/// All of a project at one moment.
+/// A project at one moment.
 struct ProjectState {
-  /// The project as it is saved, but without the script; empty for a form without controls, which has no
-  /// file.
+  /// The project file without the script; empty for a form without controls, which has no file.
   QByteArray file;
   Text theme;  ///< the form's
-  /// @name Such a form's own settings.
+  /// @name Settings of a form without controls
   /// @{
   ScaleMode scale = ScaleMode::Pixels;
   std::vector<Variant> formRows;
@@ -32,7 +31,7 @@ struct ProjectState {
   Script script;
   Text selected;  ///< user name of the selected control
 
-  /// Whether the forms are the same, whatever the scripts; what is selected does not count.
+  /// Compares the forms, regardless of scripts and selection.
   bool HasSameForm(const ProjectState& other) const;
   bool IsSameProject(const ProjectState& other) const { return script == other.script && HasSameForm(other); }
 };

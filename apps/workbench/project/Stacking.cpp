@@ -27,7 +27,7 @@ const Widget* ContainerOf(const IControl& control) {
   return AttemptOr(static_cast<const Widget*>(nullptr), [&] { return widget->Container().get(); });
 }
 
-void MoveContentsBehind(Collection& controls, const IControl& frame) {
+void MoveContentsAfter(Collection& controls, const IControl& frame) {
   std::unordered_set<const Object*> frames{frame.BoundObject().get()};
   for (const Ref<IControl>& control : ControlsOf(controls)) {
     const Widget* container = ContainerOf(*control);

@@ -6,13 +6,13 @@
 
 namespace cardwright::workbench {
 
-/// The controls of a form, the front one first. What the designer keeps is the order in which they were
+/// The controls of a form, the front one first. The designer itself only keeps the order in which they were
 /// brought to the front or sent to the back.
 std::vector<Ref<IControl>> FrontToBack(const cardwright::FormDesigner& designer);
-/// The widget that holds a control; null for the form's surface.
+/// The container of a control; null for the form's surface.
 const Widget* ContainerOf(const IControl& control);
-/// Moves what a frame holds behind it in the collection, in the order that it has. A renamed control goes to
-/// the end there, and a project in which a frame comes after its contents loses them when it is read.
-void MoveContentsBehind(Collection& controls, const IControl& frame);
+/// Moves the contents of a frame after it in the collection, in their order. A renamed control goes to the
+/// end there, and a project in which a frame comes after its contents loses them when it is read.
+void MoveContentsAfter(Collection& controls, const IControl& frame);
 
 }  // namespace cardwright::workbench

@@ -4,8 +4,8 @@
 
 namespace cardwright::workbench {
 
-// The end first: a line end that is typed in front of another one then belongs to the line where it was
-// typed.
+// The end is compared first: a line end that is typed before another one then belongs to the line where it
+// was typed.
 TextChange ChangeBetween(std::u16string_view before, std::u16string_view after) {
   const auto end = std::ranges::mismatch(before.rbegin(), before.rend(), after.rbegin(), after.rend());
   const auto endBefore = static_cast<std::size_t>(before.rend() - end.in1);

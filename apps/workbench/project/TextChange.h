@@ -5,11 +5,11 @@
 
 namespace cardwright::workbench {
 
-/// Where two texts differ: between a beginning and an end that both have. Places count from 0.
+/// The range in which two texts differ: between their common beginning and their common end.
 struct TextChange {
   std::size_t begin;
-  std::size_t endBefore;  ///< of what was there
-  std::size_t endAfter;   ///< of what is there in its place
+  std::size_t endBefore;  ///< end of the replaced range in the first text
+  std::size_t endAfter;   ///< end of its replacement in the second text
 };
 
 TextChange ChangeBetween(std::u16string_view before, std::u16string_view after);

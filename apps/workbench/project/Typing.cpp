@@ -9,8 +9,8 @@ namespace {
 
 constexpr qint64 kLongPause = 3000;  // milliseconds
 
-std::size_t LineOf(std::u16string_view text, std::size_t place) {
-  return static_cast<std::size_t>(std::ranges::count(text.substr(0, place), u'\n'));
+std::size_t LineOf(std::u16string_view text, std::size_t position) {
+  return static_cast<std::size_t>(std::ranges::count(text.substr(0, position), u'\n'));
 }
 
 }  // namespace

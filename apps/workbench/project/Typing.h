@@ -7,16 +7,16 @@
 
 namespace cardwright::workbench {
 
-/// Tells where the typing of a script falls into steps: behind each line, behind a long pause, and where the
-/// place or the language changes.
+/// Divides the typing of a script into steps: a step ends with its line, after a long pause, and where the
+/// position or the language changes.
 class Typing {
  public:
-  /// Takes the next edit; whether it goes on with the one before.
+  /// Whether the next edit continues the one before.
   bool Continues(const Script& before, const Script& after);
 
  private:
   QElapsedTimer m_SinceLast;
-  std::optional<std::size_t> m_Line;  // on which the next edit goes on; none where a line has ended
+  std::optional<std::size_t> m_Line;  // of the last edit; none if it ended the line
 };
 
 }  // namespace cardwright::workbench

@@ -1,4 +1,4 @@
-#include "workbench/project/AfterReading.h"
+#include "workbench/project/CompleteReading.h"
 
 #include <algorithm>
 
@@ -14,7 +14,7 @@ int ControlsIn(const CIni& project) {
   return count > 0 && count <= INT16_MAX ? static_cast<int>(count) : 0;
 }
 
-/// Returns how many controls the project holds.
+/// Returns the number of controls in the project.
 int KeepTexts(Collection& controls, const CIni& project) {
   const int count = ControlsIn(project);
   int found = 0;

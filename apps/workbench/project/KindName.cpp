@@ -1,4 +1,4 @@
-#include "workbench/project/Kinds.h"
+#include "workbench/project/KindName.h"
 
 #include <QCoreApplication>
 

@@ -6,7 +6,7 @@
 
 namespace cardwright::workbench {
 
-/// What a person calls a kind of control; "Form" for ctDefault.
+/// The display name of a control class; "Form" for ctDefault.
 QString KindName(ControlTypeEnum type);
 
 }  // namespace cardwright::workbench

@@ -1,4 +1,4 @@
-// What the grid does not take: it says why, and keeps the text to be mended.
+// Input that the grid refuses: it shows the reason and keeps the text to be corrected.
 
 #include <QFontDialog>
 #include <QStatusBar>
@@ -9,19 +9,19 @@
 namespace cardwright::workbench {
 namespace {
 
-using RefusalTest = PropertyGridTest;
+using InvalidInputTest = PropertyGridTest;
 
 struct Refused {
   const char* row;
   const char* text;
-  const char* reason;  ///< a part of it
+  const char* reason;  ///< contained in the notice
 };
 
 void PrintTo(const Refused& refused, std::ostream* out) { *out << refused.row << " " << refused.text; }
 
-class RefusedTextTest : public PropertyGridTest, public testing::WithParamInterface<Refused> {};
+class InvalidTextTest : public PropertyGridTest, public testing::WithParamInterface<Refused> {};
 
-TEST_P(RefusedTextTest, StaysInItsEditorToBeMendedAndGoesByEscape) {
+TEST_P(InvalidTextTest, StaysInItsEditorUntilCorrectedOrCancelled) {
   Type(QStringLiteral("Name"), QStringLiteral("unused"));
   const Ref<IControl> other = Add(ControlTypeEnum::ctLabel);
   Type(QStringLiteral("Name"), QStringLiteral("lblDepth"));
@@ -29,13 +29,13 @@ TEST_P(RefusedTextTest, StaysInItsEditorToBeMendedAndGoesByEscape) {
   const QString row = QLatin1String(GetParam().row);
   const QString text = QLatin1String(GetParam().text);
   const QString before = ValueOf(row);
-  Settle();
+  RecordStep();
 
   Edit(row);
   Press(Qt::Key_A, Qt::ControlModifier);
   Press(Qt::Key_Delete);
   KeyIn(text);
-  PressAndSettle(Qt::Key_Return);
+  PressAndWait(Qt::Key_Return);
   ASSERT_NE(Editor(), nullptr);
   EXPECT_TRUE(Notice().contains(QString::fromUtf8(GetParam().reason))) << Notice().toStdString();
   EXPECT_EQ(Editor()->toolTip(), Notice());
@@ -44,16 +44,16 @@ TEST_P(RefusedTextTest, StaysInItsEditorToBeMendedAndGoesByEscape) {
   EXPECT_EQ(Rows().TextAt(Rows().RowOf(row)), before);
   EXPECT_TRUE(View().isAncestorOf(QApplication::focusWidget()));
 
-  PressAndSettle(Qt::Key_Escape);
+  PressAndWait(Qt::Key_Escape);
   EXPECT_EQ(Editor(), nullptr);
   EXPECT_EQ(ValueOf(row), before);
   EXPECT_EQ(Notice(), Rows().DescriptionOf(Rows().RowOf(row)));
-  Settle();
+  RecordStep();
   EXPECT_EQ(label->UserName(), Designer().CurrentControl()->UserName());
 }
 
 INSTANTIATE_TEST_SUITE_P(
-    Grid, RefusedTextTest,
+    Grid, InvalidTextTest,
     testing::Values(
         Refused{"Left", "far", "“far” is no number"}, Refused{"Left", "", "“” is no number"},
         Refused{"Width", "nan", "no number"}, Refused{"Width", "inf", "no number"},
@@ -66,22 +66,22 @@ INSTANTIATE_TEST_SUITE_P(
         Refused{"ForeColor", "greenish", "no colour"}, Refused{"ForeColor", "#12345", "no colour"},
         Refused{"ForeColor", "transparent", "no colour"}, Refused{"ForeColor", "99999999999", "no colour"}));
 
-TEST_F(RefusalTest, OfANumberCanBeMendedInTheSameEditor) {
+TEST_F(InvalidInputTest, CanBeCorrectedInTheSameEditor) {
   const Ref<IControl> label = Add(ControlTypeEnum::ctLabel);
   Edit(QStringLiteral("Width"));
   Press(Qt::Key_A, Qt::ControlModifier);
   KeyIn(QStringLiteral("12o"));
-  PressAndSettle(Qt::Key_Return);
+  PressAndWait(Qt::Key_Return);
   Press(Qt::Key_Backspace);
   KeyIn(QStringLiteral("0"));
-  PressAndSettle(Qt::Key_Return);
+  PressAndWait(Qt::Key_Return);
   EXPECT_EQ(Editor(), nullptr);
   EXPECT_EQ(label->Width(), 120);
   EXPECT_FALSE(IsRefused(QStringLiteral("Width")));
   EXPECT_EQ(Notice(), Rows().DescriptionOf(Rows().RowOf(QStringLiteral("Width"))));
 }
 
-TEST_F(RefusalTest, StaysInTheRowWhenTheEditorIsLeft) {
+TEST_F(InvalidInputTest, StaysInTheRowWhenTheEditorIsLeft) {
   const Ref<IControl> label = Add(ControlTypeEnum::ctLabel);
   const float before = label->Width();
   Edit(QStringLiteral("Width"));
@@ -108,7 +108,7 @@ TEST_F(RefusalTest, StaysInTheRowWhenTheEditorIsLeft) {
   EXPECT_EQ(label->Width(), before);
 }
 
-TEST_F(RefusalTest, IsToldInTheStatusBarWhenAnotherControlIsSelectedMeanwhile) {
+TEST_F(InvalidInputTest, IsShownInTheStatusBarAfterAnotherSelection) {
   const Ref<IControl> first = Add(ControlTypeEnum::ctLabel);
   Add(ControlTypeEnum::ctLabel);
   Edit(QStringLiteral("Left"));
@@ -119,7 +119,7 @@ TEST_F(RefusalTest, IsToldInTheStatusBarWhenAnotherControlIsSelectedMeanwhile) {
   EXPECT_TRUE(bench->statusBar()->currentMessage().contains(QStringLiteral("no number")));
 }
 
-TEST_F(RefusalTest, IsForgottenWhenTheValueChangesOtherwise) {
+TEST_F(InvalidInputTest, IsDiscardedWhenTheValueChanges) {
   const Ref<IControl> label = Add(ControlTypeEnum::ctLabel);
   Type(QStringLiteral("Left"), QStringLiteral("far"));
   View().setFocus();
@@ -128,12 +128,12 @@ TEST_F(RefusalTest, IsForgottenWhenTheValueChangesOtherwise) {
   EXPECT_FALSE(IsRefused(QStringLiteral("Left")));
 }
 
-TEST_F(RefusalTest, KeepsNumbersThatAProjectHolds) {
+TEST_F(InvalidInputTest, DoesNotIncludeNumbersReadFromAProject) {
   const Ref<IControl> label = Add(ControlTypeEnum::ctLabel);
   label->SetWidth(1e30F);
   const QString text = ValueOf(QStringLiteral("Width"));
   Edit(QStringLiteral("Width"));
-  PressAndSettle(Qt::Key_Return);
+  PressAndWait(Qt::Key_Return);
   EXPECT_EQ(Editor(), nullptr);
   EXPECT_EQ(ValueOf(QStringLiteral("Width")), text);
   EXPECT_EQ(label->Width(), 1e30F);
@@ -141,7 +141,7 @@ TEST_F(RefusalTest, KeepsNumbersThatAProjectHolds) {
   EXPECT_EQ(label->Width(), 16777215.0F);
 }
 
-TEST_F(RefusalTest, CountsInTheFormsOwnUnit) {
+TEST_F(InvalidInputTest, ChecksInTheFormsUnit) {
   const QString path = PathOf(QStringLiteral("twips.cwf"));
   Write(path,
         "[FORM]\r\nScaleMode=1\r\nWidth=6000\r\nHeight=3000\r\nControlsNumber=1\r\n"
@@ -159,7 +159,7 @@ TEST_F(RefusalTest, CountsInTheFormsOwnUnit) {
   EXPECT_EQ(Designer().CurrentControl()->Left(), 16777216.0F);
 }
 
-TEST_F(RefusalTest, TellsOfATextThatAControlPassesOver) {
+TEST_F(InvalidInputTest, IncludesATextThatTheControlIgnores) {
   const Ref<IControl> box = Add(ControlTypeEnum::ctComboBox);
   const Text before = box->DisplayText();
   Type(QStringLiteral("Text"), QStringLiteral("good"));
@@ -168,7 +168,7 @@ TEST_F(RefusalTest, TellsOfATextThatAControlPassesOver) {
   EXPECT_EQ(box->DisplayText(), before);
 }
 
-TEST_F(RefusalTest, OfAFontTellsWhy) {
+TEST_F(InvalidInputTest, ShowsTheReasonForAFont) {
   const Ref<IControl> label = Add(ControlTypeEnum::ctLabel);
   const FontValues before = label->GetFont()->Values();
   qt::Meet<QFontDialog>([](QFontDialog& dialog) {
@@ -178,12 +178,12 @@ TEST_F(RefusalTest, OfAFontTellsWhy) {
     dialog.accept();
   });
   GoTo(QStringLiteral("Font"));
-  PressAndSettle(Qt::Key_F4);
+  PressAndWait(Qt::Key_F4);
   EXPECT_TRUE(Notice().contains(QStringLiteral("size"))) << Notice().toStdString();
   EXPECT_EQ(label->GetFont()->Values(), before);
 }
 
-TEST_F(RefusalTest, OfANameLeavesTheControlItsOwn) {
+TEST_F(InvalidInputTest, KeepsTheNameOfTheControl) {
   Add(ControlTypeEnum::ctLabel);
   Type(QStringLiteral("Name"), QStringLiteral("lblDepth"));
   EXPECT_TRUE(Has(QStringLiteral("lblDepth")));
@@ -199,7 +199,7 @@ TEST_F(RefusalTest, OfANameLeavesTheControlItsOwn) {
   EXPECT_EQ(box->UserName(), u"LBLother");
 }
 
-TEST_F(RefusalTest, IsNoneWhereTheFileOrScriptsLoseSomething) {
+TEST_F(InvalidInputTest, DoesNotIncludeValuesThatLoseSomethingInFileOrScripts) {
   const Ref<IControl> label = Add(ControlTypeEnum::ctLabel);
   Type(QStringLiteral("Name"), QStringLiteral("two words"));
   EXPECT_TRUE(Has(QStringLiteral("two words")));
@@ -215,7 +215,7 @@ TEST_F(RefusalTest, IsNoneWhereTheFileOrScriptsLoseSomething) {
   EXPECT_EQ(label->DisplayText(), u"one\ntwo");
 }
 
-TEST_F(RefusalTest, IsNoneWhereTheFileLosesSomethingOfAnItem) {
+TEST_F(InvalidInputTest, DoesNotIncludeItemsThatLoseSomethingInTheFile) {
   const Ref<IControl> box = Add(ControlTypeEnum::ctComboBox);
   const Variant items = box->PropertyValue(u"Items");
   auto item = MakeRef<CItem>();
