@@ -85,7 +85,7 @@ TEST_F(RecoveryTest, IsAnOrdinaryProjectAfterRestoring) {
 TEST_F(RecoveryTest, SurvivesAKilledProgram) {
   const QString work = Recovery::FileFor(project);
   const auto die = [&] {
-    ::alarm(60);  // the test kills it before
+    ::alarm(60);  // if the file is never written
     if (QTest::qWaitFor([&] { return QFile::exists(work); }, 20000)) ::kill(::getpid(), SIGKILL);
   };
   EXPECT_EXIT(die(), testing::KilledBySignal(SIGKILL), "");
