@@ -33,7 +33,7 @@ void AddDesktopClasses(ClassRegistry& classes) {
     classes.Add(Text(u"Cardwright.") + table->className, [make = table->create] { return make(); });
 }
 
-ClassRegistry ClassesOnLeave() {
+ClassRegistry RestrictedClasses() {
   ClassRegistry classes;
   AddCoreClasses(classes);
   AddDataClasses(classes);

@@ -8,6 +8,6 @@ namespace cardwright::desktop {
 void AddDesktopClasses(ClassRegistry& classes);
 /// The classes that users may allow the script of a form: files, and what holds data. None that makes or
 /// drives forms.
-ClassRegistry ClassesOnLeave();
+ClassRegistry RestrictedClasses();
 
 }  // namespace cardwright::desktop

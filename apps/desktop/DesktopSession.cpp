@@ -26,7 +26,7 @@ DesktopSession::DesktopSession(Display display) {
   if (!chosen && display == Display::Needed && !HasDisplay())
     Raise(static_cast<int>(ErrorNumber::InvalidCall), u"there is no display to show the form on");
   QApplication::setApplicationDisplayName(QStringLiteral("Cardwright"));
-  ProvideFormScripts(app::Languages(), ClassesOnLeave());
+  ProvideFormScripts(app::Languages(), RestrictedClasses());
   m_Library = std::make_unique<qt::Library>();
   m_Data = std::make_unique<DataSource>(*m_Library);
 }

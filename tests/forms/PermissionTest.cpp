@@ -55,11 +55,11 @@ constexpr AskingScript kAskingScripts[] = {
      "try { GetObject('/etc/passwd'); } catch (e) { s += e.number & 0xFFFF; }\ntxtDepth.Text = s;\n}\n"},
 };
 
-class ClassesOnLeave : private OwnSettings,
-                       public FormScripts,
-                       public testing::WithParamInterface<AskingScript> {
+class RestrictedClasses : private OwnSettings,
+                           public FormScripts,
+                           public testing::WithParamInterface<AskingScript> {
  protected:
-  ClassesOnLeave() : FormScripts(GetParam().name) {
+  RestrictedClasses() : FormScripts(GetParam().name) {
     ClassRegistry classes;
     AddCoreClasses(classes);
     ProvideFormScripts(BothLanguages(), std::move(classes));
@@ -91,14 +91,14 @@ class ClassesOnLeave : private OwnSettings,
   std::optional<robot::RecordingDesktop> person{std::in_place};
 };
 
-TEST_P(ClassesOnLeave, AreRefusedUnlessTheUserAgrees) {
+TEST_P(RestrictedClasses, AreRefusedUnlessTheUserAgrees) {
   EXPECT_EQ(DepthAfterClick(GetParam().twice), "429 429 Empty");
   EXPECT_EQ(boxes.Take(), Lines{Question(kClass)}) << "asked once in a run of the form";
   EXPECT_EQ(DepthAfterClick(GetParam().twice), "429 429 Empty");
   EXPECT_EQ(boxes.Take(), Lines{Question(kClass)}) << "a refusal is not kept";
 }
 
-TEST_P(ClassesOnLeave, StayAllowedForTheSameScript) {
+TEST_P(RestrictedClasses, StayAllowedForTheSameScript) {
   AnswerYes();
   EXPECT_EQ(DepthAfterClick(GetParam().twice), "0 0 FileSystemObject");
   EXPECT_EQ(boxes.Take(), Lines{Question(kClass)});
@@ -109,7 +109,7 @@ TEST_P(ClassesOnLeave, StayAllowedForTheSameScript) {
   EXPECT_EQ(boxes.Take(), Lines{});
 }
 
-TEST_P(ClassesOnLeave, NeedANewPermissionAfterAChangeOfTheScript) {
+TEST_P(RestrictedClasses, NeedANewPermissionAfterAChangeOfTheScript) {
   AnswerYes();
   EXPECT_EQ(DepthAfterClick(GetParam().twice), "0 0 FileSystemObject");
   boxes.Take();
@@ -120,7 +120,7 @@ TEST_P(ClassesOnLeave, NeedANewPermissionAfterAChangeOfTheScript) {
   EXPECT_EQ(boxes.Take(), Lines{});
 }
 
-TEST_P(ClassesOnLeave, NeedANewPermissionInAnotherFile) {
+TEST_P(RestrictedClasses, NeedANewPermissionInAnotherFile) {
   AnswerYes();
   EXPECT_EQ(DepthAfterClick(GetParam().twice), "0 0 FileSystemObject");
   boxes.Take();
@@ -139,7 +139,7 @@ TEST_P(ClassesOnLeave, NeedANewPermissionInAnotherFile) {
   EXPECT_EQ(Depth(), u"0 0 FileSystemObject") << "the same file by another name";
 }
 
-TEST_P(ClassesOnLeave, CanBeRevokedInTheSettings) {
+TEST_P(RestrictedClasses, CanBeRevokedInTheSettings) {
   AnswerYes();
   EXPECT_EQ(DepthAfterClick(GetParam().twice), "0 0 FileSystemObject");
   boxes.Take();
@@ -153,7 +153,7 @@ TEST_P(ClassesOnLeave, CanBeRevokedInTheSettings) {
   EXPECT_EQ(boxes.Take(), Lines{Question(kClass)});
 }
 
-TEST_P(ClassesOnLeave, AreRefusedSilentlyWhereNobodyCanAnswer) {
+TEST_P(RestrictedClasses, AreRefusedSilentlyWhereNobodyCanAnswer) {
   AnswerYes();
   Module().programFile = folder.Put("form.cwf", "x");
   Module().scriptControl->SetLanguage(Text::FromUtf8(GetParam().name));
@@ -178,14 +178,14 @@ TEST_P(ClassesOnLeave, AreRefusedSilentlyWhereNobodyCanAnswer) {
   EXPECT_EQ(error([&] { Module().scriptControl->AddCode(code); }), 0);
 }
 
-TEST_P(ClassesOnLeave, AreTheOnlyOnesOffered) {
+TEST_P(RestrictedClasses, AreTheOnlyOnesOffered) {
   AnswerYes();
   EXPECT_EQ(DepthAfterClick(GetParam().unknown), "429 429 429 429");
   EXPECT_EQ(boxes.Take(), Lines{});
 }
 
 // A script that goes on in the engine that another form's took the place of is still the first form's.
-TEST_P(ClassesOnLeave, AreNotInheritedByFormsThatReadAnAllowedOne) {
+TEST_P(RestrictedClasses, AreNotInheritedByFormsThatReadAnAllowedOne) {
   AnswerYes();
   ASSERT_TRUE(ReadScript(GetParam().twice));
   std::filesystem::copy_file(folder.File("form.cwf"), folder.File("trusted.cwf"));
@@ -211,7 +211,7 @@ TEST_P(ClassesOnLeave, AreNotInheritedByFormsThatReadAnAllowedOne) {
   EXPECT_EQ(boxes.Take(), Lines{Question(kClass)});
 }
 
-INSTANTIATE_TEST_SUITE_P(, ClassesOnLeave, testing::ValuesIn(kAskingScripts),
+INSTANTIATE_TEST_SUITE_P(, RestrictedClasses, testing::ValuesIn(kAskingScripts),
                          [](const auto& one) { return one.param.name; });
 
 }  // namespace
