@@ -1,4 +1,4 @@
-' A key that a field cannot hold beeps; a program that the library would start is only noted.
+' A key that a field rejects beeps. A program that the library would start is only recorded.
 Option Explicit
 Dim folder, robot, form, vellum, hosts, item
 folder = WScript.Arguments(0)

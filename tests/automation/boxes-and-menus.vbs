@@ -1,4 +1,4 @@
-' Whatever asks for a person's answer is answered, from the queues or as told, and what was shown is kept.
+' Dialogs and menus are answered from the queues or by procedures, and what they showed is recorded.
 Option Explicit
 Dim folder, files, text, robot, hosts, vellum, form, box
 folder = WScript.Arguments(0)
@@ -41,7 +41,7 @@ For Each box In robot.Messages
   WScript.Echo box.Text, "(" & box.Title & ")", box.Style
 Next
 
-' The menu of a text box is the toolkit's own.
+' The context menu of a text box is the toolkit's.
 Dim target: Set target = form.Controls("txtAnswer")
 robot.Click target, , , 2
 WScript.Echo InStr(robot.LastMenu, "!=&Undo;!=&Redo;-;") = 1, Right(robot.LastMenu, 11)

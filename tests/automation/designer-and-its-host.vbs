@@ -1,4 +1,4 @@
-' What the host of a designer hears, keeps and sees.
+' The events, persistent properties and painting of a designer, as its host sees them.
 Option Explicit
 Dim folder, files, robot, designer, box, label, told, bag
 folder = WScript.Arguments(0)
@@ -66,7 +66,7 @@ WScript.Echo robot.FocusName, "<" & robot.Child(designer, "picInvisible").Name &
 robot.Type robot.Child(designer, "picInvisible"), "abc"
 WScript.Echo box.Text
 
-' Pointers by their numbers, over the handles too.
+' The mouse pointers by their numbers, also over the handles.
 Dim index, pointers
 For index = 0 To 8
   robot.Drag robot.Child(designer, "picResize", index), 3, 3, 4, 3, 2, 1
@@ -78,7 +78,7 @@ robot.Drag designer, 300, 300, 301, 300, 4, 1
 WScript.Echo robot.MousePointer(designer)
 designer.ControlTypeToAdd = 0
 
-' A plain click draws the least that there is.
+' A click without a drag draws a control of the minimum size.
 designer.ControlTypeToAdd = 5
 robot.Click designer, 200, 200
 Set label = designer.CurrentControl
@@ -89,7 +89,7 @@ WScript.Echo designer.CurrentControl.Width, designer.CurrentControl.Height
 designer.Delete
 told = ""
 
-' The grid, and what is painted.
+' The grid as it is painted.
 designer.GridStep = 10
 designer.SetGrid -1, True
 robot.Pump
@@ -102,7 +102,7 @@ WScript.Echo designer.GridStep
 robot.Screenshot designer, folder & "/designer.png"
 WScript.Echo files.GetFile(folder & "/designer.png").Size > 1000
 
-' What a container keeps.
+' The persistent properties.
 Set bag = robot.Bag(designer)
 WScript.Echo Join(bag.Keys, ","), bag("EnableKeyDelete"), TypeName(bag("EnableKeyDelete"))
 designer.EnableKeyDelete = False
@@ -117,7 +117,7 @@ WScript.Echo designer.EnableKeyDelete
 robot.DesignMode(designer) = True
 WScript.Echo robot.DesignMode(designer)
 
-' Widgets that are there and widgets that are not.
+' Child finds widgets, or Nothing.
 WScript.Echo robot.Child(designer, "PICRESIZE", 8).Width, robot.Child(designer, "object_1").Name
 WScript.Echo robot.Child(designer, "picResize") Is Nothing, robot.Child(designer, "picResize", 9) Is Nothing, robot.Child(designer, "picInvisible", 0) Is Nothing, robot.Child(designer, "cmdOK") Is Nothing
 

@@ -1,4 +1,4 @@
-' The designer's popup menu with its commands, the lock, and the clipboard that each designer has for itself.
+' The designer's popup menu with its commands, the lock, and the clipboard, which each designer has for itself.
 Option Explicit
 Dim robot, designer, label, frame, box, last
 Set robot = CreateObject("Cardwright.Robot")
@@ -48,7 +48,7 @@ robot.Drag frame, 20, 30, 120, 60
 Set box = designer.CurrentControl
 WScript.Echo label.Name, frame.Name, box.Name, box.Left & "," & box.Top
 
-' On a control, and on the bare surface.
+' On a control, and on the background.
 Choose "", box, 5, 5
 WScript.Echo robot.LastMenu
 WScript.Echo designer.CurrentControl Is box, robot.Child(designer, "picResize", 0).Visible
@@ -68,7 +68,7 @@ Choose "mnuForeground", label, 5, 5
 Choose "mnuBackground", frame, 150, 130
 WScript.Echo NamesInStack
 
-' Locked controls are selected as ever, and neither move nor change their place in the stack.
+' Locked controls can be selected, but not moved or restacked.
 Choose "mnuLock", designer, 500, 350
 robot.Click box
 robot.Drag robot.Child(designer, "picResize", 0), 3, 3, 40, 40
@@ -85,7 +85,7 @@ WScript.Echo designer.Controls.Count, TypeName(designer.CurrentControl)
 Choose "mnuDelete", label, 5, 5
 WScript.Echo designer.Controls.Count
 
-' What is pasted after the cut is the frame alone; a source that is gone changes nothing.
+' After the cut only the frame is pasted; a deleted source changes nothing.
 designer.Paste
 WScript.Echo designer.CurrentControl.Name, TypeName(designer.CurrentControl), designer.CurrentControl.Left, designer.CurrentControl.Width, designer.Controls.Count
 robot.Press designer, "Delete"
@@ -97,7 +97,7 @@ designer.EnableKeyDelete = True
 robot.Press designer, "Delete"
 WScript.Echo designer.Controls.Count
 
-' Nothing was copied in another designer.
+' In another designer nothing was copied.
 Dim other: Set other = CreateObject("Cardwright.FormDesigner")
 robot.Show other
 other.Paste

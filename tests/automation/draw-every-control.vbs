@@ -1,4 +1,4 @@
-' Every kind of control is drawn with the mouse, moved by its middle and sized by each handle, held to the grid.
+' Every kind of control is drawn with the mouse, moved by its centre and resized by each handle, with snap to grid.
 Option Explicit
 Dim robot, designer, kind, control, handle, form
 Set robot = CreateObject("Cardwright.Robot")
@@ -10,7 +10,7 @@ Function Place
   Place = control.Left & "," & control.Top & " " & control.Width & "x" & HeightOf
 End Function
 
-' Some kinds take their height from their font and keep it.
+' The height of some kinds follows from their font.
 Function HeightOf
   HeightOf = control.Height
   If control.Height <> 80 And control.Height Mod 8 <> 0 Then HeightOf = "own"
@@ -27,7 +27,7 @@ For kind = 1 To 14
   robot.Drag designer, 200, 160, 360, 240
   Set control = designer.CurrentControl
   WScript.Echo kind, TypeName(control), control.Name, Place, designer.ControlTypeToAdd
-  ' A point of the grid is reached by steps that fall on it; the sixteen here are of one or two pixels.
+  ' Sixteen steps of one or two pixels, so that every point of the grid is hit.
   Pull 0, 16, 16
   Pull 1, 16, 16
   Pull 2, -16, -16

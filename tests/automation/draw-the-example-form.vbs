@@ -1,4 +1,4 @@
-' The example form is drawn from nothing with the mouse, bound to its theme, saved, and filled in.
+' The example form is drawn with the mouse, bound to its theme, saved, and filled in.
 Option Explicit
 Const kTwips = 15
 Dim folder, files, robot, designer, vellum, plan, keys, number, form
@@ -21,8 +21,8 @@ Function Pixels(section, key)
   Pixels = CDbl(plan.GetValue(section, key, 0)) / kTwips
 End Function
 
-' The press goes to the form, or to the frame that the control shall stand in. The click before takes the handles of the
-' control drawn last out of its way. A hand draws roughly, here a bit too low; the rows then say exactly where.
+' The press goes to the form, or to the frame that shall contain the control. The click before it removes the handles of the
+' previous control, which would be in the way. The mouse draws roughly; the rows then set the exact position.
 Sub DrawControl(section)
   Dim ground, left, top
   Set ground = designer
@@ -35,7 +35,7 @@ Sub DrawControl(section)
   If plan.GetValue(section, "Type") = "Frame" Then frames.Add plan.GetValue(section, "Name"), designer.CurrentControl
 End Sub
 
-' As a property grid would, row by row.
+' Row by row, as a property grid would.
 Sub SetRows(control, section)
   Dim row, name, i, item
   designer.ChangeControlName control, plan.GetValue(section, "UserName")
@@ -80,8 +80,8 @@ Next
 vellum.ScriptContent = "VBScript" & vbCrLf & "Sub cmdToday_OnClick()" & vbCrLf & "  txtInspected.Text = ""2026-05-04""" & vbCrLf & "End Sub"
 WScript.Echo designer.ProjectSave(folder & "/drawn.cwf"), designer.Controls.Count
 
-' Every key of every control is the example's, whose sizes count in another unit. A combo box keeps the text it was born
-' with where an empty one is set.
+' Every key of every control is as in the example, whose sizes are in another unit. A combo box keeps its initial text
+' when an empty one is set.
 Dim drawn, section, key, told, here
 Set drawn = CreateObject("Cardwright.CIni")
 drawn.FileName = folder & "/drawn.cwf"
@@ -98,7 +98,7 @@ For number = 1 To plan.GetValue("FORM", "ControlsNumber")
   Next
 Next
 
-' It is filled in for a well.
+' The form is filled in for a well.
 Dim hosts, data, c
 Set hosts = CreateObject("Cardwright.Hosts")
 data = hosts.OpenStore(folder & "/wells.gpkg")

@@ -1,4 +1,4 @@
-' Every event of the form reaches the script that connected it; the window follows what the form asks for.
+' Every event of the form reaches the script that connected to it, and the window takes the size that the form asks for.
 Dim folder, form, robot, vellum, hosts
 folder = WScript.Arguments(0)
 Set hosts = CreateObject("Cardwright.Hosts")

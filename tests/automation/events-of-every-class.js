@@ -1,9 +1,9 @@
-// Each event that a class offers is set off by a person's hand and runs its procedure, here in forms that speak JScript.
+// Every event of every control class is caused by mouse and keys and runs its procedure, here in JScript.
 var files = new ActiveXObject("Scripting.FileSystemObject");
 var folder = WScript.Arguments(0);
 var events = "";
 
-// A form with one of each, and a procedure for each event, which tells the host of itself.
+// A form with a control of each class, and for each event a procedure that sends its name to the host.
 function writeProject(path) {
   var kinds = ["Label", "Frame", "CommandButton", "CheckBox", "OptionButton", "TextBox", "textboxmultiline", "ComboBox", "ListBox"];
   var lines = ["[FORM]", "ScaleMode= 3", "Width= 300", "Height= 300", "ThemeName=wells", "FeatureType= 0",

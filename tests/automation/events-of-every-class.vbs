@@ -1,4 +1,4 @@
-' Each event that a class offers is set off by a person's hand and runs its procedure, here in forms that speak VBScript.
+' Every event of every control class is caused by mouse and keys and runs its procedure, here in VBScript.
 Option Explicit
 Dim files, folder, robot, hosts, vellum, form, control, name, events
 Set files = CreateObject("Scripting.FileSystemObject")
@@ -15,7 +15,7 @@ Class Host
   End Function
 End Class
 
-' A form with one of each, and a procedure for each event, which tells the host of itself.
+' A form with a control of each class, and for each event a procedure that sends its name to the host.
 Sub WriteProject(path)
   Dim text, i, kinds: Set text = files.CreateTextFile(path, True)
   kinds = Array("Label", "Frame", "CommandButton", "CheckBox", "OptionButton", "TextBox", "textboxmultiline", "ComboBox", "ListBox")

@@ -1,4 +1,4 @@
-' A person's hand on a widget of each kind runs the procedures of the form's script.
+' Mouse and keys on a widget of each kind run the procedures of the form's script.
 Option Explicit
 Dim files, folder, robot, hosts, vellum, form, c, sections, scriptText
 Set files = CreateObject("Scripting.FileSystemObject")

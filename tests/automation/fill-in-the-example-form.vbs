@@ -1,4 +1,4 @@
-' The example form is filled in by mouse and keys; OK stores it, and the data source then answers with it.
+' The example form is filled in by mouse and keys. OK stores the values, and the data source returns them.
 Option Explicit
 Const kId = "5"
 Dim folder, hosts, vellum, robot, form, c, data
@@ -46,7 +46,7 @@ For Each line In Split(hosts.Log(data), vbCrLf)
   If InStr(line, "SET_ATTRIBUTE") > 0 And InStr(line, "INSPECTED") + InStr(line, "MONITORED") + InStr(line, "NOTES") = 0 Then WScript.Echo line
 Next
 
-' What a request reads back, in a connection of its own.
+' Requests over another connection read the values back.
 vellum.TarvoHandle = 0
 hosts.Close data
 Dim again

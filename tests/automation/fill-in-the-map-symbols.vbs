@@ -1,5 +1,5 @@
-' The example's sheet of map symbols is filled in by hand with all five selectors; OK stores what they chose, and the
-' sheet shows it again. Links between the selectors hold over new names.
+' The example's form of map symbols is filled in with all five selectors by mouse and keys. OK stores the choices, and the
+' form shows them again. Links between the selectors survive renaming.
 Option Explicit
 Dim folder, files, hosts, vellum, robot, form, c, data, line, text
 folder = WScript.Arguments(0)
@@ -31,7 +31,7 @@ Tell
 WScript.Echo c("lblSample").Text, c("lblSample").Object.Font.Name, c("lblSample").Object.Font.Italic
 WScript.Echo "themes" & Listed(c("selTheme"))
 
-' Another theme has other attributes, and its kind decides which.
+' Another theme has other attributes, as its feature type has.
 robot.ClickItem c("selTheme"), 1
 WScript.Echo "areas of wells:" & Listed(c("selLabel"))
 robot.ClickItem c("cboKind"), 1
@@ -47,7 +47,7 @@ robot.AnswerFile folder & "/pictures/well.png"
 robot.Click robot.Child(c("selPicture"), "button")
 WScript.Echo robot.Child(c("selPicture"), "edit").Text = folder & "/pictures/well.png"
 
-' Everything under new names.
+' All controls under new names.
 Dim name
 For Each name In Array("selTheme", "cboKind", "selLabel")
   c(name).PropertyValue("Name") = name & "Renamed"
@@ -66,7 +66,7 @@ For Each line In Split(hosts.Log(data), vbCrLf)
 Next
 WScript.Echo robot.Setting("Cardwright Examples", "Map symbols", "Pictures") = folder & "/pictures"
 
-' The sheet opened anew has the values from the data source alone.
+' The form, opened again, has the values from the data source only.
 vellum.TarvoHandle = 0
 hosts.Close data
 data = hosts.OpenStore(folder & "/wells.gpkg")
@@ -81,7 +81,7 @@ robot.Show again
 robot.ClickItem c("cboKind"), 2
 WScript.Echo "lines of aquifers:" & Listed(c("selLabel"))
 
-' A new theme, made on the way.
+' A new theme, created in the selector.
 Sub MakeSprings(dialog)
   WScript.Echo dialog.Name, dialog.Text
   robot.Type robot.Child(dialog, "txtName"), "springs"

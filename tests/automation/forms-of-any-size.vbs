@@ -1,4 +1,4 @@
-' A project may ask for any size; what is shown stays within what a machine can hold, and is closed as any other.
+' A project may ask for any size. Its window stays within what the machine can handle, and closes like any other.
 Option Explicit
 Dim folder, files, robot, kind, size, control
 folder = WScript.Arguments(0)

@@ -1,4 +1,4 @@
-' What is no connection cannot be used as one.
+' Only handles of open connections are accepted.
 Option Explicit
 Dim hosts, other, handle, vellum
 Set hosts = CreateObject("Cardwright.Hosts")

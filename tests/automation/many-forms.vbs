@@ -1,4 +1,4 @@
-' Forms come and go: what a script lets go of is taken down, what it holds stays.
+' Many forms: windows of forms that the script has released are closed, the others stay.
 Option Explicit
 Dim folder, kept, i, form, robot, hosts, vellum, closed
 folder = WScript.Arguments(0)

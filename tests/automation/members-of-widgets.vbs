@@ -1,4 +1,4 @@
-' Which names each kind of widget answers, whatever their case; all others are error 438.
+' The members of each kind of widget, found in any case; any other name is error 438.
 Option Explicit
 Dim folder, form, names, kind, name, has, widget, files, text, count
 folder = WScript.Arguments(0)

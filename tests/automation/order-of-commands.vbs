@@ -1,4 +1,4 @@
-' A host that is an object of the script sees every command, in order, for a form that the script writes itself.
+' A host that is an object of the script receives every command of a form, in order. The script writes the form itself.
 Option Explicit
 Dim files, folder, robot, hosts, vellum, form, handle
 Set files = CreateObject("Scripting.FileSystemObject")

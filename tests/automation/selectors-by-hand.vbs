@@ -1,4 +1,4 @@
-' The five selectors are used by mouse and keys: lists that follow each other, choices in dialogs, a theme that is new.
+' The five selectors are used by mouse and keys: lists that depend on each other, choices in dialogs, a new theme.
 Option Explicit
 Dim folder, files, hosts, vellum, robot, form, c, i, data
 folder = WScript.Arguments(0)

@@ -4,7 +4,7 @@
 
 namespace cardwright {
 
-/// Tests whose scripts are written in both languages; the parameter is the language's name.
+/// A fixture for tests whose scripts are written in both languages. The parameter is the language's name.
 class EitherLanguage : public FormScripts, public testing::WithParamInterface<const char*> {
  protected:
   EitherLanguage() : FormScripts(GetParam()) {}
@@ -16,13 +16,13 @@ class EitherLanguage : public FormScripts, public testing::WithParamInterface<co
     TakeEvents();
     return read;
   }
-  /// What the host does when the script sends the command "NOW".
+  /// Sets what the host does when the script sends the command "NOW".
   void OnNow(std::function<void()> action) {
     host->onLine = [action = std::move(action)](const std::string& line) {
       if (line == "X NOW") action();
     };
   }
-  /// The numbers in the boxes shown since the last call.
+  /// The error numbers in the message boxes since the last call.
   std::vector<std::string> Numbers() {
     std::vector<std::string> numbers;
     for (const std::string& box : boxes.Take()) {

@@ -9,7 +9,7 @@ namespace cardwright {
 
 inline ScriptLanguages BothLanguages() { return {vbscript::Language(), jscript::Language()}; }
 
-/// A form with a field and a button whose script runs in the engine that a program gives its forms.
+/// A form with a field and a button, whose script runs in the engine that a program provides.
 class FormScripts : public FormTest {
  protected:
   explicit FormScripts(std::string language = "VBScript") : m_Language(std::move(language)) {
@@ -33,7 +33,7 @@ class FormScripts : public FormTest {
   const std::string m_Language;
 };
 
-/// A script that fails, and what the box says of it.
+/// A script that fails, and the text of its message box.
 struct ScriptFailure {
   const char* title;
   const char* script;

@@ -1,4 +1,4 @@
-// Scripts of form projects in the engine that a program gives its forms, on real widgets.
+// Scripts of form projects in the engine that a program provides, with real widgets.
 
 #include <QApplication>
 #include <QMenu>

@@ -1,5 +1,5 @@
-// Scripts that pull the ground from under the form, the host or themselves, on real widgets: each ends in a
-// numbered error or in what the program is told to do, and the form can be used and closed afterwards.
+// Scripts that delete objects which the form, the host or they themselves still use, with real widgets. Each
+// ends with a numbered error or does what it asks for, and the form can be used and closed afterwards.
 
 #include "forms/EitherLanguage.h"
 
@@ -68,8 +68,8 @@ TEST_P(HostileScripts, RemoveTheControlThatWasClicked) {
   QTest::mouseClick(&button, Qt::LeftButton);
   EXPECT_EQ(host->Take(), Lines{"X cmdToday2"});
   EXPECT_EQ(Numbers(), Numbered{});
-  // The widget stays. Its control goes with the last who holds it, which is the collector's affair in one
-  // language.
+  // The widget stays. Its control is deleted with its last reference, which in JScript is the collector's
+  // decision.
   QTest::mouseClick(&button, Qt::LeftButton);
   EXPECT_EQ(host->Take(), Lines{});
 }
@@ -106,7 +106,7 @@ TEST_P(HostileScripts, AddForeignObjectsToTheControls) {
   ClickOk();
   ClickCancel();
   EXPECT_EQ(TakeEvents(), (Lines{"OkClick", "CancelClick"}));
-  form->Object()->Controls().Remove(Variant(u"all"));  // a collection in itself would never end
+  form->Object()->Controls().Remove(Variant(u"all"));  // a collection that holds itself would leak
 }
 
 TEST_P(HostileScripts, RenameTheControlThatWasClicked) {

@@ -1,4 +1,4 @@
-// Scripts of form projects in JScript, on real widgets.
+// Scripts of form projects in JScript, with real widgets.
 
 #include "forms/FormScriptsFixture.h"
 

@@ -1,4 +1,4 @@
-// Scripts of forms that set off other scripts while they run.
+// Scripts of forms that cause other scripts to run.
 
 #include "forms/EitherLanguage.h"
 

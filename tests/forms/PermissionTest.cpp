@@ -1,4 +1,4 @@
-// What the script of a form may do once its user has allowed it.
+// Classes that the script of a form may use with the user's permission.
 
 #include <QSettings>
 
@@ -9,7 +9,7 @@
 namespace cardwright {
 namespace {
 
-/// Settings of the test's own, before anything opens the user's.
+/// Keeps the settings in a folder of the test. Must be made before anything opens the user's settings.
 class OwnSettings {
  protected:
   OwnSettings() {
@@ -21,14 +21,14 @@ class OwnSettings {
   TempFolder m_Folder;
 };
 
-struct AskingScript {
+struct PermissionScript {
   const char* name;
-  const char* twice;    ///< asks for the class with the click, twice, and writes what came of it
+  const char* twice;    ///< a click creates an object twice and shows the results
   const char* changed;  ///< the same with another text
-  const char* unknown;  ///< asks for classes that nobody has
+  const char* unknown;  ///< asks for unknown classes
 };
 
-constexpr AskingScript kAskingScripts[] = {
+constexpr PermissionScript kPermissionScripts[] = {
     {"VBScript",
      "Sub cmdToday_OnClick()\nOn Error Resume Next\nFor i = 1 To 2\n"
      "Set f = CreateObject(\"Scripting.FileSystemObject\")\ns = s & Err.Number & \" \"\nErr.Clear\nNext\n"
@@ -57,7 +57,7 @@ constexpr AskingScript kAskingScripts[] = {
 
 class RestrictedClasses : private OwnSettings,
                            public FormScripts,
-                           public testing::WithParamInterface<AskingScript> {
+                           public testing::WithParamInterface<PermissionScript> {
  protected:
   RestrictedClasses() : FormScripts(GetParam().name) {
     ClassRegistry classes;
@@ -66,7 +66,7 @@ class RestrictedClasses : private OwnSettings,
     Module().scriptControl = Module().makeScriptControl();
   }
 
-  /// What a click makes of a form that was read afresh.
+  /// What a click shows in a form that was just read.
   std::string DepthAfterClick(const std::string& script) {
     EXPECT_TRUE(ReadScript(script));
     ClickToday();
@@ -125,7 +125,7 @@ TEST_P(RestrictedClasses, NeedANewPermissionInAnotherFile) {
   EXPECT_EQ(DepthAfterClick(GetParam().twice), "0 0 FileSystemObject");
   boxes.Take();
   boxes.beforeAnswer = nullptr;
-  // The settings take the names for the same.
+  // The keys of the settings ignore case.
   for (const char* name : {"other.cwf", "Form.cwf"}) {
     std::filesystem::copy_file(folder.File("form.cwf"), folder.File(name));
     ASSERT_TRUE(form->ProjectRead(NameOf(name)));
@@ -171,7 +171,7 @@ TEST_P(RestrictedClasses, AreRefusedSilentlyWhereNobodyCanAnswer) {
                             : u"new ActiveXObject('Scripting.FileSystemObject');";
   EXPECT_EQ(error([&] { Module().scriptControl->AddCode(code); }), 429);
   Module().scriptControl->SetAllowUI(true);
-  person.reset();  // the platform of the tests shows nothing
+  person.reset();  // the tests run without a display
   EXPECT_EQ(error([&] { Module().scriptControl->AddCode(code); }), 429);
   EXPECT_EQ(boxes.Take(), Lines{});
   person.emplace();
@@ -184,7 +184,7 @@ TEST_P(RestrictedClasses, AreTheOnlyOnesOffered) {
   EXPECT_EQ(boxes.Take(), Lines{});
 }
 
-// A script that goes on in the engine that another form's took the place of is still the first form's.
+// A script that is still running after another form has replaced its engine still belongs to the first form.
 TEST_P(RestrictedClasses, AreNotInheritedByFormsThatReadAnAllowedOne) {
   AnswerYes();
   ASSERT_TRUE(ReadScript(GetParam().twice));
@@ -211,7 +211,7 @@ TEST_P(RestrictedClasses, AreNotInheritedByFormsThatReadAnAllowedOne) {
   EXPECT_EQ(boxes.Take(), Lines{Question(kClass)});
 }
 
-INSTANTIATE_TEST_SUITE_P(, RestrictedClasses, testing::ValuesIn(kAskingScripts),
+INSTANTIATE_TEST_SUITE_P(, RestrictedClasses, testing::ValuesIn(kPermissionScripts),
                          [](const auto& one) { return one.param.name; });
 
 }  // namespace

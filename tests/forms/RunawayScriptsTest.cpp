@@ -1,5 +1,5 @@
-// Scripts without measure, and events where none are expected, on real widgets: each ends in a numbered error
-// or in what the program is told to do.
+// Scripts that recurse or allocate without end, and events at unexpected moments, with real widgets. Each
+// ends with a numbered error or does what it asks for.
 
 #include "forms/EitherLanguage.h"
 

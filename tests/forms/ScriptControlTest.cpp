@@ -1,4 +1,4 @@
-// The script control whose languages, code and objects change while its scripts run.
+// A script control whose language, code and objects change while its scripts run.
 
 #include "cardwright/platform/EngineControl.h"
 #include "forms/FormScriptsFixture.h"
@@ -6,7 +6,7 @@
 namespace cardwright {
 namespace {
 
-/// Does to the control what a script asks it for.
+/// Changes the control as a script asks it to.
 class Meddler final : public TableObject {
  public:
   Text TypeName() const override { return u"Meddler"; }

@@ -1,4 +1,4 @@
-// Scripts of forms that do not come to an end, and the Break key.
+// Endless scripts of forms, and the Break key.
 
 #include <QElapsedTimer>
 
@@ -13,11 +13,11 @@ const std::string kQuestion = "Run-time tests|The script of the form is still ru
 struct EndlessScript {
   const char* name;
   const char* endless;  ///< endless at the first click, writes "alive" at later ones
-  const char* calls;    ///< calls the host without an end
-  const char* search;   ///< searches without an end at the first click
-  const char* nested;   ///< the change of the field that a click makes does not end
+  const char* calls;    ///< calls the host endlessly
+  const char* search;   ///< searches endlessly at the first click
+  const char* nested;   ///< a click changes a field, whose change event is endless
   const char* box;      ///< shows a box and ends
-  const char* start;    ///< does not get to its first event
+  const char* start;    ///< endless before its first event
 };
 
 constexpr EndlessScript kEndlessScripts[] = {
@@ -44,7 +44,7 @@ constexpr EndlessScript kEndlessScripts[] = {
      nullptr, "for (;;) ;\nfunction cmdToday_OnClick(){\n}\n"},
 };
 
-/// Waits until events are served.
+/// Takes effect when events are processed.
 void PressBreak(QWidget& widget) {
   QCoreApplication::postEvent(&widget, new QKeyEvent(QEvent::KeyPress, Qt::Key_Cancel, Qt::ControlModifier));
 }

@@ -35,7 +35,7 @@ TEST_F(EngineErrors, AreNotReportedWhenCaught) {
   EXPECT_EQ(m_Engine->LastError().number, 0);
 }
 
-/// Its scripts call `Again`, which runs the function that it names.
+/// Scripts call Host.Callback with the name of a function that it then runs.
 class EngineNesting : public EngineTest {
  protected:
   EngineNesting() {
@@ -123,7 +123,7 @@ TEST_F(EngineNesting, AllowsClosingTheEngineDuringACall) {
   EXPECT_EQ(Value(u"1 + 1"), "2");
 }
 
-/// Scripts that do not end by themselves.
+/// Endless scripts.
 class EngineStops : public EngineTest {
  protected:
   template <class Step>
@@ -172,7 +172,7 @@ TEST_F(EngineStops, OuterCallsWithInnerCalls) {
     try {
       m_Engine->Run({}, u"Endless", {});
     } catch (const Error&) {
-      // A host that swallows it does not keep the script alive.
+      // A host that ignores the error cannot keep the script running.
     }
     return Variant();
   };
@@ -198,7 +198,7 @@ TEST_F(EngineStops, EndlessRecursion) {
   EXPECT_EQ(Said(), "28 Out of stack space");
 }
 
-/// Writes down what it is told.
+/// Records what it observes.
 class Log final : public ScriptObserver {
  public:
   void OnStatement(std::u16string_view module, int line, int column) override {

@@ -136,7 +136,7 @@ TEST_F(EngineObjects, AreReleasedWithTheEngine) {
   Add(u"var kept = [Probe, {p: Probe}]; Host.Value = function () { return Probe; }; Probe.Value = kept;");
   EXPECT_FALSE(probe->IsUnique());
   m_Engine.reset();
-  // The host's own cycle: the probe has the script's list, which is empty of it now.
+  // The probe's value is the script's list, which was detached with the engine.
   probe->value = {};
   EXPECT_TRUE(probe->IsUnique());
 }

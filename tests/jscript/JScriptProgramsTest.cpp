@@ -11,7 +11,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// One program of tests/jscript/<area>/, by its path below that folder and without the extension.
+/// A program in tests/jscript/<area>/, named by its path in tests/jscript without the extension.
 struct ProgramFile {
   std::string name;
   fs::path Path() const { return fs::path(CARDWRIGHT_SOURCE_DIR "/tests/jscript") / (name + ".js"); }
@@ -26,7 +26,7 @@ std::vector<ProgramFile> AllPrograms() {
   return files;
 }
 
-// Test names have letters, digits and underlines only: text/a-b.js is text_a_b.
+// Test names may have only letters, digits and underscores: text/a-b.js is text_a_b.
 std::string TestName(const ::testing::TestParamInfo<ProgramFile>& info) {
   std::string name = info.param.name;
   std::ranges::replace_if(

@@ -16,12 +16,12 @@
 
 namespace cardwright::jscript {
 
-/// An object that a program gives to its scripts: notes what they say, calls back, holds values.
+/// An object that a host adds to its scripts: it records what they say, calls back and holds values.
 class Gadget final : public TableObject {
  public:
   Text TypeName() const override { return u"Gadget"; }
 
-  std::string said;  ///< UTF-8, what each Say had, separated by "; "
+  std::string said;  ///< the arguments of each Say in UTF-8, separated by "; "
   std::function<Variant(Args)> onCall;
   Variant value;
   Ref<Collection> items = MakeRef<Collection>();
@@ -68,7 +68,7 @@ class Gadget final : public TableObject {
   Ref<Collection> m_Cells = MakeRef<Collection>();
 };
 
-/// A program that embeds one engine, with a Gadget named Host.
+/// A host with one engine, to which it adds a Gadget named Host.
 class EngineTest : public ::testing::Test {
  protected:
   explicit EngineTest(const Limits& limits = {}) { Start(limits); }
@@ -84,10 +84,10 @@ class EngineTest : public ::testing::Test {
   std::string Value(std::u16string_view expression, std::u16string_view module = {}) {
     return ToText(m_Engine->Evaluate(module, expression)).ToUtf8();
   }
-  /// What the scripts said since the last time.
+  /// What the scripts said since the last call.
   std::string Said() { return std::exchange(m_Gadget->said, {}); }
 
-  /// Number of the error that a step ends with; 0 for none.
+  /// The number of the error that a step ends with; 0 for none.
   template <class Step>
   static int ErrorOf(Step&& step) {
     try {

@@ -7,7 +7,7 @@ namespace {
 
 class EngineValues : public EngineTest {
  protected:
-  /// What comes back of a value that the script got and gives again.
+  /// A value after its way into the script and back.
   Variant ThereAndBack(const Variant& value) {
     m_Gadget->value = value;
     return m_Engine->Evaluate({}, u"Host.Value");

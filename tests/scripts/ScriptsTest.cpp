@@ -21,7 +21,7 @@ std::vector<fs::path> ScriptFiles() {
   return files;
 }
 
-/// What the comments of a script promise: `' expect: LINE`, or with `//` in JScript.
+/// The output that the comments of a script expect: `' expect: LINE`, or with `//` in JScript.
 std::string Expected(const std::string& source) {
   std::istringstream lines(source);
   std::string expected;
@@ -39,14 +39,14 @@ std::string Expected(const std::string& source) {
 
 class Scripts : public ::testing::TestWithParam<fs::path> {};
 
-/// Runs a script beside copies of the example.
+/// Runs a script in a folder with copies of the examples.
 Outcome RunBesideTheExample(const fs::path& script) {
   const TempFolder folder;
   folder.Copy("examples/wells/well-inspection.cwf");
   folder.Copy("examples/wells/map-symbol.cwf");
   folder.Copy("examples/wells/wells.gpkg");
   ::setenv("XDG_CONFIG_HOME", folder.File("config").c_str(), 1);
-  // The toolkit wants a folder of the user's alone for its sockets and says so where there is none.
+  // The toolkit warns if there is no private folder for its sockets.
   fs::create_directory(folder.File("runtime"));
   fs::permissions(folder.File("runtime"), fs::perms::owner_all);
   ::setenv("XDG_RUNTIME_DIR", folder.File("runtime").c_str(), 1);
@@ -55,9 +55,9 @@ Outcome RunBesideTheExample(const fs::path& script) {
 
 TEST_P(Scripts, PrintTheExpectedOutput) {
   const std::string expected = Expected(ReadAll(GetParam().string()));
-  ASSERT_NE(expected, "") << "the script promises nothing";
+  ASSERT_NE(expected, "") << "the script has no expectations";
   Outcome outcome = RunBesideTheExample(GetParam());
-  // The leak checker, which stops all threads at the end, now and then fails itself, and says so.
+  // Sometimes the leak checker itself fails at the end, when it stops all threads.
   if (outcome.err.find("LeakSanitizer has encountered a fatal error") != std::string::npos)
     outcome = RunBesideTheExample(GetParam());
   EXPECT_EQ(outcome.out, expected);

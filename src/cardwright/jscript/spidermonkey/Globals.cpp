@@ -25,11 +25,11 @@
 #include "cardwright/jscript/spidermonkey/ErrorMapping.h"
 #include "cardwright/jscript/spidermonkey/GlobalNames.h"
 #include "cardwright/jscript/spidermonkey/HostCalls.h"
-#include "cardwright/jscript/spidermonkey/IndexedAssignment.h"
+#include "cardwright/jscript/spidermonkey/IndexedTargets.h"
 #include "cardwright/jscript/spidermonkey/Prelude.h"
 #include "cardwright/jscript/spidermonkey/ValueConversion.h"
 #include "cardwright/jscript/spidermonkey/ValueWrappers.h"
-#include "cardwright/jscript/syntax/SyntaxError.h"
+#include "cardwright/jscript/syntax/SourceError.h"
 
 namespace cardwright::jscript {
 namespace {
@@ -184,7 +184,7 @@ bool RewriteNative(JSContext* cx, unsigned count, JS::Value* vp) {
       JSString* string = JS_NewUCStringCopyN(cx, source.text.data(), source.text.size());
       if (string) args.rval().setString(string);
       return string != nullptr;
-    } catch (const SyntaxError& fault) {
+    } catch (const SourceError& fault) {
       Raise(fault.number, ErrorText(fault.number));
     }
   });
@@ -254,7 +254,7 @@ bool DefineGlobals(ScriptSession& session) {
   JS::RootedObject names(cx, prototype ? NewGlobalNames(cx, prototype) : nullptr);
   return names && JS_SetPrototype(cx, global, names) &&
          DefineValueWrappers(cx, global, &session.m_ArrayPrototype, &session.m_ExactPrototype) &&
-         DefineIndexedAssignment(cx, global, &session.m_TargetPrototype) && DefineFunctions(cx, global) &&
+         DefineIndexedTargets(cx, global, &session.m_TargetPrototype) && DefineFunctions(cx, global) &&
          KeepOriginals(cx, global, &session.m_TimezoneOffset) && RunPrelude(cx, global);
 }
 

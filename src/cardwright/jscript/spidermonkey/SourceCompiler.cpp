@@ -9,12 +9,12 @@
 #include "cardwright/jscript/spidermonkey/ScriptSession.h"
 #include "cardwright/jscript/syntax/CharacterClasses.h"
 #include "cardwright/jscript/syntax/Rewriter.h"
-#include "cardwright/jscript/syntax/SyntaxError.h"
+#include "cardwright/jscript/syntax/SourceError.h"
 
 namespace cardwright::jscript {
 namespace {
 
-[[noreturn]] void ThrowSyntax(ScriptSession& session, std::u16string_view source, const SyntaxError& fault) {
+[[noreturn]] void ThrowSyntax(ScriptSession& session, std::u16string_view source, const SourceError& fault) {
   const SourcePosition position = PositionAt(source, fault.position);
   throw ScriptFault({.number = fault.number,
                      .description = ErrorText(fault.number),
@@ -33,7 +33,7 @@ void CompileSource(ScriptSession& session, const Text& moduleName, CompileScope 
   Rewritten rewritten;
   try {
     rewritten = Rewrite(source);
-  } catch (const SyntaxError& fault) {
+  } catch (const SourceError& fault) {
     ThrowSyntax(session, source, fault);
   }
   result.functions = std::move(rewritten.functions);

@@ -7,7 +7,7 @@
 #include "cardwright/jscript/errors/ErrorNumbers.h"
 #include "cardwright/jscript/syntax/CharacterClasses.h"
 #include "cardwright/jscript/syntax/ConditionalExpression.h"
-#include "cardwright/jscript/syntax/SyntaxError.h"
+#include "cardwright/jscript/syntax/SourceError.h"
 
 namespace cardwright::jscript {
 namespace {
@@ -25,7 +25,7 @@ class Preprocessor {
 
   ConditionalResult Run() {
     while (m_At < m_Source.size()) Step();
-    if (!m_OpenIfs.empty()) throw SyntaxError{kExpectedConditionalEnd, m_Source.size()};
+    if (!m_OpenIfs.empty()) throw SourceError{kExpectedConditionalEnd, m_Source.size()};
     return std::move(m_Result);
   }
 
@@ -176,11 +176,11 @@ void Preprocessor::RunSet() {
     while (m_At < m_Source.size() && IsBlank(m_Source[m_At]) && !IsLineEnd(m_Source[m_At])) ++m_At;
   };
   skipBlanks();
-  if (m_At >= m_Source.size() || m_Source[m_At] != u'@') throw SyntaxError{kExpectedAtSign, m_At};
+  if (m_At >= m_Source.size() || m_Source[m_At] != u'@') throw SourceError{kExpectedAtSign, m_At};
   ++m_At;
   const std::u16string name = Name();
   skipBlanks();
-  if (m_At >= m_Source.size() || m_Source[m_At] != u'=') throw SyntaxError{kExpectedEquals, m_At};
+  if (m_At >= m_Source.size() || m_Source[m_At] != u'=') throw SourceError{kExpectedEquals, m_At};
   ++m_At;
   const double value = Calculate(&ConditionalExpression::Value);
   if (IsKept()) m_Variables[name] = value;
@@ -190,7 +190,7 @@ void Preprocessor::RunIf(std::size_t start) {
   ++m_At;
   const std::u16string name = Name();
   const bool isFirst = name == u"if";
-  if (!isFirst && m_OpenIfs.empty()) throw SyntaxError{kSyntaxError, start};
+  if (!isFirst && m_OpenIfs.empty()) throw SourceError{kSyntaxError, start};
   const bool isKept = IsKept();
   if (isFirst) m_OpenIfs.push_back({.isInside = isKept});
   if (isFirst || name == u"elif") {

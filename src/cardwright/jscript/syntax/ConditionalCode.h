@@ -17,7 +17,7 @@ struct ConditionalResult {
 };
 
 /// Runs the statements `@cc_on`, `@set`, `@if`, `@elif`, `@else` and `@end`, also in comments that begin with
-/// `/*@` or `//@`. Throws a SyntaxError.
+/// `/*@` or `//@`. Throws a SourceError.
 ConditionalResult RunConditionalCode(std::u16string_view source);
 
 }  // namespace cardwright::jscript

@@ -6,7 +6,7 @@
 #include "cardwright/automation/Conversions.h"
 #include "cardwright/jscript/errors/ErrorNumbers.h"
 #include "cardwright/jscript/syntax/CharacterClasses.h"
-#include "cardwright/jscript/syntax/SyntaxError.h"
+#include "cardwright/jscript/syntax/SourceError.h"
 
 namespace cardwright::jscript {
 namespace {
@@ -92,7 +92,7 @@ double ConditionalExpression::Binary(int lowest) {
 }
 
 double ConditionalExpression::Unary() {
-  if (++m_Depth > kDeepest) throw SyntaxError{kSyntaxError, m_At};
+  if (++m_Depth > kDeepest) throw SourceError{kSyntaxError, m_At};
   SkipBlanks();
   const char16_t c = m_At < m_Source.size() ? m_Source[m_At] : u'\0';
   double value = 0;
@@ -108,13 +108,13 @@ double ConditionalExpression::Unary() {
 }
 
 double ConditionalExpression::Primary() {
-  if (m_At >= m_Source.size()) throw SyntaxError{kExpectedConstant, m_At};
+  if (m_At >= m_Source.size()) throw SourceError{kExpectedConstant, m_At};
   const char16_t c = m_Source[m_At];
   if (c == u'(') {
     ++m_At;
     const double value = Binary(0);
     SkipBlanks();
-    if (m_At >= m_Source.size() || m_Source[m_At] != u')') throw SyntaxError{kExpectedCloseParenthesis, m_At};
+    if (m_At >= m_Source.size() || m_Source[m_At] != u')') throw SourceError{kExpectedCloseParenthesis, m_At};
     ++m_At;
     return value;
   }
@@ -136,7 +136,7 @@ double ConditionalExpression::Word() {
   while (m_At < m_Source.size() && ContinuesName(m_Source[m_At])) ++m_At;
   const std::u16string_view word = m_Source.substr(name, m_At - name);
   if (word.empty() || (!isVariable && word != u"true" && word != u"false"))
-    throw SyntaxError{kExpectedConstant, start};
+    throw SourceError{kExpectedConstant, start};
   if (!isVariable) return word == u"true";
   const auto known = m_Variables.find(word);
   return known == m_Variables.end() ? std::nan("") : known->second;

@@ -19,7 +19,7 @@ class ConditionalExpression {
  public:
   ConditionalExpression(std::u16string_view source, std::size_t start, const ConditionalVariables& variables)
       : m_Source(source), m_At(start), m_Variables(variables) {}
-  /// Throws a SyntaxError.
+  /// Throws a SourceError.
   double Value() { return Binary(0); }
   /// The value of a condition, which ends with its closing parenthesis if it begins with one.
   double Condition();

@@ -37,7 +37,7 @@ struct Rewritten {
 /// - `[1, ]` has two elements
 /// - a caught error gets the properties of a JScript error
 ///
-/// Throws a SyntaxError.
+/// Throws a SourceError.
 Rewritten Rewrite(std::u16string_view source);
 
 }  // namespace cardwright::jscript

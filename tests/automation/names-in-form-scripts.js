@@ -1,9 +1,9 @@
-// The names that a form's script has, used from JScript with and without the object that they belong to. First in a run as
-// users have it, then in a debugging run.
+// The names in a form's script, used from JScript with and without the object that they belong to: first in a normal run,
+// then in a debugging run.
 var files = new ActiveXObject("Scripting.FileSystemObject");
 var folder = WScript.Arguments(0);
 
-// The names are without regard to case, as all those of the program's objects are.
+// The names are found in any case, like those of all host objects.
 function formScript() {
   return [
     "function say(text) { ORVExecute(text); }",

@@ -1,11 +1,11 @@
-' What fails in a form's script is told in one box, with the number and the place in the author's own lines, and the form
-' goes on. Each form here has three names to declare, "Form", "txtDepth" and the button's.
+' An error in a form's script is shown in one message box, with its number and its position in the author's source, and the
+' form continues. Three names are declared before the author's source here: "Form", "txtDepth" and the button's.
 Option Explicit
 Dim files, folder, robot, hosts, vellum, form, told, button, handle
 Set files = CreateObject("Scripting.FileSystemObject")
 folder = WScript.Arguments(0)
 
-' Changes a field, and with that runs the script's procedure for it, while a command of the script is being carried out.
+' Changes a field, and so runs the script's procedure for that, during a command of the script.
 Class Host
   Public Function ORVExecute(command)
     If command = "CHANGE" Then form.Controls("txtDepth").PropertyValue("Text") = "changed"

@@ -1,5 +1,5 @@
-' The names that a form's script has, used from VBScript with and without the object that they belong to. First in a run as
-' users have it, then in a debugging run.
+' The names in a form's script, used from VBScript with and without the object that they belong to: first in a normal run,
+' then in a debugging run.
 Option Explicit
 Dim files, folder, robot, hosts, vellum, form, output, handle
 Set files = CreateObject("Scripting.FileSystemObject")

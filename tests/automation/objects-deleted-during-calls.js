@@ -1,5 +1,5 @@
-// A command of the form's script takes away what the script, the form or the call itself stands on; all that follows is as for
-// anything that is no longer there.
+// A command of the form's script deletes an object that the script, the form or the running call needs. What follows fails
+// as for any deleted object.
 var files = new ActiveXObject("Scripting.FileSystemObject");
 var folder = WScript.Arguments(0);
 var hosts = new ActiveXObject("Cardwright.Hosts");

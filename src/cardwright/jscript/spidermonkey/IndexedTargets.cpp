@@ -1,4 +1,4 @@
-#include "cardwright/jscript/spidermonkey/IndexedAssignment.h"
+#include "cardwright/jscript/spidermonkey/IndexedTargets.h"
 
 #include <js/Array.h>
 #include <js/CallArgs.h>
@@ -146,7 +146,7 @@ bool SetTargetValue(JSContext* cx, unsigned count, JS::Value* vp) {
 
 }  // namespace
 
-bool DefineIndexedAssignment(JSContext* cx, JS::HandleObject global, JS::MutableHandleObject prototype) {
+bool DefineIndexedTargets(JSContext* cx, JS::HandleObject global, JS::MutableHandleObject prototype) {
   constexpr unsigned kFixed = JSPROP_PERMANENT | JSPROP_READONLY;
   constexpr std::u16string_view put = hidden::kIndexedTarget, putMember = hidden::kIndexedMember;
   prototype.set(JS_NewPlainObject(cx));

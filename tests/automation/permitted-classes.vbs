@@ -1,4 +1,4 @@
-' The script of a form gets at files only where a person has allowed it: under a robot by its answer, else nobody is asked.
+' A form's script can use files only if the user permits it. A robot answers that question; without one it is not asked.
 Option Explicit
 Dim folder, files, robot, hosts, vellum, form, box
 Set files = CreateObject("Scripting.FileSystemObject")

@@ -1,4 +1,4 @@
-' What the robot sees, and what a container and the user's settings keep.
+' Screenshots and colours of pixels, persistent properties, and the user's settings.
 Option Explicit
 Dim folder, files, robot, form, bag, box
 folder = WScript.Arguments(0)
@@ -26,7 +26,7 @@ WScript.Echo "<" & robot.Setting("App", "Section", "Key") & ">"
 robot.Setting("App", "Section", "Key") = "kept"
 WScript.Echo robot.Setting("app", "SECTION", "key")
 
-' In a container that is being designed the buttons stand in the corner.
+' In design mode the buttons are in the corner.
 robot.DesignMode(form) = True
 robot.Show form, 700, 600
 WScript.Echo robot.DesignMode(form), robot.Child(form, "CMDCANCEL").Left > 600, robot.Child(form, "nobody") Is Nothing

@@ -1,4 +1,4 @@
-' Where nobody sees the windows and no robot answers, a form's boxes say their text among the script's output and go on.
+' Without a display and without a robot, a form's message boxes print their text to the script's output and return at once.
 Option Explicit
 Dim files, text, hosts, vellum, form, file, robot
 file = WScript.Arguments(0) & "/boxes.cwf"
@@ -28,7 +28,7 @@ robot.Answer vbYes
 form.ProjectRead file
 WScript.Echo robot.Messages.Count
 
-' Once the robot is gone, the boxes say their text again.
+' After the robot was released, message boxes print their text again.
 Set robot = Nothing
 WScript.Echo form.ProjectRead(file)
 

@@ -1,5 +1,5 @@
-// A whole fill-in as one list: the commands that the host is sent, the procedures of the form's script, the boxes that are
-// shown and the events that the form's owner hears, in the order in which they come.
+// A whole fill-in as one list: the commands sent to the host, the procedures of the form's script, the message boxes and the
+// events of the form, in their order.
 var files = new ActiveXObject("Scripting.FileSystemObject");
 var folder = WScript.Arguments(0);
 var kPlace = /^(\w+)( \|wells\| \|POINT\|)/;

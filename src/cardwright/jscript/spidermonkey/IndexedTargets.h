@@ -8,6 +8,6 @@ namespace cardwright::jscript {
 
 /// Defines the functions that `o(i) = v` and `o.p(i) = v` are rewritten to. They return a target, whose
 /// property `v` reads and assigns the member with its arguments. Error 5003 where `o` is no host object.
-bool DefineIndexedAssignment(JSContext* cx, JS::HandleObject global, JS::MutableHandleObject prototype);
+bool DefineIndexedTargets(JSContext* cx, JS::HandleObject global, JS::MutableHandleObject prototype);
 
 }  // namespace cardwright::jscript

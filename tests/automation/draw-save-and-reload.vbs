@@ -1,4 +1,4 @@
-' All kinds of controls are drawn, on the form and in a frame; what is saved opens again and saves byte for byte the same.
+' All kinds of controls are drawn, on the form and in a frame. The saved project can be opened, and saves to the same bytes.
 Option Explicit
 Dim folder, files, robot, designer, kind, index, count, control, frame, first, form
 folder = WScript.Arguments(0)
@@ -23,7 +23,7 @@ Sub DrawAll(target, left, top)
   Next
 End Sub
 
-' As a property grid does, which shows each row of what is selected.
+' Reads every row of the selected control, as a property grid does.
 Sub ReadRows(shown)
   Dim row, value
   For row = 0 To shown.PropertyCount - 1
@@ -31,7 +31,7 @@ Sub ReadRows(shown)
   Next
 End Sub
 
-' Each saving lets the script's tail grow by one empty line.
+' Each save adds an empty line to the script.
 Function Saved(name)
   If Not designer.ProjectSave(folder & "/" & name) Then WScript.Echo "not saved:", name
   Saved = Bytes(folder & "/" & name)
@@ -57,7 +57,7 @@ For Each control In designer.Controls
 Next
 WScript.Echo designer.Controls.Count, TypeName(frame), frame.Name, frame.Width & "x" & frame.Height, "in it:", count
 
-' A frame in the frame, names, the stacking, and what the form itself has.
+' A frame in the frame, names, the z-order, and the form's own rows.
 designer.ControlTypeToAdd = 4
 robot.Drag frame, 20, 230, 160, 284
 designer.ChangeControlName designer.CurrentControl, "fraInner"
@@ -83,14 +83,14 @@ WScript.Echo "the same:", Saved("third.cwf") = first, designer.Controls("Form").
 WScript.Echo designer.Controls("txtDepth").Object.Container.Name = designer.Controls("fraInner").Name
 WScript.Echo designer.Controls("fraInner").Object.Container.Name = designer.Controls("fraWell").Name
 
-' A control more in the form that was read: the numbers of objects go on.
+' Another control in the form that was read: the numbers of widget names continue.
 designer.ControlTypeToAdd = 5
 robot.Drag designer, 20, 320, 120, 340
 WScript.Echo designer.CurrentControl.Name, designer.CurrentControl.Text
 designer.Delete
 WScript.Echo "without it:", Saved("fourth.cwf") = first
 
-' It is a form that is filled in.
+' The form can be filled in.
 Set form = CreateObject("Cardwright.FormInput")
 WScript.Echo form.ProjectRead(folder & "/first.cwf"), form.Controls.Count
 robot.Show form

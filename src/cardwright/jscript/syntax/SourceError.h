@@ -5,7 +5,7 @@
 namespace cardwright::jscript {
 
 /// Thrown for an error that is found before the source is compiled.
-struct SyntaxError {
+struct SourceError {
   int number = 0;            ///< one of errors/ErrorNumbers.h
   std::size_t position = 0;  ///< in the source
 };
