@@ -56,8 +56,8 @@ constexpr PermissionScript kPermissionScripts[] = {
 };
 
 class RestrictedClasses : private OwnSettings,
-                           public FormScripts,
-                           public testing::WithParamInterface<PermissionScript> {
+                          public FormScripts,
+                          public testing::WithParamInterface<PermissionScript> {
  protected:
   RestrictedClasses() : FormScripts(GetParam().name) {
     ClassRegistry classes;

@@ -5,6 +5,7 @@
 #include <jsapi.h>
 
 #include "cardwright/jscript/spidermonkey/HostCalls.h"
+#include "cardwright/jscript/spidermonkey/HostMembers.h"
 #include "cardwright/jscript/spidermonkey/HostProxies.h"
 #include "cardwright/jscript/spidermonkey/ProxyTraps.h"
 #include "cardwright/jscript/spidermonkey/ValueConversion.h"
