@@ -46,7 +46,7 @@ function(cardwright_add_room room)
     endif()
   endforeach()
   if("Qt6::Widgets" IN_LIST CARDWRIGHT_EXTERNAL_${room})
-    set_target_properties(${target} PROPERTIES AUTOMOC ON)
+    set_target_properties(${target} PROPERTIES AUTOMOC ${CARDWRIGHT_SIGNALS_${room}})
     target_compile_definitions(${target} ${reach} QT_NO_KEYWORDS)
   endif()
 

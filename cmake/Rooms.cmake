@@ -27,6 +27,10 @@ set(CARDWRIGHT_HIDDEN_orv GDAL::GDAL)
 set(CARDWRIGHT_HIDDEN_scripting PkgConfig::PCRE2)
 set(CARDWRIGHT_HIDDEN_jscript PkgConfig::MOZJS)
 
+# Rooms whose classes have signals or properties of the toolkit, for which its meta-object compiler runs.
+set(CARDWRIGHT_SIGNALS_qt ON)
+set(CARDWRIGHT_SIGNALS_robot OFF)
+
 # The headers that are installed: what a host needs to fill in and to design forms, to be asked by them, and to give them
 # script engines. They include no others. All further headers are internal to the library.
 set(CARDWRIGHT_INSTALLED_automation Array.h Collection.h Conversions.h Errors.h MemberTable.h MemoryBudget.h Object.h

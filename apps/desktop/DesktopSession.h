@@ -20,7 +20,7 @@ class DesktopSession {
   bool HasDisplay() const;
 
   /// Nobody answers the boxes of forms.
-  void LeaveUnattended() noexcept { m_Library->Desktop().LeaveUnattended(); }
+  void SetUnattended() noexcept { m_Library->Desktop().SetUnattended(); }
 
   /// The host of the forms, once it has been opened.
   DataSource& Data() noexcept { return *m_Data; }

@@ -11,7 +11,7 @@ QtScriptDesktop::QtScriptDesktop(app::ScriptDisplay display, ScriptEnvironment& 
     : m_Session(display == app::ScriptDisplay::Required ? Display::Needed : Display::IfThere) {
   // Closing windows must not end the script.
   QApplication::setQuitOnLastWindowClosed(false);
-  m_Session.LeaveUnattended();
+  m_Session.SetUnattended();
   if (!m_Session.HasDisplay()) {
     // Warnings of the platform plug-in about windows that nobody sees would only confuse.
     QLoggingCategory::setFilterRules(QStringLiteral("default.warning=false"));

@@ -82,7 +82,7 @@ FormStage::FormStage(QWidget* parent)
   m_Title = new TitleBar(m_Window, m_Desk);
   m_Window->setBackgroundRole(QPalette::Window);
   m_Window->setAutoFillBackground(true);
-  m_Window->setProperty(qt::kStandsForWindow, true);
+  m_Window->setProperty(qt::kActsAsWindow, true);
   m_Window->installEventFilter(this);
   m_Edges = {new Edge(*this, m_Desk, true, false), new Edge(*this, m_Desk, false, true),
              new Edge(*this, m_Desk, true, true)};

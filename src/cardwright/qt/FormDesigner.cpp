@@ -54,7 +54,7 @@ void FormDesigner::Forward(std::u16string_view event, Args args) {
   } else if (event == u"AttribsList") {
     Q_EMIT AttribsList(ToQStrings(args[0]));
   } else if (event == u"NeedResize") {
-    TellNeedResize(ToSingle(args[0]), ToSingle(args[1]));
+    NotifyNeedResize(ToSingle(args[0]), ToSingle(args[1]));
   } else if (event == u"ControlsLocked") {
     Q_EMIT ControlsLocked(ToBoolean(args[0]));
   } else {

@@ -34,7 +34,7 @@ FormInput::~FormInput() {
 void FormInput::Forward(std::u16string_view event, Args args) {
   if (event == u"NeedResize") {
     NameControls();
-    TellNeedResize(ToSingle(args[0]), ToSingle(args[1]));
+    NotifyNeedResize(ToSingle(args[0]), ToSingle(args[1]));
   } else if (event == u"OkClick") {
     Q_EMIT OkClick();
   } else if (event == u"CancelClick") {

@@ -2,7 +2,7 @@
 
 namespace cardwright::qt {
 
-void VisualControl::TellNeedResize(float width, float height) {
+void VisualControl::NotifyNeedResize(float width, float height) {
   m_Needed = size();
   updateGeometry();
   Q_EMIT NeedResize(width, height);

@@ -30,7 +30,7 @@ class VisualControl : public QWidget {
   explicit VisualControl(QWidget* parent) : QWidget(parent) {}
 
   /// The form has taken the size that the widget has now.
-  void TellNeedResize(float width, float height);
+  void NotifyNeedResize(float width, float height);
 
  private:
   QSize m_Needed;

@@ -156,7 +156,7 @@ Variant QtDesktop::AskText(const Text& prompt, const Text& title, const Text& in
 
 bool QtDesktop::IsAttended() const {
   const QString platform = QGuiApplication::platformName();
-  return !m_IsLeft && platform != u"offscreen" && platform != u"minimal";
+  return !m_IsUnattended && platform != u"offscreen" && platform != u"minimal";
 }
 
 bool QtDesktop::BreakPressed() {

@@ -19,8 +19,8 @@ class QtDesktop : public Desktop {
                   const Variant& y) override;
   /// False without a display.
   bool IsAttended() const override;
-  /// Where nobody sits at the display either.
-  void LeaveUnattended() noexcept { m_IsLeft = true; }
+  /// Makes IsAttended false even with a display.
+  void SetUnattended() noexcept { m_IsUnattended = true; }
   bool BreakPressed() override;
   void Beep() override;
   Ref<Widget> ActiveControl() const override;
@@ -31,7 +31,7 @@ class QtDesktop : public Desktop {
   SettingsStore& Settings() override { return *m_Settings; }
 
  private:
-  bool m_IsLeft = false;
+  bool m_IsUnattended = false;
   const std::unique_ptr<SettingsStore> m_Settings;
 };
 

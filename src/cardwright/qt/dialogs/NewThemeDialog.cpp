@@ -35,14 +35,14 @@ class NewThemeDialog final : public QDialog {
     auto* const fields = new QFormLayout;
     fields->addRow(tr("&Name:"), m_Name);
     fields->addRow(tr("&Kind:"), m_Kind);
-    fields->addRow(QString(), m_Doubt);
+    fields->addRow(QString(), m_Problem);
     auto* const all = new QVBoxLayout(this);
     all->addLayout(fields);
     all->addWidget(m_Buttons);
-    connect(m_Name, &QLineEdit::textChanged, this, [this] { Judge(); });
+    connect(m_Name, &QLineEdit::textChanged, this, [this] { Validate(); });
     connect(m_Buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(m_Buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
-    Judge();
+    Validate();
   }
 
   NewTheme Plan() const { return {FromQString(m_Name->text().trimmed()), kKinds[m_Kind->currentIndex()]}; }
@@ -61,23 +61,23 @@ class NewThemeDialog final : public QDialog {
     }
     m_Buttons->button(QDialogButtonBox::Ok)->setObjectName(QStringLiteral("cmdOK"));
     m_Buttons->button(QDialogButtonBox::Cancel)->setObjectName(QStringLiteral("cmdCancel"));
-    m_Doubt->setWordWrap(true);
+    m_Problem->setWordWrap(true);
   }
 
   /// Says what is wrong with the name, and lets only a good one pass.
-  void Judge() {
+  void Validate() {
     const QString name = m_Name->text().trimmed();
-    QString doubt;
-    if (!CanBeNamed(ViewOf(name))) doubt = tr("A name cannot hold a comma or a vertical bar.");
-    if (m_IsTaken(ViewOf(name))) doubt = tr("There is a theme of that name already.");
-    m_Doubt->setText(doubt);
-    m_Buttons->button(QDialogButtonBox::Ok)->setEnabled(!name.isEmpty() && doubt.isEmpty());
+    QString problem;
+    if (!CanBeNamed(ViewOf(name))) problem = tr("A name cannot hold a comma or a vertical bar.");
+    if (m_IsTaken(ViewOf(name))) problem = tr("There is a theme of that name already.");
+    m_Problem->setText(problem);
+    m_Buttons->button(QDialogButtonBox::Ok)->setEnabled(!name.isEmpty() && problem.isEmpty());
   }
 
   const std::function<bool(std::u16string_view)> m_IsTaken;
   QLineEdit* const m_Name = new QLineEdit(this);
   QComboBox* const m_Kind = new QComboBox(this);
-  QLabel* const m_Doubt = new QLabel(this);
+  QLabel* const m_Problem = new QLabel(this);
   QDialogButtonBox* const m_Buttons =
       new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
 };

@@ -84,13 +84,13 @@ QString EntryList::DetailOf(int row) const {
   detail.state = Detail::State::Wanted;
   m_Wanted.push_back(row);
   // A view only reads; what it sets off here is done when it is through.
-  QTimer::singleShot(0, this, [self = const_cast<EntryList*>(this)] { self->DescribeSome(); });
+  QTimer::singleShot(0, this, [self = const_cast<EntryList*>(this)] { self->DescribePending(); });
   return {};
 }
 
 /// A few at a time, so that keys and the mouse get their turn between; an answer may also serve events, or
 /// bring a new list.
-void EntryList::DescribeSome() {
+void EntryList::DescribePending() {
   constexpr int kMilliseconds = 8;
   if (m_IsDescribing) return;
   m_IsDescribing = true;
@@ -108,7 +108,7 @@ void EntryList::DescribeSome() {
     Q_EMIT dataChanged(index(row), index(row));
   }
   m_IsDescribing = false;
-  if (!m_Wanted.empty()) QTimer::singleShot(0, this, [this] { DescribeSome(); });
+  if (!m_Wanted.empty()) QTimer::singleShot(0, this, [this] { DescribePending(); });
 }
 
 }  // namespace cardwright::qt

@@ -59,7 +59,7 @@ class EntryList final : public QAbstractListModel {
   };
 
   QString DetailOf(int row) const;
-  void DescribeSome();
+  void DescribePending();
 
   std::vector<ListEntry> m_Entries;
   mutable std::vector<Detail> m_Details;

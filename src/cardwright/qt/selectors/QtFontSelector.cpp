@@ -65,17 +65,17 @@ void QtFontSelector::SetDisplayText(const Text& /*text*/) { RequireAlive(); }
 void QtFontSelector::SetFont(Ref<Font> font) {
   const Ref<Widget> keepAlive(&Self());
   QtWidget::SetFont(std::move(font));
-  if (Native()) TellChange();
+  if (Native()) NotifyFontChange();
 }
 
 void QtFontSelector::OnFontChanged(const Font& font) {
   const Ref<Widget> keepAlive(&Self());
   WidgetCore::OnFontChanged(font);
-  if (Native()) TellChange();
+  if (Native()) NotifyFontChange();
 }
 
 /// Two families that are not installed look the same and still are not the same font.
-void QtFontSelector::TellChange() {
+void QtFontSelector::NotifyFontChange() {
   if (m_Font->Values() == m_Shown) return;
   m_Shown = m_Font->Values();
   m_Sample->SetValues(m_Shown);

@@ -34,7 +34,7 @@ class QtFontSelector final : public QtButtonSelector<FontSelectorWidget> {
   void RunDialog() override;
 
   void FollowFont();
-  void TellChange();
+  void NotifyFontChange();
 
   Box* m_Box;
   FontSample* m_Sample;

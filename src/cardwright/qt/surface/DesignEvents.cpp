@@ -18,9 +18,9 @@ namespace cardwright::qt {
 
 namespace {
 
-constexpr int kPatience = 10;  // milliseconds between two looks at a mouse that rests
+constexpr int kPollInterval = 10;  // milliseconds between two looks at a mouse that rests
 constexpr int kCursorHeight = 32;
-constexpr int kFramePatience = 20;  // milliseconds between two looks for a window's frame
+constexpr int kFramePollInterval = 20;  // milliseconds between two looks for a window's frame
 constexpr int kFrameTries = 25;
 
 /// The key's own event, or the other key for it, of which not every system makes one.
@@ -72,7 +72,7 @@ bool QtDesignSurface::OnCanvasEvent(QEvent& event) {
       event.accept();
       if (IsMenuKey(event)) Q_EMIT MenuKeyPressed();
       return true;
-    case QEvent::Resize: TellResize(); return false;
+    case QEvent::Resize: NotifyResize(); return false;
     case QEvent::Show:
       m_AwaitsFrame = true;
       AwaitFrame(kFrameTries);
@@ -134,14 +134,14 @@ void QtDesignSurface::WatchFocus(QWidget* focused) {
 
 // A form's size is the outer one: a frame that appears or goes changes it as well, unless the size that was
 // asked for includes it.
-void QtDesignSurface::TellResize() {
+void QtDesignSurface::NotifyResize() {
   const QWidget* canvas = m_Surface.Native();
   if (!canvas) return;
   const FrameSize frame = HostFrame();
-  const bool isSameOutside = frame == m_ToldFrame || canvas->size() == m_UnframedSize;
-  if (canvas->size() == m_ToldSize && isSameOutside) return;
-  m_ToldSize = canvas->size();
-  m_ToldFrame = frame;
+  const bool isSameOutside = frame == m_NotifiedFrame || canvas->size() == m_UnframedSize;
+  if (canvas->size() == m_NotifiedSize && isSameOutside) return;
+  m_NotifiedSize = canvas->size();
+  m_NotifiedFrame = frame;
   Notify([](WidgetListener& listener) { listener.OnResize(); });
 }
 
@@ -151,11 +151,11 @@ void QtDesignSurface::AwaitFrame(int tries) {
   const QWidget* canvas = m_Surface.Native();
   if (!canvas) return;
   if (!IsFramed() && tries > 0) {
-    QTimer::singleShot(kFramePatience, this, [this, tries] { AwaitFrame(tries - 1); });
+    QTimer::singleShot(kFramePollInterval, this, [this, tries] { AwaitFrame(tries - 1); });
     return;
   }
   m_AwaitsFrame = false;
-  if (std::exchange(m_UnframedSize, QSize()) != canvas->size()) return TellResize();
+  if (std::exchange(m_UnframedSize, QSize()) != canvas->size()) return NotifyResize();
   const FrameSize frame = HostFrame();
   const auto less = [this](float size, float part) {
     return std::max(size - PixelsToScale(part, Scale()), 0.0F);
@@ -175,8 +175,8 @@ void QtDesignSurface::PaintGrid(const QRect& area) {
 }
 
 ScreenPoint QtDesignSurface::CursorPosition() const {
-  m_ToldCursor = m_State->cursor;
-  return {m_ToldCursor.x(), m_ToldCursor.y()};
+  m_PolledCursor = m_State->cursor;
+  return {m_PolledCursor.x(), m_PolledCursor.y()};
 }
 
 // A fast drag can be over before it is polled: the button then counts as down until its last position has
@@ -184,7 +184,7 @@ ScreenPoint QtDesignSurface::CursorPosition() const {
 bool QtDesignSurface::IsLeftButtonDown() const {
   const QWidget* canvas = m_Surface.Native();
   if (!canvas || !canvas->isVisible() || m_IsPressLost) return false;
-  return QGuiApplication::mouseButtons().testFlag(Qt::LeftButton) || m_ToldCursor != m_State->cursor;
+  return QGuiApplication::mouseButtons().testFlag(Qt::LeftButton) || m_PolledCursor != m_State->cursor;
 }
 
 // The toolkit does not know the size of a cursor; this is that of the usual theme.
@@ -209,7 +209,7 @@ void QtDesignSurface::WatchDragIn(QWindow* window) {
 // The timer wakes the loop where nothing else does. The surface may be gone afterwards.
 void QtDesignSurface::Yield() {
   QTimer waker;
-  waker.start(kPatience);
+  waker.start(kPollInterval);
   QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
 }
 

@@ -108,7 +108,7 @@ void QtDesignSurface::Resize(float width, float height) {
   m_Surface.Resize(width, height);
   if (!self) return;
   m_UnframedSize = m_AwaitsFrame && !IsFramed() ? m_Surface.Canvas().size() : QSize();
-  TellResize();  // the toolkit keeps it back while the canvas is hidden
+  NotifyResize();  // the toolkit keeps it back while the canvas is hidden
 }
 
 void QtDesignSurface::SetPointer(PointerShape pointer) {

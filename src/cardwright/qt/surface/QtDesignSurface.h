@@ -97,7 +97,7 @@ class QtDesignSurface final : public QObject, public DesignSurface {
   bool OnKey(QKeyEvent& event);
   void WatchFocus(QWidget* focused);
   void WatchDragIn(QWindow* window);
-  void TellResize();
+  void NotifyResize();
   void AwaitFrame(int tries);
   bool IsFramed() const;
   void PaintGrid(const QRect& area);
@@ -121,10 +121,10 @@ class QtDesignSurface final : public QObject, public DesignSurface {
   bool m_IsPressed = false;    // the left button went down on the bare surface
   bool m_IsPressLost = false;  // since the mouse was taken
   bool m_AwaitsFrame = true;   // the window may still get one
-  QSize m_ToldSize;            // of which the listener knows
-  FrameSize m_ToldFrame;
-  QSize m_UnframedSize;         // asked for while the frame was awaited; invalid where there was one
-  mutable QPoint m_ToldCursor;  // which whoever polls the mouse knows of
+  QSize m_NotifiedSize;        // of the last resize event
+  FrameSize m_NotifiedFrame;
+  QSize m_UnframedSize;           // asked for while the frame was awaited; invalid where there was one
+  mutable QPoint m_PolledCursor;  // the last position that was polled
   QPointer<QWindow> m_DragWindow;
   QPointer<QWidget> m_Watched;  // has the focus, on the surface
 };

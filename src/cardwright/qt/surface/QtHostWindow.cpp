@@ -40,7 +40,7 @@ QWidget& WindowAround(const QWidget& canvas) {
   QWidget* const top = canvas.window();
   if (top == &canvas) return *top;
   QWidget* at = canvas.parentWidget();
-  while (at != top && !at->property(kStandsForWindow).toBool()) at = at->parentWidget();
+  while (at != top && !at->property(kActsAsWindow).toBool()) at = at->parentWidget();
   return *at;
 }
 

@@ -17,7 +17,7 @@ FrameSize FrameOf(const QWidget& window);
 
 /// Dynamic property of a widget inside a window that acts as a window around visual controls: its title is
 /// theirs and it has no frame, as the page of a program in which forms are drawn.
-inline constexpr const char* kStandsForWindow = "cardwrightStandsForWindow";
+inline constexpr const char* kActsAsWindow = "cardwrightActsAsWindow";
 /// The widget that acts as the host's window around `canvas`; `canvas` itself where it is a window.
 QWidget& WindowAround(const QWidget& canvas);
 

@@ -146,8 +146,8 @@ class WidgetCore : public QObject, private Font::User {
   void ApplyFont();
 
   bool OnMouse(QWidget& target, QMouseEvent& event);
-  void TellMouse(QWidget& target, const QMouseEvent& event);
-  void TellClick(const QWidget& target, const QMouseEvent& event, QPoint at);
+  void NotifyMouse(QWidget& target, const QMouseEvent& event);
+  void NotifyClickOf(const QWidget& target, const QMouseEvent& event, QPoint at);
   bool EndsHere(const QWidget& target, const QMouseEvent& event) const;
   bool OnKey(QWidget& target, QKeyEvent& event);
   bool OnTyped(QWidget& target, QKeyEvent& event);

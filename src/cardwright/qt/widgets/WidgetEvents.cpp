@@ -20,15 +20,15 @@ bool WidgetCore::OnMouse(QWidget& target, QMouseEvent& event) {
   const bool wasTold = m_HasParts && &target == m_Widget && m_Widget->childAt(at);
   const Ref<Widget> keepAlive(&Self());
   if (!wasTold) {
-    TellMouse(target, event);
-    TellClick(target, event, at);
+    NotifyMouse(target, event);
+    NotifyClickOf(target, event, at);
   }
   if (m_Widget && !wasTold && !EndsHere(target, event)) return false;
   event.accept();
   return true;
 }
 
-void WidgetCore::TellClick(const QWidget& target, const QMouseEvent& event, QPoint at) {
+void WidgetCore::NotifyClickOf(const QWidget& target, const QMouseEvent& event, QPoint at) {
   if (event.type() == QEvent::MouseButtonPress) {
     m_IsPressed = event.button() == Qt::LeftButton;
   } else if (event.type() == QEvent::MouseButtonDblClick) {
@@ -41,7 +41,7 @@ void WidgetCore::TellClick(const QWidget& target, const QMouseEvent& event, QPoi
   }
 }
 
-void WidgetCore::TellMouse(QWidget& target, const QMouseEvent& event) {
+void WidgetCore::NotifyMouse(QWidget& target, const QMouseEvent& event) {
   const QPointF at = target.mapTo(m_Widget.data(), event.position());
   const ScaleMode mode = Scale();
   const float x = PixelsToScale(static_cast<float>(at.x()), mode);
