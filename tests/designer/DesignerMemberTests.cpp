@@ -107,7 +107,7 @@ TEST_F(MemberTest, UseTheHostsDefaultColorsIfTheyDiffer) {
 TEST_F(MemberTest, StoreEnableKeyDeleteInThePropertyBagAsANumber) {
   FakeBag bag;
   designer->SetEnableKeyDelete(false);
-  EXPECT_EQ(surface->told, (std::vector<Text>{u"EnableKeyDelete"}));
+  EXPECT_EQ(surface->notified, (std::vector<Text>{u"EnableKeyDelete"}));
   designer->WriteProperties(bag);
   EXPECT_EQ(ToLong(bag.values.at(u"EnableKeyDelete")), 0);
   EXPECT_EQ(bag.fallbacks, (Lines{"1"}));
@@ -199,8 +199,8 @@ TEST_F(MemberTest, AllowAHandlerToEndTheSurface) {
                             "MenuStateChanged", "ControlsLocked", "PropertyChanged", "StateChanged"}) {
     FakeDesignSurface own;
     const Ref<FormDesigner> each = FormDesigner::Create(own);
-    each->Connect([&](std::u16string_view told, Args) {
-      if (Text(told).ToUtf8() == event) each->DetachSurface();
+    each->Connect([&](std::u16string_view raised, Args) {
+      if (Text(raised).ToUtf8() == event) each->DetachSurface();
     });
     each->SetControlTypeToAdd(ctAttributeSelector);
     own.listener->OnMouseUp(MouseButton::Left, 0, 50, 50);

@@ -156,7 +156,7 @@ class FakeDesignSurface final : public DesignSurface {
   void ShowTooltip(const Text& text, ScreenPoint place) override;
   void HideTooltip() override { tooltip.reset(); }
   Text ShowPopupMenu(std::span<const Ref<MenuItem>> items) override;
-  void NotifyPropertyChanged(std::u16string_view name) override { told.emplace_back(name); }
+  void NotifyPropertyChanged(std::u16string_view name) override { notified.emplace_back(name); }
 
   /// Adds a pass of the polling loop. After the last one the button is released.
   void ThenMove(int x, int y) {
@@ -187,7 +187,7 @@ class FakeDesignSurface final : public DesignSurface {
   std::vector<std::string> tooltips;
   std::function<Text(std::span<const Ref<MenuItem>>)> onMenu;
   std::vector<std::string> menus;  ///< as shown: "name=caption", "!" before a disabled one, "-" a separator
-  std::vector<Text> told;
+  std::vector<Text> notified;
   std::set<std::u16string> reserved;  ///< names for which Add fails
 
  private:

@@ -48,7 +48,7 @@ ScreenRect DragTool::OutlineOf(const Widget& widget, const FormRect& rectangle,
 
 bool DragTool::IsTargetThere() const { return Designer().IsAlive(*m_Control); }
 
-// The host hears of each edge and may do anything then, delete the control too.
+// Each setter raises PropertyChanged, whose handlers may do anything, even delete the control.
 void DragTool::Run() {
   if (!FollowMouse()) return;
   const FormRect dragged = Result();

@@ -72,7 +72,7 @@ void FormDesigner::Place(const Placement& placement) {
   EndAdding();
 }
 
-// Hosts switch their tool boxes back when StateChanged tells them.
+// Hosts reset their tool boxes on StateChanged.
 void FormDesigner::EndAdding() {
   const Ref<FormDesigner> keepAlive(this);
   if (IsAdding()) {
