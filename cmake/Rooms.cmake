@@ -1,6 +1,6 @@
 # The map of the house, in one place: each room and the rooms it may link.
 # CMakeLists.txt builds the rooms from it and cmake/CheckRooms.cmake holds the includes against it.
-set(CARDWRIGHT_ROOMS automation platform scripting storage shared vbscript jscript hosting orv model designer runtime qt robot)
+set(CARDWRIGHT_ROOMS automation platform scripting storage shared vbscript jscript hosting orv model designer runtime editor qt robot)
 
 set(CARDWRIGHT_USES_automation)
 set(CARDWRIGHT_USES_platform automation)
@@ -14,7 +14,8 @@ set(CARDWRIGHT_USES_orv platform)
 set(CARDWRIGHT_USES_model shared)
 set(CARDWRIGHT_USES_designer model)
 set(CARDWRIGHT_USES_runtime model)
-set(CARDWRIGHT_USES_qt runtime designer)
+set(CARDWRIGHT_USES_editor model)
+set(CARDWRIGHT_USES_qt runtime designer editor)
 set(CARDWRIGHT_USES_robot qt hosting orv)
 
 # Those that the program holds itself; the others come with its module when they are needed.
@@ -24,6 +25,7 @@ set(CARDWRIGHT_PROGRAM_ROOMS automation platform scripting storage shared vbscri
 set(CARDWRIGHT_EXTERNAL_qt Qt6::Widgets)
 set(CARDWRIGHT_EXTERNAL_robot Qt6::Widgets)
 set(CARDWRIGHT_HIDDEN_orv GDAL::GDAL)
+set(CARDWRIGHT_HIDDEN_editor PkgConfig::MDB PkgConfig::SQLITE)
 set(CARDWRIGHT_HIDDEN_scripting PkgConfig::PCRE2)
 set(CARDWRIGHT_HIDDEN_jscript PkgConfig::MOZJS)
 
@@ -48,7 +50,8 @@ set(CARDWRIGHT_INSTALLED_model CForm.h ClassTable.h Control.h Enums.h FormOwner.
 set(CARDWRIGHT_INSTALLED_designer DesignClipboard.h DesignGrid.h DesignMenu.h FormDesigner.h GrabHandles.h OuterSize.h
     Placement.h Placer.h Selection.h StackOrder.h)
 set(CARDWRIGHT_INSTALLED_runtime AttributeBinding.h CAttrib.h FormButton.h FormInput.h Vellum.h)
-set(CARDWRIGHT_INSTALLED_qt FormDesigner.h FormInput.h Library.h VisualControl.h desktop/QtDesktop.h values/QtText.h)
+set(CARDWRIGHT_INSTALLED_editor OrvEditor.h)
+set(CARDWRIGHT_INSTALLED_qt FormDesigner.h FormInput.h Library.h OrvEditor.h VisualControl.h desktop/QtDesktop.h values/QtText.h)
 
 # GCC 12 takes the library's list of roots on the stack for pointers left dangling.
 set(CARDWRIGHT_OPTIONS_jscript $<$<CXX_COMPILER_ID:GNU>:-Wno-dangling-pointer>)

@@ -1,5 +1,6 @@
 #include "desktop/Classes.h"
 
+#include "cardwright/editor/CElement.h"
 #include "cardwright/model/CColor.h"
 #include "cardwright/model/CForm.h"
 #include "cardwright/model/CItems.h"
@@ -17,6 +18,7 @@ Ref<Object> Make() {
 
 void AddDataClasses(ClassRegistry& classes) {
   classes.Add(u"Cardwright.CColor", Make<CColor>);
+  classes.Add(u"Cardwright.CElement", Make<CElement>);
   classes.Add(u"Cardwright.CItem", Make<CItem>);
   classes.Add(u"Cardwright.CItems", Make<CItems>);
   classes.Add(u"Cardwright.CAttrib", Make<CAttrib>);

@@ -104,7 +104,11 @@ class FakeCombo : public FakeEntry<ComboWidget> {
   void SetEditable(bool) override {}
   int ListCount() const override { return static_cast<int>(m_Items.size()); }
   Text ListText(int index) const override { return m_Items.at(static_cast<std::size_t>(index)); }
+  void SetListText(int index, const Text& text) override {
+    m_Items.at(static_cast<std::size_t>(index)) = text;
+  }
   std::int32_t ItemData(int index) const override { return index * 10; }
+  void SetItemData(int /*index*/, std::int32_t /*data*/) override {}
   int ListIndex() const override { return m_Index; }
   void SetListIndex(int index) override { m_Index = index; }
   void AddItem(const Text& text, std::optional<int> index) override {

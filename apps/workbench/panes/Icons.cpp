@@ -2,12 +2,14 @@
 
 #include <QPainterPath>
 
-#include "workbench/panes/IconEngine.h"
+#include "cardwright/qt/values/IconEngine.h"
 
 namespace cardwright::workbench {
 namespace {
 
 using Points = QPolygonF;
+using qt::IconEngine;
+using qt::IconInk;
 
 void Line(const IconInk& ink, const Points& points) { ink.painter.drawPolyline(points); }
 void Solid(const IconInk& ink, const Points& points) {

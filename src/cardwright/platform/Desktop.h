@@ -23,7 +23,7 @@ class SettingsStore {
 namespace BoxStyle {
 inline constexpr int OkOnly = 0, OkCancel = 1, AbortRetryIgnore = 2, YesNoCancel = 3, YesNo = 4,
                      RetryCancel = 5;
-inline constexpr int SecondIsDefault = 256;  ///< of the buttons
+inline constexpr int SecondIsDefault = 256, ThirdIsDefault = 512;  ///< of the buttons
 inline constexpr int Critical = 16, Question = 32, Exclamation = 48, Information = 64;
 }  // namespace BoxStyle
 

@@ -132,7 +132,11 @@ class ComboWidget : public TextWidget {
   virtual int ListCount() const = 0;
   /// Error 5 outside 0 to ListCount - 1.
   virtual Text ListText(int index) const = 0;
+  /// Shows another text for an entry, which stays selected where it was.
+  virtual void SetListText(int index, const Text& text) = 0;
+  /// A number kept with an entry, 0 at first.
   virtual std::int32_t ItemData(int index) const = 0;
+  virtual void SetItemData(int index, std::int32_t data) = 0;
   /// -1 for no selection. Fires the click where the index changes; error 380 outside the list.
   virtual int ListIndex() const = 0;
   virtual void SetListIndex(int index) = 0;

@@ -2,11 +2,14 @@
 
 #include <QApplication>
 #include <QDeadlineTimer>
+#include <QToolBar>
 #include <QWindow>
 #include <chrono>
 
+#include "cardwright/editor/OrvEditor.h"
 #include "cardwright/model/FormOwner.h"
 #include "cardwright/qt/VisualControl.h"
+#include "cardwright/qt/editor/QtEditorSurface.h"
 #include "cardwright/qt/surface/QtDesignSurface.h"
 #include "cardwright/qt/values/QtText.h"
 #include "cardwright/qt/widgets/WidgetCore.h"
@@ -131,6 +134,15 @@ Ref<Object> ChildOn(Surface& surface, const Text& name, const OptionalLong& inde
   return index ? nullptr : surface.Find(name);
 }
 
+/// A widget of a script editor, or the window that describes a command.
+Ref<Object> ChildOn(OrvEditor& editor, const Text& name) {
+  const auto* const surface = dynamic_cast<qt::QtEditorSurface*>(editor.GetSurface());
+  if (!surface) Raise(ErrorNumber::ObjectNotSet);
+  QWidget* const window = surface->DescriptionWidget();
+  if (window && EqualsNoCase(qt::ViewOf(window->objectName()), name)) return MakeRef<WidgetPart>(*window);
+  return surface->OwnWidget(name);
+}
+
 /// A widget on a visual control, in a dialog, or a part of a composed widget. Only the grab handles of a
 /// designer are an array and take an index.
 Ref<Object> Child(Robot&, const Variant& parent, const Text& name, const OptionalLong& index) {
@@ -138,11 +150,23 @@ Ref<Object> Child(Robot&, const Variant& parent, const Text& name, const Optiona
   auto* const form = dynamic_cast<FormOwner*>(&object);
   if (form && !form->GetSurface()) Raise(ErrorNumber::ObjectNotSet);
   if (form) return ChildOn(*form->GetSurface(), name, index);
+  if (auto* const editor = dynamic_cast<OrvEditor*>(&object)) return ChildOn(*editor, name);
   QWidget& widget = WidgetOf(parent);
   if (index) return nullptr;
   const auto* const dialog = dynamic_cast<WidgetPart*>(&object);
   if (dialog && widget.isWindow()) return dialog->Child(name);
   return PartOf(widget, name);
+}
+
+void PressToolButton(Robot& self, const Variant& control, const Text& key) {
+  auto* const editor = dynamic_cast<OrvEditor*>(&RequireObject(control));
+  if (!editor) Raise(ErrorNumber::TypeMismatch);
+  const Ref<Object> toolbar = ChildOn(*editor, u"tbrMenu");
+  const auto& bar = dynamic_cast<const qt::QtToolbar&>(*toolbar);
+  const QRect button = bar.RectOf(key);
+  if (button.isEmpty()) Raise(ErrorNumber::InvalidCall);
+  self.Session().mouse.Click(bar.Bar(), button.center(), {});
+  RaisePendingError(self);
 }
 
 void WhenDialog(Robot& self, const Text& name, Ref<Object> procedure) {
@@ -236,6 +260,7 @@ constexpr Member kRobotMembers[] = {
     Method<&WhenDialog>(u"WhenDialog"),
     Property<&GetDesignMode, &LetDesignMode>(u"DesignMode"),
     Method<&SelectItem>(u"ClickItem"),
+    Method<&PressToolButton>(u"ToolButton"),
     Property<&MousePointer>(u"MousePointer"),
     Property<&Tooltip>(u"Tooltip"),
     Property<&Pixel>(u"PixelColor"),

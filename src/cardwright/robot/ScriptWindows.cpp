@@ -2,6 +2,7 @@
 
 #include "cardwright/qt/FormDesigner.h"
 #include "cardwright/qt/FormInput.h"
+#include "cardwright/qt/OrvEditor.h"
 #include "cardwright/robot/Robot.h"
 #include "cardwright/robot/hosts/Hosts.h"
 
@@ -16,7 +17,8 @@ void ScriptWindows::AddClasses(ClassRegistry& classes) {
   classes.Add(u"Cardwright.Hosts", [this] { return MakeRef<Hosts>(m_Hosts); });
   classes.Add(u"Cardwright.Robot", [] { return MakeRef<Robot>(); });
   classes.Add(u"Cardwright.FormInput", [this] { return MakeFormInput(); });
-  classes.Add(u"Cardwright.FormDesigner", [this] { return MakeFormDesigner(); });
+  classes.Add(u"Cardwright.FormDesigner", [this] { return Make<qt::FormDesigner>(); });
+  classes.Add(u"Cardwright.OrvEditor", [this] { return Make<qt::OrvEditor>(); });
 }
 
 Ref<Object> ScriptWindows::MakeFormInput() {
@@ -28,8 +30,9 @@ Ref<Object> ScriptWindows::MakeFormInput() {
   return object;
 }
 
-Ref<Object> ScriptWindows::MakeFormDesigner() {
-  return AddWindow(std::make_unique<qt::FormDesigner>()).Control().Control();
+template <class Control>
+Ref<Object> ScriptWindows::Make() {
+  return AddWindow(std::make_unique<Control>()).Control().Control();
 }
 
 // A script may make a control for each of ten thousand features, so windows of controls that it has released

@@ -23,7 +23,8 @@ class ScriptWindows {
 
  private:
   Ref<Object> MakeFormInput();
-  Ref<Object> MakeFormDesigner();
+  template <class Control>
+  Ref<Object> Make();
   /// Puts a new control into a window.
   ControlWindow& AddWindow(std::unique_ptr<qt::VisualControl> control);
 

@@ -6,6 +6,7 @@
 #include <QPaintEvent>
 #include <QPainter>
 #include <QTimer>
+#include <QWidget>
 #include <QWindow>
 #include <algorithm>
 #include <utility>

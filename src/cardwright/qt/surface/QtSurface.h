@@ -29,6 +29,8 @@ class QtSurface final : public QObject, public Surface, private Font::User {
   Ref<Widget> Find(std::u16string_view name) const override;
   /// A widget of the surface's own, which Find does not give. The surface keeps it to its end.
   Ref<Widget> AddOwn(std::u16string_view identifier, std::u16string_view name);
+  /// The same of one that is made already, for a place of this surface. Every such widget is a WidgetCore.
+  void KeepOwn(Ref<Widget> widget) { m_Own.push_back(std::move(widget)); }
 
   ScaleMode Scale() const override { return m_Scale; }
   void SetScale(ScaleMode mode) override;

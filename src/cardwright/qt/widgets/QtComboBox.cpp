@@ -109,10 +109,19 @@ Text QtComboBox::ListText(int index) const {
   return FromQString(m_Combo->itemText(index));
 }
 
-/// Nothing gives an entry a number, so each has the platform's initial one.
+void QtComboBox::SetListText(int index, const Text& text) {
+  RequireIndex(index);
+  m_Combo->setItemText(index, ToQString(text));
+}
+
 std::int32_t QtComboBox::ItemData(int index) const {
   RequireIndex(index);
-  return 0;
+  return m_Combo->itemData(index).toInt();
+}
+
+void QtComboBox::SetItemData(int index, std::int32_t data) {
+  RequireIndex(index);
+  m_Combo->setItemData(index, data);
 }
 
 int QtComboBox::ListIndex() const { return Live(m_ListIndex); }

@@ -21,7 +21,9 @@ class QtComboBox final : public QtLineEntry<ComboWidget> {
   void SetEditable(bool editable) override;
   int ListCount() const override;
   Text ListText(int index) const override;
+  void SetListText(int index, const Text& text) override;
   std::int32_t ItemData(int index) const override;
+  void SetItemData(int index, std::int32_t data) override;
   int ListIndex() const override;
   void SetListIndex(int index) override;
   void AddItem(const Text& text, std::optional<int> index = {}) override;

@@ -2,8 +2,10 @@
 
 #include "cardwright/automation/Errors.h"
 #include "cardwright/automation/Object.h"
+#include "cardwright/editor/OrvEditor.h"
 #include "cardwright/model/FormOwner.h"
 #include "cardwright/model/IControl.h"
+#include "cardwright/qt/editor/QtEditorSurface.h"
 #include "cardwright/qt/surface/QtDesignSurface.h"
 #include "cardwright/qt/surface/QtSurface.h"
 #include "cardwright/qt/widgets/WidgetCore.h"
@@ -25,6 +27,11 @@ QWidget& CanvasOf(FormOwner& form) {
   return RequireAlive(filled ? filled->Native() : nullptr);
 }
 
+QWidget& CanvasOf(OrvEditor& editor) {
+  const auto* const surface = dynamic_cast<qt::QtEditorSurface*>(editor.GetSurface());
+  return RequireAlive(surface ? surface->Native() : nullptr);
+}
+
 /// What shows the control on the screen: its widget, or the visual control for the form as a whole.
 Ref<Object> VisibleObjectOf(const IControl& control) {
   const Ref<Object> widget = control.BoundObject();
@@ -38,6 +45,7 @@ QWidget& WidgetOf(const Variant& value) {
   if (const auto* control = dynamic_cast<const IControl*>(object.get())) object = VisibleObjectOf(*control);
   if (!object) Raise(ErrorNumber::ObjectNotSet);
   if (auto* form = dynamic_cast<FormOwner*>(object.get())) return CanvasOf(*form);
+  if (auto* editor = dynamic_cast<OrvEditor*>(object.get())) return CanvasOf(*editor);
   if (auto* part = dynamic_cast<WidgetPart*>(object.get())) return RequireAlive(part->Native());
   auto* core = dynamic_cast<qt::WidgetCore*>(object.get());
   if (!core) Raise(ErrorNumber::TypeMismatch);

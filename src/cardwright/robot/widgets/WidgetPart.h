@@ -30,6 +30,18 @@ class WidgetPart final : public TableObject {
   /// The text of an entry or a label, the caption of a button, the selected entry of a list, the title of a
   /// dialog.
   cardwright::Text Text() const;
+  /// Types nothing: the text is there at once. Error 438 for a widget that takes no text.
+  void SetText(const cardwright::Text& text);
+  /// 1 for a check box or button that is checked, else 0; setting it is a click. Error 438 for other widgets.
+  std::int32_t Value() const;
+  void SetValue(std::int32_t value);
+  /// @name Entries of a list or a combo box, from 0; -1 for no selection. Error 438 for other widgets.
+  /// @{
+  std::int32_t ListCount() const;
+  cardwright::Text List(std::int32_t index) const;
+  std::int32_t ListIndex() const;
+  void SetListIndex(std::int32_t index);
+  /// @}
 
  protected:
   const MemberTable& Members() const override;

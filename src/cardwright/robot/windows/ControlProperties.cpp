@@ -4,6 +4,7 @@
 #include "cardwright/platform/PropertyBag.h"
 #include "cardwright/qt/FormDesigner.h"
 #include "cardwright/qt/FormInput.h"
+#include "cardwright/qt/OrvEditor.h"
 
 namespace cardwright::robot {
 namespace {
@@ -35,6 +36,8 @@ Ref<scripting::Dictionary> WriteProperties(qt::VisualControl& control) {
   DictionaryPropertyBag bag(*values);
   if (const auto* designer = qobject_cast<qt::FormDesigner*>(&control)) {
     designer->Object()->WriteProperties(bag);
+  } else if (const auto* editor = qobject_cast<qt::OrvEditor*>(&control)) {
+    editor->Object()->WriteProperties(bag);
   } else if (const auto* form = qobject_cast<qt::FormInput*>(&control)) {
     bag.WriteProperty(kSetAttributesEnabled, form->SetAttributesEnabled(), true);
   }
@@ -45,6 +48,8 @@ void ReadProperties(qt::VisualControl& control, scripting::Dictionary& values) {
   const DictionaryPropertyBag bag(values);
   if (const auto* designer = qobject_cast<qt::FormDesigner*>(&control)) {
     designer->Object()->ReadProperties(bag);
+  } else if (const auto* editor = qobject_cast<qt::OrvEditor*>(&control)) {
+    editor->Object()->ReadProperties(bag);
   } else if (auto* form = qobject_cast<qt::FormInput*>(&control)) {
     form->SetSetAttributesEnabled(ToBoolean(bag.ReadProperty(kSetAttributesEnabled, true)));
   }

@@ -3,7 +3,7 @@
 #include <QIconEngine>
 #include <QPainter>
 
-namespace cardwright::workbench {
+namespace cardwright::qt {
 
 /// What a drawing of an icon paints with, on a field of 16 by 16 units.
 struct IconInk {
@@ -31,4 +31,4 @@ class IconEngine final : public QIconEngine {
   Draw m_Draw;
 };
 
-}  // namespace cardwright::workbench
+}  // namespace cardwright::qt

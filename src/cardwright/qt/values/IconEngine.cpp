@@ -1,9 +1,9 @@
-#include "workbench/panes/IconEngine.h"
+#include "cardwright/qt/values/IconEngine.h"
 
 #include <QApplication>
 #include <QPalette>
 
-namespace cardwright::workbench {
+namespace cardwright::qt {
 namespace {
 
 constexpr qreal kField = 16;
@@ -56,4 +56,4 @@ QPixmap IconEngine::pixmap(const QSize& size, QIcon::Mode mode, QIcon::State sta
   return picture;
 }
 
-}  // namespace cardwright::workbench
+}  // namespace cardwright::qt
