@@ -23,7 +23,7 @@ inline double Median(std::vector<double> times) {
 
 inline const char* Verdict(double value, double target) { return value <= target ? "kept" : "MISSED"; }
 
-/// Prints one row: a value that stands for itself. A target of 0 only tells.
+/// Prints one row without a comparison. A target of 0 means none.
 inline void Report(const std::string& what, double value, const std::string& unit, double target) {
   std::printf("%-50s %10.1f %s", what.c_str(), value, unit.c_str());
   if (target > 0) std::printf(" | target <= %.0f: %s", target, Verdict(value, target));
@@ -31,7 +31,7 @@ inline void Report(const std::string& what, double value, const std::string& uni
 }
 
 /// Runs both sides in turn, so that a busy machine slows both, and prints one row: medians in milliseconds,
-/// their ratio, and the ratio that is to be kept. A target of 0 only tells.
+/// their ratio, and the ratio that is to be kept. A target of 0 means none.
 template <class Ours, class Peer>
 void Compare(const std::string& what, const std::string& peerName, double target, int rounds, Ours&& ours,
              Peer&& peer) {

@@ -75,7 +75,7 @@ file(GLOB_RECURSE files RELATIVE "${root}" "${root}/src/*.h" "${root}/src/*.cpp"
      "${root}/bench/*.cpp" "${root}/fuzz/*.h" "${root}/fuzz/*.cpp")
 set(folders)
 
-# What a control is, its class tells in the room model. Whoever uses that room asks the class and compares no names.
+# The class tables of the room model describe the controls. Code that uses this room asks them and compares no names.
 file(GLOB classFiles RELATIVE "${root}/src/cardwright/model" "${root}/src/cardwright/model/C[A-Z]*.h")
 list(FILTER classFiles EXCLUDE REGEX "^C(Form|Color|Items?)\\.h$")
 string(REGEX REPLACE "C([A-Za-z]+)\\.h" "\\1" kinds "${classFiles}")

@@ -1,4 +1,4 @@
-# The map of the house, in one place: each room and the rooms it may link.
+# The rooms of the library, and the rooms that each may link.
 # CMakeLists.txt builds the rooms from it and cmake/CheckRooms.cmake holds the includes against it.
 set(CARDWRIGHT_ROOMS automation platform scripting storage shared vbscript jscript hosting orv model designer runtime editor qt robot)
 
@@ -18,7 +18,7 @@ set(CARDWRIGHT_USES_editor model)
 set(CARDWRIGHT_USES_qt runtime designer editor)
 set(CARDWRIGHT_USES_robot qt hosting orv)
 
-# Those that the program holds itself; the others come with its module when they are needed.
+# Rooms that the program links itself; its modules bring the others when they are needed.
 set(CARDWRIGHT_PROGRAM_ROOMS automation platform scripting storage shared vbscript hosting)
 
 # Foreign libraries that only the named rooms may see: in their headers too, or hidden in their sources.

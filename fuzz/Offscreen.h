@@ -36,7 +36,7 @@ struct Offscreen {
       std::filesystem::temp_directory_path() / ("cardwright-fuzz-" + std::to_string(::getpid()));
 
   Offscreen() {
-    qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});  // it tells a lot
+    qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});  // it is verbose
     Module().desktop = &desktop;
     std::filesystem::create_directories(folder);
   }

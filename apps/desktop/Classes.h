@@ -4,10 +4,10 @@
 
 namespace cardwright::desktop {
 
-/// Adds the public classes that scripts make by name and that need the toolkit or work with it.
+/// Adds the public classes that scripts create by identifier and that use forms.
 void AddDesktopClasses(ClassRegistry& classes);
-/// The classes that users may allow the script of a form: files, and what holds data. None that makes or
-/// drives forms.
+/// The classes that users can permit to the script of a form: files and data. No class that creates or drives
+/// forms.
 ClassRegistry RestrictedClasses();
 
 }  // namespace cardwright::desktop

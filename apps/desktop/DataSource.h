@@ -8,7 +8,7 @@
 
 namespace cardwright::desktop {
 
-/// The data source of a program: the host of its forms, with the log of what they have sent.
+/// The data source of a program: the host of its forms, and the log of their commands.
 class DataSource {
  public:
   explicit DataSource(qt::Library& library) : m_Library(library) {}
@@ -16,23 +16,23 @@ class DataSource {
   DataSource(const DataSource&) = delete;
   DataSource& operator=(const DataSource&) = delete;
 
-  /// Opens a source and makes it the host of the forms, in place of one that is open. Error 53 with a
-  /// description where it cannot be opened; what was open before stays.
+  /// Opens a data source and makes it the host of the forms, instead of the one that is open. Error 53 with a
+  /// description if it cannot be opened; the previous one stays open then.
   void Open(const QString& source);
   void Close();
   bool IsOpen() const noexcept { return static_cast<bool>(m_Log); }
-  /// What Open was given last; "" where nothing is open.
+  /// The argument of Open; "" if nothing is open.
   const QString& Name() const noexcept { return m_Name; }
-  /// The connection's handle; 0 where nothing is open.
+  /// The handle of the connection; 0 if nothing is open.
   std::int32_t Handle() const noexcept { return m_Handle; }
 
-  /// For commands of the program's own, which the log shows too; it answers nothing where nothing is open.
+  /// For commands of the program itself, which the log has too. Requests are not answered if nothing is open.
   OrvClient Client() const { return OrvClient::At(m_Handle); }
-  /// The connection with its log, which must be open.
+  /// The connection with its log; it must be open.
   LoggedConnection& Log() const noexcept { return *m_Log; }
-  /// Whether the source has the feature. Ends the selection in its theme.
+  /// Whether the data source has the feature. Clears the selection of its theme.
   bool HasFeature(const FeatureClass& features, const Text& id);
-  /// Reasons for which the source has refused changes, emptied by the call.
+  /// The reasons why changes were rejected since the last call.
   QStringList TakeRefusals() { return std::exchange(m_Refusals, {}); }
 
  private:

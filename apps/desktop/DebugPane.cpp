@@ -22,7 +22,7 @@ const MemberTable& DebugPane::Members() const {
   return table;
 }
 
-// What a person has selected or scrolled to stays.
+// Keeps the selection and the scroll position.
 void DebugPane::SetSelText(const Text& text) {
   if (!m_Pane) return;
   QScrollBar& bar = *m_Pane->verticalScrollBar();

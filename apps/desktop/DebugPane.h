@@ -7,7 +7,7 @@
 
 namespace cardwright::desktop {
 
-/// The output object of a debugging run: what is set as SelText appears at the end of a pane of text.
+/// The output object of a debugging run: SelText appends text to a pane.
 class DebugPane final : public TableObject {
  public:
   explicit DebugPane(QWidget& parent);

@@ -8,7 +8,7 @@
 namespace cardwright::desktop {
 namespace {
 
-// The toolkit ends the program where it finds no display, unless it may go on without one.
+// The toolkit ends the program if it finds no display, unless the list has a platform without one.
 QByteArray Platforms(Display display) {
   if (display == Display::Unused) return "offscreen";
   QByteArray platforms;

@@ -7,22 +7,22 @@
 
 namespace cardwright::desktop {
 
-/// Whether a command shows windows to a person, does so where there is a display, or works without one.
+/// Whether a command needs a display, uses one if there is one, or works without one.
 enum class Display { Needed, IfThere, Unused };
 
-/// What a command holds of toolkit and library while it runs.
+/// The toolkit and the library while a command runs.
 class DesktopSession {
  public:
-  /// Error 5 with a description where a display is needed and there is none.
+  /// Error 5 with a description if a display is needed and there is none.
   explicit DesktopSession(Display display);
 
   /// Whether a person can see the windows.
   bool HasDisplay() const;
 
-  /// Nobody answers the boxes of forms.
+  /// Message boxes of forms are not shown, because nobody can answer them.
   void SetUnattended() noexcept { m_Library->Desktop().SetUnattended(); }
 
-  /// The host of the forms, once it has been opened.
+  /// The host of the forms, after it has been opened.
   DataSource& Data() noexcept { return *m_Data; }
   qt::Library& Library() noexcept { return *m_Library; }
 

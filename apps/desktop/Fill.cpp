@@ -11,7 +11,7 @@
 namespace cardwright::desktop {
 namespace {
 
-// The project names its theme; on the command line the person's choice counts.
+// The theme of the command line replaces that of the project.
 void ChooseTheme(qt::FormInput& form, const std::string& theme) {
   if (IControl* root = FindControl(form.Object()->Controls(), u"Form"))
     root->SetPropertyValue(u"ThemeName", Text::FromUtf8(theme));

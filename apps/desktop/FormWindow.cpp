@@ -27,7 +27,7 @@ FormWindow::FormWindow(DataSource& source)
   connect(m_Form, &qt::FormInput::CancelClick, this, &FormWindow::End);
 }
 
-// As large as the form, but not larger than the screen, less what a window's frame and title take of it.
+// As large as the form, but not larger than the screen without the window frame.
 void FormWindow::Fit() {
   constexpr QSize kFrame(16, 48);
   QSize wanted = m_Form->sizeHint();
@@ -55,7 +55,7 @@ void FormWindow::OnOk() {
   if (!m_DebugPane) End();
 }
 
-// A form passes over a feature that is gone without a word, so this is asked here.
+// A form does not report that its feature has been deleted, so this is checked here.
 QString FormWindow::Failure() {
   const QStringList refusals = m_Data.TakeRefusals();
   if (!refusals.isEmpty()) return refusals.join(u'\n');
@@ -65,7 +65,7 @@ QString FormWindow::Failure() {
       .arg(qt::ToQString(form->FeatureID()), qt::ToQString(form->GetThemeName()));
 }
 
-// A window that is being closed is not closed by a second request.
+// A window that is closing must not be closed again.
 void FormWindow::End() {
   m_Ended = true;
   if (!m_IsClosing) close();

@@ -9,18 +9,18 @@
 
 namespace cardwright::desktop {
 
-/// A window with one form in it, scrolled where the screen is too small for it, that closes itself after OK
-/// and Cancel. Closing the window is Cancel. While the data source refuses what OK wrote, the window says why
-/// and stays. A debugging run stays after OK, too, so that its output can be read.
+/// A window with one form, which scrolls if the screen is too small. It closes after OK and Cancel; closing
+/// it is Cancel. If the data source rejects the values of OK, it shows the reason and stays open. In a
+/// debugging run it also stays open after OK, so that the output can be read.
 class FormWindow final : public QWidget {
   Q_OBJECT
  public:
   explicit FormWindow(DataSource& source);
 
   qt::FormInput& Form() noexcept { return *m_Form; }
-  /// Adds a pane below the form, into which a debugging run writes.
+  /// Adds a pane below the form for the output of a debugging run.
   void ShowDebugOutput();
-  /// True once the form was ended by OK.
+  /// True after OK has closed the form.
   bool IsAccepted() const noexcept { return m_Accepted; }
 
  protected:
@@ -29,7 +29,7 @@ class FormWindow final : public QWidget {
  private:
   void Fit();
   void OnOk();
-  /// Why what OK wrote is not stored; empty if it is.
+  /// Why the values of OK were not stored; empty if they were.
   QString Failure();
   void End();
 

@@ -55,7 +55,7 @@ QJsonValue ValueJson(const Variant& value) {
   return QJsonValue::Null;
 }
 
-// Keys that keep the order of the table: JSON objects of this toolkit sort theirs.
+// An array, because JSON objects of this toolkit sort their keys.
 QJsonArray PropertiesJson(const IControl& control) {
   QJsonArray rows;
   for (std::int32_t i = 0; i < control.PropertyCount(); ++i) {
@@ -85,8 +85,8 @@ QJsonObject ControlJson(const IControl& control) {
   return json;
 }
 
-/// What only the designer knows of a form: the order in which its controls were stacked, each to the front
-/// (0) or to the back (1).
+/// What only the designer knows of a form: the order in which controls were brought to front (0) or sent to
+/// back (1).
 QJsonObject DesignJson(const FormDesigner& designer) {
   QJsonArray stacking;
   for (const Ref<IControl>& control : designer.ZList())

@@ -24,7 +24,7 @@ void SendLines(EmbeddedHost& host) {
     const QString command = QString::fromUtf8(line.data(), static_cast<qsizetype>(line.size())).trimmed();
     if (!command.isEmpty()) Send(host, qt::FromQString(command));
   }
-  if (isPrompt) std::cout << std::endl;  // the shell's own prompt begins a line
+  if (isPrompt) std::cout << std::endl;  // so that the shell's prompt starts on a new line
 }
 
 }  // namespace
@@ -46,7 +46,7 @@ int RunOrv(std::span<const std::string> words) {
   };
   if (line.Operands().empty()) SendLines(*host);
   for (const std::string& command : line.Operands()) Send(*host, Text::FromUtf8(command));
-  OrvClient(host).Redraw();  // stores the values that still wait for their feature's other ones
+  OrvClient(host).Redraw();  // stores pending values
   return allDone ? app::kDone : app::kFailed;
 }
 

@@ -20,9 +20,9 @@
 namespace cardwright::desktop {
 namespace {
 
-constexpr qsizetype kLongestValue = 8191;  // what a value reads back as at most
+constexpr qsizetype kLongestValue = 8191;  // characters that are read of a value
 
-/// What the project's own lines tell, byte by byte.
+/// The faults that the bytes of the file show.
 class LineFaults {
  public:
   LineFaults(std::vector<Fault>& faults, const Text& file) : m_Faults(faults) {
@@ -56,8 +56,7 @@ class LineFaults {
     LookAtCharacters(key, value);
   }
 
-  // A project in UTF-8 is what editors of today leave behind; the form would show each accent as two
-  // characters.
+  // Today's editors save UTF-8; the form would show each accented letter as two characters.
   void LookAtCharacters(const QString& key, QByteArrayView value) {
     const bool isPlain =
         std::all_of(value.begin(), value.end(), [](char c) { return static_cast<signed char>(c) >= 0; });
@@ -83,7 +82,7 @@ class LineFaults {
   bool m_InScript = false;
 };
 
-/// What the sections tell together.
+/// The faults in the sections and their relations.
 class SectionFaults {
  public:
   SectionFaults(std::vector<Fault>& faults, const Text& file, EmbeddedHost* data) : m_Faults(faults) {
@@ -94,7 +93,7 @@ class SectionFaults {
     LookAtControls();
   }
 
-  /// What the form's script meets.
+  /// The elements that the script can use.
   std::span<const ScriptedElement> Elements() const { return m_Elements; }
 
  private:
@@ -125,7 +124,7 @@ class SectionFaults {
               .arg(qt::ToQString(m_Theme)));
   }
 
-  // A size or place that cannot be read leaves a control where nobody sees it.
+  // If a size or position cannot be read, the control is invisible.
   void LookAtNumbers() {
     for (const char16_t* key : {u"Left", u"Top", u"ItemsNumber"}) LookAtNumber(key, false);
     for (const char16_t* key : {u"Width", u"Height", u"FontSize"}) LookAtNumber(key, true);
@@ -160,7 +159,7 @@ class SectionFaults {
     return name.isEmpty() ? WidgetName(number) : name;
   }
 
-  // Links may lead to controls further on. Of two controls of one name the first is part of the form.
+  // Links may refer to later controls. Of two controls with one name, the form has the first.
   void NoteKind(int number) {
     EnterControl(number);
     const QString name = UserName(number).toLower();

@@ -7,14 +7,14 @@
 
 namespace cardwright::desktop {
 
-/// Something in a form project that a person would want to know before an end user meets it.
+/// A fault in a form project that its author should know before end users see it.
 struct Fault {
   QString section;
   QString text;
 };
 
-/// The faults of a form project, in the order of the file; with a data source also themes and attributes that
-/// it lacks.
+/// The faults of a form project, in the order of the file; with a data source also its missing themes and
+/// attributes.
 std::vector<Fault> FindFaults(const QString& file, EmbeddedHost* data);
 
 }  // namespace cardwright::desktop

@@ -12,7 +12,7 @@
 namespace cardwright::desktop {
 namespace {
 
-/// The form as it is shown: to an end user, or with its grid to the author who draws it.
+/// The form as an end user sees it, or with the grid as its author sees it.
 std::unique_ptr<qt::VisualControl> ReadForm(const QString& file, bool designed) {
   if (designed) {
     auto designer = std::make_unique<qt::FormDesigner>();

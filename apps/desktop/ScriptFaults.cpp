@@ -93,8 +93,7 @@ class ScriptFaults {
     LookAtSpelling(procedure, element->userName + u'_' + qt::ToQString(*known));
   }
 
-  // The form finds a procedure whatever its case. A language that tells cases apart then has none of the
-  // event's name.
+  // The form finds procedures in any case, but a language that distinguishes cases does not.
   void LookAtSpelling(const ScriptProcedure& procedure, const QString& called) {
     if (EqualsNoCase(m_Language, u"JScript") && procedure.name != called)
       AddAt(procedure.line,
@@ -102,8 +101,7 @@ class ScriptFaults {
                 .arg(procedure.name, called));
   }
 
-  // A procedure of any name may stand by itself, but one that is named like an event of something was meant
-  // so.
+  // A procedure may have any name, but one that is named like an event was probably meant as one.
   void LookForElement(const ScriptProcedure& procedure) {
     const qsizetype line = procedure.name.lastIndexOf(u'_');
     if (line <= 0) return;
@@ -114,7 +112,7 @@ class ScriptFaults {
                                          .arg(procedure.name.first(line), procedure.name));
   }
 
-  /// Null where the events have no such name.
+  /// Null if there is no such event.
   static const std::u16string_view* FindEvent(std::span<const std::u16string_view> events,
                                               const QString& name) {
     const auto event = std::find_if(events.begin(), events.end(), [&](std::u16string_view one) {

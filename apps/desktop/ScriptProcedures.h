@@ -11,7 +11,7 @@ struct ScriptProcedure {
   int line = 0;  ///< from 1, in the script
 };
 
-/// The procedures of a script in VBScript or JScript, by their headers, in order.
+/// The procedures of a script in VBScript or JScript, in their order.
 std::vector<ScriptProcedure> ProceduresOf(const QString& script, const QString& language);
 
 }  // namespace cardwright::desktop

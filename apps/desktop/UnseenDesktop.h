@@ -6,9 +6,9 @@
 
 namespace cardwright::desktop {
 
-/// The thread's desktop where nobody sees the windows: a box would wait for ever, so its text is said instead
-/// and it answers as it would with its default button. For its life it stands in front of the desktop that
-/// was there; where another one stands in front of it, boxes are shown, as that one answers them.
+/// The thread's desktop without a display. A message box would wait forever, so its text is printed, and it
+/// returns its default button. It wraps the previous desktop while it exists. If another desktop wraps this
+/// one, message boxes are shown, because that one answers them.
 class UnseenDesktop final : public ForwardingDesktop {
  public:
   explicit UnseenDesktop(std::function<void(const Text& line)> say);

@@ -23,7 +23,7 @@ struct OptionText {
 /// What a command takes from its command line, and the texts of its help.
 struct CommandText {
   static constexpr std::size_t kAnyNumber = std::numeric_limits<std::size_t>::max();
-  /// Where options may stand. The words after a script's file belong to the script.
+  /// Where options are accepted. The words after a script file belong to the script.
   enum class OptionPlace { Anywhere, BeforeOperands };
 
   std::string_view name;

@@ -4,8 +4,8 @@
 
 namespace cardwright::app {
 
-/// The languages of the program's scripts: VBScript, which it holds, and JScript, whose module is loaded when
-/// its first engine is made. Error 48 there where it cannot be loaded.
+/// The languages of the program's scripts: VBScript, which is linked, and JScript, whose module is loaded for
+/// its first engine. Making that engine raises error 48 if the module cannot be loaded.
 ScriptLanguages Languages();
 
 }  // namespace cardwright::app

@@ -13,7 +13,7 @@ namespace fs = std::filesystem;
 
 constexpr int kModuleNotLoaded = 48;
 
-// Beside the program where it was built, in the library folder where it was installed.
+// Next to the program in a build tree, in the library folder of an installation.
 fs::path ModulePath(const std::string& fileName) {
   const fs::path folder = fs::path(ProgramPath()).parent_path();
   std::error_code ignored;

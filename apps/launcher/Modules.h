@@ -4,10 +4,10 @@
 
 namespace cardwright::app {
 
-/// Loads a module of the program, "cardwright-NAME.so", for good and finds the symbol under which it shows
-/// what it offers, with C linkage. Error 48 with the reason where it cannot be loaded.
+/// Loads a module of the program, "cardwright-NAME.so", and returns the address of its symbol. Modules are
+/// never unloaded. Error 48 with the reason if it cannot be loaded.
 const void* LoadModule(const std::string& name, const char* symbol);
-/// Complete path of the running program.
+/// The absolute path of the running program.
 std::string ProgramPath();
 
 }  // namespace cardwright::app

@@ -11,7 +11,7 @@ using Words = std::span<const std::string>;
 struct Command {
   std::string_view name;
   std::string_view summary;
-  int (*run)(Words words);  ///< null for one of the desktop module
+  int (*run)(Words words);  ///< null if it is in the desktop module
 };
 
 constexpr Command kCommands[] = {

@@ -4,7 +4,7 @@
 
 namespace cardwright::workbench {
 
-/// What the workbench remembers of its user: recent projects, the layout of its panes, the grid.
+/// The user's preferences for the workbench: recent projects, layout of the panes, grid.
 class Preferences final : public QSettings {
  public:
   Preferences()

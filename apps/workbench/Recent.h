@@ -6,16 +6,16 @@
 
 namespace cardwright::workbench {
 
-/// What a person opened last of one sort, the latest first, kept among the preferences.
+/// Recently opened files or data sources, the latest first, stored in the preferences.
 class Recent {
  public:
-  /// `key` is the name among the preferences.
+  /// `key` is the name in the preferences.
   explicit Recent(QString key) : m_Key(std::move(key)) {}
 
   void Add(const QString& entry) const;
-  /// False where the entry was none of them.
+  /// False if the list did not have the entry.
   bool Remove(const QString& entry) const;
-  /// Fills a menu with them; `open` is called with the one that is chosen.
+  /// Fills a menu with the entries; `open` is called with the chosen one.
   void Fill(QMenu& menu, const std::function<void(const QString& entry)>& open) const;
 
  private:

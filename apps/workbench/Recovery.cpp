@@ -12,7 +12,7 @@
 namespace cardwright::workbench {
 namespace {
 
-// What the preferences remember: where work is kept, and on which project.
+// What the preferences hold: the files with unsaved work, and their projects.
 const QString kGroup = QStringLiteral("Work");
 
 QString DataFolder() {
@@ -25,7 +25,7 @@ QString DataFolder() {
 const QString kLock = QStringLiteral(".lock");
 QString LockOf(const QString& file) { return file + kLock; }
 
-// A slash would make a group of it.
+// A slash would start a group.
 QString KeyOf(const QString& file) {
   return QString::fromLatin1(file.toUtf8().toBase64(QByteArray::Base64UrlEncoding));
 }
@@ -43,8 +43,7 @@ bool IsKept(const QString& file) {
 
 QString Recovery::FileFor(const QString& project) {
   if (project.isEmpty()) {
-    // Numbers of programs come again, after a restart of the machine soon, and work may have been left till
-    // then.
+    // Process ids are reused, soon after a restart of the machine, and the work may be older than that.
     static const qint64 began = QDateTime::currentMSecsSinceEpoch();
     return DataFolder() + QStringLiteral("/new-%1-%2.cwf").arg(QCoreApplication::applicationPid()).arg(began);
   }
@@ -73,7 +72,8 @@ std::vector<LeftWork> Recovery::Left() {
   return all;
 }
 
-// The files beside the project count even where nothing is remembered of them, as after a move of the folder.
+// Files in the project's folder count even if the preferences do not list them, as after the folder was
+// moved.
 std::vector<LeftWork> Recovery::LeftOn(const QString& project) {
   const QString path = QFileInfo(project).absoluteFilePath();
   const QFileInfo latest(FileFor(path));
@@ -93,7 +93,8 @@ void Recovery::Forget(const LeftWork& work) {
 }
 
 void Recovery::SetAside(const LeftWork& work) {
-  if (work.file != FileFor(work.project)) return;  // it is already, or belongs to a program that ended
+  if (work.file != FileFor(work.project))
+    return;  // it is kept already, or belongs to a program that has ended
   const QString aside = work.file + work.time.toString(QStringLiteral(".yyyyMMdd-HHmmss"));
   if (!QFile::rename(work.file, aside)) return;
   Preferences preferences;
@@ -108,7 +109,7 @@ void Recovery::Keep(const QString& project, const QByteArray& bytes) {
   if (m_File.isEmpty()) {
     auto lock = std::make_unique<QLockFile>(LockOf(file));
     lock->setStaleLockTime(0);
-    if (!lock->tryLock(0)) return;  // another window works on the same project and keeps its own
+    if (!lock->tryLock(0)) return;  // another window has the same project open and keeps its own file
     m_Lock = std::move(lock);
     m_File = file;
     Preferences preferences;

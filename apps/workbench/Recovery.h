@@ -8,15 +8,15 @@
 
 namespace cardwright::workbench {
 
-/// Unsaved work that a program which ended unexpectedly has left.
+/// Unsaved changes left by a program that ended unexpectedly.
 struct LeftWork {
-  QString file;     ///< the work itself
-  QString project;  ///< the project that it belongs to; "" for one without a file
+  QString file;     ///< with the changes
+  QString project;  ///< the project file; "" for a project without one
   QDateTime time;
 };
 
-/// Keeps unsaved work beside the project, in a file that is gone once the work is saved or given up. While it
-/// is there another program that runs does not offer it.
+/// Keeps unsaved changes in a file next to the project, which is deleted when they are saved or discarded.
+/// Other running programs do not offer this file.
 class Recovery {
  public:
   Recovery() = default;
@@ -24,19 +24,19 @@ class Recovery {
   Recovery(const Recovery&) = delete;
   Recovery& operator=(const Recovery&) = delete;
 
-  /// Where the work on a project is kept: beside it, or in the user's data folder where nothing can be
-  /// written there and for a project without a file.
+  /// The file for the changes of a project: next to the project, or in the user's data folder if that is not
+  /// writable or the project has no file.
   static QString FileFor(const QString& project);
-  /// The work that was left on one project, or on any; none that a running program still keeps.
+  /// The changes left for one project, or for any; none that belong to a running program.
   static std::vector<LeftWork> Left();
   static std::vector<LeftWork> LeftOn(const QString& project);
   static void Forget(const LeftWork& work);
-  /// Keeps left work for another time, where the work that begins now does not come over it.
+  /// Keeps left changes for later, in a file that new changes do not overwrite.
   static void SetAside(const LeftWork& work);
 
-  /// Keeps the file's bytes as the work on a project.
+  /// Keeps the bytes of a file as the changes of a project.
   void Keep(const QString& project, const QByteArray& bytes);
-  /// The work is saved or given up.
+  /// The changes were saved or discarded.
   void Drop();
 
  private:

@@ -30,8 +30,8 @@
 namespace cardwright::workbench {
 namespace {
 
-constexpr int kTold = 8000;       // milliseconds that a message stands in the status bar
-constexpr int kKeepAfter = 3000;  // and after which changed work is kept
+constexpr int kMessageTime = 8000;  // milliseconds for a message in the status bar
+constexpr int kKeepAfter = 3000;    // milliseconds until unsaved changes are kept
 constexpr int kLayoutVersion = 1;
 
 QWidget* NativeOf(const IControl& control) {
@@ -62,7 +62,7 @@ Workbench::Workbench(desktop::DataSource& source)
   const Preferences preferences;
   m_GridPixels = qBound(2, preferences.value(QStringLiteral("GridStep"), 8).toInt(), 64);
   m_Document->Designer().SetGridAlignment(preferences.value(QStringLiteral("SnapToGrid"), true).toBool());
-  constexpr QSize kFrame(16, 48);  // what the desktop adds
+  constexpr QSize kFrame(16, 48);  // the window frame of the desktop
   resize(QSize(1280, 860).boundedTo(screen()->availableSize() - kFrame));
   ProposeLayout();
   RestoreLayout();
@@ -75,10 +75,10 @@ Workbench::Workbench(desktop::DataSource& source)
 }
 
 Workbench::~Workbench() {
-  // What a run holds refers to the data source and to the panes.
+  // A run refers to the data source and the panes.
   delete m_Run.data();
   if (m_Data.IsOpen()) m_Data.Log().onLine = nullptr;
-  // Panes end after this, and an editor that is open then still tells what was typed.
+  // The panes are destroyed later, and an open editor still emits signals then.
   for (QObject* part : findChildren<QObject*>()) part->disconnect(this);
 }
 
@@ -116,7 +116,7 @@ void Workbench::MakePanes() {
   for (QDockWidget* dock : {tools, list, grid, script, features}) m_Work.push_back(dock->widget());
 }
 
-// Most of the room for the form, on a small screen too.
+// Most of the space is for the form, even on a small screen.
 void Workbench::ProposeLayout() {
   const auto pane = [this](const char* name) { return m_Panes[QLatin1String(name)]; };
   const int right = qMin(330, width() * 3 / 10);
@@ -142,7 +142,7 @@ void Workbench::SaveLayout() const {
 void Workbench::ConnectDocument() {
   connect(m_Document, &Document::Selected, this, [this](IControl* control) {
     ShowSelection(Ref<IControl>(control));
-    // The form's selection ends the drawing without a word, after it was told of.
+    // Selecting the form ends the drawing without an event, after the selection's event.
     QTimer::singleShot(0, m_Tools, [this] {
       if (m_Document->Designer().ControlTypeToAdd() == ControlTypeEnum::ctDefault) m_Tools->Reset();
     });
@@ -196,10 +196,11 @@ void Workbench::ConnectPanes() {
   });
   connect(m_List, &ControlList::Chosen, this, &Workbench::Select);
   connect(m_List, &QTreeWidget::itemActivated, this, [this] { m_Grid->EditRow(QStringLiteral("Text")); });
-  // The grid itself may show another control by the time that the reason is read.
-  connect(&m_Grid->Model(), &PropertyModel::Refused, this, &Workbench::Tell);
+  // In the status bar, because the grid may soon show another control.
+  connect(&m_Grid->Model(), &PropertyModel::Refused, this, &Workbench::ShowMessage);
   connect(&m_Grid->Model(), &PropertyModel::Assigned, this, [this] {
-    m_Document->Designer().ShowHandles(true);  // which do not follow the height that a font gives a list
+    m_Document->Designer().ShowHandles(
+        true);  // the handles do not follow the height that a font gives a list
     UpdateGrid();
     m_Document->RecordSoon();
   });
@@ -219,7 +220,7 @@ void Workbench::ShowSelection(const Ref<IControl>& control) {
   }
 }
 
-// What acts on a control needs one; beside that the designer says what it does not allow.
+// Commands that act on a control need one; the designer may disable others.
 void Workbench::ShowCommands() {
   const Ref<IControl>& control = m_Grid->Model().Control();
   const bool isForm = !control || ClassOf(*control).type == ControlTypeEnum::ctDefault;
@@ -233,7 +234,7 @@ void Workbench::ShowCommands() {
   Action(QStringLiteral("mnuPaste"))->setEnabled(paste != m_MenuStates.end() && paste->second);
 }
 
-// Beside the rows, the names that screen readers tell.
+// Also the names for screen readers.
 void Workbench::ShowList() {
   cardwright::FormDesigner& designer = m_Document->Designer();
   m_List->Show(designer);
@@ -258,8 +259,8 @@ void Workbench::ShowTitle() {
   setWindowModified(m_Document->IsModified());
 }
 
-// The designer paints its grid in pixels but holds drags to the same number in the form's own unit; in a form
-// of twips that would be a fifteenth of what is seen.
+// The designer paints its grid in pixels but snaps to the same number in the form's unit; in a form in twips
+// that would be a fifteenth of the visible step.
 void Workbench::UpdateGrid() {
   cardwright::FormDesigner& designer = m_Document->Designer();
   const ScaleMode scale = designer.GetSurface()->Scale();
@@ -268,7 +269,7 @@ void Workbench::UpdateGrid() {
   designer.SetGrid(m_IsGridShown ? static_cast<std::int16_t>(m_GridPixels) : std::int16_t{0}, true);
 }
 
-void Workbench::Tell(const QString& text) { statusBar()->showMessage(text, kTold); }
+void Workbench::ShowMessage(const QString& text) { statusBar()->showMessage(text, kMessageTime); }
 
 void Workbench::Select(IControl* control) {
   const FocusKeeper keeper;

@@ -25,19 +25,20 @@ class PropertyGrid;
 class ScriptPane;
 class ToolBox;
 
-/// The window in which an author draws forms: the form in the middle, around it the tool box, the list of
-/// controls, the property grid, the script, the data and what runs leave behind.
+/// The window in which an author draws forms: the form in the middle, and around it tool box, list of
+/// controls, property grid, script, data and output.
 class Workbench final : public QMainWindow, private Choices {
   Q_OBJECT
  public:
   explicit Workbench(desktop::DataSource& source);
   ~Workbench() override;
 
-  /// Opens a project, and offers work that was left on it. False where it could not be read, which was told.
+  /// Opens a project, and offers unsaved changes of it after a crash. Returns false, after a message, if it
+  /// cannot be read.
   bool OpenProject(const QString& path);
-  /// Opens a data source. False where it could not be opened, which was told.
+  /// Opens a data source. Returns false, after a message, if it cannot be opened.
   bool OpenData(const QString& source);
-  /// Offers work that a program which ended unexpectedly has left; true where some was taken.
+  /// Offers unsaved changes after a crash; true if the user has taken them.
   bool OfferLeftWork();
 
   Document& Project() noexcept { return *m_Document; }
@@ -48,7 +49,7 @@ class Workbench final : public QMainWindow, private Choices {
   ScriptPane& Script() noexcept { return *m_Script; }
   FeaturePane& Features() noexcept { return *m_Features; }
   OutputPane& Output() noexcept { return *m_Output; }
-  /// The window of the form that is being filled in; null while there is none.
+  /// The window of the form that is being filled in; null if there is none.
   desktop::FormWindow* Run() const noexcept { return m_Run; }
   /// An action by its object name.
   QAction* Action(const QString& name) const { return findChild<QAction*>(name); }
@@ -88,9 +89,9 @@ class Workbench final : public QMainWindow, private Choices {
   bool Save();
   bool SaveAs();
   bool SaveTo(const QString& path);
-  /// Saves or gives up what is not saved, as the person says; false to stay.
+  /// Saves or discards unsaved changes, as the user says; false if the user cancels.
   bool MayLeave();
-  /// Remembers the project just opened, and tells what is to be known about it.
+  /// Remembers the project just opened, and shows the messages about it.
   void TellOpened();
   void FillRecentMenu(QMenu& menu);
   bool Offer(const LeftWork& work);
@@ -105,7 +106,7 @@ class Workbench final : public QMainWindow, private Choices {
   void ShowSelection(const Ref<IControl>& control);
   void ShowCommands();
   void UpdateGrid();
-  void Tell(const QString& text);
+  void ShowMessage(const QString& text);
   /// @}
 
   /// @name Commands
@@ -113,7 +114,7 @@ class Workbench final : public QMainWindow, private Choices {
   void Select(IControl* control);
   void RunOnControl(void (cardwright::FormDesigner::*command)());
   void ChooseGridStep();
-  /// Where a dialog for data starts.
+  /// The folder in which dialogs for data start.
   QString DataFolder() const;
   void ChooseData();
   void ChooseDataFolder();
@@ -126,9 +127,9 @@ class Workbench final : public QMainWindow, private Choices {
   bool StartRun(const QString& theme, const QString& id, RunKind kind);
   void ShowRun();
   void EndRun();
-  /// Closes the form that is being filled in, as the person says; the workbench follows when it is gone.
+  /// Closes the form that is being filled in if the user agrees; the workbench closes after it.
   void LeaveRun();
-  /// While a form is being filled in, only what it tells can be used.
+  /// Disables everything except the output while a form is being filled in.
   void AllowWork(bool allow);
   /// @}
 
@@ -147,13 +148,13 @@ class Workbench final : public QMainWindow, private Choices {
   OutputPane* m_Output = nullptr;
   QToolBar* m_Bar = nullptr;
   std::map<QString, QDockWidget*> m_Panes;
-  std::vector<QWidget*> m_Work;  // what can be used only while no form is being filled in
+  std::vector<QWidget*> m_Work;  // disabled while a form is being filled in
   QTimer m_ListSoon;
   QTimer m_KeepSoon;
   Recovery m_Recovery;
   QPointer<desktop::FormWindow> m_Run;
   QPointer<QWidget> m_FocusBefore;       // the run
-  std::map<QString, bool> m_MenuStates;  // as the designer has its own menu
+  std::map<QString, bool> m_MenuStates;  // the state of the designer's menu
   bool m_IsGridShown = true;
   int m_GridPixels = 8;
 };

@@ -1,4 +1,4 @@
-// Menus, keys and tool bar of the workbench.
+// The menus, shortcuts and tool bar of the workbench.
 
 #include <QAction>
 #include <QApplication>
@@ -20,7 +20,7 @@
 namespace cardwright::workbench {
 namespace {
 
-/// In the order of their keys.
+/// In the order of their shortcuts.
 constexpr const char* kPanes[] = {"paneTools",  "paneControls", "paneProperties",
                                   "paneScript", "paneData",     "paneOutput"};
 
@@ -64,7 +64,7 @@ void Workbench::MakeFileActions() {
   AddAction(menu, "mnuSaveAs", tr("Save &As…"), {}, QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S),
             [this] { SaveAs(); });
   menu.addSeparator();
-  // Also while the menu cannot be used.
+  // Also while the menu is disabled.
   addAction(
       AddAction(menu, "mnuQuit", tr("&Quit"), {}, QKeySequence(Qt::CTRL | Qt::Key_Q), [this] { close(); }));
 }
@@ -99,7 +99,7 @@ void Workbench::MakeEditActions() {
   })->setEnabled(false);
   AddAction(menu, "mnuDelete", tr("&Delete"), IconOf(Sign::Delete), QKeySequence::Delete,
             [this] { RunOnControl(&D::Delete); });
-  // Elsewhere these keys are those of a table's cell or of a text.
+  // Elsewhere these keys belong to a table cell or a text.
   for (const char* name : {"mnuCut", "mnuCopy", "mnuPaste", "mnuDelete"}) {
     QAction* action = Action(QLatin1String(name));
     action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
@@ -127,7 +127,7 @@ void Workbench::MakeFormatActions() {
   AddAction(menu, "mnuCenterDown", tr("Centre &Down"), IconOf(Sign::CenterDown),
             QKeySequence(Qt::CTRL | Qt::ALT | Qt::Key_V), [this] { RunOnControl(&D::CenterTop); });
   menu.addSeparator();
-  // What is checked follows the designer, which has no lock for a form without controls.
+  // The designer decides what is checked: it has no lock for a form without controls.
   QAction* lock = AddAction(menu, "mnuLock", tr("&Lock Controls"), IconOf(Sign::Lock),
                             QKeySequence(Qt::CTRL | Qt::Key_L), [this] {
                               QAction* action = Action(QStringLiteral("mnuLock"));

@@ -1,4 +1,4 @@
-// The data source of the workbench, and forms that are filled in for its features.
+// The data source of the workbench, and runs of the form for its features.
 
 #include <QAction>
 #include <QActionGroup>
@@ -28,12 +28,12 @@ namespace {
 
 const Recent kRecentSources(QStringLiteral("RecentData"));
 
-/// A file or folder with its whole path; a connection text as it is.
+/// The absolute path of a file or folder; a connection string unchanged.
 QString Complete(const QString& source) {
   return QFileInfo::exists(source) ? QFileInfo(source).absoluteFilePath() : source;
 }
 
-/// The source as others may see it, without a password.
+/// The source as it may be shown, without a password.
 QString Shown(QString source) {
   static const QRegularExpression password(QStringLiteral("((?:password|pwd)\\s*=\\s*)('[^']*'|[^\\s;]+)"),
                                            QRegularExpression::CaseInsensitiveOption);
@@ -58,7 +58,7 @@ bool Workbench::OpenData(const QString& source) {
   m_Panes[QStringLiteral("paneData")]->show();
   m_Panes[QStringLiteral("paneData")]->raise();
   if (Shown(source) == source) kRecentSources.Add(Complete(source));
-  Tell(tr("Opened %1").arg(Shown(source)));
+  ShowMessage(tr("Opened %1").arg(Shown(source)));
   return true;
 }
 
@@ -176,7 +176,7 @@ bool Workbench::StartRun(const QString& theme, const QString& id, RunKind kind) 
   return true;
 }
 
-// Over the form that it shows, so that what it tells can be seen beside it.
+// Over the stage, so that the output stays visible.
 void Workbench::ShowRun() {
   const QRect room = screen()->availableGeometry();
   const QSize free = room.size() - m_Run->size();
@@ -203,11 +203,10 @@ void Workbench::LeaveRun() {
   if (answer != QMessageBox::Close || !m_Run) return;
   const auto leave = connect(m_Run, &QObject::destroyed, this, &QWidget::close, Qt::QueuedConnection);
   m_Run->close();
-  if (m_Run && m_Run->isVisible()) disconnect(leave);  // its script does not let it go
+  if (m_Run && m_Run->isVisible()) disconnect(leave);  // its script prevents the closing
 }
 
-// What a run must not meet is switched off, not the whole program, so that what it tells can be read, copied
-// and cleared meanwhile.
+// Only what would disturb a run is disabled, so that its output can be read, copied and cleared meanwhile.
 void Workbench::AllowWork(bool allow) {
   if (!allow) m_FocusBefore = focusWidget();
   for (QWidget* widget : m_Work) widget->setEnabled(allow);

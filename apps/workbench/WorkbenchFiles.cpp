@@ -1,4 +1,4 @@
-// Projects of the workbench: opening, saving, and what a person is asked about them.
+// Opening and saving projects, with the questions to the user.
 
 #include <QDir>
 #include <QFileDialog>
@@ -80,10 +80,10 @@ bool Workbench::SaveTo(const QString& path) {
   const Text& script = m_Document->GetScript().content;
   const auto lost = CodePage::Current().FirstLost(script);
   if (lost) {
-    Tell(tr("Saved, but the code page of form projects has no “%1”: the script holds “?” in its place")
-             .arg(QChar(script[*lost])));
+    ShowMessage(tr("Saved, but the code page of form projects has no “%1”: the script holds “?” in its place")
+                    .arg(QChar(script[*lost])));
   } else {
-    Tell(tr("Saved %1").arg(QDir::toNativeSeparators(m_Document->Path())));
+    ShowMessage(tr("Saved %1").arg(QDir::toNativeSeparators(m_Document->Path())));
   }
   return true;
 }
@@ -97,7 +97,7 @@ bool Workbench::MayLeave() {
   QMessageBox box(QMessageBox::Question, tr("Unsaved changes"), tr("Save the changes to %1?").arg(name),
                   QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, this);
   box.setDefaultButton(QMessageBox::Save);
-  // Not every desktop gives them letters.
+  // Not every desktop assigns mnemonics to them.
   box.button(QMessageBox::Save)->setText(tr("&Save"));
   box.button(QMessageBox::Discard)->setText(tr("&Discard"));
   box.button(QMessageBox::Cancel)->setText(tr("&Cancel"));
@@ -144,7 +144,7 @@ bool Workbench::Offer(const LeftWork& work) {
     QMessageBox::warning(this, tr("Unsaved work"), failure);
     return false;
   }
-  // From here on the work is kept as this window's own; what was left goes once there is a copy of it.
+  // From now on this window keeps the work; the old file is removed once there is a copy.
   for (const LeftWork& other : Recovery::LeftOn(work.project))
     if (other.file != work.file) Recovery::SetAside(other);
   KeepWork();
@@ -153,7 +153,7 @@ bool Workbench::Offer(const LeftWork& work) {
   return true;
 }
 
-// A form without controls has no file, and so no work to keep.
+// A form without controls has no project file, so there is nothing to keep.
 void Workbench::KeepWork() {
   if (m_Run) return m_KeepSoon.start();
   const QByteArray bytes = m_Document->Bytes();

@@ -1,5 +1,5 @@
-// A host for the form designer: tool box, surface, and a line that tells what is selected. Everything that a
-// larger host does hangs on the same signals.
+// A host for the form designer: tool box, surface, and a line that shows what is selected. A larger host uses
+// the same signals.
 #include <QApplication>
 #include <QGridLayout>
 #include <QLabel>

@@ -49,7 +49,7 @@ void Press(QWidget& widget, int key, Qt::KeyboardModifiers modifiers, const QStr
   QApplication::sendEvent(&widget, &release);
 }
 
-/// Marks what stands in a field and types over it.
+/// Selects the text of a field and replaces it by typing.
 void Type(QWidget& field, const QString& text) {
   field.setFocus();
   Press(field, Qt::Key_A, Qt::ControlModifier, {});

@@ -13,14 +13,14 @@ std::string Project(const std::string& controls, int count, const std::string& f
          "[SCRIPT]\r\n\r\n\r\n";
 }
 
-TEST(Check, FindsNothingInTheExample) {
+TEST(Check, FindsNoFaultsInTheExample) {
   const Outcome outcome =
       Cardwright({"check", ExampleForm(), "--data", SourceFile("examples/wells/wells.gpkg")});
   EXPECT_EQ(outcome.status, 0);
   EXPECT_EQ(outcome.out, "");
 }
 
-TEST(Check, ReadsAProjectWhoseLinesEndInAnyWay) {
+TEST(Check, AcceptsAnyLineEnds) {
   const TempFolder folder;
   for (const std::string end : {"\n", "\r", "\r\n"}) {
     const std::string project =
@@ -31,7 +31,7 @@ TEST(Check, ReadsAProjectWhoseLinesEndInAnyWay) {
   }
 }
 
-TEST(Check, FindsNothingInSelectorsThatAreLinkedAsTheyShouldBe) {
+TEST(Check, FindsNoFaultsInCorrectlyLinkedSelectors) {
   const TempFolder folder;
   const std::string controls =
       "[CONTROLS_1]\r\nType=attributeselector\r\nThemeSelectorName=THM\r\nFeatureSelectorName=cbo\r\n"
@@ -44,7 +44,7 @@ TEST(Check, FindsNothingInSelectorsThatAreLinkedAsTheyShouldBe) {
   EXPECT_EQ(outcome.status, 0);
 }
 
-TEST(Check, TellsOnceThatTheThemeHasNoFeaturesOfTheFormsType) {
+TEST(Check, ReportsOnceThatTheThemeHasNoFeaturesOfTheFormsType) {
   const TempFolder folder;
   const std::string control = "[CONTROLS_1]\r\nType=TextBox\r\nAttribute=NAME\r\n";
   const std::string file =
@@ -60,7 +60,7 @@ std::string WithScript(const std::string& script, const std::string& language = 
          "\r\n[SCRIPT]\r\n" + language + "\r\n" + script;
 }
 
-TEST(Check, FindsNothingInNamesThatOnlyJScriptTakes) {
+TEST(Check, AcceptsNamesThatOnlyJScriptAllows) {
   const TempFolder folder;
   for (const std::string name : {"_depth", "$depth",
                                  "Gr\xF6\xDF"
@@ -169,7 +169,7 @@ std::vector<FaultyProject> FaultyProjects() {
 
 class CheckFaultTest : public ::testing::TestWithParam<FaultyProject> {};
 
-TEST_P(CheckFaultTest, IsToldOnALineOfItsOwnWithStatus1) {
+TEST_P(CheckFaultTest, IsReportedOnOneLineWithStatus1) {
   const TempFolder folder;
   const std::string form = folder.Write("form è.cwf", GetParam().bytes);
   const Outcome outcome = Cardwright({"check", form, "--data", SourceFile("examples/wells/wells.gpkg")});

@@ -58,7 +58,7 @@ struct Fault {
 };
 class ProjectReportTest : public ::testing::TestWithParam<Fault> {};
 
-TEST_P(ProjectReportTest, TellsAFault) {
+TEST_P(ProjectReportTest, ReportsFaults) {
   const TempFolder folder;
   const std::string form = Changed(folder, GetParam().from, GetParam().to);
   const Outcome outcome = Example("project-report.vbs", {"--summary=" + folder.File("summary.txt"), form});
@@ -105,7 +105,7 @@ TEST(ProjectReport, ReadsScriptsInJScript) {
   EXPECT_THAT(outcome.out, Not(HasSubstr("cmdToday:")));
 }
 
-TEST(ProjectReport, GoesOnBehindAProjectThatItCannotRead) {
+TEST(ProjectReport, ContinuesAfterAProjectThatItCannotRead) {
   const TempFolder folder;
   const Outcome outcome =
       Example("project-report.vbs", {"--summary=" + folder.File("summary.txt"), folder.File("none.cwf"),
@@ -117,14 +117,14 @@ TEST(ProjectReport, GoesOnBehindAProjectThatItCannotRead) {
   EXPECT_FALSE(std::filesystem::exists(folder.File("none.cwf")));
 }
 
-TEST(ProjectReport, WritesItsSummaryInUnicodeWhereTheCodePageLacksACharacter) {
+TEST(ProjectReport, WritesItsSummaryInUnicodeIfTheCodePageLacksACharacter) {
   const TempFolder folder;
   const std::string form = folder.Write("форма.cwf", ReadAll(ExampleForm()));
   EXPECT_EQ(Example("project-report.vbs", {"--summary=" + folder.File("summary.txt"), form}).status, 0);
   EXPECT_THAT(ReadAll(folder.File("summary.txt")), ::testing::StartsWith("\xFF\xFE"));
 }
 
-TEST(BatchCheck, TellsGoodFormsFromBadOnes) {
+TEST(BatchCheck, DistinguishesValidFromInvalidForms) {
   const TempFolder folder;
   const std::string bad = Changed(folder, "ThemeName=wells", "ThemeName=");
   const Outcome outcome = Example("batch-check.vbs", {ExampleForm(), bad, "no.cwf"});

@@ -12,7 +12,7 @@ namespace {
 
 using ::testing::HasSubstr;
 
-TEST(Fill, RefusesAFormOrAThemeThatIsNotThere) {
+TEST(Fill, RejectsAMissingFormOrTheme) {
   const std::string data = SourceFile("examples/wells/wells.gpkg");
   const Outcome noForm =
       Cardwright({"fill", "/no/form.cwf", "--data", data, "--theme", "wells", "--id", "3"});
@@ -25,7 +25,7 @@ TEST(Fill, RefusesAFormOrAThemeThatIsNotThere) {
 }
 
 // A form passes over a feature that is not there without a word: what was typed would be lost at OK.
-TEST(Fill, RefusesAFeatureThatIsNotThereBeforeAnythingIsTyped) {
+TEST(Fill, RejectsAMissingFeatureBeforeTheFormIsShown) {
   const std::string data = SourceFile("examples/wells/wells.gpkg");
   for (const char* id : {"999", "abc", "", "3 OR 1=1"})
     for (const char* option : {"--new", "--debug"}) {
@@ -36,7 +36,7 @@ TEST(Fill, RefusesAFeatureThatIsNotThereBeforeAnythingIsTyped) {
     }
 }
 
-TEST(Fill, RefusesAFormForAnotherFeatureType) {
+TEST(Fill, RejectsAFormForAnotherFeatureType) {
   const Outcome outcome =
       Cardwright({"fill", ExampleForm(), "--data", SourceFile("examples/wells/wells.gpkg"), "--theme",
                   "pipelines", "--id", "1"});
@@ -44,7 +44,7 @@ TEST(Fill, RefusesAFormForAnotherFeatureType) {
   EXPECT_THAT(outcome.err, HasSubstr("the theme pipelines has no feature 1 of the form's feature type"));
 }
 
-TEST(Fill, WithoutADisplaySaysSoAndEnds) {
+TEST(Fill, ReportsAMissingDisplay) {
   const Outcome outcome =
       RunProgram("/usr/bin/env", {"-u", "QT_QPA_PLATFORM", "-u", "DISPLAY", "-u", "WAYLAND_DISPLAY",
                                   CARDWRIGHT_PROGRAM, "fill", ExampleForm(), "--data",
@@ -57,14 +57,14 @@ std::vector<std::string> WordsToFill(const std::string& form) {
   return {"fill", form, "--data", SourceFile("examples/wells/wells.gpkg"), "--theme", "wells", "--id", "3"};
 }
 
-TEST(Fill, IsEndedByCtrlCWhileNoScriptRuns) {
+TEST(Fill, EndsAtCtrlCWhileNoScriptRuns) {
   RunningProgram fill(WordsToFill(ExampleForm()));
   ASSERT_TRUE(fill.WaitUntilItHandlesCtrlC());
   fill.PressCtrlC();
   EXPECT_EQ(fill.WaitForEnd(std::chrono::seconds(30)), SIGINT);
 }
 
-TEST(Fill, AsksAtCtrlCWhetherToStopAScriptAndIsEndedByASecondOne) {
+TEST(Fill, AsksAtCtrlCWhetherToStopAScriptAndEndsAtASecondOne) {
   const TempFolder folder;
   for (const std::string script : {"VBScript\r\nDo\r\nLoop\r\n", "JScript\r\nfor (;;) ;\r\n"}) {
     RunningProgram fill(WordsToFill(folder.Write(
@@ -82,7 +82,7 @@ TEST(Fill, AsksAtCtrlCWhetherToStopAScriptAndIsEndedByASecondOne) {
 
 // The whole road with real keys and clicks: form, widgets, host commands, GeoPackage; read back by the data
 // library's own tool.
-TEST(Fill, ValuesTypedIntoTheExampleReachTheGeoPackage) {
+TEST(Fill, StoresTypedValuesInTheGeoPackage) {
   const TempFolder folder;
   std::filesystem::create_directories(folder.File("examples/wells"));
   std::filesystem::create_directories(folder.File("build/demo"));

@@ -20,7 +20,7 @@ TEST(Info, ShowsTheFormItsControlsAndItsProcedures) {
   EXPECT_THAT(info.out, HasSubstr("Form_Initialize"));
 }
 
-TEST(Info, GivesTheSameAsJson) {
+TEST(Info, PrintsTheSameAsJson) {
   const Outcome info = Cardwright({"info", ExampleForm(), "--json"});
   EXPECT_EQ(info.status, 0);
   EXPECT_EQ(info.out.front(), '{');
@@ -37,7 +37,7 @@ TEST(Info, ShowsAnEmptyFileAsAnEmptyForm) {
   EXPECT_THAT(info.out, HasSubstr("Script none"));
 }
 
-TEST(Info, LeavesTheProjectAsItIs) {
+TEST(Info, LeavesTheProjectUnchanged) {
   const TempFolder folder;
   const std::string form = folder.Copy("examples/wells/well-inspection.cwf");
   const std::string before = ReadAll(form);

@@ -26,7 +26,7 @@ class JScriptTest : public ::testing::Test {
   TempFolder m_Folder;
 };
 
-TEST_F(JScriptTest, EchoesValuesAsTheLanguageShowsThem) {
+TEST_F(JScriptTest, EchoesValuesAsTheLanguageConvertsThem) {
   const Outcome outcome =
       Run("WScript.Echo(1, 'è', true, 1.5, 0.1 + 0.2);\nwscript.echo();\nWScript.Echo(undefined, null);\n"
           "WScript.Echo({}, [1, [2, 3]], { toString: function() { return 'own'; } });\n"
@@ -39,7 +39,7 @@ TEST_F(JScriptTest, EchoesValuesAsTheLanguageShowsThem) {
   EXPECT_EQ(outcome.status, 0);
 }
 
-TEST_F(JScriptTest, MeetsWhatIsThrownWhereAValueIsShown) {
+TEST_F(JScriptTest, CatchesWhatAConversionOfAnEchoedValueThrows) {
   const Outcome outcome =
       Run("var bad = { toString: function() { throw new Error(7, 'no text'); } };\n"
           "try { WScript.Echo(bad); } catch (e) { WScript.Echo(e.number & 0xFFFF, e.message); }");
@@ -56,7 +56,7 @@ TEST_F(JScriptTest, UsesTheStandardStreams) {
   EXPECT_EQ(outcome.err, "c");
 }
 
-TEST_F(JScriptTest, HandsOverItsArgumentsAsTheyAre) {
+TEST_F(JScriptTest, PassesItsArgumentsUnchanged) {
   const Outcome outcome = Run(
       "var words = WScript.Arguments;\nWScript.Echo(words.length, words.Count, words(1), words.Item(0));\n"
       "for (var e = new Enumerator(words); !e.atEnd(); e.moveNext()) WScript.Echo(e.item());\n"
@@ -67,7 +67,7 @@ TEST_F(JScriptTest, HandsOverItsArgumentsAsTheyAre) {
   EXPECT_EQ(outcome.err, "a.js(4, 14) JScript runtime error: Subscript out of range\n");
 }
 
-TEST_F(JScriptTest, EndsWithStatus1AndALineForAnErrorThatItDoesNotCatch) {
+TEST_F(JScriptTest, EndsWithStatus1AndALineForAnUncaughtError) {
   const Outcome outcome = Run("WScript.Echo(1);\n  x = nothing + 1;\nWScript.Echo(2);");
   EXPECT_EQ(outcome.status, 1);
   EXPECT_EQ(outcome.out, "1\n");
@@ -78,7 +78,7 @@ TEST_F(JScriptTest, EndsWithStatus1AndALineForAnErrorThatItDoesNotCatch) {
             "a.js(1, 16) JScript runtime error: Out of stack space\n");
 }
 
-TEST_F(JScriptTest, TellsACompilationError) {
+TEST_F(JScriptTest, ReportsACompilationError) {
   for (const std::vector<std::string>& options : {std::vector<std::string>{}, {"--check"}}) {
     const Outcome outcome = Run("WScript.Echo(1);\nx = (1", options);
     EXPECT_EQ(outcome.status, 1);
@@ -87,21 +87,21 @@ TEST_F(JScriptTest, TellsACompilationError) {
   }
 }
 
-TEST_F(JScriptTest, IsOnlyCompiledWhereThatIsAskedFor) {
+TEST_F(JScriptTest, IsOnlyCompiledWithCheck) {
   const Outcome outcome = Run("WScript.Echo(1);", {"--check"});
   EXPECT_EQ(outcome.status, 0);
   EXPECT_EQ(outcome.out, "");
   EXPECT_EQ(outcome.err, "");
 }
 
-TEST_F(JScriptTest, HasNoInstructionsToShow) {
+TEST_F(JScriptTest, CannotBeDisassembled) {
   const Outcome outcome = Run("WScript.Echo(1);", {"--disassemble"});
   EXPECT_EQ(outcome.status, 2);
   EXPECT_EQ(outcome.out, "");
   EXPECT_EQ(outcome.err, "a.js: JScript has no instructions to show\n");
 }
 
-TEST_F(JScriptTest, QuitsAtOnceEvenWhereErrorsAreCaught) {
+TEST_F(JScriptTest, QuitsAtOnceDespiteErrorHandling) {
   const Outcome outcome =
       Run("function leave() { try { WScript.Echo(1); WScript.Quit(7); WScript.Echo(2); }\n"
           "catch (e) { WScript.Echo(3); } finally { WScript.Echo(4); } }\n"
@@ -113,7 +113,7 @@ TEST_F(JScriptTest, QuitsAtOnceEvenWhereErrorsAreCaught) {
   EXPECT_EQ(Run("WScript.Quit(3);\nWScript.Quit(4);").status, 3);
 }
 
-TEST_F(JScriptTest, MakesObjectsAndRefusesUnknownClasses) {
+TEST_F(JScriptTest, CreatesObjectsAndRejectsUnknownClasses) {
   const Outcome outcome =
       Run("var d = new ActiveXObject('Scripting.Dictionary');\nd.Add('a', 1);\nd('b') = 2;\n"
           "WScript.Echo(d.Count, d('b'), new VBArray(d.Keys()).toArray());\n"
@@ -133,7 +133,7 @@ TEST_F(JScriptTest, WalksFilesWithAnEnumerator) {
   EXPECT_EQ(outcome.out, "b.txt 2\n");
 }
 
-TEST_F(JScriptTest, MakesTheClassesOfTheDesktopModule) {
+TEST_F(JScriptTest, CreatesTheClassesOfTheDesktopModule) {
   const Outcome outcome = Run(
       "var items = new ActiveXObject('Cardwright.CItems'), item = new ActiveXObject('Cardwright.CItem');\n"
       "item.Text = 'one';\nitems.Add(item);\nWScript.Echo(items.Count, items(1).Text);\n"
@@ -149,7 +149,7 @@ const std::string kReadsAForm =
     "form.ProjectRead(WScript.Arguments(0));\n"
     "form.Controls('Form').PropertyValue('Text') = 'Wells';\n";
 
-TEST_F(JScriptTest, CallsProceduresForEventsWhateverTheirCaseTheSameOneFirst) {
+TEST_F(JScriptTest, CallsEventProceduresInAnyCaseTheExactOneFirst) {
   const Outcome outcome = Run(kReadsAForm +
                                   "function FORM_setParentCaption(text) { WScript.Echo(text); }\n"
                                   "function form_NeedResize(w, h) { WScript.Echo(w > 0, h > 0); }\n"
@@ -174,7 +174,7 @@ TEST_F(JScriptTest, TracesItsStatements) {
   EXPECT_EQ(outcome.err, "a.js:1: var x = 1;\na.js:3: WScript.Echo(x + 1);\n");
 }
 
-TEST_F(JScriptTest, TellsTheTimesOfItsLinesTheLongestFirst) {
+TEST_F(JScriptTest, ProfilesItsLinesLongestFirst) {
   const Outcome outcome =
       Run("var x;\nfor (var i = 0; i < 3; i++)\n  x = i;\nWScript.Sleep(30);", {"--profile"});
   EXPECT_THAT(outcome.err, ContainsRegex("count  line  source\n *[0-9.]+ +1 +4  WScript.Sleep\\(30\\);\n"));

@@ -30,7 +30,7 @@ TEST(Orv, ReadsCommandsFromStandardInput) {
   EXPECT_EQ(outcome.out, "\n\n61.25\n");
 }
 
-TEST(Orv, StoresAValueThatItIsGiven) {
+TEST(Orv, StoresValues) {
   const TempFolder folder;
   const std::string data = folder.Copy("examples/wells/wells.gpkg");
   EXPECT_EQ(
@@ -40,7 +40,7 @@ TEST(Orv, StoresAValueThatItIsGiven) {
   EXPECT_EQ(Cardwright({"orv", "--data", data, kSelect, kFirst, kGetDepth}).out, "\n\n12.5\n");
 }
 
-TEST(Orv, EndsWithStatus1AndTheReasonWhereAValueIsRefused) {
+TEST(Orv, EndsWithStatus1AndTheReasonForARejectedValue) {
   const TempFolder folder;
   const std::string data = folder.Copy("examples/wells/wells.gpkg");
   const Outcome outcome = Cardwright(

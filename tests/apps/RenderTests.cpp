@@ -14,7 +14,7 @@ TEST(Render, WritesAPictureOfTheForm) {
   EXPECT_GT(bytes.size(), 4000U);
 }
 
-TEST(Render, ShowsTheFormAsItsAuthorDrawsIt) {
+TEST(Render, ShowsTheGridWithDesign) {
   const TempFolder folder;
   const std::string filled = folder.File("filled.png");
   const std::string drawn = folder.File("drawn.png");
@@ -24,7 +24,7 @@ TEST(Render, ShowsTheFormAsItsAuthorDrawsIt) {
   EXPECT_NE(ReadAll(drawn), ReadAll(filled));
 }
 
-TEST(Render, RefusesAPictureThatNoMemoryHolds) {
+TEST(Render, RejectsAPictureThatIsTooLarge) {
   const TempFolder folder;
   const std::string form =
       folder.Write("wide.cwf", "[FORM]\r\nScaleMode= 3\r\nWidth= 99999999999\r\nHeight= 300\r\n");
@@ -37,7 +37,7 @@ TEST(Render, RefusesAPictureThatNoMemoryHolds) {
   }
 }
 
-TEST(Render, TellsWhenThePictureCannotBeWritten) {
+TEST(Render, ReportsAPictureThatCannotBeWritten) {
   const Outcome outcome = Cardwright({"render", ExampleForm(), "-o", "/no/such/folder/form.png"});
   EXPECT_EQ(outcome.status, 1);
   EXPECT_NE(outcome.err.find("/no/such/folder/form.png could not be written"), std::string::npos);

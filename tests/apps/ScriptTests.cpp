@@ -46,7 +46,7 @@ TEST_F(ScriptTest, ReadsStandardInput) {
   EXPECT_EQ(outcome.out, "[one]\n[zwölf]\n[last]\n");
 }
 
-TEST_F(ScriptTest, HandsOverItsArgumentsAsTheyAre) {
+TEST_F(ScriptTest, PassesItsArgumentsUnchanged) {
   const Outcome outcome =
       Run("WScript.Echo WScript.Arguments.Count, WScript.Arguments(1), WScript.Arguments.Item(0)\n"
           "For Each word In WScript.Arguments\nWScript.Echo word\nNext\nWScript.Echo WScript.Arguments(3)",
@@ -56,25 +56,25 @@ TEST_F(ScriptTest, HandsOverItsArgumentsAsTheyAre) {
   EXPECT_THAT(outcome.err, HasSubstr("Subscript out of range"));
 }
 
-TEST_F(ScriptTest, KnowsWhereItLies) {
+TEST_F(ScriptTest, KnowsItsPath) {
   const Outcome outcome = Run("WScript.Echo WScript.ScriptName\nWScript.Echo WScript.ScriptFullName");
   EXPECT_EQ(outcome.out, "a.vbs\n" + std::filesystem::canonical(m_Folder.File("a.vbs")).string() + "\n");
 }
 
-TEST_F(ScriptTest, EndsWithStatus1AndALineForAnErrorThatItDoesNotCatch) {
+TEST_F(ScriptTest, EndsWithStatus1AndALineForAnUncaughtError) {
   const Outcome outcome = Run("WScript.Echo 1\n  x = 1 / 0\nWScript.Echo 2");
   EXPECT_EQ(outcome.status, 1);
   EXPECT_EQ(outcome.out, "1\n");
   EXPECT_EQ(outcome.err, "a.vbs(2, 3) VBScript runtime error: Division by zero\n");
 }
 
-TEST_F(ScriptTest, TellsTheSourceThatAScriptGaveItsError) {
+TEST_F(ScriptTest, ReportsTheSourceOfAnErrorThatItRaised) {
   const Outcome outcome = Run("Err.Raise vbObjectError + 7, \"Wells\", \"too deep\"");
   EXPECT_EQ(outcome.status, 1);
   EXPECT_EQ(outcome.err, "a.vbs(1, 1) Wells: too deep\n");
 }
 
-TEST_F(ScriptTest, TellsACompilationError) {
+TEST_F(ScriptTest, ReportsACompilationError) {
   for (const std::vector<std::string>& options : {std::vector<std::string>{}, {"--check"}}) {
     const Outcome outcome = Run("WScript.Echo 1\nx = (1", options);
     EXPECT_EQ(outcome.status, 1);
@@ -83,13 +83,13 @@ TEST_F(ScriptTest, TellsACompilationError) {
   }
 }
 
-TEST_F(ScriptTest, IsOnlyCompiledWhereThatIsAskedFor) {
+TEST_F(ScriptTest, IsOnlyCompiledWithCheck) {
   const Outcome outcome = Run("WScript.Echo 1", {"--check"});
   EXPECT_EQ(outcome.status, 0);
   EXPECT_EQ(outcome.out, "");
 }
 
-TEST_F(ScriptTest, QuitsAtOnceEvenWhereErrorsAreCaught) {
+TEST_F(ScriptTest, QuitsAtOnceDespiteErrorHandling) {
   const Outcome outcome =
       Run("Sub Leave\nOn Error Resume Next\nWScript.Echo 1\nWScript.Quit 7\nWScript.Echo 2\nEnd Sub\n"
           "On Error Resume Next\nLeave\nWScript.Echo 3");
@@ -103,7 +103,7 @@ const std::string kQuitsAtItsEnd =
     "Class Last\nSub Class_Terminate\nWScript.Echo \"end\"\nWScript.Quit 5\nWScript.Echo \"no\"\nEnd Sub\n"
     "End Class\nSet o = New Last\n";
 
-TEST_F(ScriptTest, QuitsFromTheEndOfAnObject) {
+TEST_F(ScriptTest, QuitsFromATerminateProcedure) {
   for (const char* rest :
        {"Set o = Nothing\nWScript.Echo \"no\"", "Set o = Nothing\nx = MsgBox(\"no\")", ""}) {
     const Outcome outcome = Run(kQuitsAtItsEnd + rest);
@@ -112,7 +112,7 @@ TEST_F(ScriptTest, QuitsFromTheEndOfAnObject) {
   }
 }
 
-TEST_F(ScriptTest, KeepsTheStatusThatItEndedWithFirst) {
+TEST_F(ScriptTest, KeepsTheFirstExitStatus) {
   EXPECT_EQ(Run(kQuitsAtItsEnd + "WScript.Quit 3").status, 3);
   const Outcome outcome = Run(kQuitsAtItsEnd + "x = 1 / 0");
   EXPECT_EQ(outcome.status, 1);
@@ -120,7 +120,7 @@ TEST_F(ScriptTest, KeepsTheStatusThatItEndedWithFirst) {
   EXPECT_EQ(outcome.err, "a.vbs(9, 1) VBScript runtime error: Division by zero\n");
 }
 
-TEST_F(ScriptTest, FailsWhereItsOutputCannotBeWritten) {
+TEST_F(ScriptTest, FailsIfItsOutputCannotBeWritten) {
   const std::string script = m_Folder.Write("a.vbs", "WScript.Echo 1");
   const Outcome outcome =
       RunProgram("sh", {"-c", "exec \"$0\" script \"$1\" >/dev/full", CARDWRIGHT_PROGRAM, script});
@@ -128,17 +128,17 @@ TEST_F(ScriptTest, FailsWhereItsOutputCannotBeWritten) {
   EXPECT_EQ(outcome.err, script + ": the output cannot be written: Disk full\n");
 }
 
-TEST_F(ScriptTest, ReadsItsFileInAnyUsualCoding) {
+TEST_F(ScriptTest, ReadsItsFileInAnyCommonEncoding) {
   EXPECT_EQ(Run("\xEF\xBB\xBFWScript.Echo \"è\"").out, "è\n");
   EXPECT_EQ(Run("WScript.Echo \"\xE8\"").out, "è\n");
   EXPECT_EQ(Run("WScript.Echo \"\xC6\"", {"--codepage", "windows-1251"}).out, "Ж\n");
 }
 
-TEST_F(ScriptTest, FollowsTheLocaleThatIsAskedFor) {
+TEST_F(ScriptTest, UsesTheChosenLocale) {
   EXPECT_EQ(Run("WScript.Echo 1.5", {"--locale=it-IT"}).out, "1,5\n");
 }
 
-TEST_F(ScriptTest, MakesObjectsAndRefusesUnknownClasses) {
+TEST_F(ScriptTest, CreatesObjectsAndRejectsUnknownClasses) {
   const Outcome outcome = Run(
       "Set d = CreateObject(\"Scripting.Dictionary\")\nd(\"a\") = 1\nWScript.Echo d.Count\n"
       "Set f = WScript.CreateObject(\"scripting.filesystemobject\")\nWScript.Echo f.FileExists(\"a.vbs\")\n"
@@ -148,7 +148,7 @@ TEST_F(ScriptTest, MakesObjectsAndRefusesUnknownClasses) {
             "a.vbs(6, 1) VBScript runtime error: ActiveX component can't create object: 'No.Such'\n");
 }
 
-TEST_F(ScriptTest, MakesTheClassesOfTheDesktopModule) {
+TEST_F(ScriptTest, CreatesTheClassesOfTheDesktopModule) {
   const Outcome outcome =
       Run("Set items = CreateObject(\"Cardwright.CItems\")\nSet item = CreateObject(\"Cardwright.CItem\")\n"
           "item.Text = \"one\"\nitems.Add item\nWScript.Echo items.Count, items(1).Text\n"
@@ -162,14 +162,14 @@ TEST_F(ScriptTest, MakesTheClassesOfTheDesktopModule) {
   EXPECT_EQ(outcome.status, 0);
 }
 
-TEST_F(ScriptTest, AnswersMessageBoxesByTheirDefaultButtonWhereNobodySeesThem) {
+TEST_F(ScriptTest, AnswersMessageBoxesByTheirDefaultButtonWithoutADisplay) {
   const Outcome outcome =
       Run("WScript.Echo MsgBox(\"Sure?\", vbYesNo + vbDefaultButton2)\nWScript.Echo InputBox(\"Name?\", , "
           "\"me\")");
   EXPECT_EQ(outcome.out, "Sure?\n7\nName?\nme\n");
 }
 
-TEST_F(ScriptTest, DrawsWindowsUnseenWhereTheDisplayCannotBeReached) {
+TEST_F(ScriptTest, DrawsWindowsOffScreenIfTheDisplayCannotBeReached) {
   const std::string script = m_Folder.Write(
       "a.vbs",
       "Set l = CreateObject(\"Cardwright.CLabel\")\nWScript.Echo TypeName(l), MsgBox(\"Sure?\", vbYesNo)");
@@ -193,13 +193,13 @@ TEST_F(ScriptTest, TracesItsStatements) {
   EXPECT_EQ(outcome.err, "a.vbs:1: x = 1\na.vbs:3: WScript.Echo x + 1\n");
 }
 
-TEST_F(ScriptTest, TellsTheTimesOfItsLinesTheLongestFirst) {
+TEST_F(ScriptTest, ProfilesItsLinesLongestFirst) {
   const Outcome outcome = Run("For i = 1 To 3\nx = i\nNext\nWScript.Sleep 30", {"--profile"});
   EXPECT_THAT(outcome.err, ContainsRegex("count  line  source\n *[0-9.]+ +1 +4  WScript.Sleep 30\n"));
   EXPECT_THAT(outcome.err, ContainsRegex(" +3 +2  x = i\n"));
 }
 
-TEST_F(ScriptTest, CountsCodeThatItMakesToTheLineThatExecutesIt) {
+TEST_F(ScriptTest, ProfilesExecutedTextWithTheLineThatExecutesIt) {
   const std::string script =
       "x = 1\n' nothing\nExecute \"y = 1\" & vbLf & \"For i = 1 To 5\" & vbLf & \"y = i\" & vbLf & \"Next\"";
   EXPECT_EQ(Run(script, {"--trace"}).err,
@@ -210,13 +210,13 @@ TEST_F(ScriptTest, CountsCodeThatItMakesToTheLineThatExecutesIt) {
   EXPECT_THAT(outcome.err, ::testing::Not(ContainsRegex(" +2  ' nothing")));
 }
 
-TEST_F(ScriptTest, CountsTheTimeAfterACallToTheLineOfTheCall) {
+TEST_F(ScriptTest, ProfilesTheTimeAfterACallWithTheLineOfTheCall) {
   const Outcome outcome =
       Run("Function F\nF = 1\nEnd Function\nx = F() & Len(String(20000000, \"a\"))", {"--profile"});
   EXPECT_THAT(outcome.err, ContainsRegex("source\n *[0-9.]+ +1 +4  x = F"));
 }
 
-TEST_F(ScriptTest, NeedsAFileItCanRead) {
+TEST_F(ScriptTest, RejectsAFileThatItCannotRead) {
   EXPECT_EQ(Cardwright({"script"}).status, 2);
   EXPECT_EQ(Cardwright({"script", "--sideways", "a.vbs"}).status, 2);
   const Outcome missing = Cardwright({"script", "/no/such/file.vbs"});

@@ -40,7 +40,7 @@ TEST(Start, OfFormsLoadsTheLibraryOfJScriptForFormsInItOnly) {
   EXPECT_THAT(loaded, Not(HasSubstr(kJavaScript)));
 }
 
-TEST(Start, OfAJScriptFileTellsWhereItsModuleIsMissing) {
+TEST(Start, OfAJScriptFileReportsAMissingModule) {
   const TempFolder folder;
   const std::string program = folder.File("cardwright");
   std::filesystem::copy_file(CARDWRIGHT_PROGRAM, program);

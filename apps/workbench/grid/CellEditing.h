@@ -5,7 +5,7 @@
 
 namespace cardwright::workbench {
 
-/// Takes the value of an editor that is open in the cell at hand, as leaving it does, whoever has the focus.
+/// Commits the value of an open cell editor, as leaving the editor does.
 inline void FinishCell(const QAbstractItemView& view) {
   QWidget* const editor = view.indexWidget(view.currentIndex());
   QAbstractItemDelegate* const delegate = view.itemDelegate();

@@ -4,14 +4,14 @@
 
 namespace cardwright::workbench {
 
-/// What the grid offers beside what a control itself knows.
+/// Choices that the grid offers and that do not come from the control.
 class Choices {
  public:
-  /// Themes of the data source; none while there is none.
+  /// Themes of the data source; empty without one.
   virtual QStringList Themes() const = 0;
   /// Attributes of the form's theme.
   virtual QStringList Attributes() const = 0;
-  /// Folder of the project, where choosing a file begins.
+  /// Folder of the project, in which file dialogs start.
   virtual QString Folder() const = 0;
 
  protected:

@@ -43,7 +43,7 @@ constexpr NamedColor kSystem[] = {
     {System(11), QT_TRANSLATE_NOOP("Colors", "Inactive border")},
 };
 
-/// Draws the sample anew for each size, as what a system colour looks like may change.
+/// Draws the sample for each size, because system colours may change.
 class SampleEngine final : public QIconEngine {
  public:
   explicit SampleEngine(OleColor color) : m_Color(color) {}
@@ -84,14 +84,14 @@ std::optional<OleColor> ColorOf(const QString& name) {
   const QString text = name.trimmed();
   for (const NamedColor& known : kSystem)
     if (text.compare(Translated(known), Qt::CaseInsensitive) == 0) return known.color;
-  // Projects count a system colour below 0, other tools the same bits above.
+  // Projects store system colours as negative numbers, other tools as positive ones with the same bits.
   bool isNumber = false;
   const qint64 number = text.toLongLong(&isNumber);
   if (isNumber && number >= std::numeric_limits<std::int32_t>::min() &&
       number <= std::numeric_limits<std::uint32_t>::max())
     return static_cast<OleColor>(number);
   const QColor color(text);
-  if (!color.isValid() || color.alpha() != 255) return std::nullopt;  // forms have nothing transparent
+  if (!color.isValid() || color.alpha() != 255) return std::nullopt;  // forms have no transparency
   return qt::FromQColor(color);
 }
 

@@ -10,7 +10,7 @@
 
 namespace cardwright::workbench {
 
-/// A colour that follows the user's desktop.
+/// A colour of the user's desktop theme.
 struct NamedColor {
   OleColor color;
   const char* name;
@@ -19,9 +19,9 @@ std::span<const NamedColor> SystemColors() noexcept;
 
 /// "Window text" for a system colour, "#FF8000" for any other.
 QString ColorName(OleColor color);
-/// What ColorName gives, a colour's English name, or a number as projects hold it; none for anything else.
+/// Accepts a result of ColorName, an English colour name, or a number as in projects; none for anything else.
 std::optional<OleColor> ColorOf(const QString& name);
-/// A small sample.
+/// A small sample of the colour.
 QIcon ColorSample(OleColor color);
 
 }  // namespace cardwright::workbench

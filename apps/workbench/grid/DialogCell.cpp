@@ -11,7 +11,7 @@ DialogCell::DialogCell(QWidget* parent, const QString& name, bool canType)
   connect(m_Choose, &QToolButton::clicked, this, &DialogCell::DialogWanted);
 }
 
-// The keyboard stays in the cell, which has a key for each button.
+// The focus stays in the cell, which has a key for each button.
 QToolButton* DialogCell::AddButton(const QString& text, const QString& name, const QString& keys) {
   auto* button = new QToolButton(this);
   button->setText(text);
@@ -28,7 +28,7 @@ void DialogCell::OfferClearing(bool isFilled) {
   connect(m_Clear, &QToolButton::clicked, this, &DialogCell::ClearWanted);
 }
 
-// All is selected, and the beginning is what is seen of a long text.
+// The whole text is selected, and a long one shows its beginning.
 void DialogCell::focusInEvent(QFocusEvent* event) {
   QLineEdit::focusInEvent(event);
   const int length = static_cast<int>(text().length());

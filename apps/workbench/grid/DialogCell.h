@@ -5,16 +5,16 @@
 
 namespace cardwright::workbench {
 
-/// The editor of a value that is chosen in a dialog: its text, and a button that opens the dialog, as F4 does
-/// and, where the text cannot be typed, a blank, Enter and a double click.
+/// The editor of a value that is chosen in a dialog: its text, and a button that opens the dialog. F4 opens
+/// it too; so do Space, Enter and a double click if the text is read-only.
 class DialogCell final : public QLineEdit {
   Q_OBJECT
  public:
-  /// `name` is that of the value, for who cannot see where the cell stands.
+  /// `name` is the name of the property, for screen readers.
   DialogCell(QWidget* parent, const QString& name, bool canType);
 
   bool CanType() const noexcept { return !isReadOnly(); }
-  /// Adds a button that empties the value, as the Delete key does then. It is off while there is nothing.
+  /// Adds a button that clears the value, as the Delete key then does. It is disabled if there is no value.
   void OfferClearing(bool isFilled);
 
  Q_SIGNALS:

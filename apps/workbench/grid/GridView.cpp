@@ -43,7 +43,7 @@ void GridView::ShareWidth() {
   QHeaderView& header = *horizontalHeader();
   const int wanted =
       m_NameShare > 0 ? qRound(all * m_NameShare) : qMin(sizeHintForColumn(PropertyModel::kName), all / 2);
-  // A column of no width would be widened by the header, as if by the user.
+  // The header would widen a column without width, as if the user had done so.
   header.resizeSection(PropertyModel::kName, qMax(header.minimumSectionSize(), wanted));
 }
 
@@ -57,7 +57,7 @@ void GridView::changeEvent(QEvent* event) {
   if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) ShareWidth();
 }
 
-// F4 is a shortcut of the window, too.
+// F4 is a shortcut of the window too.
 bool GridView::event(QEvent* event) {
   if (event->type() == QEvent::ShortcutOverride && OpensChoice(*static_cast<QKeyEvent*>(event))) {
     event->accept();
@@ -69,14 +69,14 @@ bool GridView::event(QEvent* event) {
 void GridView::keyPressEvent(QKeyEvent* event) {
   const int key = event->key();
   const bool isForEditor = OpensChoice(*event) || key == Qt::Key_Delete || key == Qt::Key_Backspace;
-  if (state() == EditingState && isForEditor) return;  // which has left it unused
+  if (state() == EditingState && isForEditor) return;  // which ignored it
   if (state() == EditingState || !currentIndex().isValid()) return QTableView::keyPressEvent(event);
   if (isForEditor) {
     EditWith(*event);
   } else if (key == Qt::Key_Return || key == Qt::Key_Enter) {
     edit(currentIndex(), EditKeyPressed, event);
   } else if (key == Qt::Key_Escape && m_Model.IsRefused(currentIndex().row())) {
-    m_Model.GiveUp(currentIndex().row());
+    m_Model.Discard(currentIndex().row());
   } else {
     return QTableView::keyPressEvent(event);
   }
@@ -113,7 +113,7 @@ void GridView::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint h
       editor->setAccessibleDescription(m_Model.RefusalOf(row));
       return;
     }
-    if (hint == QAbstractItemDelegate::RevertModelCache) m_Model.GiveUp(row);
+    if (hint == QAbstractItemDelegate::RevertModelCache) m_Model.Discard(row);
   }
   QTableView::closeEditor(editor, hint);
 }

@@ -6,9 +6,9 @@
 
 namespace cardwright::workbench {
 
-/// The rows of the property grid under the keyboard: Enter and F2 edit, F4 opens what the row offers, Tab
-/// goes from value to value. An editor whose text was refused stays open until the text is mended or given
-/// up. The names have the width they need, up to half of it, until the user gives them another share.
+/// The table of the property grid and its keys: Enter and F2 edit, F4 opens the list or dialog of a row, Tab
+/// goes to the next value. An editor with an invalid text stays open until the text is corrected or
+/// cancelled. The names take the width that they need, up to half of the table, until the user changes it.
 class GridView final : public QTableView {
   Q_OBJECT
  public:
@@ -26,16 +26,16 @@ class GridView final : public QTableView {
   void closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) override;
 
  private:
-  /// Opens the editor of the row at hand and hands it the key.
+  /// Opens the editor of the current row and sends it the key.
   void EditWith(QKeyEvent& key);
   void ShareWidth();
 
   PropertyModel& m_Model;
   bool m_IsSharing = false;
-  double m_NameShare = 0;  // of the width, as the user has set it; 0 before
+  double m_NameShare = 0;  // of the width, as set by the user; 0 if not set
 };
 
-/// F4 or Alt+Down, which open what a value is chosen from.
+/// F4 or Alt+Down, which open a list or dialog.
 bool OpensChoice(const QKeyEvent& key);
 
 }  // namespace cardwright::workbench

@@ -21,7 +21,8 @@ namespace {
 
 enum Column { kText, kValue };
 
-/// The cells' editors: each tells which cell it is, and takes one line, as form projects hold no more.
+/// The editors of the cells. Each has an accessible name, and takes one line, because form projects store no
+/// more.
 class CellDelegate final : public QStyledItemDelegate {
  public:
   using QStyledItemDelegate::QStyledItemDelegate;
@@ -71,7 +72,7 @@ ItemsDialog::ItemsDialog(QWidget& owner, const CItems& items)
   m_Buttons->addStretch();
 
   auto* box = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
-  box->button(QDialogButtonBox::Ok)->setText(tr("&OK"));  // not every desktop gives it a letter
+  box->button(QDialogButtonBox::Ok)->setText(tr("&OK"));  // not every desktop assigns a mnemonic
   connect(box, &QDialogButtonBox::accepted, this, &QDialog::accept);
   connect(box, &QDialogButtonBox::rejected, this, &QDialog::reject);
   auto* upper = new QHBoxLayout;
@@ -87,7 +88,7 @@ ItemsDialog::ItemsDialog(QWidget& owner, const CItems& items)
   resize(520, 360);
 }
 
-// A cell may be open: what is typed there goes in before anything else is done.
+// Commits an open cell first.
 QPushButton* ItemsDialog::AddButton(const QString& text, void (ItemsDialog::*command)()) {
   auto* button = new QPushButton(text, this);
   button->setAutoDefault(false);

@@ -9,13 +9,13 @@ class QVBoxLayout;
 
 namespace cardwright::workbench {
 
-/// The entries of a list control: what each shows and the value that it stands for.
+/// A dialog for the entries of a list control, each with a text and a value.
 class ItemsDialog final : public QDialog {
   Q_OBJECT
  public:
   ItemsDialog(QWidget& owner, const CItems& items);
 
-  /// Replaces the entries by those of the dialog.
+  /// Replaces the control's entries by those of the dialog.
   void Store(CItems& items) const;
 
   void accept() override;
@@ -31,7 +31,7 @@ class ItemsDialog final : public QDialog {
   void MoveUp() { Move(-1); }
   void MoveDown() { Move(1); }
   void Move(int by);
-  /// One entry a line; a tab parts the text from the value.
+  /// One entry per line, text and value separated by a tab.
   void PasteLines();
   void Update();
 
@@ -40,7 +40,7 @@ class ItemsDialog final : public QDialog {
   QPushButton *m_Remove, *m_Up, *m_Down;
 };
 
-/// Has a person change the entries; false where it was cancelled.
+/// Lets the user edit the entries; false if cancelled.
 bool EditItems(QWidget& owner, CItems& items);
 
 }  // namespace cardwright::workbench

@@ -7,7 +7,7 @@
 namespace cardwright::workbench {
 
 QImage ImageOf(const Picture& picture);
-/// An icon as projects hold it: 16 by 16 pixels, what is transparent being white.
+/// An icon as projects store it: 16 by 16 pixels, with white for transparent pixels.
 Ref<Picture> IconPicture(const QImage& image);
 
 }  // namespace cardwright::workbench

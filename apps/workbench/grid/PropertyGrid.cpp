@@ -15,7 +15,7 @@ namespace {
 
 constexpr int kNoticeLines = 4;
 
-// All but the weight follows the font of the window.
+// Only the weight differs from the font of the window.
 QFont BoldFont() {
   QFont bold;
   bold.setBold(true);
@@ -53,7 +53,7 @@ PropertyGrid::PropertyGrid(const Choices& choices, QWidget* parent)
     ShowTitle();
     ShowDescription();
   });
-  connect(m_Model, &PropertyModel::GaveUp, this, &PropertyGrid::ShowDescription);
+  connect(m_Model, &PropertyModel::Discarded, this, &PropertyGrid::ShowDescription);
 }
 
 void PropertyGrid::FitToFont() {

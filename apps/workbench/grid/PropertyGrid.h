@@ -9,8 +9,8 @@
 
 namespace cardwright::workbench {
 
-/// Names and values of the selected form element, and below them what the row at hand means or why a value
-/// was refused.
+/// The properties of the selected form element. A text below explains the current row, or says why its value
+/// is invalid.
 class PropertyGrid final : public QWidget {
   Q_OBJECT
  public:
@@ -18,13 +18,13 @@ class PropertyGrid final : public QWidget {
 
   PropertyModel& Model() noexcept { return *m_Model; }
   QTableView& View() noexcept { return *m_View; }
-  /// What stands below the rows now.
+  /// The text below the rows.
   QString Notice() const { return m_Notice->text(); }
-  /// Shows a control; the row at hand stays where the control has one of that name.
+  /// Shows a control; the current row stays if the control has one of that name.
   void Show(const Ref<IControl>& control);
-  /// Puts the keyboard on the value of that row.
+  /// Moves the keyboard focus to the value of that row.
   void EditRow(const QString& name);
-  /// Takes the value of an editor that is open, as leaving it does.
+  /// Commits the value of an open editor, as leaving it does.
   void FinishEditing();
 
  protected:

@@ -15,12 +15,12 @@ namespace {
 
 Variant IndexOf(int row) { return Variant(std::int32_t{row}); }
 
-// The classes that keep a flag as a text keep the very text they were given.
+// Classes that store a flag as a text store the text unchanged.
 Variant FlagOf(bool on) { return Variant(on ? u"True" : u"False"); }
 
 }  // namespace
 
-// The rows of a control stay the same, only their values change.
+// The rows of a control never change, only their values.
 void PropertyModel::SetControl(Ref<IControl> control) {
   if (control && control == m_Control) return RefreshAll();
   beginResetModel();
@@ -74,11 +74,11 @@ bool PropertyModel::Enter(int row, const QString& text) {
   return false;
 }
 
-void PropertyModel::GiveUp(int row) {
+void PropertyModel::Discard(int row) {
   if (!IsRefused(row)) return;
   m_Rows[static_cast<std::size_t>(row)].refusal.reset();
   Changed(row);
-  Q_EMIT GaveUp();
+  Q_EMIT Discarded();
 }
 
 QString PropertyModel::Try(int row, const Variant& value) {
@@ -105,7 +105,7 @@ QString PropertyModel::Try(int row, const Variant& value) {
   return dropped;
 }
 
-// Some controls pass over a text in silence, as a list one that it does not offer.
+// Some controls ignore invalid texts, such as a list one that is not in it.
 QString PropertyModel::ReasonItWasDropped(int row, const Variant& value) const {
   if (!value.IsString()) return {};
   const QString wanted = qt::ToQString(value.String());
@@ -121,7 +121,7 @@ void PropertyModel::Refresh(int row) {
   QString text = TextOfRow(row);
   Row& shown = m_Rows[static_cast<std::size_t>(row)];
   if (shown.text == text && shown.type != PropertyTypeEnum::ptImage) return;
-  shown.refusal.reset();  // it was said of another value
+  shown.refusal.reset();  // it was about another value
   shown.text = std::move(text);
   Changed(row);
 }
@@ -141,9 +141,9 @@ int PropertyModel::columnCount(const QModelIndex& parent) const {
 QVariant PropertyModel::data(const QModelIndex& index, int role) const {
   if (!index.isValid()) return {};
   const Row& row = m_Rows[static_cast<std::size_t>(index.row())];
-  const QString& told = row.refusal ? row.refusal->reason : row.description;
-  if (role == Qt::AccessibleDescriptionRole || role == Qt::StatusTipRole) return told;
-  if (role == Qt::ToolTipRole) return index.column() == kName ? row.name + u'\n' + told : told;
+  const QString& message = row.refusal ? row.refusal->reason : row.description;
+  if (role == Qt::AccessibleDescriptionRole || role == Qt::StatusTipRole) return message;
+  if (role == Qt::ToolTipRole) return index.column() == kName ? row.name + u'\n' + message : message;
   if (index.column() == kName) return role == Qt::DisplayRole ? QVariant(row.name) : QVariant();
   const QString& text = row.refusal ? row.refusal->text : row.text;
   switch (role) {
@@ -158,7 +158,7 @@ QVariant PropertyModel::data(const QModelIndex& index, int role) const {
   }
 }
 
-// What was refused has a sign; a colour or a picture is a sign of its own.
+// Invalid texts have an icon; colours and pictures show a sample.
 QVariant PropertyModel::SignOf(int row) const {
   if (IsRefused(row)) return QApplication::style()->standardIcon(QStyle::SP_MessageBoxWarning);
   const QIcon sample = SampleOf(TypeOf(row), ValueOf(row));

@@ -8,8 +8,8 @@
 
 namespace cardwright::workbench {
 
-/// The rows of one form element, in the order of its table, as a toolkit's table of names and values. It
-/// knows a control by its contract alone.
+/// The properties of one form element, in the order of its table, as a model of names and values. It uses
+/// only IControl.
 class PropertyModel final : public QAbstractTableModel {
   Q_OBJECT
  public:
@@ -17,7 +17,7 @@ class PropertyModel final : public QAbstractTableModel {
 
   using QAbstractTableModel::QAbstractTableModel;
 
-  /// Shows another control, or the same one anew; null for none.
+  /// Shows another control, or the same one again; null for none.
   void SetControl(Ref<IControl> control);
   const Ref<IControl>& Control() const noexcept { return m_Control; }
 
@@ -25,21 +25,21 @@ class PropertyModel final : public QAbstractTableModel {
   QString NameOf(int row) const { return m_Rows[static_cast<std::size_t>(row)].name; }
   QString DescriptionOf(int row) const { return m_Rows[static_cast<std::size_t>(row)].description; }
   Variant ValueOf(int row) const;
-  /// Position of the row of that name; -1 where there is none.
+  /// The index of the row of that name; -1 if there is none.
   int RowOf(const QString& name) const;
 
-  /// Gives the control a value. False where it was refused, which Refused tells with the reason.
+  /// Sets the value of a row. Returns false if it is invalid, and emits Refused with the reason.
   bool Assign(int row, const Variant& value);
-  /// Gives the control what a person has typed. A text that is refused stays in the row, to be mended.
+  /// Sets a row to what a person has typed. An invalid text stays in the row, to be corrected.
   bool Enter(int row, const QString& text);
-  /// Whether a refused text stands in the row, and why it was refused.
+  /// Whether the row has an invalid text, and why it is invalid.
   bool IsRefused(int row) const { return m_Rows[static_cast<std::size_t>(row)].refusal.has_value(); }
   QString RefusalOf(int row) const;
-  /// Puts the value back in the place of a refused text.
-  void GiveUp(int row);
-  /// The value as a text, also while a refused one stands in its place.
+  /// Discards an invalid text.
+  void Discard(int row);
+  /// The value as a text, even while the row shows an invalid one.
   QString TextAt(int row) const { return m_Rows[static_cast<std::size_t>(row)].text; }
-  /// Reads the value of a row, or of all, anew.
+  /// Reads the value of a row, or of all rows, again.
   void Refresh(int row);
   void RefreshAll();
 
@@ -51,11 +51,11 @@ class PropertyModel final : public QAbstractTableModel {
   bool setData(const QModelIndex& index, const QVariant& value, int role) override;
 
  Q_SIGNALS:
-  /// A control has taken a value.
+  /// The control has accepted a value.
   void Assigned();
-  /// A refused text has made way for the value again.
-  void GaveUp();
-  /// A value was refused, or taken with a warning.
+  /// An invalid text was discarded.
+  void Discarded();
+  /// A value is invalid, or was accepted with a warning.
   void Refused(const QString& reason);
 
  private:
@@ -73,9 +73,9 @@ class PropertyModel final : public QAbstractTableModel {
 
   QString TextOfRow(int row) const;
   QVariant SignOf(int row) const;
-  /// Gives the control a value; the reason where it was refused.
+  /// Sets a value; returns the reason if it is invalid.
   QString Try(int row, const Variant& value);
-  /// Why a text that was set is not what the control has now; "" where it is.
+  /// Why the control does not have the text that was set; "" if it has.
   QString ReasonItWasDropped(int row, const Variant& value) const;
   void Changed(int row);
 

@@ -37,7 +37,7 @@ QString PlainText(const Variant& value) {
   return qt::ToQString(AttemptOr(Text(), [&] { return ToText(value); }));
 }
 
-// A comma is a decimal point to many; names of infinities and of what is no number are none here.
+// A comma is accepted as decimal point. Infinity and NaN are not numbers here.
 TypedValue NumberOf(const QString& text) {
   bool isNumber = false;
   const double number = QString(text).replace(u',', u'.').toDouble(&isNumber);

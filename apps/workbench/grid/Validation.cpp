@@ -23,7 +23,7 @@ FormOwner* OwnerOf(const IControl& control) { return dynamic_cast<FormOwner*>(co
 
 bool HasLineBreak(const QString& text) { return text.contains(u'\n') || text.contains(u'\r'); }
 
-/// The text as it comes back from a form project, which trims it and has question marks for what its page
+/// The text as a form project returns it: trimmed, with question marks for characters that the code page
 /// lacks.
 Text AsSaved(std::u16string_view text) {
   const CodePage& page = CodePage::Current();
@@ -49,7 +49,7 @@ QString CheckName(const IControl& control, const QString& name) {
   return {};
 }
 
-// The contract's four members of geometry are rows, too; no other number is held to what a window can be.
+// Only the four rows of the geometry are limited to the size of a window.
 QString CheckGeometry(const IControl& control, const QString& row, double value) {
   const bool isSize = row == u"Width" || row == u"Height";
   if (!isSize && row != u"Left" && row != u"Top") return {};

@@ -34,7 +34,7 @@ bool ValueCombo::IsOther() const {
   return currentData().toBool() && currentText() == itemText(currentIndex());
 }
 
-// The column of values is narrow.
+// The column of values may be too narrow for the list.
 void ValueCombo::showPopup() {
   view()->setMinimumWidth(view()->sizeHintForColumn(0) + view()->verticalScrollBar()->sizeHint().width());
   QComboBox::showPopup();
@@ -50,7 +50,7 @@ void ValueCombo::wheelEvent(QWheelEvent* event) {
   QComboBox::wheelEvent(event);
 }
 
-// What is typed takes the place of the value. The beginning is what is seen of a long text.
+// The text is selected, so that typing replaces it, and a long one shows its beginning.
 void ValueCombo::focusInEvent(QFocusEvent* event) {
   QComboBox::focusInEvent(event);
   const bool isBack =
@@ -60,7 +60,7 @@ void ValueCombo::focusInEvent(QFocusEvent* event) {
   lineEdit()->setSelection(length, -length);
 }
 
-// Leaving the box chooses what was typed, if it is one of the choices.
+// Leaving the editor commits typed text if it is one of the choices.
 void ValueCombo::focusOutEvent(QFocusEvent* event) {
   const QScopedValueRollback stepping(m_IsStepping, true);
   QComboBox::focusOutEvent(event);

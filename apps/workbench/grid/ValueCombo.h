@@ -5,18 +5,18 @@
 
 namespace cardwright::workbench {
 
-/// The editor of a value that is chosen from a list. What is picked from the opened list is final; arrows,
-/// letters and the wheel only step through the choices, and what is typed waits for Enter.
+/// The editor of a value that is chosen from a list. A choice in the open list is committed at once. Arrow
+/// keys, letters and the wheel only step through the choices, and typed text is committed by Enter.
 class ValueCombo final : public QComboBox {
   Q_OBJECT
  public:
   ValueCombo(QWidget* parent, bool canType);
 
-  /// Puts a text into the box, whether it is a choice or not.
+  /// Shows a text, whether it is a choice or not.
   void SetText(const QString& text);
-  /// What stands in the box; none where nothing was chosen.
+  /// The text of the editor; none if nothing was chosen.
   std::optional<QString> Chosen() const;
-  /// Adds a choice that is no value, but opens a dialog with more of them.
+  /// Adds an entry that opens a dialog with more choices.
   void AddOther(const QString& text);
   bool IsOther() const;
 

@@ -103,7 +103,7 @@ QWidget* ValueDelegate::MakeCombo(QWidget* parent, int row) const {
     case ptControls: combo->addItem(QString()); [[fallthrough]];
     default:
       combo->addItems(ListOf(m_Model.Control()->PropertyList(Variant(std::int32_t{row}))));
-      // A project may hold what is not among the choices.
+      // The project may have a value that is not among the choices.
       if (combo->findText(m_Model.TextAt(row)) < 0) combo->insertItem(0, m_Model.TextAt(row));
       break;
   }
@@ -148,7 +148,7 @@ void ValueDelegate::setModelData(QWidget* editor, QAbstractItemModel*, const QMo
     text = edit->text();
   }
   if (!text) return;
-  if (*text == m_Model.TextAt(index.row())) return m_Model.GiveUp(index.row());
+  if (*text == m_Model.TextAt(index.row())) return m_Model.Discard(index.row());
   const QScopedValueRollback storing(m_IsStoring, true);
   const FocusKeeper keeper;
   m_Model.Enter(index.row(), *text);
@@ -164,8 +164,8 @@ void ValueDelegate::SubmitSoon(QWidget* editor) {
       editor, [this, editor] { End(editor, SubmitModelCache); }, Qt::QueuedConnection);
 }
 
-// The editing may have ended otherwise in the meantime. The view works off what waits for an editor while it
-// closes it, such as a key that came twice.
+// The editing may have ended meanwhile: while the view closes an editor it processes pending events, such as
+// a repeated key.
 bool ValueDelegate::End(QWidget* editor, EndEditHint hint) {
   if (editor != m_Open || m_IsEnding) return false;
   const QScopedValueRollback ending(m_IsEnding, true);
@@ -201,7 +201,7 @@ bool ValueDelegate::eventFilter(QObject* object, QEvent* event) {
   return QStyledItemDelegate::eventFilter(object, event);
 }
 
-// Beside its box and the blank key, a flag is turned where another row would be edited.
+// Besides a click on its box and Space, everything that edits another row toggles a flag.
 bool ValueDelegate::editorEvent(QEvent* event, QAbstractItemModel* model, const QStyleOptionViewItem& option,
                                 const QModelIndex& index) {
   if (QStyledItemDelegate::editorEvent(event, model, option, index)) return true;

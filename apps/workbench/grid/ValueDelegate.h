@@ -30,11 +30,11 @@ class ValueDelegate final : public QStyledItemDelegate {
  private:
   QWidget* MakeCombo(QWidget* parent, int row) const;
   QWidget* MakeDialogCell(QWidget* parent, int row) const;
-  /// Ends the editing with what stands in the editor, once the event at hand is over.
+  /// Ends the editing with the editor's value when the present event is over.
   void SubmitSoon(QWidget* editor);
-  /// Ends the editing now; false where it has ended already.
+  /// Ends the editing now; false if it has ended already.
   bool End(QWidget* editor, EndEditHint hint);
-  /// Ends the editing for the dialog of a row, once the event at hand is over.
+  /// Ends the editing and opens the row's dialog when the present event is over.
   void OpenDialogSoon(QWidget* editor, int row);
   void OpenDialog(QWidget& owner, int row) const;
   void ChooseColor(QWidget& owner, int row) const;
@@ -45,9 +45,9 @@ class ValueDelegate final : public QStyledItemDelegate {
 
   PropertyModel& m_Model;
   const Choices& m_Choices;
-  mutable QWidget* m_Open = nullptr;  // the editor that is open
+  mutable QWidget* m_Open = nullptr;  // the open editor
   bool m_IsEnding = false;
-  mutable bool m_IsStoring = false;  // a value is on its way, which may take the focus from its editor
+  mutable bool m_IsStoring = false;  // a value is being stored, which may take the focus from its editor
 };
 
 }  // namespace cardwright::workbench

@@ -1,4 +1,4 @@
-// The dialogs behind the rows that are chosen in one.
+// The dialogs of the property grid.
 
 #include <QColorDialog>
 #include <QImageReader>
@@ -46,7 +46,7 @@ void ValueDelegate::ChooseColor(QWidget& owner, int row) const {
   });
 }
 
-// The font object itself is changed: what was copied from the control shares it.
+// Changes the font object itself, because copies of the control share it.
 void ValueDelegate::ChooseFontOf(QWidget& owner, int row) const {
   const Ref<Font> font = ObjectIn<Font>(m_Model.ValueOf(row));
   if (!font) return;
@@ -63,7 +63,7 @@ void ValueDelegate::ChooseItems(QWidget& owner, int row) const {
   const Ref<IControl> control = m_Model.Control();
   if (!items || !control || !EditItems(owner, *items)) return;
   const Variant text = AttemptOr(Variant(), [&] { return control->PropertyValue(Variant(u"Text")); });
-  control->Refresh();  // which empties a combo box
+  control->Refresh();  // which clears a combo box
   Attempt([&] { control->SetPropertyValue(Variant(u"Text"), text); });
   m_Model.Assign(row, Variant(items));
 }

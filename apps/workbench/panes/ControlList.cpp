@@ -44,7 +44,7 @@ std::vector<ControlList::Row> ControlList::RowsOf(cardwright::FormDesigner& desi
   };
   add(Ref<IControl>(AsControl(designer.Controls().Item(Variant(1)))));
   for (const Ref<IControl>& control : FrontToBack(designer)) add(control);
-  // A frame that lies in itself cannot be, but one that is gone can.
+  // A frame never contains itself, but it may be gone.
   for (Row& row : rows) {
     const Widget* container = ContainerOf(*row.control);
     const auto frame = container ? places.find(static_cast<const Object*>(container)) : places.end();
@@ -61,7 +61,7 @@ void ControlList::Show(cardwright::FormDesigner& designer) {
   m_Rows = std::move(rows);
   if (!isSame) Fill();
   Mark(designer.CurrentControl().get());
-  // After the mark, which opens what it lies in.
+  // After the selection, which expands the frames around it.
   for (const Row& row : m_Rows)
     if (closed.contains(row.object)) row.item->setExpanded(false);
 }

@@ -7,21 +7,21 @@
 
 namespace cardwright::workbench {
 
-/// The controls of the form as they lie one on the other, the front one first, those of a frame below it.
+/// The controls of the form from front to back, with the contents of each frame below it.
 class ControlList final : public QTreeWidget {
   Q_OBJECT
  public:
   explicit ControlList(QWidget* parent);
 
-  /// Lists the controls of a designer; rows that are as they were stay, and frames that were closed too.
+  /// Lists the controls of a designer; unchanged rows and collapsed frames stay as they are.
   void Show(cardwright::FormDesigner& designer);
-  /// Marks the selected control.
+  /// Shows which control is selected.
   void Mark(const cardwright::IControl* control);
-  /// What is listed next is another form.
+  /// The next list is of another form.
   void Forget();
 
  Q_SIGNALS:
-  /// A person has chosen a control.
+  /// The user has selected a control.
   void Chosen(cardwright::IControl* control);
 
  private:
@@ -30,7 +30,7 @@ class ControlList final : public QTreeWidget {
     QString object;  ///< name of the widget, which a renamed control keeps
     QString name;
     ControlTypeEnum kind;
-    std::size_t frame;  ///< row of the frame that it lies in, that of the form otherwise
+    std::size_t frame;  ///< row of its frame, or of the form
     QTreeWidgetItem* item = nullptr;
 
     bool LooksLike(const Row& other) const {

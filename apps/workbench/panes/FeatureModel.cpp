@@ -13,9 +13,9 @@ namespace cardwright::workbench {
 namespace {
 
 constexpr int kRowsInMemory = 4096;
-constexpr std::size_t kAskedSingly = 64;  // rows; more are read with all others at once
+constexpr std::size_t kAskedSingly = 64;  // rows; with more, all features are read at once
 
-/// What a value is sorted by: nothing before numbers before texts.
+/// The sort key of a value: empty values before numbers before texts.
 struct SortKey {
   enum class Kind { Nothing, Number, Word } kind = Kind::Nothing;
   double number = 0;
@@ -34,7 +34,7 @@ struct SortKey {
   }
 };
 
-/// A value that would be taken for several stands in quotes.
+/// A value that would be split is quoted.
 QString Quoted(QString value) {
   const bool isPlain =
       !value.contains(u'\t') && !value.contains(u'\n') && !value.contains(u'\r') && !value.startsWith(u'"');
@@ -94,7 +94,7 @@ void FeatureModel::Clear() {
   m_Seen.clear();
 }
 
-// Formats that keep what they have read would show old values over an old connection.
+// Formats that cache what they read would show old values on an old connection.
 void FeatureModel::Reload() {
   const QString theme = m_Theme;
   const QString search = m_Search;
@@ -102,7 +102,7 @@ void FeatureModel::Reload() {
   try {
     Open(m_Source);
   } catch (const Error&) {
-    Close();  // the source is gone meanwhile
+    Close();  // the data source has disappeared meanwhile
   }
   beginResetModel();
   m_Search = search;
@@ -129,7 +129,7 @@ void FeatureModel::sort(int column, Qt::SortOrder order) {
   endResetModel();
 }
 
-// The rows anew, from what is searched for and what they are sorted by.
+// Filters and sorts the rows again.
 void FeatureModel::Arrange() {
   if (!m_Search.isEmpty() || m_SortColumn > 0) ReadAll();
   m_Shown.resize(m_Ids.size());
@@ -152,7 +152,7 @@ bool FeatureModel::Matches(std::size_t place) const {
   return has(QString::number(m_Ids[place])) || std::ranges::any_of(m_Values[place], has);
 }
 
-// In the order of the identifiers, but for what somebody else has changed meanwhile.
+// In the order of m_Ids, except what others have changed meanwhile.
 void FeatureModel::ReadAll() {
   if (!m_Host || !m_Values.empty()) return;
   m_Values.resize(m_Ids.size());

@@ -10,36 +10,36 @@
 
 namespace cardwright::workbench {
 
-/// The features of one theme with their attributes, read as they come into view; all at once when they are
-/// sorted, searched or copied. It looks at the source over a connection of its own, so that it does not
-/// disturb what a form has selected.
+/// The features of one theme with their attributes. Rows are read when they come into view, and all at once
+/// for sorting, searching and copying. The model has a connection of its own, so that it does not change what
+/// a form has selected.
 class FeatureModel final : public QAbstractTableModel {
   Q_OBJECT
  public:
   explicit FeatureModel(QObject* parent);
   ~FeatureModel() override;
 
-  /// Looks at another source; "" for none. Error 53 with a description where it cannot be opened.
+  /// Connects to another data source; "" for none. Error 53 with a description if it cannot be opened.
   void Open(const QString& source);
   std::vector<ListedTheme> Themes() const { return OrvClient::At(m_Handle).ListThemes(); }
-  /// Shows the features of a theme, all in the store's order; none for a name that the source does not have.
+  /// Shows all features of a theme in the order of the store; none if there is no such theme.
   void Show(const QString& theme);
   const QString& Theme() const noexcept { return m_Theme; }
-  /// Reads everything anew.
+  /// Reads everything again.
   void Reload();
 
-  /// Leaves only the features that have the text in one of their values, whatever its case; "" shows all.
+  /// Shows only features with the text in one of their values, ignoring case; "" shows all.
   void Search(const QString& text);
-  /// By numbers where values are such, by the user's language where not; column -1 is the store's order.
+  /// Sorts numbers by value and texts by the user's language; column -1 is the order of the store.
   void sort(int column, Qt::SortOrder order = Qt::AscendingOrder) override;
-  /// How many features the theme has, those that a search leaves out too.
+  /// The number of features in the theme, including those not found by a search.
   int Total() const noexcept { return static_cast<int>(m_Ids.size()); }
 
-  /// Identifier of the feature in a row.
+  /// The identifier of the feature in a row.
   QString IdOf(int row) const { return QString::number(m_Ids[Place(row)]); }
-  /// The row of a feature; -1 where none shows it.
+  /// The row of a feature; -1 if it is not shown.
   int RowOf(const QString& id) const;
-  /// Rows as spreadsheets take them: a line for each, a tab between two values.
+  /// Rows in the format of spreadsheets: one per line, values separated by tabs.
   QString AsText(const std::vector<int>& rows);
 
   int rowCount(const QModelIndex& parent = {}) const override;
@@ -66,8 +66,8 @@ class FeatureModel final : public QAbstractTableModel {
   FeatureTypeEnum m_Type = FeatureTypeEnum::ftNone;
   std::vector<Text> m_Attributes;
   std::vector<std::int64_t> m_Ids;    // in the store's order
-  std::vector<std::size_t> m_Shown;   // rows, as places in it
-  std::vector<QStringList> m_Values;  // by place; empty until all were needed
+  std::vector<std::size_t> m_Shown;   // for each row, an index in m_Ids
+  std::vector<QStringList> m_Values;  // by index in m_Ids; empty until all are needed
   mutable QCache<std::size_t, QStringList> m_Seen;
   QString m_Search;
   int m_SortColumn = -1;

@@ -15,9 +15,9 @@
 namespace cardwright::workbench {
 namespace {
 
-constexpr int kSearchAfter = 200;  // milliseconds that nothing was typed
+constexpr int kSearchAfter = 200;  // milliseconds after the last key
 
-/// Reading all features of a large theme takes its time.
+/// Reading all features of a large theme takes a while.
 class WaitCursor {
  public:
   WaitCursor() { QApplication::setOverrideCursor(Qt::WaitCursor); }
@@ -77,7 +77,7 @@ QLayout* FeaturePane::MakeHead() {
   m_Open->setToolTip(tr("Opens another data source (Ctrl+Shift+O)"));
   m_Fill->setAutoDefault(false);
   m_Fill->setToolTip(tr("Opens the form for the chosen feature (Ctrl+R)"));
-  // What gives way on a small screen.
+  // This part shrinks on a small screen.
   m_Search->setMinimumWidth(fontMetrics().averageCharWidth() * 10);
   m_Count->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
   auto* head = new QHBoxLayout;
@@ -129,7 +129,7 @@ void FeaturePane::MakeActions() {
   addAction(search);
 }
 
-// What the heads of the columns are to the mouse.
+// The keyboard's counterpart to clicking column headers.
 void FeaturePane::FillSortMenu() {
   QHeaderView* header = m_View->horizontalHeader();
   const int sorted = header->sortIndicatorSection();
@@ -183,8 +183,8 @@ QMap<QString, int> FeaturePane::ColumnWidths() const {
   return widths;
 }
 
-// To what the first rows hold, so that no more of the theme is read than is seen; not those whose width is
-// known.
+// Fits columns to the first rows, so that no more of the theme is read than is visible. Columns with a known
+// width keep it.
 void FeaturePane::FitColumns(const QMap<QString, int>& known) {
   QHeaderView& header = *m_View->horizontalHeader();
   const int most = fontMetrics().averageCharWidth() * 40;
@@ -218,7 +218,7 @@ void FeaturePane::Reload() {
   ShowChoice();
 }
 
-// What is found is ready to be filled in: the feature chosen before, or the first one.
+// Selects the feature that was selected before, or the first one found, ready for a run.
 void FeaturePane::Search() {
   const WaitCursor wait;
   const QString id = Feature();
@@ -242,7 +242,7 @@ void FeaturePane::Copy() {
   if (!rows.empty()) QApplication::clipboard()->setText(m_Model->AsText(rows));
 }
 
-// In the colour of the text beside them.
+// In the colour of the text next to them.
 void FeaturePane::ShowSigns() {
   const QColor ink = palette().color(QPalette::Active, QPalette::WindowText);
   for (int at = 0; at < m_Themes->count(); ++at)

@@ -13,24 +13,24 @@
 
 namespace cardwright::workbench {
 
-/// The data source: its themes, and the features of one in a table that is searched, sorted and copied from.
+/// The data source: its themes, and a table with the features of one, for searching, sorting and copying.
 class FeaturePane final : public QWidget {
   Q_OBJECT
  public:
   explicit FeaturePane(QWidget* parent);
 
-  /// Shows another source; "" for none.
+  /// Shows another data source; "" for none.
   void Open(const QString& source);
-  /// Shows a theme if the source has it.
+  /// Shows a theme if the data source has it.
   void ShowTheme(const QString& theme);
   FeatureModel& Model() noexcept { return *m_Model; }
   QTableView& View() noexcept { return *m_View; }
   QLineEdit& SearchField() noexcept { return *m_Search; }
-  /// Theme and identifier of the feature chosen; "" where none is.
+  /// Theme and identifier of the selected feature; "" if none is selected.
   QString Theme() const { return m_Model->Theme(); }
   QString Feature() const;
   void ChooseFeature(const QString& id);
-  /// Reads the features anew, as after one was changed.
+  /// Reads the features again, after one was changed.
   void Reload();
 
  Q_SIGNALS:

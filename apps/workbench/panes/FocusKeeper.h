@@ -6,8 +6,8 @@
 
 namespace cardwright::workbench {
 
-/// Gives the keyboard focus back to who had it, if it is still there: selecting a control puts it on the
-/// surface, and a person who works in a list or in the grid by keyboard would lose the place.
+/// Restores the keyboard focus: selecting a control moves it to the surface, which would disturb a person who
+/// works in a list or in the grid.
 class FocusKeeper {
  public:
   FocusKeeper() : m_Focus(QApplication::focusWidget()) {}

@@ -267,7 +267,7 @@ constexpr KindDrawing kKindDrawings[] = {
        ink.painter.drawPolygon(Points{{8, 7}, {14.5, 10.2}, {8, 13.5}, {1.5, 10.2}});
        ink.painter.drawPolygon(Points{{8, 4.6}, {14.5, 7.8}, {8, 11}, {1.5, 7.8}});
        ink.Accent();
-       ink.painter.setBrush(ink.ground);
+       ink.painter.setBrush(ink.background);
        ink.painter.drawPolygon(Points{{8, 2}, {14.5, 5.2}, {8, 8.5}, {1.5, 5.2}});
      }},
     {ControlTypeEnum::ctFontSelector,

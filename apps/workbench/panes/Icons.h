@@ -7,7 +7,7 @@
 
 namespace cardwright::workbench {
 
-/// What a picture of the workbench stands for, beside the kinds of control.
+/// The icons of commands; the kinds of control have icons of their own.
 enum class Sign {
   Pointer,
   New,
@@ -31,12 +31,12 @@ enum class Sign {
   Form,
 };
 
-/// @name Pictures drawn in lines at whatever size is asked for, in the colours of the text beside them, so
-/// that they are readable at any scale and on dark ground.
+/// @name Line icons for any size, in the colours of the text next to them, so that they are readable at any
+/// scale and on dark backgrounds.
 /// @{
 QIcon IconOf(Sign sign);
 QIcon IconOf(ControlTypeEnum kind);
-/// As large as the text beside them needs.
+/// A size that fits the text next to them.
 inline QSize IconSize(const QFontMetrics& text) {
   const int side = qMax(20, text.height() + 4);
   return {side, side};

@@ -7,7 +7,7 @@
 
 namespace cardwright::workbench {
 
-/// What runs leave behind: the output of a debugging run, and the commands that the host was sent.
+/// The output of runs: that of debugging runs, and the commands sent to the host.
 class OutputPane final : public QWidget {
   Q_OBJECT
  public:

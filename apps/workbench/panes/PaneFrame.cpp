@@ -10,7 +10,7 @@ namespace {
 
 constexpr int kWidth = 2;
 
-/// As light as the colour, so that text on it is as readable.
+/// A grey as light as the colour, so that text on it stays readable.
 QColor WithoutHue(const QColor& color) {
   const int grey = qGray(color.rgb());
   return {grey, grey, grey};
@@ -51,7 +51,7 @@ void PaneFrame::paintEvent(QPaintEvent*) {
   painter.fillRect(rect(), palette().color(QPalette::Active, QPalette::Highlight));
 }
 
-// The marks are made of the palette that others set.
+// The colours derive from the palette, which others set.
 void PaneFrame::changeEvent(QEvent* event) {
   QWidget::changeEvent(event);
   if (event->type() == QEvent::PaletteChange) Mark();

@@ -4,12 +4,12 @@
 
 namespace cardwright::workbench {
 
-/// A pane with a frame that shows whether the keyboard is in it. Where it is not, selections are grey as
-/// well, so that of several selected rows on the screen one only looks as if keys went there.
+/// A pane with a frame that shows whether the pane has the keyboard focus. Without the focus, selections are
+/// grey, so that only one of several selections looks active.
 class PaneFrame final : public QWidget {
   Q_OBJECT
  public:
-  /// `marked` is the pane or the part of it whose colour of selections follows.
+  /// `marked` is the widget in it whose selection colour changes.
   PaneFrame(QWidget& pane, QWidget& marked, QWidget* parent);
 
   QWidget& Pane() const noexcept { return m_Pane; }

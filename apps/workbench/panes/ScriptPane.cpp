@@ -13,13 +13,13 @@
 namespace cardwright::workbench {
 namespace {
 
-// The editor knows line feeds only; projects have both characters at the end of a line.
+// The editor uses line feeds; projects have carriage return and line feed.
 QString WithLineFeeds(const Text& content) {
   return qt::ToQString(content).replace(QLatin1String("\r\n"), QLatin1String("\n")).replace(u'\r', u'\n');
 }
 Text WithBoth(QString text) { return qt::FromQString(text.replace(u'\n', QLatin1String("\r\n"))); }
 
-// Writes only what differs, as an edit: cursors, the scrolled place and the steps of the document stay.
+// Replaces only what differs, as an edit: cursors, scroll position and undo steps stay.
 void Replace(QTextDocument& document, const QString& text) {
   const QString before = document.toPlainText();
   const TextChange change = ChangeBetween(qt::ViewOf(before), qt::ViewOf(text));
@@ -30,8 +30,8 @@ void Replace(QTextDocument& document, const QString& text) {
                                 static_cast<qsizetype>(change.endAfter - change.begin)));
 }
 
-/// Has both keys of the window's Redo, of which the toolkit gives an editor one: the other would take a step
-/// of the form forth from within the text.
+/// Handles both shortcuts of Redo. The toolkit's editor has only one; the other would redo a step of the
+/// form.
 class ScriptEditor final : public QPlainTextEdit {
  public:
   using QPlainTextEdit::QPlainTextEdit;
@@ -107,7 +107,7 @@ void ScriptPane::Show(const Script& script) {
   m_IsShowing = false;
 }
 
-// A language of any case is the same; an unknown one stays in the list as it is.
+// Languages are compared without case; an unknown one is added to the list.
 void ScriptPane::ShowLanguage(const Text& language) {
   const QString name = qt::ToQString(language);
   int at = m_Language->findText(name, Qt::MatchFixedString);

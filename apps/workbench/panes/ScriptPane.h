@@ -16,14 +16,13 @@ class ScriptPane final : public QWidget {
 
   /// Shows the script of another project.
   void Begin(const Script& script);
-  /// Shows what has become of the script; where it is the same the place in it and the editor's own steps
-  /// stay.
+  /// Shows the changed script; if it is the same, the cursor and the editor's undo steps stay.
   void Show(const Script& script);
   QPlainTextEdit& Editor() noexcept { return *m_Editor; }
   QComboBox& Language() noexcept { return *m_Language; }
 
  Q_SIGNALS:
-  /// A person has changed it.
+  /// The user has changed it.
   void Edited(const cardwright::workbench::Script& script);
 
  private:

@@ -34,7 +34,7 @@ ToolBox::ToolBox(QWidget* parent) : QListWidget(parent) {
   connect(this, &QListWidget::itemDoubleClicked, this, &ToolBox::Insert);
 }
 
-// Not by the style's way to activate, which may be a single click.
+// Not on activation, which in some styles is a single click.
 void ToolBox::keyPressEvent(QKeyEvent* event) {
   if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter)
     return QListWidget::keyPressEvent(event);

@@ -6,22 +6,22 @@
 
 namespace cardwright::workbench {
 
-/// The kinds of control that can be drawn, and above them the pointer that selects.
+/// The kinds of control that can be drawn, after the pointer for selecting.
 class ToolBox final : public QListWidget {
   Q_OBJECT
  public:
   explicit ToolBox(QWidget* parent);
 
-  /// Back to the pointer.
+  /// Chooses the pointer again.
   void Reset();
   ControlTypeEnum Kind() const;
 
   QSize sizeHint() const override { return {170, 420}; }
 
  Q_SIGNALS:
-  /// The next press on the form draws one of this kind; ctDefault selects.
+  /// The next press on the form draws a control of this kind; ctDefault selects.
   void KindChosen(cardwright::ControlTypeEnum kind);
-  /// A control of this kind is to be put on the form at once.
+  /// A control of this kind is to be added without drawing it.
   void InsertWanted(cardwright::ControlTypeEnum kind);
 
  protected:

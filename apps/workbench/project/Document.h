@@ -69,7 +69,7 @@ class Document final : public QObject {
   void MenuChanged(const QString& name, bool enabled);
   void Locked(bool locked);
   void PropertiesRequested();
-  /// The surface has another size.
+  /// The surface was resized.
   void Resized();
 
  private:

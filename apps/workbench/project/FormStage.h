@@ -22,7 +22,7 @@ class FormStage final : public QScrollArea {
   QString Caption() const { return m_Window->windowTitle(); }
   void SetCaption(const QString& caption) { m_Window->setWindowTitle(caption); }
   QWidget& Title() const noexcept { return *m_Title; }
-  /// Brings a part of the surface into view.
+  /// Scrolls to a part of the surface.
   void Reveal(const QRect& part);
 
   bool eventFilter(QObject* object, QEvent* event) override;
@@ -36,7 +36,7 @@ class FormStage final : public QScrollArea {
 
   QWidget* m_Desk;
   QWidget* m_Title;
-  QWidget* m_Window;  // the host's window, to the designer
+  QWidget* m_Window;  // which the designer takes for the host's window
   qt::FormDesigner* m_Designer = nullptr;
   std::array<Edge*, 3> m_Edges;
 };

@@ -24,7 +24,7 @@ void IconInk::Accent() const {
 
 void IconInk::Filled() const {
   painter.setPen(PenOf(line));
-  painter.setBrush(ground);
+  painter.setBrush(background);
 }
 
 void IconEngine::paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State) {
@@ -34,15 +34,15 @@ void IconEngine::paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, Q
   const QColor line = palette.color(group, selected ? QPalette::HighlightedText : QPalette::WindowText);
   QColor accent = palette.color(group, QPalette::Highlight);
   if (selected || mode == QIcon::Disabled) accent = line;
-  QColor ground = palette.color(group, QPalette::Base);
-  if (selected) ground = Qt::transparent;
+  QColor background = palette.color(group, QPalette::Base);
+  if (selected) background = Qt::transparent;
 
   painter->save();
   painter->setRenderHint(QPainter::Antialiasing);
   const qreal side = qMin(rect.width(), rect.height());
   painter->translate(rect.center() + QPointF(0.5, 0.5) - QPointF(side, side) / 2);
   painter->scale(side / kField, side / kField);
-  const IconInk ink{*painter, line, accent, ground};
+  const IconInk ink{*painter, line, accent, background};
   ink.Lines();
   m_Draw(ink);
   painter->restore();

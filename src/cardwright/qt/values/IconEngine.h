@@ -5,19 +5,19 @@
 
 namespace cardwright::qt {
 
-/// What a drawing of an icon paints with, on a field of 16 by 16 units.
+/// The painter and colours for drawing an icon, in a square of 16 units.
 struct IconInk {
   QPainter& painter;
-  QColor line;    ///< of the text
-  QColor accent;  ///< of what catches the eye
-  QColor ground;  ///< inside of a field that one types into
+  QColor line;        ///< of the text
+  QColor accent;      ///< of the emphasised part
+  QColor background;  ///< inside of input fields
 
   void Lines() const;
   void Accent() const;
   void Filled() const;
 };
 
-/// Draws an icon anew for each size and state.
+/// Draws an icon for each size and state.
 class IconEngine final : public QIconEngine {
  public:
   using Draw = void (*)(const IconInk& ink);
