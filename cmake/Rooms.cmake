@@ -46,7 +46,7 @@ set(CARDWRIGHT_INSTALLED_vbscript Engine.h)
 set(CARDWRIGHT_INSTALLED_jscript Engine.h)
 set(CARDWRIGHT_INSTALLED_hosting ClassRegistry.h FormScripts.h)
 set(CARDWRIGHT_INSTALLED_orv EmbeddedHost.h)
-set(CARDWRIGHT_INSTALLED_model CForm.h ClassTable.h Control.h Enums.h FormOwner.h IControl.h TableControl.h)
+set(CARDWRIGHT_INSTALLED_model CForm.h ClassTable.h Control.h Enums.h FormDocument.h FormOwner.h IControl.h TableControl.h)
 set(CARDWRIGHT_INSTALLED_designer DesignClipboard.h DesignGrid.h DesignMenu.h FormDesigner.h GrabHandles.h OuterSize.h
     Placement.h Placer.h Selection.h StackOrder.h)
 set(CARDWRIGHT_INSTALLED_runtime AttributeBinding.h CAttrib.h FormButton.h FormInput.h Vellum.h)

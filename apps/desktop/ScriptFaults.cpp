@@ -5,7 +5,7 @@
 #include "cardwright/model/ControlClasses.h"
 #include "cardwright/qt/values/QtText.h"
 #include "cardwright/shared/ScriptText.h"
-#include "cardwright/storage/ProjectFile.h"
+#include "cardwright/storage/ProjectReader.h"
 #include "desktop/ScriptProcedures.h"
 #include "launcher/Languages.h"
 
@@ -17,9 +17,11 @@ constexpr std::u16string_view kOptionExplicit = u"option explicit";
 class ScriptFaults {
  public:
   ScriptFaults(const QString& file, std::span<const ScriptedElement> elements) : m_Elements(elements) {
-    Text language;
-    m_Script = SplitFirstLine(ReadScriptSection(qt::FromQString(file)), language);
-    m_Language = language;
+    if (const auto project = ProjectReader::Open(qt::FromQString(file))) {
+      ProjectScript script = project->Script();
+      m_Script = std::move(script.content);
+      m_Language = std::move(script.language);
+    }
     if (!m_Script.IsEmpty() && !m_Language.IsEmpty()) LookAtScript();
   }
 

@@ -127,14 +127,14 @@ TEST_F(DesignerProjectTest, ReturnsFalseWithoutAFileOrFolder) {
   EXPECT_FALSE(designer->ProjectRead(folder.Name("none.cwf")));
   Draw(ctLabel, 10, 10, 60, 40);
   EXPECT_FALSE(designer->ProjectSave(folder.Name("none/out.cwf")));
-  EXPECT_FALSE(Module().isTemporarySave);
 }
 
-TEST_F(DesignerProjectTest, IsTemporaryOnlyWhileSaving) {
+TEST_F(DesignerProjectTest, IsSavedTemporarilyLikeAnyOtherSave) {
   Draw(ctLabel, 10, 10, 60, 40);
   EXPECT_TRUE(
       ToBoolean(CallMethod(*designer, u"ProjectSave", {Variant(folder.Name("t.cwf")), Variant(true)})));
-  EXPECT_FALSE(Module().isTemporarySave);
+  EXPECT_TRUE(designer->ProjectSave(folder.Name("out.cwf")));
+  EXPECT_EQ(folder.Get("t.cwf"), folder.Get("out.cwf"));
 }
 
 TEST_F(DesignerProjectTest, AcceptsAnyContent) {

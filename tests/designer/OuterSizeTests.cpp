@@ -1,3 +1,4 @@
+#include "cardwright/model/CForm.h"
 #include "designer/DesignerTest.h"
 
 namespace cardwright {

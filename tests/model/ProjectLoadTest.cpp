@@ -3,6 +3,7 @@
 #include <sys/stat.h>
 
 #include "cardwright/runtime/FormInput.h"
+#include "cardwright/storage/ProjectWriter.h"
 #include "model/Forms.h"
 #include "model/ProjectTexts.h"
 #include "model/ScriptedHost.h"
@@ -29,11 +30,11 @@ struct RealInput {
 class Witness final : public IControl {
  public:
   Text TypeName() const override { return u"Witness"; }
-  bool Save(const Text&, const Text&) override {
-    wasTemporary = Module().isTemporarySave;
+  bool SaveTo(SectionWriter& section) const override {
+    wasTemporary = section.Project().IsTemporary();
     return true;
   }
-  bool wasTemporary = false;
+  mutable bool wasTemporary = false;
 };
 
 /// Appends itself to a form and records the order of the calls.
@@ -334,14 +335,13 @@ TEST(ProjectSave, OmitsTheControlsOfARealFormToo) {
   EXPECT_NE(saved.find("ControlsNumber= 2\r\n[SCRIPT]\r\n"), std::string::npos);
 }
 
-TEST(ProjectSave, SetsIsTemporarySaveOnlyDuringTheSave) {
+TEST(ProjectSave, TellsElementsThatASaveIsTemporary) {
   const TempFolder folder;
   RealInput on;
   const auto witness = MakeRef<Witness>();
   on.input->Controls().Add(Variant(Ref<Object>(witness)), Variant(u"witness"));
   EXPECT_TRUE(on.input->ProjectSave(folder.Name("a.frm"), true));
   EXPECT_TRUE(witness->wasTemporary);
-  EXPECT_FALSE(Module().isTemporarySave);
   EXPECT_TRUE(on.input->ProjectSave(folder.Name("a.frm")));
   EXPECT_FALSE(witness->wasTemporary);
 }

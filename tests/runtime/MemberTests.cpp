@@ -70,13 +70,11 @@ TEST_F(Members, ReadNothingWithoutAForm) {
   EXPECT_FALSE(form->ProjectSave(qt::ToQString(folder.Name("saved.cwf"))));
 }
 
-TEST_F(Members, SaveWithTheTemporaryFlagForThatLongOnly) {
+TEST_F(Members, SaveTemporarilyLikeAnyOtherSave) {
   Read({{"TextBox", "a", ""}});
   EXPECT_TRUE(ToBoolean(CallMethod(Input(), u"ProjectSave", {folder.Name("saved.cwf"), true})));
-  EXPECT_FALSE(Module().isTemporarySave);
   EXPECT_NE(folder.Get("saved.cwf").find("ThemeName=wells"), std::string::npos);
   EXPECT_FALSE(ToBoolean(CallMethod(Input(), u"ProjectSave", {folder.Name("none/saved.cwf")})));
-  EXPECT_FALSE(Module().isTemporarySave);
 }
 
 // Renaming.

@@ -219,7 +219,6 @@ TEST_F(VellumTest, SharesItsStateWithASecondOneWhichRenewsTheDefaults) {
   Let(u"SettingsAppName", u"Tarvo");
   Let(u"ScriptContent", u"VBScript\r\nx\r\n");
   Module().attachedEditor = output;
-  Module().isTemporarySave = true;
   Module().formScaleMode = ScaleMode::Twips;
   const Ref<Object> controlsBefore = Module().formControlsObject;
   const std::int32_t handle = App().TarvoHandle();
@@ -230,7 +229,6 @@ TEST_F(VellumTest, SharesItsStateWithASecondOneWhichRenewsTheDefaults) {
   EXPECT_EQ(Module().scriptControl, secondEngine.get());
   EXPECT_NE(Module().formControlsObject, controlsBefore);
   EXPECT_FALSE(Module().attachedEditor);
-  EXPECT_FALSE(Module().isTemporarySave);
   EXPECT_EQ(ToLong(Get(u"ResizeHandleDims")), 7);
   EXPECT_EQ(ToLong(Get(u"FormScaleMode")), 3);
   EXPECT_EQ(ToText(Get(u"SettingsAppName")), u"Tarvo");

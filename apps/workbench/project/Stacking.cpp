@@ -3,6 +3,7 @@
 #include <deque>
 #include <unordered_set>
 
+#include "cardwright/model/CForm.h"
 #include "cardwright/model/Rename.h"
 
 namespace cardwright::workbench {

@@ -56,7 +56,7 @@ void FormDesigner::Delete() {
     Variant args[] = {Variant::ByRef(removed)};
     RaiseEvent(u"ObjectRemoved", args);
   });
-  const Ref<Collection> left = m_Controls;  // a handler may end the surface
+  const Ref<Collection> left = ControlCollection();  // a handler may end the surface
   if (left->Count() == 0) return;
   for (const Ref<IControl>& other : ControlsOf(*left)) Attempt([&] { other->LinkControlDelete(*left); });
   AttachLinks();
@@ -67,7 +67,7 @@ void FormDesigner::Delete() {
 void FormDesigner::RemoveFromLists(const IControl& control) {
   Attempt([&] {
     const Text key = ToLower(control.UserName());
-    if (FindControl(*m_Controls, key) == &control) m_Controls->Remove(Variant(key));
+    if (FindControl(Controls(), key) == &control) Controls().Remove(Variant(key));
   });
   Attempt([&] { m_StackOrder.Remove(control); });
 }
@@ -75,7 +75,7 @@ void FormDesigner::RemoveFromLists(const IControl& control) {
 // One level only: a control in a frame inside the frame loses its widget and stays in the lists, and a
 // project saved then still counts it.
 void FormDesigner::RemoveChildren(const Widget& container) {
-  for (const Ref<IControl>& child : ControlsOf(*m_Controls)) {
+  for (const Ref<IControl>& child : ControlsOf(Controls())) {
     const Ref<Widget> widget = BoundWidget(*child);
     const bool isInside = widget && AttemptOr(false, [&] { return widget->Container() == &container; });
     if (!isInside) continue;
@@ -103,7 +103,7 @@ void FormDesigner::Restack(StackPosition position) {
 
 void FormDesigner::LockUnlock() {
   const Ref<FormDesigner> keepAlive(this);
-  if (m_Controls->Count() <= 1) return ShowHandles(false);
+  if (Controls().Count() <= 1) return ShowHandles(false);
   const bool locks = !m_Selection.IsLocked();
   m_Menu.Lock().m_Checked = locks;
   m_Selection.SetLocked(locks);

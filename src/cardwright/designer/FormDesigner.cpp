@@ -7,7 +7,6 @@
 namespace cardwright {
 namespace {
 
-constexpr std::u16string_view kFormName = u"Form";
 constexpr std::u16string_view kEnableKeyDelete = u"EnableKeyDelete";
 
 bool ProjectSave(FormDesigner& designer, const Text& fileName, std::optional<bool> isTemporary) {
@@ -77,10 +76,8 @@ FormDesigner::FormDesigner(DesignSurface& surface)
 
 Ref<FormDesigner> FormDesigner::Create(DesignSurface& surface) {
   Ref<FormDesigner> designer(new FormDesigner(surface));
-  auto form = MakeRef<CForm>();
-  form->SetParentForm(designer);
-  form->SetName(kFormName);
-  designer->m_Controls->Add(Variant(Ref<Object>(form)), Variant(ToLower(form->UserName())));
+  designer->m_Document.AddForm(designer);
+  const Ref<IControl> form = designer->Form();
   designer->AppendToZList(form);
   designer->SetCtrl(form);
   surface.SetListener(designer.get());
@@ -90,29 +87,20 @@ Ref<FormDesigner> FormDesigner::Create(DesignSurface& surface) {
 FormDesigner::~FormDesigner() { DetachSurface(); }
 
 void FormDesigner::DetachSurface() {
-  for (const Ref<IControl>& control : ControlsOf(*m_Controls)) {
-    auto* table = dynamic_cast<TableControl*>(control.get());
-    if (!table) continue;
-    if (m_Surface && dynamic_cast<Control*>(table)) Attempt([&] { m_Surface->Remove(control->Name()); });
-    table->ForgetOwner();
-  }
+  m_Document.Detach(m_Surface);
   m_Selection.Detach();
   if (m_Surface) {
     Attempt([&] { m_Surface->SetListener(nullptr); });
     Attempt([&] { m_Surface->SetScreenPointer(PointerShape::Default); });  // in the middle of a paste
   }
   m_Surface = nullptr;
-  m_Controls = MakeRef<Collection>();  // whoever holds the old one keeps its objects
+  m_Document.Clear();
   m_StackOrder.Clear();
 }
 
 DesignSurface& FormDesigner::Canvas() const {
   if (!m_Surface) Raise(ErrorNumber::ObjectNotSet);
   return *m_Surface;
-}
-
-Ref<IControl> FormDesigner::Form() const {
-  return m_Controls->Count() > 0 ? Ref<IControl>(AsControl(m_Controls->Item(Variant(1)))) : nullptr;
 }
 
 std::int32_t FormDesigner::WindowHandle() const { return m_Surface ? m_Surface->WindowHandle() : 0; }
@@ -145,12 +133,12 @@ void FormDesigner::SetControlTypeToAdd(ControlTypeEnum type) {
 }
 
 std::vector<Ref<IControl>> FormDesigner::FilterControls(ControlTypeEnum type) const {
-  return ControlsOfType(*m_Controls, type);
+  return ControlsOfType(*ControlCollection(), type);
 }
 
 void FormDesigner::ChangeControlName(Ref<Object> control, const Text& newName) {
   const Ref<FormDesigner> keepAlive(this);
-  const Ref<Collection> controls = m_Controls;  // a handler may end the surface
+  const Ref<Collection> controls = ControlCollection();  // a handler may end the surface
   const auto tell = [this](const Text& oldName, IControl& renamed) {
     Variant old(oldName);
     Variant object{Ref<Object>(&renamed)};
@@ -161,39 +149,19 @@ void FormDesigner::ChangeControlName(Ref<Object> control, const Text& newName) {
 }
 
 void FormDesigner::AttachLinks() {
-  const Ref<Collection> controls = m_Controls;
+  const Ref<Collection> controls = ControlCollection();
   for (const Ref<IControl>& control : ControlsOf(*controls))
     Attempt([&] { control->AttachControls(*controls); });
 }
 
 bool FormDesigner::ProjectRead(const Text& fileName) {
   const Ref<FormDesigner> keepAlive(this);
-  return AttemptOr(false, [&] {
-    const Ref<IControl> form = Form();
-    return form && form->Read(fileName, {});
-  });
+  return AttemptOr(false, [&] { return m_Document.Read(fileName); });
 }
 
 bool FormDesigner::ProjectSave(const Text& fileName, bool isTemporary) {
   const Ref<FormDesigner> keepAlive(this);
-  Module().isTemporarySave = isTemporary;
-  const bool saved = AttemptOr(false, [&] {
-    const Ref<IControl> form = Form();
-    return form && form->Save(fileName, {});
-  });
-  Module().isTemporarySave = false;
-  return saved;
-}
-
-Text FormDesigner::GetThemeName() const {
-  const Ref<IControl> form = Form();
-  return form ? ToText(form->PropertyValue(u"ThemeName")) : Text();
-}
-
-FeatureTypeEnum FormDesigner::GetFeatureType() const {
-  const Ref<IControl> form = Form();
-  return form ? static_cast<FeatureTypeEnum>(ToLong(form->PropertyValue(u"FeatureType")))
-              : FeatureTypeEnum::ftNone;
+  return m_Document.Save(fileName, isTemporary);
 }
 
 void FormDesigner::SetThemeName(const Text& themeName) {

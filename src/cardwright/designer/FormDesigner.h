@@ -9,7 +9,7 @@
 #include "cardwright/designer/Placer.h"
 #include "cardwright/designer/Selection.h"
 #include "cardwright/designer/StackOrder.h"
-#include "cardwright/model/CForm.h"
+#include "cardwright/model/FormDocument.h"
 #include "cardwright/model/FormOwner.h"
 #include "cardwright/platform/PropertyBag.h"
 
@@ -84,8 +84,8 @@ class FormDesigner final : public TableObject,
   bool TracesMouse() const noexcept { return m_TracesMouse; }
   void SetTracesMouse(bool traces) noexcept { m_TracesMouse = traces; }
 
-  Collection& Controls() override { return *m_Controls; }
-  Ref<Collection> ControlCollection() const { return m_Controls; }
+  Collection& Controls() override { return *m_Document.Controls(); }
+  Ref<Collection> ControlCollection() const { return m_Document.Controls(); }
   Ref<IControl> CurrentControl() const override { return m_Selection.Current(); }
   /// The class of control that the next press on the surface draws; a number that names none is ignored.
   ControlTypeEnum ControlTypeToAdd() const override { return m_TypeToAdd; }
@@ -97,8 +97,8 @@ class FormDesigner final : public TableObject,
   bool ProjectRead(const Text& fileName);
   /// Writes the form project. A project without controls has no file: it is deleted.
   bool ProjectSave(const Text& fileName, bool isTemporary = false);
-  Text GetThemeName() const;
-  FeatureTypeEnum GetFeatureType() const;
+  Text GetThemeName() const { return m_Document.ThemeName(); }
+  FeatureTypeEnum GetFeatureType() const { return m_Document.FeatureType(); }
   void SetThemeName(const Text& themeName);
   void SetFeatureType(FeatureTypeEnum type);
 
@@ -155,8 +155,7 @@ class FormDesigner final : public TableObject,
  private:
   /// Error 91 once the surface has ended.
   DesignSurface& Canvas() const;
-  /// First object of Controls; null if a script has removed it.
-  Ref<IControl> Form() const;
+  Ref<IControl> Form() const { return m_Document.Form(); }
   static bool IsForm(const IControl& control);
   /// Whether the next press draws a new control.
   bool IsAdding() const noexcept { return m_TypeToAdd != ControlTypeEnum::ctDefault; }
@@ -188,7 +187,7 @@ class FormDesigner final : public TableObject,
   void Run(DesignCommand command);
 
   DesignSurface* m_Surface;  // null once it has ended
-  Ref<Collection> m_Controls = MakeRef<Collection>();
+  FormDocument m_Document;
   Selection m_Selection;
   StackOrder m_StackOrder;
   Placer m_Placer{*this, m_Selection};

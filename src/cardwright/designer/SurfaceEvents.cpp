@@ -4,6 +4,7 @@
 #include "cardwright/designer/DrawTool.h"
 #include "cardwright/designer/FormDesigner.h"
 #include "cardwright/designer/RedrawLock.h"
+#include "cardwright/model/CForm.h"
 #include "cardwright/shared/ModuleState.h"
 
 namespace cardwright {

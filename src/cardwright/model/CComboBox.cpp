@@ -2,6 +2,7 @@
 
 #include "cardwright/model/ListEntries.h"
 #include "cardwright/shared/Lookups.h"
+#include "cardwright/storage/SectionReader.h"
 
 namespace cardwright {
 
@@ -92,10 +93,10 @@ void CComboBox::SetEditable(const Text& editable) {
   if (Bound()) Box().SetEditable(TakesTyping());
 }
 
-void CComboBox::FinishRead(const CIni& ini, const Text& sectionName) {
-  m_Items = CItems::Read(ini, sectionName);
+void CComboBox::FinishRead(const SectionReader& section) {
+  m_Items = CItems::Read(section);
   FillWidget();
-  const auto stored = ini.Find(sectionName, u"Text");
+  const auto stored = section.Find(u"Text");
   SelectText(stored ? ToText(*stored) : Box().DisplayText());
   if (Designer()) Box().SetLocked(true);
 }

@@ -25,7 +25,7 @@ class CComboBox final : public TextEntry {
 
  protected:
   bool Accepts(const Widget& widget) const override { return dynamic_cast<const ComboWidget*>(&widget); }
-  void FinishRead(const CIni& ini, const Text& sectionName) override;
+  void FinishRead(const SectionReader& section) override;
   bool ClickSelects() const override { return false; }
   bool LimitsLength() const override { return false; }
   bool TakesTyping() const override { return FlagIsSet(m_Editable); }

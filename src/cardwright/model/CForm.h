@@ -2,10 +2,11 @@
 
 #include "cardwright/model/TableControl.h"
 #include "cardwright/platform/Picture.h"
-#include "cardwright/storage/CIni.h"
 
 namespace cardwright {
 
+class ProjectReader;
+class ProjectWriter;
 class Steps;
 
 /// The root of a form, and its project file: always the first object of its owner's collection. It has no
@@ -37,7 +38,11 @@ class CForm final : public TableControl {
   bool Read(const Text& filePath, const Text& sectionName) override;
   /// Writes the project, replacing the file in one step. A form without controls has no file: it is deleted.
   /// False without an owner or a folder.
-  bool Save(const Text& filePath, const Text& sectionName) override;
+  bool Save(const Text& filePath, const Text& /*sectionName*/) override {
+    return SaveProject(filePath, false);
+  }
+  /// The same; a temporary save is one that the host discards again, which the elements can see.
+  bool SaveProject(const Text& filePath, bool isTemporary);
 
   /// To be called after the design surface was resized: raises PropertyChanged if the form is selected.
   void OnDesignerResized();
@@ -58,17 +63,16 @@ class CForm final : public TableControl {
   void SetImage(const Variant& picture);
   void RefreshAttributeList();
 
-  void ReadProject(const Text& filePath, const CIni& ini, Steps& step);
-  void ReadAppearance(const CIni& ini);
-  void ReadTitle(const CIni& ini);
-  void ReadTheme(const CIni& ini);
-  void ReadControl(const Text& filePath, const CIni& ini, int number);
-  void ReadStacking(const CIni& ini);
-  static void ReadScript(const Text& filePath);
+  void ReadProject(const ProjectReader& project, Steps& step);
+  void ReadAppearance(const SectionReader& form);
+  void ReadTitle(const SectionReader& form);
+  void ReadTheme(const SectionReader& form);
+  void ReadControl(const SectionReader& section, int number);
+  void ReadStacking(const SectionReader& stacking);
   void FinishRead();
-  void WriteProject(const Text& filePath, CIni& ini);
-  void WriteSettings(CIni& ini) const;
-  void WriteStacking(CIni& ini) const;
+  void WriteProject(ProjectWriter& project) const;
+  void WriteSettings(SectionWriter& form) const;
+  void WriteStacking(SectionWriter& stacking) const;
 
   Text m_ThemeName;
   std::int32_t m_FeatureType = static_cast<std::int32_t>(FeatureTypeEnum::ftNone);

@@ -9,9 +9,7 @@
 #include "cardwright/platform/Files.h"
 #include "cardwright/shared/ModuleState.h"
 #include "cardwright/shared/OrvClient.h"
-#include "cardwright/storage/IniBatch.h"
-#include "cardwright/storage/IniSnapshot.h"
-#include "cardwright/storage/ProjectFile.h"
+#include "cardwright/storage/ProjectWriter.h"
 
 namespace cardwright {
 namespace {
@@ -21,8 +19,8 @@ constexpr std::u16string_view kStacking = u"ZORDER";
 
 Text ControlSection(std::int32_t number) { return Text(u"CONTROLS_") + ToText(Variant(number)); }
 
-double ReadNumber(const CIni& ini, std::u16string_view key, const Variant& fallback) {
-  return Val(ToText(ini.GetValue(kForm, key, fallback)));
+double ReadNumber(const SectionReader& form, std::u16string_view key, const Variant& fallback) {
+  return Val(ToText(form.GetValue(key, fallback)));
 }
 
 // Creates the widget of a section; none where its type has no class or its container is not there yet.
@@ -39,40 +37,42 @@ Ref<Widget> AddWidget(Surface& surface, std::u16string_view identifier, std::u16
 }  // namespace
 
 bool CForm::Read(const Text& filePath, const Text&) {
-  if (!Owner() || !FileExists(filePath)) return false;
-  CIni ini;
-  ini.SetFileName(filePath);
+  if (!Owner()) return false;
+  const auto project = ProjectReader::Open(filePath);
+  if (!project) return false;
   Module().scriptContent = Text();
   Module().scriptLanguage = Text();
   Steps step;
-  {
-    const IniSnapshot asOfNow(filePath);
-    ReadProject(filePath, ini, step);
-  }
+  ReadProject(*project, step);
   step([&] { FinishRead(); });
   return step.Result();
 }
 
-void CForm::ReadProject(const Text& filePath, const CIni& ini, Steps& step) {
+void CForm::ReadProject(const ProjectReader& project, Steps& step) {
+  const SectionReader form = project.Section(kForm);
   step([&] { Module().formScaleMode = ScaleMode::Twips; });
   step([&] {
     Module().formScaleMode =
-        static_cast<ScaleMode>(ToLong(Variant(ReadNumber(ini, u"ScaleMode", Variant(1)))));
+        static_cast<ScaleMode>(ToLong(Variant(ReadNumber(form, u"ScaleMode", Variant(1)))));
   });
-  step([&] { ReadAppearance(ini); });
-  step([&] { ReadTheme(ini); });
-  step([&] { m_FeatureType = ToLong(Variant(ReadNumber(ini, u"FeatureType", Variant(m_FeatureType)))); });
-  step([&] { m_StartMode = ToText(ini.GetValue(kForm, u"StartMode", Variant(u"Always"))); });
-  step([&] { m_ShowMenu = ToLong(Variant(ReadNumber(ini, u"ShowMenu", Variant(u"0")))); });
-  step([&] { m_Image = GetFormImage(filePath); });
+  step([&] { ReadAppearance(form); });
+  step([&] { ReadTheme(form); });
+  step([&] { m_FeatureType = ToLong(Variant(ReadNumber(form, u"FeatureType", Variant(m_FeatureType)))); });
+  step([&] { m_StartMode = ToText(form.GetValue(u"StartMode", Variant(u"Always"))); });
+  step([&] { m_ShowMenu = ToLong(Variant(ReadNumber(form, u"ShowMenu", Variant(u"0")))); });
+  step([&] { m_Image = project.Image(); });
   std::int16_t count = 0;
-  step([&] { count = ToInteger(Variant(ReadNumber(ini, u"ControlsNumber", Variant(u"0")))); });
-  for (int i = 1; i <= count; ++i) Attempt([&] { ReadControl(filePath, ini, i); });
-  step([&] { ReadStacking(ini); });
-  step([&] { ReadScript(filePath); });
+  step([&] { count = ToInteger(Variant(ReadNumber(form, u"ControlsNumber", Variant(u"0")))); });
+  for (int i = 1; i <= count; ++i) Attempt([&] { ReadControl(project.Section(ControlSection(i)), i); });
+  step([&] { ReadStacking(project.Section(kStacking)); });
+  step([&] {
+    ProjectScript script = project.Script();
+    Module().scriptContent = std::move(script.content);
+    Module().scriptLanguage = std::move(script.language);
+  });
 }
 
-void CForm::ReadAppearance(const CIni& ini) {
+void CForm::ReadAppearance(const SectionReader& form) {
   Steps step;
   Surface& surface = Canvas();
   if (Designer()) {
@@ -81,17 +81,17 @@ void CForm::ReadAppearance(const CIni& ini) {
   } else {
     step([&] { surface.SetScale(Module().formScaleMode); });
   }
-  step([&] { SetBackColor(ToLong(ini.GetValue(kForm, u"BackColor", Variant(surface.BackColor())))); });
+  step([&] { SetBackColor(ToLong(form.GetValue(u"BackColor", Variant(surface.BackColor())))); });
   step([&] {
     const Ref<Font> font = surface.GetFont();
-    font->Assign(ReadFontKeys(font->Values(), ini, kForm));
+    font->Assign(ReadFontKeys(font->Values(), form));
   });
   step([&] {
-    const double width = ReadNumber(ini, u"Width", Variant(Width()));
-    const double height = ReadNumber(ini, u"Height", Variant(Height()));
+    const double width = ReadNumber(form, u"Width", Variant(Width()));
+    const double height = ReadNumber(form, u"Height", Variant(Height()));
     Owner()->SetOuterSize(ToSingle(Variant(width)), ToSingle(Variant(height)));
   });
-  step([&] { ReadTitle(ini); });
+  step([&] { ReadTitle(form); });
   if (!Designer()) return;
   Designer()->SuspendEvents(false);
   const ScaleMode scale = surface.Scale();
@@ -100,8 +100,8 @@ void CForm::ReadAppearance(const CIni& ini) {
 
 // The window's own title where the host's window takes one; only a window that refuses it leaves the title to
 // the host.
-void CForm::ReadTitle(const CIni& ini) {
-  const Text title = ToText(ini.GetValue(kForm, u"Text", Variant(Caption())));
+void CForm::ReadTitle(const SectionReader& form) {
+  const Text title = ToText(form.GetValue(u"Text", Variant(Caption())));
   const bool shown = Attempt([&] {
     const Ref<HostWindow> host = Host();
     if (!host) Raise(ErrorNumber::ObjectNotSet);
@@ -112,20 +112,19 @@ void CForm::ReadTitle(const CIni& ini) {
 
 // A theme that the host's project does not have is replaced by the active one; forms are carried between
 // projects so.
-void CForm::ReadTheme(const CIni& ini) {
-  m_ThemeName = ToText(ini.GetValue(kForm, u"ThemeName", Variant(u"")));
+void CForm::ReadTheme(const SectionReader& form) {
+  m_ThemeName = ToText(form.GetValue(u"ThemeName", Variant(u"")));
   if (m_ThemeName.IsEmpty() || !SharedHost().IsConnected()) return;
   OrvClient host = OrvClient::Shared();
   if (host.ThemeNumber(m_ThemeName) == 0) m_ThemeName = host.ActiveTheme();
 }
 
-void CForm::ReadControl(const Text& filePath, const CIni& ini, int number) {
-  const Text section = ControlSection(number);
-  const ClassTable* controlClass = FindControlClass(ToText(ini.GetValue(section, u"Type", Variant(u""))));
+void CForm::ReadControl(const SectionReader& section, int number) {
+  const ClassTable* controlClass = FindControlClass(ToText(section.GetValue(u"Type", Variant(u""))));
   if (!controlClass) return;
-  const Text containerName = ToText(ini.GetValue(section, u"Container", Variant(u"")));
+  const Text containerName = ToText(section.GetValue(u"Container", Variant(u"")));
   const Text defaultName = Text(u"object_") + ToText(Variant(number + 1));
-  const Text name = ToText(ini.GetValue(section, u"Name", Variant(defaultName)));
+  const Text name = ToText(section.GetValue(u"Name", Variant(defaultName)));
   const Ref<Widget> widget = AddWidget(Canvas(), controlClass->widgetIdentifier, name, containerName);
   if (!widget) return;
 
@@ -133,19 +132,17 @@ void CForm::ReadControl(const Text& filePath, const CIni& ini, int number) {
   Attempt([&] { control->BindObject(widget); });
   Attempt([&] { control->SetParentForm(ParentForm()); });
   Attempt([&] { control->SetName(widget->Name()); });
-  if (control->Read(filePath, section))
+  if (control->ReadFrom(section))
     Elements().Add(Variant(Ref<Object>(control)), Variant(ToLower(control->UserName())));
 }
 
-void CForm::ReadStacking(const CIni& ini) {
+void CForm::ReadStacking(const SectionReader& stacking) {
   if (Designer()) Designer()->ResetZList();
-  const Ref<Collection> names = ini.Keys(kStacking);
-  for (std::int32_t i = 1; i <= names->Count(); ++i) {
-    const Text name = ToText(names->Item(Variant(i)));
+  for (const Text& name : stacking.Keys()) {
     const Ref<IControl> control(FindControl(Elements(), name));
     if (!control) continue;
     Attempt([&] {
-      const auto position = ToInteger(Variant(Val(ToText(ini.GetValue(kStacking, name, Variant(u"0"))))));
+      const auto position = ToInteger(Variant(Val(ToText(stacking.GetValue(name, Variant(u"0"))))));
       control->SetZOrder(position);
       // A widget knows two positions only and stays where it is for any other.
       auto* widget = dynamic_cast<Widget*>(control->BoundObject().get());
@@ -153,12 +150,6 @@ void CForm::ReadStacking(const CIni& ini) {
     });
     if (Designer()) Designer()->AppendToZList(control);
   }
-}
-
-void CForm::ReadScript(const Text& filePath) {
-  Text language;
-  Module().scriptContent = SplitFirstLine(ReadScriptSection(filePath), language);
-  Module().scriptLanguage = language;
 }
 
 void CForm::FinishRead() {
@@ -170,7 +161,7 @@ void CForm::FinishRead() {
   if (Designer()) Designer()->RaiseRefreshPropertyList();
 }
 
-bool CForm::Save(const Text& filePath, const Text&) {
+bool CForm::SaveProject(const Text& filePath, bool isTemporary) {
   const Text folder = GetParentFolderName(filePath);
   if (!Owner() || (!folder.IsEmpty() && !FolderExists(folder))) return false;
   Steps step;
@@ -180,51 +171,48 @@ bool CForm::Save(const Text& filePath, const Text&) {
       if (!IsReadOnly(filePath)) std::filesystem::remove(ToPath(filePath), ignored);
       return;
     }
-    CIni ini;
-    ini.SetFileName(filePath);
-    IniBatch batch(filePath);
-    WriteProject(filePath, ini);
-    batch.Commit();
+    ProjectWriter project = ProjectWriter::Create(filePath, isTemporary);
+    WriteProject(project);
+    project.Commit();
   });
   return step.Result();
 }
 
-void CForm::WriteProject(const Text& filePath, CIni& ini) {
+void CForm::WriteProject(ProjectWriter& project) const {
   Steps step;
-  ini.Reset();
-  step([&] { WriteSettings(ini); });
-  if (Designer()) step([&] { SaveFormImage(filePath, m_Image.get()); });
+  SectionWriter form = project.Section(kForm);
+  step([&] { WriteSettings(form); });
+  if (Designer()) step([&] { project.WriteImage(m_Image.get()); });
   const std::vector<Ref<IControl>> controls = ControlsOf(Elements());
-  step([&] {
-    ini.WriteValue(kForm, u"ControlsNumber", Variant(static_cast<std::int32_t>(controls.size()) - 1));
-  });
-  for (std::size_t i = 1; i < controls.size(); ++i)
-    step([&] { controls[i]->Save(filePath, ControlSection(static_cast<std::int32_t>(i))); });
-  if (Designer()) step([&] { WriteStacking(ini); });
-  step([&] { WriteScriptSection(filePath, Module().scriptLanguage, Module().scriptContent); });
+  step([&] { form.Write(u"ControlsNumber", Variant(static_cast<std::int32_t>(controls.size()) - 1)); });
+  for (std::size_t i = 1; i < controls.size(); ++i) {
+    SectionWriter section = project.Section(ControlSection(static_cast<std::int32_t>(i)));
+    step([&] { controls[i]->SaveTo(section); });
+  }
+  SectionWriter stacking = project.Section(kStacking);
+  if (Designer()) step([&] { WriteStacking(stacking); });
+  step(
+      [&] { project.WriteScript({.language = Module().scriptLanguage, .content = Module().scriptContent}); });
 }
 
-void CForm::WriteSettings(CIni& ini) const {
+void CForm::WriteSettings(SectionWriter& form) const {
   Steps step;
   const Surface& surface = Canvas();
-  step([&] {
-    ini.WriteValue(kForm, u"ScaleMode", Variant(static_cast<std::int32_t>(Module().formScaleMode)));
-  });
-  step([&] { ini.WriteValue(kForm, u"BackColor", Variant(surface.BackColor())); });
-  step([&] { WriteFontKeys(surface.GetFont()->Values(), ini, kForm); });
-  step([&] { ini.WriteValue(kForm, u"Text", Variant(Caption())); });
-  step([&] { ini.WriteValue(kForm, u"Width", Variant(Width())); });
-  step([&] { ini.WriteValue(kForm, u"Height", Variant(Height())); });
-  step([&] { ini.WriteValue(kForm, u"ThemeName", Variant(m_ThemeName)); });
-  step([&] { ini.WriteValue(kForm, u"FeatureType", Variant(m_FeatureType)); });
-  step([&] { ini.WriteValue(kForm, u"StartMode", Variant(m_StartMode)); });
-  step([&] { ini.WriteValue(kForm, u"ShowMenu", Variant(m_ShowMenu)); });
+  step([&] { form.Write(u"ScaleMode", Variant(static_cast<std::int32_t>(Module().formScaleMode))); });
+  step([&] { form.Write(u"BackColor", Variant(surface.BackColor())); });
+  step([&] { WriteFontKeys(surface.GetFont()->Values(), form); });
+  step([&] { form.Write(u"Text", Variant(Caption())); });
+  step([&] { form.Write(u"Width", Variant(Width())); });
+  step([&] { form.Write(u"Height", Variant(Height())); });
+  step([&] { form.Write(u"ThemeName", Variant(m_ThemeName)); });
+  step([&] { form.Write(u"FeatureType", Variant(m_FeatureType)); });
+  step([&] { form.Write(u"StartMode", Variant(m_StartMode)); });
+  step([&] { form.Write(u"ShowMenu", Variant(m_ShowMenu)); });
 }
 
-void CForm::WriteStacking(CIni& ini) const {
-  if (!ini.DeleteSection(kStacking)) return;
+void CForm::WriteStacking(SectionWriter& stacking) const {
   for (const Ref<IControl>& control : Designer()->ZList())
-    ini.WriteValue(kStacking, control->UserName(), Variant(control->ZOrder()));
+    stacking.Write(control->UserName(), Variant(control->ZOrder()));
 }
 
 }  // namespace cardwright

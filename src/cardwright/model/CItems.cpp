@@ -1,4 +1,5 @@
 #include "cardwright/model/CItems.h"
+#include "cardwright/storage/ProjectWriter.h"
 
 namespace cardwright {
 namespace {
@@ -54,12 +55,12 @@ std::int32_t CItems::FindValue(std::u16string_view value) const {
   return 0;
 }
 
-Ref<CItems> CItems::Read(const CIni& ini, const Text& section) {
+Ref<CItems> CItems::Read(const SectionReader& section) {
   auto items = MakeRef<CItems>();
-  const double count = Val(ToText(ini.GetValue(section, u"ItemsNumber", Variant(u"0"))));
+  const double count = Val(ToText(section.GetValue(u"ItemsNumber", Variant(u"0"))));
   for (std::int32_t i = 1; i <= count; ++i) {
-    const auto value = ini.Find(section, ItemKey(u"Value_Item_", i));
-    const auto text = ini.Find(section, ItemKey(u"Text_Item_", i));
+    const auto value = section.Find(ItemKey(u"Value_Item_", i));
+    const auto text = section.Find(ItemKey(u"Text_Item_", i));
     if (!value && !text && i > kMostMissingItems) break;
     auto item = MakeRef<CItem>();
     if (value) item->m_Value = ToText(*value);
@@ -69,12 +70,12 @@ Ref<CItems> CItems::Read(const CIni& ini, const Text& section) {
   return items;
 }
 
-void CItems::Save(CIni& ini, const Text& section) const {
+void CItems::Save(SectionWriter& section) const {
   for (std::int32_t i = 1; i <= Count(); ++i) {
     const Ref<CItem> item = Item(Variant(i));
     if (!item) continue;
-    ini.WriteValue(section, ItemKey(u"Value_Item_", i), item->m_Value);
-    ini.WriteValue(section, ItemKey(u"Text_Item_", i), item->m_Text);
+    section.Write(ItemKey(u"Value_Item_", i), item->m_Value);
+    section.Write(ItemKey(u"Text_Item_", i), item->m_Text);
   }
 }
 

@@ -2,9 +2,11 @@
 
 #include "cardwright/automation/Collection.h"
 #include "cardwright/model/CItem.h"
-#include "cardwright/storage/CIni.h"
 
 namespace cardwright {
+
+class SectionReader;
+class SectionWriter;
 
 /// Entries of a list control, by 1-based position or by key. A key is "Item_" and a number, which no other
 /// item gets until Clear is called.
@@ -26,9 +28,9 @@ class CItems final : public TableObject {
   std::int32_t FindValue(std::u16string_view value) const;
 
   /// Reads `ItemsNumber` and the items of a section of a form project.
-  static Ref<CItems> Read(const CIni& ini, const Text& section);
+  static Ref<CItems> Read(const SectionReader& section);
   /// Writes the items, without their number.
-  void Save(CIni& ini, const Text& section) const;
+  void Save(SectionWriter& section) const;
 
  protected:
   const MemberTable& Members() const override;

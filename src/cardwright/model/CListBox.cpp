@@ -3,6 +3,7 @@
 #include "cardwright/model/ListEntries.h"
 #include "cardwright/platform/Scale.h"
 #include "cardwright/shared/ModuleState.h"
+#include "cardwright/storage/SectionReader.h"
 
 namespace cardwright {
 namespace {
@@ -129,8 +130,8 @@ void CListBox::FinishDrawing() {
   if (Surface* surface = OwnerSurface()) FitColumn(kColumnMargin, surface->Scale());
 }
 
-void CListBox::FinishRead(const CIni& ini, const Text& sectionName) {
-  m_Items = CItems::Read(ini, sectionName);
+void CListBox::FinishRead(const SectionReader& section) {
+  m_Items = CItems::Read(section);
   if (Designer()) {
     ShowName();
   } else {

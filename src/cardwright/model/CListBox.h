@@ -26,7 +26,7 @@ class CListBox final : public Control {
 
  protected:
   bool Accepts(const Widget& widget) const override { return dynamic_cast<const ListViewWidget*>(&widget); }
-  void FinishRead(const CIni& ini, const Text& sectionName) override;
+  void FinishRead(const SectionReader& section) override;
   bool ClickSelects() const override { return false; }
   void OnItemCheck(int index) override;
 

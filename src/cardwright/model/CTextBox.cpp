@@ -44,7 +44,7 @@ void CTextBox::ChooseInputMode() {
 }
 
 // On the design surface the text cannot be edited.
-void CTextBox::FinishRead(const CIni&, const Text&) {
+void CTextBox::FinishRead(const SectionReader&) {
   if (Designer()) static_cast<TextWidget*>(Bound())->SetLocked(true);
 }
 

@@ -12,7 +12,7 @@ class CTextBox final : public TextEntry {
 
  protected:
   void ChooseInputMode() override;
-  void FinishRead(const CIni& ini, const Text& sectionName) override;
+  void FinishRead(const SectionReader& section) override;
 
  private:
   struct Tables;

@@ -5,6 +5,7 @@
 #include "cardwright/platform/Files.h"
 #include "cardwright/shared/ModuleState.h"
 #include "cardwright/shared/ScriptText.h"
+#include "cardwright/storage/ProjectWriter.h"
 
 namespace cardwright {
 namespace {
@@ -79,36 +80,44 @@ bool Control::Accepts(const Widget& widget) const {
 }
 
 bool Control::Read(const Text& filePath, const Text& sectionName) {
-  if (!m_Obj || !FileExists(filePath)) return false;
-  CIni ini;
-  ini.SetFileName(filePath);
+  const auto project = ProjectReader::Open(filePath);
+  return project && ReadFrom(project->Section(sectionName));
+}
+
+bool Control::ReadFrom(const SectionReader& section) {
+  if (!m_Obj) return false;
   Steps step;
-  for (const FileKey& key : Table().keys) step([&] { ReadKey(*this, key, ini, sectionName); });
+  for (const FileKey& key : Table().keys) step([&] { ReadKey(*this, key, section); });
   step([&] {
-    auto stored = ini.Find(sectionName, u"UserName");
+    auto stored = section.Find(u"UserName");
     m_UserName = stored ? ToText(*stored) : m_Obj->Name();
   });
   step([&] { m_Obj->SetVisible(true); });
-  step([&] { FinishRead(ini, sectionName); });
+  step([&] { FinishRead(section); });
   return step.Result();
 }
 
 bool Control::Save(const Text& filePath, const Text& sectionName) {
-  if (!Designer() || !m_Obj || !FileExists(filePath)) return false;
+  if (!FileExists(filePath)) return false;
+  ProjectWriter project = ProjectWriter::Edit(filePath);
+  SectionWriter section = project.Section(sectionName);
+  const bool isSaved = SaveTo(section);
+  project.Commit(Durability::Crash);
+  return isSaved;
+}
+
+bool Control::SaveTo(SectionWriter& section) const {
+  if (!Designer() || !m_Obj) return false;
   // What was in a frame inside a deleted frame stays among the controls; without its widget there is nothing
   // to save.
   Text name;
   if (!Attempt([&] { name = m_Obj->Name(); })) return false;
-  CIni ini;
-  ini.SetFileName(filePath);
   Steps step;
-  step([&] { ini.WriteValue(sectionName, u"Type", Table().typeText); });
-  step([&] { ini.WriteValue(sectionName, u"Name", name); });
-  step([&] { ini.WriteValue(sectionName, u"UserName", m_UserName); });
-  for (const FileKey& key : Table().keys) step([&] { WriteKey(*this, key, ini, sectionName); });
-  step([&] {
-    ini.WriteValue(sectionName, u"Container", AttemptOr(Text(), [&] { return ContainerName(*m_Obj); }));
-  });
+  step([&] { section.Write(u"Type", Table().typeText); });
+  step([&] { section.Write(u"Name", name); });
+  step([&] { section.Write(u"UserName", m_UserName); });
+  for (const FileKey& key : Table().keys) step([&] { WriteKey(*this, key, section); });
+  step([&] { section.Write(u"Container", AttemptOr(Text(), [&] { return ContainerName(*m_Obj); })); });
   return step.Result();
 }
 

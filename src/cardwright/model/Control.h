@@ -2,7 +2,6 @@
 
 #include "cardwright/model/TableControl.h"
 #include "cardwright/platform/WidgetListener.h"
-#include "cardwright/storage/CIni.h"
 
 namespace cardwright {
 
@@ -33,6 +32,8 @@ class Control : public TableControl, protected WidgetListener {
 
   bool Read(const Text& filePath, const Text& sectionName) override;
   bool Save(const Text& filePath, const Text& sectionName) override;
+  bool ReadFrom(const SectionReader& section) override;
+  bool SaveTo(SectionWriter& section) const override;
   void Refresh() override;
   /// Value of the row `Attribute`; "" in classes without that row.
   Text AttributeName() const override { return m_Attribute; }
@@ -71,7 +72,7 @@ class Control : public TableControl, protected WidgetListener {
   virtual bool Accepts(const Widget& widget) const;
   /// The class's last step of reading, when the keys of the table and the user name are read and the widget
   /// shows.
-  virtual void FinishRead(const CIni& /*ini*/, const Text& /*sectionName*/) {}
+  virtual void FinishRead(const SectionReader& /*section*/) {}
   /// Whether a click on the widget selects it on the design surface.
   virtual bool ClickSelects() const { return true; }
 

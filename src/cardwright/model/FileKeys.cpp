@@ -1,6 +1,7 @@
 #include "cardwright/model/FileKeys.h"
 
 #include "cardwright/model/CItems.h"
+#include "cardwright/storage/ProjectWriter.h"
 
 namespace cardwright {
 namespace {
@@ -8,17 +9,17 @@ namespace {
 // What stands under the key, or the fallback for a missing key; an empty value reads as Empty. Fallbacks are
 // made only when they are needed: most keys of a project are there.
 template <class Fallback>
-Variant ReadValue(const CIni& ini, const Text& section, std::u16string_view key, Fallback&& fallback) {
-  if (auto found = ini.Find(section, key)) return *found;
-  return ini.GetValue(section, key, fallback());
+Variant ReadValue(const SectionReader& section, std::u16string_view key, Fallback&& fallback) {
+  if (auto found = section.Find(key)) return *found;
+  return section.GetValue(key, fallback());
 }
 
-void ReadFont(TableControl& control, const CIni& ini, const Text& section) {
-  if (auto font = control.GetFont()) font->Assign(ReadFontKeys(font->Values(), ini, section));
+void ReadFont(TableControl& control, const SectionReader& section) {
+  if (auto font = control.GetFont()) font->Assign(ReadFontKeys(font->Values(), section));
 }
 
-void WriteFont(const TableControl& control, CIni& ini, const Text& section) {
-  if (auto font = control.GetFont()) WriteFontKeys(font->Values(), ini, section);
+void WriteFont(const TableControl& control, SectionWriter& section) {
+  if (auto font = control.GetFont()) WriteFontKeys(font->Values(), section);
 }
 
 CItems* ItemsOf(const TableControl& control, const FileKey& key) {
@@ -28,11 +29,11 @@ CItems* ItemsOf(const TableControl& control, const FileKey& key) {
 
 }  // namespace
 
-void ReadKey(TableControl& control, const FileKey& key, const CIni& ini, const Text& section) {
-  if (key.form == KeyForm::Font) return ReadFont(control, ini, section);
+void ReadKey(TableControl& control, const FileKey& key, const SectionReader& section) {
+  if (key.form == KeyForm::Font) return ReadFont(control, section);
   if (!key.field.set) return;
   const Variant stored = ReadValue(
-      ini, section, key.name, [&] { return key.fallback ? Variant(key.fallback) : key.field.get(control); });
+      section, key.name, [&] { return key.fallback ? Variant(key.fallback) : key.field.get(control); });
   switch (key.form) {
     case KeyForm::Number: return key.field.set(control, Variant(Val(ToText(stored))));
     case KeyForm::Color: return key.field.set(control, Variant(ToLong(stored)));
@@ -40,20 +41,20 @@ void ReadKey(TableControl& control, const FileKey& key, const CIni& ini, const T
   }
 }
 
-void WriteKey(const TableControl& control, const FileKey& key, CIni& ini, const Text& section) {
+void WriteKey(const TableControl& control, const FileKey& key, SectionWriter& section) {
   switch (key.form) {
-    case KeyForm::Font: return WriteFont(control, ini, section);
+    case KeyForm::Font: return WriteFont(control, section);
     case KeyForm::Items:
-      if (const CItems* items = ItemsOf(control, key)) items->Save(ini, section);
+      if (const CItems* items = ItemsOf(control, key)) items->Save(section);
       return;
-    default: return ini.WriteValue(section, key.name, key.field.get(control));
+    default: return section.Write(key.name, key.field.get(control));
   }
 }
 
-FontValues ReadFontKeys(const FontValues& current, const CIni& ini, const Text& section) {
+FontValues ReadFontKeys(const FontValues& current, const SectionReader& section) {
   FontValues font = current;
   auto read = [&](std::u16string_view key, auto& member, auto convert) {
-    Attempt([&] { member = convert(ReadValue(ini, section, key, [&] { return Variant(member); })); });
+    Attempt([&] { member = convert(ReadValue(section, key, [&] { return Variant(member); })); });
   };
   read(u"FontName", font.name, [](const Variant& value) { return ToText(value); });
   read(u"FontSize", font.size, [](const Variant& value) { return ToFontSize(Val(ToText(value))); });
@@ -64,14 +65,14 @@ FontValues ReadFontKeys(const FontValues& current, const CIni& ini, const Text& 
   return font;
 }
 
-void WriteFontKeys(const FontValues& font, CIni& ini, const Text& section) {
+void WriteFontKeys(const FontValues& font, SectionWriter& section) {
   auto flag = [](bool value) { return Variant(std::int32_t{value}); };
-  ini.WriteValue(section, u"FontName", font.name);
-  ini.WriteValue(section, u"FontSize", font.size);
-  ini.WriteValue(section, u"FontBold", flag(font.bold));
-  ini.WriteValue(section, u"FontItalic", flag(font.italic));
-  ini.WriteValue(section, u"FontUnderline", flag(font.underline));
-  ini.WriteValue(section, u"FontStrikethrough", flag(font.strikethrough));
+  section.Write(u"FontName", font.name);
+  section.Write(u"FontSize", font.size);
+  section.Write(u"FontBold", flag(font.bold));
+  section.Write(u"FontItalic", flag(font.italic));
+  section.Write(u"FontUnderline", flag(font.underline));
+  section.Write(u"FontStrikethrough", flag(font.strikethrough));
 }
 
 }  // namespace cardwright

@@ -3,6 +3,7 @@
 #include "cardwright/model/WidgetFields.h"
 #include "cardwright/shared/Lookups.h"
 #include "cardwright/shared/ModuleState.h"
+#include "cardwright/storage/SectionReader.h"
 
 namespace cardwright {
 
@@ -48,15 +49,15 @@ void HostListControl::OnClick() {
   SelectorControl::OnClick();
 }
 
-void HostListControl::FinishRead(const CIni& ini, const Text& sectionName) {
+void HostListControl::FinishRead(const SectionReader& section) {
   Attempt([&] { FillList(); });
   Attempt([&] {
-    const auto stored = ini.Find(sectionName, u"Text");
+    const auto stored = section.Find(u"Text");
     const Text wanted = stored ? ToText(*stored) : Bound()->DisplayText();
     Select(wanted);
     m_PendingText = BoundAs<HostListWidget>(*this).ListCount() == 0 ? wanted : Text();
   });
-  SelectorControl::FinishRead(ini, sectionName);
+  SelectorControl::FinishRead(section);
 }
 
 }  // namespace cardwright

@@ -25,7 +25,7 @@ class HostListControl : public SelectorControl {
 
   bool ClickSelects() const override { return false; }
   void OnClick() override;
-  void FinishRead(const CIni& ini, const Text& sectionName) override;
+  void FinishRead(const SectionReader& section) override;
 
  private:
   void Select(const Text& text);

@@ -12,6 +12,9 @@
 
 namespace cardwright {
 
+class SectionReader;
+class SectionWriter;
+
 /// The one contract through which designer, run time, property grids and scripts see every element of a form.
 /// The class itself has no behaviour: each member does nothing and returns an empty value.
 class IControl : public TableObject {
@@ -71,6 +74,12 @@ class IControl : public TableObject {
   virtual bool Read(const Text& /*filePath*/, const Text& /*sectionName*/) { return false; }
   /// Writes to a section of a form project; false outside the designer.
   virtual bool Save(const Text& /*filePath*/, const Text& /*sectionName*/) { return false; }
+
+  /// @name The same for a project that is open.
+  /// @{
+  virtual bool ReadFrom(const SectionReader& /*section*/) { return false; }
+  virtual bool SaveTo(SectionWriter& /*section*/) const { return false; }
+  /// @}
 
   /// Only stored; the owner changes the z-order of the widget.
   virtual std::int16_t ZOrder() const { return 0; }

@@ -4,7 +4,7 @@
 
 namespace cardwright {
 
-void SelectorControl::FinishRead(const CIni&, const Text&) {
+void SelectorControl::FinishRead(const SectionReader&) {
   if (Designer()) static_cast<SelectorWidget*>(Bound())->SetLocked(true);
 }
 

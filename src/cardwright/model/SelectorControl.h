@@ -11,7 +11,7 @@ class SelectorControl : public Control {
   using Control::Control;
 
   bool HasOwnMenu() const override { return true; }
-  void FinishRead(const CIni& ini, const Text& sectionName) override;
+  void FinishRead(const SectionReader& section) override;
   /// Raises PropertyChanged for the height that the widget has now, and moves the grab handles.
   void ReportHeight();
 };

@@ -28,6 +28,6 @@ void StateControl::LetSelected(TableControl& control, const Variant& value) {
   As<StateControl>(control).ApplySelected(ToText(value));
 }
 
-void StateControl::FinishRead(const CIni&, const Text&) { ApplySelected(m_Selected); }
+void StateControl::FinishRead(const SectionReader&) { ApplySelected(m_Selected); }
 
 }  // namespace cardwright

@@ -9,7 +9,7 @@ class StateControl : public Control {
  protected:
   explicit StateControl(const ClassTable& table) : Control(table) {}
 
-  void FinishRead(const CIni& ini, const Text& sectionName) override;
+  void FinishRead(const SectionReader& section) override;
   bool ClickSelects() const override { return false; }
 
   /// The bound widget; error 91 where there is none.

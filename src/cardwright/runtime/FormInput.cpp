@@ -49,76 +49,46 @@ FormInput::FormInput(Surface& surface) : m_Surface(&surface) {
 
 Ref<FormInput> FormInput::Create(Surface& surface) {
   Ref<FormInput> input(new FormInput(surface));
-  auto form = MakeRef<CForm>();
-  form->SetParentForm(input);
-  form->SetName(kFormName);
-  input->m_Controls->Add(Variant(Ref<Object>(form)), Variant(ToLower(form->UserName())));
+  input->m_Document.AddForm(input);
   return input;
 }
 
 FormInput::~FormInput() { DetachSurface(); }
 
 void FormInput::DetachSurface() {
-  for (const Ref<IControl>& control : ControlsOf(*m_Controls)) {
-    auto* table = dynamic_cast<TableControl*>(control.get());
-    if (!table) continue;
-    if (m_Surface && dynamic_cast<Control*>(table)) Attempt([&] { m_Surface->Remove(control->Name()); });
-    table->ForgetOwner();
-  }
+  m_Document.Detach(m_Surface);
   m_OkButton.reset();
   m_CancelButton.reset();
   m_Surface = nullptr;
 }
 
-Ref<IControl> FormInput::Form() const {
-  return m_Controls->Count() > 0 ? Ref<IControl>(AsControl(m_Controls->Item(Variant(1)))) : nullptr;
-}
-
 void FormInput::SetFeatureID(const Text& id) {
   const Ref<FormInput> keepAlive(this);  // a script may close the window when a value changes
   m_FeatureID = id;
-  if (CanRunScripts()) m_Binding.Load(*m_Controls, Feature());
+  if (CanRunScripts()) m_Binding.Load(Controls(), Feature());
 }
 
 bool FormInput::ProjectRead(const Text& fileName) {
   const Ref<FormInput> keepAlive(this);
-  const Ref<IControl> form = Form();
   m_ProjectFile = fileName;
-  if (!form || !form->Read(fileName, {})) return false;
+  if (!m_Document.Read(fileName)) return false;
   if (!CanRunScripts()) return true;
-  if (m_DebugMode) m_Binding.Load(*m_Controls, Feature());
+  if (m_DebugMode) m_Binding.Load(Controls(), Feature());
   RunScript(*this, Module().scriptContent, Module().scriptLanguage, m_DebugMode);
   RunFormEvent(u"Initialize");
   return true;
 }
 
 bool FormInput::ProjectSave(const Text& fileName, bool isTemporary) {
-  Module().isTemporarySave = isTemporary;
-  const bool saved = AttemptOr(false, [&] {
-    const Ref<IControl> form = Form();
-    return form && form->Save(fileName, {});
-  });
-  Module().isTemporarySave = false;
-  return saved;
+  return m_Document.Save(fileName, isTemporary);
 }
 
 void FormInput::ChangeControlName(Ref<Object> control, const Text& newName) {
   const Ref<FormInput> keepAlive(this);
-  RenameControl(*m_Controls, control, newName, [this](const Text& oldName, IControl& renamed) {
+  RenameControl(Controls(), control, newName, [this](const Text& oldName, IControl& renamed) {
     Variant args[] = {Variant(oldName), Variant(Ref<Object>(&renamed))};
     RaiseEvent(u"ControlNameChanged", args);
   });
-}
-
-Text FormInput::GetThemeName() const {
-  const Ref<IControl> form = Form();
-  return form ? ToText(form->PropertyValue(u"ThemeName")) : Text();
-}
-
-FeatureTypeEnum FormInput::GetFeatureType() const {
-  const Ref<IControl> form = Form();
-  return form ? static_cast<FeatureTypeEnum>(ToLong(form->PropertyValue(u"FeatureType")))
-              : FeatureTypeEnum::ftNone;
 }
 
 std::int32_t FormInput::WindowHandle() const { return m_Surface ? m_Surface->WindowHandle() : 0; }
@@ -139,7 +109,7 @@ void FormInput::SetCaption(const Text& caption) {
 Ref<IControl> FormInput::FirstMissing() const {
   Text value;  // kept from control to control: one of a kind that has no value of its own takes its
                // predecessor's
-  for (const Ref<IControl>& control : ControlsOf(*m_Controls)) {
+  for (const Ref<IControl>& control : ControlsOf(*ControlCollection())) {
     const bool needed =
         AttemptOr(false, [&] { return ToText(control->PropertyValue(u"IsNeeded")) == u"True"; });
     if (!needed) continue;
@@ -189,7 +159,7 @@ bool FormInput::RunOk() {
   const Running running(m_RunsOk);
   const std::optional<RedrawPause> pause = PauseRedraw(*this);
   if (!RunFormEvent(u"BeforeOkClick")) return false;
-  if (m_SetAttributesEnabled && m_Binding.Store(*m_Controls, Feature())) RunFormEvent(u"AfterSetAttributes");
+  if (m_SetAttributesEnabled && m_Binding.Store(Controls(), Feature())) RunFormEvent(u"AfterSetAttributes");
   if (AttributesWritable()) OrvClient::Shared().SelectNone(GetFeatureClass());
   return RunFormEvent(u"AfterOkClick");
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "cardwright/model/CForm.h"
+#include "cardwright/model/FormDocument.h"
 #include "cardwright/model/FormOwner.h"
 #include "cardwright/runtime/AttributeBinding.h"
 #include "cardwright/runtime/FormButton.h"
@@ -21,8 +21,8 @@ class FormInput final : public TableObject, public InputOwner {
   Text TypeName() const override { return u"FormInput"; }
 
   /// All objects of the form, the CForm first.
-  Collection& Controls() override { return *m_Controls; }
-  Ref<Collection> ControlCollection() const { return m_Controls; }
+  Collection& Controls() override { return *m_Document.Controls(); }
+  Ref<Collection> ControlCollection() const { return m_Document.Controls(); }
   bool DebugMode() const noexcept { return m_DebugMode; }
   void SetDebugMode(bool debug) noexcept { m_DebugMode = debug; }
   /// The form describes a feature that is not stored yet: its attributes are not loaded.
@@ -42,8 +42,8 @@ class FormInput final : public TableObject, public InputOwner {
   bool SetAttributesEnabled() const noexcept { return m_SetAttributesEnabled; }
   void SetSetAttributesEnabled(bool enabled) noexcept { m_SetAttributesEnabled = enabled; }
   void ChangeControlName(Ref<Object> control, const Text& newName) override;
-  Text GetThemeName() const;
-  FeatureTypeEnum GetFeatureType() const;
+  Text GetThemeName() const { return m_Document.ThemeName(); }
+  FeatureTypeEnum GetFeatureType() const { return m_Document.FeatureType(); }
   Text GetFeatureTypeString() const { return FeatureTypeText(GetFeatureType()); }
   /// Theme and feature type together.
   FeatureClass GetFeatureClass() const { return {GetThemeName(), GetFeatureType()}; }
@@ -89,11 +89,10 @@ class FormInput final : public TableObject, public InputOwner {
   /// where a script refused.
   bool RunOk();
   bool RunCancel();
-  Ref<IControl> Form() const;
   BoundFeature Feature() const { return {GetFeatureClass(), m_FeatureID, m_NewFeature, m_DebugMode}; }
 
   Surface* m_Surface;
-  Ref<Collection> m_Controls = MakeRef<Collection>();
+  FormDocument m_Document;
   bool m_DebugMode = false;
   bool m_NewFeature = false;
   Text m_ProjectFile;

@@ -8,6 +8,7 @@
 #include "cardwright/shared/OrvClient.h"
 #include "cardwright/shared/ResizeHandle.h"
 #include "cardwright/storage/ProjectFile.h"
+#include "cardwright/storage/ProjectReader.h"
 
 namespace cardwright {
 namespace {
@@ -79,7 +80,6 @@ Vellum::Vellum() {
   module.attachedEditor = nullptr;
   module.scriptControl = module.makeScriptControl ? module.makeScriptControl() : nullptr;
   module.formControlsObject = MakeRef<FormControls>();
-  module.isTemporarySave = false;
   module.decimalSeparator = FindDecimalSeparator();
 }
 

@@ -28,7 +28,6 @@ struct ModuleState {
   OleColor resizeHandleBackColor = ToOleColor(SystemColor::Highlight);
   OleColor resizeHandleBorderColor = ToOleColor(SystemColor::HighlightText);
   bool designDragging = false;
-  bool isTemporarySave = false;
   Text settingsAppName;
   Text settingsSectionEditor;
   Text settingsSectionGlobal;

@@ -12,7 +12,7 @@ class IniStore;
 
 /// Reads and writes files of INI form. Every call goes to the file as it is at that moment; nothing written
 /// by another object or program is missed. A write leaves the old file or the new one whatever ends the
-/// program, but does not wait for the disk; an IniBatch does.
+/// program, but does not wait for the disk.
 class CIni final : public TableObject {
  public:
   CIni();

@@ -89,7 +89,7 @@ void IniFile::Parse() {
 
 // From the last name to the first, so that of several of one name the first comes out on top.
 void IniFile::BuildIndex() {
-  const auto add = [](NameIndex& index, std::uint32_t hash, Id id, Id& next, auto&& isSame) {
+  const auto add = [](IniNameIndex& index, std::uint32_t hash, Id id, Id& next, auto&& isSame) {
     if (auto* slot = index.Find(hash, isSame)) {
       next = slot->id;
       index.Assign(*slot, id);
@@ -175,12 +175,12 @@ bool IniFile::IsNamed(const Line& line, const IniName& name) const noexcept {
   });
 }
 
-const NameIndex::Slot* IniFile::FindSection(const IniName& name) const noexcept {
+const IniNameIndex::Slot* IniFile::FindSection(const IniName& name) const noexcept {
   return m_SectionIndex.Find(name.Hash(IniName::kSeed),
                              [&](Id section) { return IsNamed(m_Lines[m_Sections[section].header], name); });
 }
 
-const NameIndex::Slot* IniFile::FindKey(Id section, const IniName& name) const noexcept {
+const IniNameIndex::Slot* IniFile::FindKey(Id section, const IniName& name) const noexcept {
   return m_KeyIndex.Find(name.Hash(KeySeed(section)),
                          [&](Id id) { return m_Lines[id].section == section && IsNamed(m_Lines[id], name); });
 }

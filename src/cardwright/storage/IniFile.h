@@ -9,7 +9,7 @@
 
 #include "cardwright/storage/CodePage.h"
 #include "cardwright/storage/IniName.h"
-#include "cardwright/storage/NameIndex.h"
+#include "cardwright/storage/IniNameIndex.h"
 
 namespace cardwright {
 
@@ -47,7 +47,7 @@ class IniFile {
 
  private:
   using Id = std::uint32_t;
-  static constexpr Id kNone = NameIndex::kNone;
+  static constexpr Id kNone = IniNameIndex::kNone;
 
   enum class LineKind : std::uint8_t { Header, Key, Comment, Blank, Foreign };
   struct Line {
@@ -79,8 +79,8 @@ class IniFile {
   std::uint32_t HashOf(const Line& line, std::uint32_t seed) const noexcept;
   bool AreSame(const Line& a, const Line& b) const noexcept;
   bool IsNamed(const Line& line, const IniName& name) const noexcept;
-  const NameIndex::Slot* FindSection(const IniName& name) const noexcept;
-  const NameIndex::Slot* FindKey(Id section, const IniName& name) const noexcept;
+  const IniNameIndex::Slot* FindSection(const IniName& name) const noexcept;
+  const IniNameIndex::Slot* FindKey(Id section, const IniName& name) const noexcept;
   static std::uint32_t KeySeed(Id section) noexcept;
 
   std::vector<Line> WriteLines(std::string_view text);
@@ -100,8 +100,8 @@ class IniFile {
   bool m_IsMisread = false;  // somebody who reads the bytes anew would find other lines
   std::vector<Line> m_Lines;
   std::vector<Section> m_Sections;  // in file order; the first one has no header
-  NameIndex m_SectionIndex;
-  NameIndex m_KeyIndex;
+  IniNameIndex m_SectionIndex;
+  IniNameIndex m_KeyIndex;
 };
 
 }  // namespace cardwright

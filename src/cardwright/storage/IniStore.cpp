@@ -3,6 +3,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <fstream>
 #include <map>
 #include <system_error>
 
@@ -32,22 +33,36 @@ Ref<IniStore> IniStore::Open(std::u16string_view fileName) {
   return store;
 }
 
+Ref<IniStore> IniStore::OpenOrCreate(const Text& fileName) {
+  if (Trim(fileName).empty()) return nullptr;
+  if (!FileExists(fileName)) {
+    std::ofstream created(ToPath(fileName), std::ios::app);
+    if (!created) return nullptr;
+  }
+  return Open(fileName);
+}
+
 const IniFile& IniStore::Image() {
+  Refresh();
+  return *m_Image;
+}
+
+std::shared_ptr<IniFile> IniStore::Snapshot() {
   Refresh();
   return m_Image;
 }
 
-const std::string& IniStore::Bytes() {
+bool IniStore::Change(const std::function<bool(IniFile&)>& change) {
   Refresh();
-  return m_Image.Bytes();
+  if (!IsWritable()) return false;
+  if (m_Image.use_count() > 1) m_Image = std::make_shared<IniFile>(*m_Image);  // somebody holds a snapshot
+  return !change(*m_Image) || Write(m_Image->Bytes(), Durability::Crash);
 }
 
-bool IniStore::Change(const std::function<bool(IniFile&)>& change) {
-  RefreshFromDisk();
-  if (!IsWritable()) return false;
-  if (!change(m_Image)) return true;
-  m_IsChanged = true;
-  return m_BatchDepth > 0 || Save(Durability::Crash);
+bool IniStore::Replace(std::string_view bytes, Durability durability) {
+  if (!IsWritable() || !Write(bytes, durability)) return false;
+  Forget();
+  return true;
 }
 
 bool IniStore::IsWritable() const {
@@ -57,45 +72,17 @@ bool IniStore::IsWritable() const {
   return (stamp->mode & (S_IWUSR | S_IWGRP | S_IWOTH)) != 0 && ::access(m_Path.c_str(), W_OK) == 0;
 }
 
-void IniStore::BeginBatch() {
-  if (m_BatchDepth == 0) {
-    Refresh();
-    m_WasThere = m_Stamp.has_value();
-  }
-  ++m_BatchDepth;
-}
-
-bool IniStore::CommitBatch() {
-  if (--m_BatchDepth > 0) return true;
-  return !m_IsChanged || Save(Durability::PowerLoss);
-}
-
-void IniStore::DropBatch() {
-  if (--m_BatchDepth > 0) return;
-  if (m_IsChanged) Forget();
-  // Naming the file has created it; nothing has gone into it, unless by somebody else.
+void IniStore::RemoveIfEmpty() {
   const auto stamp = FileStamp::Of(m_Path);
-  if (!m_WasThere && stamp && S_ISREG(stamp->mode) && stamp->size == 0) {
-    std::error_code ignored;
-    std::filesystem::remove(m_Path, ignored);
-  }
-}
-
-void IniStore::BeginSnapshot() {
-  Refresh();
-  ++m_SnapshotDepth;
+  if (!stamp || !S_ISREG(stamp->mode) || stamp->size != 0) return;
+  std::error_code ignored;
+  std::filesystem::remove(m_Path, ignored);
 }
 
 void IniStore::Refresh() {
-  if (m_SnapshotDepth == 0 || !m_IsLoaded) RefreshFromDisk();
-}
-
-void IniStore::RefreshFromDisk() {
-  if (m_BatchDepth == 0) {
-    const auto stamp = FileStamp::Of(m_Path);
-    if (!m_IsLoaded || stamp != m_Stamp || (stamp && !m_IsSettled)) Load();
-  }
-  if (&m_Image.Page() != &CodePage::Current()) m_Image = IniFile(m_Image.Bytes());
+  const auto stamp = FileStamp::Of(m_Path);
+  if (!m_IsLoaded || stamp != m_Stamp || (stamp && !m_IsSettled)) Load();
+  if (&m_Image->Page() != &CodePage::Current()) m_Image = std::make_shared<IniFile>(m_Image->Bytes());
 }
 
 // The stamp is taken before the bytes: should the file change in between, the next stamp differs from it, as
@@ -107,13 +94,12 @@ void IniStore::Load() {
   std::optional<std::string> bytes;
   if (m_Stamp && S_ISREG(m_Stamp->mode)) bytes = ReadFile(m_Path);
   if (!bytes) bytes.emplace();
-  if (!m_IsLoaded || *bytes != m_Image.Bytes()) m_Image = IniFile(std::move(*bytes));
+  if (!m_IsLoaded || *bytes != m_Image->Bytes()) m_Image = std::make_shared<IniFile>(std::move(*bytes));
   m_IsLoaded = true;
 }
 
-bool IniStore::Save(Durability durability) {
-  m_IsChanged = false;
-  if (!IsWritable() || !ReplaceFile(m_Path, m_Image.Bytes(), durability)) {
+bool IniStore::Write(std::string_view bytes, Durability durability) {
+  if (!IsWritable() || !ReplaceFile(m_Path, bytes, durability)) {
     Forget();
     return false;
   }
@@ -124,8 +110,7 @@ bool IniStore::Save(Durability durability) {
 
 void IniStore::Forget() {
   m_IsLoaded = false;
-  m_IsChanged = false;
-  m_Image = IniFile();
+  m_Image = std::make_shared<IniFile>();
 }
 
 }  // namespace cardwright

@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <functional>
+#include <memory>
 #include <optional>
 #include <string_view>
 
@@ -19,52 +20,38 @@ class IniStore final : public RefCounted {
   /// The calling thread's store of a file; none where the text names no path.
   static Ref<IniStore> Open(std::u16string_view fileName);
 
+  /// The same; the file is created empty where it is missing. None for a blank name, or where no file can be
+  /// created.
+  static Ref<IniStore> OpenOrCreate(const Text& fileName);
+
   explicit IniStore(std::filesystem::path path) : m_Path(std::move(path)) {}
 
-  /// What the file holds now; an empty image for a file that is not there or cannot be read.
+  /// What the file holds now; an empty image for a file that is not there or cannot be read. Valid until the
+  /// next call.
   const IniFile& Image();
-  /// The whole file as it is now. Valid until the next call.
-  const std::string& Bytes();
-  /// Runs `change` on the image and, where it answers true, puts the result in the file's place in one step,
-  /// without a wait for the disk, or leaves that to the batch that is open. False, with the file as it was,
-  /// where the file is missing, is read-only or cannot be replaced.
+  /// The same for longer: it does not follow later changes, and the store leaves it alone. Not to be changed.
+  std::shared_ptr<IniFile> Snapshot();
+  /// Runs `change` on the image and, where it answers true, puts the result in the file's place in one step.
+  /// False, with the file as it was, where the file is missing, is read-only or cannot be replaced.
   bool Change(const std::function<bool(IniFile&)>& change);
+  /// Puts the bytes in the file's place in one step; false as for Change.
+  bool Replace(std::string_view bytes, Durability durability);
   /// True where the file is there and carries no read-only attribute.
   bool IsWritable() const;
-
-  /// @name Batch: between the outermost begin and end the image stays in memory and the disk is left alone.
-  /// @{
-  void BeginBatch();
-  /// Ends a batch; the outermost one writes the file where anything has changed, and waits until the disk has
-  /// it. False where it could not.
-  bool CommitBatch();
-  /// Ends a batch; the outermost one forgets what was changed.
-  void DropBatch();
-  /// @}
-
-  /// @name Snapshot: between begin and end questions are answered from the image of the begin. A change is
-  /// made to the file as it is by then, and shows.
-  /// @{
-  void BeginSnapshot();
-  void EndSnapshot() { --m_SnapshotDepth; }
-  /// @}
+  /// Removes the file where it is there and holds nothing.
+  void RemoveIfEmpty();
 
  private:
   void Refresh();
-  void RefreshFromDisk();
   void Load();
-  bool Save(Durability durability);
+  bool Write(std::string_view bytes, Durability durability);
   void Forget();
 
   std::filesystem::path m_Path;
-  IniFile m_Image;
+  std::shared_ptr<IniFile> m_Image = std::make_shared<IniFile>();
   bool m_IsLoaded = false;
   std::optional<FileStamp> m_Stamp;  // of the file that the image shows; none for a missing file
   bool m_IsSettled = false;          // a later change cannot leave the same stamp
-  int m_BatchDepth = 0;
-  int m_SnapshotDepth = 0;
-  bool m_IsChanged = false;  // the image holds what the disk does not
-  bool m_WasThere = false;   // at the begin of the batch
 };
 
 }  // namespace cardwright

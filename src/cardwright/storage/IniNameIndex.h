@@ -7,7 +7,7 @@
 namespace cardwright {
 
 /// Open addressing from the hash of a name to a number. Whether two names are the same is the caller's word.
-class NameIndex {
+class IniNameIndex {
  public:
   static constexpr std::uint32_t kNone = 0xFFFFFFFF;
 
