@@ -13,7 +13,7 @@
 #include "cardwright/shared/Messages.h"
 #include "cardwright/shared/ModuleState.h"
 #include "cardwright/storage/CodePage.h"
-#include "cardwright/storage/ProjectFile.h"
+#include "cardwright/storage/ProjectReader.h"
 
 namespace cardwright {
 

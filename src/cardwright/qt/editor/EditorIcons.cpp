@@ -60,7 +60,7 @@ void Sliders(const IconInk& ink) {
   constexpr qreal kKnobs[] = {10.5, 5.5, 9};
   for (const qreal y : kRows) ink.painter.drawLine(QPointF(2.5, y), QPointF(13.5, y));
   ink.Accent();
-  ink.painter.setBrush(ink.ground);
+  ink.painter.setBrush(ink.background);
   for (int i = 0; i < 3; ++i) ink.painter.drawEllipse(QPointF(kKnobs[i], kRows[i]), 1.8, 1.8);
 }
 
