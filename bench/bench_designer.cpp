@@ -14,7 +14,7 @@
 #include "cardwright/qt/FormInput.h"
 #include "cardwright/qt/Library.h"
 #include "cardwright/qt/surface/QtDesignSurface.h"
-#include "cardwright/robot/PlatformInput.h"
+#include "cardwright/robot/input/PlatformInput.h"
 
 namespace {
 

@@ -1,7 +1,9 @@
 #include "cardwright/qt/widgets/QtPictureBox.h"
 
 #include <QApplication>
+#include <QPaintEvent>
 #include <QPainter>
+#include <QWidget>
 #include <cmath>
 #include <utility>
 

@@ -3,6 +3,7 @@
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QWidget>
 
 #include "cardwright/qt/values/Keys.h"
 #include "cardwright/qt/widgets/WidgetCore.h"
