@@ -1,6 +1,6 @@
 // One control and its section of a project.
 
-#include "cardwright/model/Steps.h"
+#include "cardwright/model/BestEffort.h"
 #include "model/Forms.h"
 #include "storage/TempFolder.h"
 
@@ -101,8 +101,8 @@ TEST(Read, AcceptsKeysInAnyOrderAndCase) {
   EXPECT_EQ(box->Left(), 1.5F);
 }
 
-TEST(Steps, FailsOnlyIfTheLastErrorIsMinusOne) {
-  Steps step;
+TEST(BestEffort, FailsOnlyIfTheLastErrorIsMinusOne) {
+  BestEffort step;
   int run = 0;
   step([&] { Raise(ErrorNumber::TypeMismatch); });
   step([&] { ++run; });

@@ -1,11 +1,11 @@
-// The form's road to and from its project file.
+// Reads and saves the project of a form.
 
 #include <filesystem>
 
+#include "cardwright/model/BestEffort.h"
 #include "cardwright/model/CForm.h"
 #include "cardwright/model/ControlClasses.h"
 #include "cardwright/model/FileKeys.h"
-#include "cardwright/model/Steps.h"
 #include "cardwright/platform/Files.h"
 #include "cardwright/shared/ModuleState.h"
 #include "cardwright/shared/OrvClient.h"
@@ -42,13 +42,13 @@ bool CForm::Read(const Text& filePath, const Text&) {
   if (!project) return false;
   Module().scriptContent = Text();
   Module().scriptLanguage = Text();
-  Steps step;
+  BestEffort step;
   ReadProject(*project, step);
   step([&] { FinishRead(); });
   return step.Result();
 }
 
-void CForm::ReadProject(const ProjectReader& project, Steps& step) {
+void CForm::ReadProject(const ProjectReader& project, BestEffort& step) {
   const SectionReader form = project.Section(kForm);
   step([&] { Module().formScaleMode = ScaleMode::Twips; });
   step([&] {
@@ -73,7 +73,7 @@ void CForm::ReadProject(const ProjectReader& project, Steps& step) {
 }
 
 void CForm::ReadAppearance(const SectionReader& form) {
-  Steps step;
+  BestEffort step;
   Surface& surface = Canvas();
   if (Designer()) {
     step([&] { Designer()->ApplyScaleAndGrid(); });
@@ -164,7 +164,7 @@ void CForm::FinishRead() {
 bool CForm::SaveProject(const Text& filePath, bool isTemporary) {
   const Text folder = GetParentFolderName(filePath);
   if (!Owner() || (!folder.IsEmpty() && !FolderExists(folder))) return false;
-  Steps step;
+  BestEffort step;
   step([&] {
     if (Elements().Count() <= 1) {
       std::error_code ignored;
@@ -179,7 +179,7 @@ bool CForm::SaveProject(const Text& filePath, bool isTemporary) {
 }
 
 void CForm::WriteProject(ProjectWriter& project) const {
-  Steps step;
+  BestEffort step;
   SectionWriter form = project.Section(kForm);
   step([&] { WriteSettings(form); });
   if (Designer()) step([&] { project.WriteImage(m_Image.get()); });
@@ -196,7 +196,7 @@ void CForm::WriteProject(ProjectWriter& project) const {
 }
 
 void CForm::WriteSettings(SectionWriter& form) const {
-  Steps step;
+  BestEffort step;
   const Surface& surface = Canvas();
   step([&] { form.Write(u"ScaleMode", Variant(static_cast<std::int32_t>(Module().formScaleMode))); });
   step([&] { form.Write(u"BackColor", Variant(surface.BackColor())); });

@@ -1,7 +1,7 @@
 #include "cardwright/model/Control.h"
 
+#include "cardwright/model/BestEffort.h"
 #include "cardwright/model/FileKeys.h"
-#include "cardwright/model/Steps.h"
 #include "cardwright/platform/Files.h"
 #include "cardwright/shared/ModuleState.h"
 #include "cardwright/shared/ScriptText.h"
@@ -86,7 +86,7 @@ bool Control::Read(const Text& filePath, const Text& sectionName) {
 
 bool Control::ReadFrom(const SectionReader& section) {
   if (!m_Obj) return false;
-  Steps step;
+  BestEffort step;
   for (const FileKey& key : Table().keys) step([&] { ReadKey(*this, key, section); });
   step([&] {
     auto stored = section.Find(u"UserName");
@@ -112,7 +112,7 @@ bool Control::SaveTo(SectionWriter& section) const {
   // to save.
   Text name;
   if (!Attempt([&] { name = m_Obj->Name(); })) return false;
-  Steps step;
+  BestEffort step;
   step([&] { section.Write(u"Type", Table().typeText); });
   step([&] { section.Write(u"Name", name); });
   step([&] { section.Write(u"UserName", m_UserName); });

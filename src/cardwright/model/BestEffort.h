@@ -4,9 +4,8 @@
 
 namespace cardwright {
 
-/// Runs the steps of a routine that carries on past failures: each step stands for itself, a numbered error
-/// ends only its own step.
-class Steps {
+/// Runs the steps of a routine that continues after failures: a numbered error ends only its own step.
+class BestEffort {
  public:
   template <class Step>
   void operator()(Step&& step) {
@@ -17,8 +16,8 @@ class Steps {
     }
   }
 
-  /// False only where the last failure had the number -1. Form projects depend on the lenience: a control
-  /// that read partly is accepted by the loader.
+  /// False only if the last error had the number -1. Form projects depend on it: a control that was read in
+  /// part is accepted.
   bool Result() const noexcept { return m_LastFailure != -1; }
 
  private:
