@@ -46,12 +46,12 @@ set(CARDWRIGHT_INSTALLED_vbscript Engine.h)
 set(CARDWRIGHT_INSTALLED_jscript Engine.h)
 set(CARDWRIGHT_INSTALLED_hosting ClassRegistry.h FormScripts.h)
 set(CARDWRIGHT_INSTALLED_orv EmbeddedHost.h)
-set(CARDWRIGHT_INSTALLED_model CForm.h ClassTable.h Control.h Enums.h FormDocument.h FormOwner.h IControl.h TableControl.h)
-set(CARDWRIGHT_INSTALLED_designer DesignClipboard.h DesignGrid.h DesignMenu.h FormDesigner.h GrabHandles.h OuterSize.h
-    Placement.h Placer.h Selection.h StackOrder.h)
-set(CARDWRIGHT_INSTALLED_runtime AttributeBinding.h CAttrib.h FormButton.h FormInput.h Vellum.h)
+set(CARDWRIGHT_INSTALLED_model CForm.h ClassTable.h Enums.h FormDocument.h FormOwner.h IControl.h TableControl.h)
+set(CARDWRIGHT_INSTALLED_designer FormDesigner.h HandleListener.h Placement.h)
+set(CARDWRIGHT_INSTALLED_runtime FormInput.h Vellum.h)
 set(CARDWRIGHT_INSTALLED_editor OrvEditor.h)
-set(CARDWRIGHT_INSTALLED_qt FormDesigner.h FormInput.h Library.h OrvEditor.h VisualControl.h desktop/QtDesktop.h values/QtText.h)
+set(CARDWRIGHT_INSTALLED_qt FormDesigner.h FormInput.h Library.h OrvEditor.h VisualControl.h desktop/QtDesktop.h
+    values/QtText.h)
 
 # GCC 12 takes the library's list of roots on the stack for pointers left dangling.
 set(CARDWRIGHT_OPTIONS_jscript $<$<CXX_COMPILER_ID:GNU>:-Wno-dangling-pointer>)

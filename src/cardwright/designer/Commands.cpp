@@ -1,18 +1,22 @@
 // The commands on the selected control.
 
+#include "cardwright/designer/DesignClipboard.h"
+#include "cardwright/designer/DesignMenu.h"
 #include "cardwright/designer/FormDesigner.h"
+#include "cardwright/designer/Selection.h"
+#include "cardwright/designer/StackOrder.h"
 #include "cardwright/model/ControlClasses.h"
 
 namespace cardwright {
 
 void FormDesigner::Copy() {
   const Ref<FormDesigner> keepAlive(this);
-  const Ref<IControl> control = m_Selection.Current();
+  const Ref<IControl> control = m_Selection->Current();
   if (!control || IsForm(*control)) return;
   const Ref<Widget> widget = BoundWidget(*control);
   if (!widget) return;
-  m_Clipboard.Copy(*control, *widget);
-  SetMenuState(u"mnuPaste", !m_Clipboard.IsEmpty());
+  m_Clipboard->Copy(*control, *widget);
+  SetMenuState(u"mnuPaste", !m_Clipboard->IsEmpty());
 }
 
 void FormDesigner::Cut() {
@@ -22,9 +26,9 @@ void FormDesigner::Cut() {
 }
 
 void FormDesigner::Paste() {
-  if (m_Clipboard.IsEmpty()) return;
-  const DesignClipboard source = m_Clipboard;  // a handler may copy something else meanwhile
-  const Ref<IControl> selected = m_Selection.Current();
+  if (m_Clipboard->IsEmpty()) return;
+  const DesignClipboard source = *m_Clipboard;  // a handler may copy something else meanwhile
+  const Ref<IControl> selected = m_Selection->Current();
   const bool isContainer = selected && ClassOf(*selected).design.isContainer;
   Place({.type = source.Type(),
          .rectangle = {},
@@ -33,14 +37,14 @@ void FormDesigner::Paste() {
 }
 
 void FormDesigner::TakeClipboard(const FormDesigner& other) {
-  m_Clipboard = other.m_Clipboard;
-  SetMenuState(u"mnuPaste", !m_Clipboard.IsEmpty());
+  *m_Clipboard = *other.m_Clipboard;
+  SetMenuState(u"mnuPaste", !m_Clipboard->IsEmpty());
 }
 
 // Hosts know a deleted control by its widget's name: ObjectRemoved has that one, not the user name.
 void FormDesigner::Delete() {
   const Ref<FormDesigner> keepAlive(this);
-  const Ref<IControl> control = m_Selection.Current();
+  const Ref<IControl> control = m_Selection->Current();
   if (!control || IsForm(*control)) return;
   const Text name = AttemptOr(Text(), [&] { return control->Name(); });
   const Ref<IControl> form = Form();
@@ -48,9 +52,9 @@ void FormDesigner::Delete() {
   const Ref<Widget> widget = BoundWidget(*control);
   if (widget && ClassOf(*control).design.isContainer) RemoveChildren(*widget);
   RemoveFromLists(*control);
-  m_Selection.ReleaseHandles();
+  m_Selection->ReleaseHandles();
   Attempt([&] { Canvas().Remove(name); });
-  m_Selection.Store(nullptr);
+  m_Selection->Store(nullptr);
   Attempt([&] {
     Variant removed(name);
     Variant args[] = {Variant::ByRef(removed)};
@@ -69,7 +73,7 @@ void FormDesigner::RemoveFromLists(const IControl& control) {
     const Text key = ToLower(control.UserName());
     if (FindControl(Controls(), key) == &control) Controls().Remove(Variant(key));
   });
-  Attempt([&] { m_StackOrder.Remove(control); });
+  Attempt([&] { m_StackOrder->Remove(control); });
 }
 
 // One level only: a control in a frame inside the frame loses its widget and stays in the lists, and a
@@ -95,18 +99,18 @@ void FormDesigner::SetBackground() {
 }
 
 void FormDesigner::Restack(StackPosition position) {
-  const Ref<IControl> control = m_Selection.Current();
-  if (m_Selection.IsLocked() || !control) return;
-  m_StackOrder.Restack(control, position);
-  if (position == StackPosition::Front) m_Selection.RaiseMoveHandle();
+  const Ref<IControl> control = m_Selection->Current();
+  if (m_Selection->IsLocked() || !control) return;
+  m_StackOrder->Restack(control, position);
+  if (position == StackPosition::Front) m_Selection->RaiseMoveHandle();
 }
 
 void FormDesigner::LockUnlock() {
   const Ref<FormDesigner> keepAlive(this);
   if (Controls().Count() <= 1) return ShowHandles(false);
-  const bool locks = !m_Selection.IsLocked();
-  m_Menu.Lock().m_Checked = locks;
-  m_Selection.SetLocked(locks);
+  const bool locks = !m_Selection->IsLocked();
+  m_Menu->Lock().m_Checked = locks;
+  m_Selection->SetLocked(locks);
   SetMenuState(u"mnuForeground", !locks);
   SetMenuState(u"mnuBackground", !locks);
   ShowHandles(true);
@@ -122,13 +126,13 @@ void FormDesigner::CenterTop() { Center(&IControl::SetTop, &IControl::Height, &F
 void FormDesigner::Center(void (IControl::*set)(float), float (IControl::*size)() const,
                           float FormExtent::*room) {
   const Ref<FormDesigner> keepAlive(this);
-  const Ref<IControl> control = m_Selection.Current();
+  const Ref<IControl> control = m_Selection->Current();
   if (!dynamic_cast<Control*>(control.get())) return;
   const Ref<Widget> widget = BoundWidget(*control);
   if (!widget) Raise(ErrorNumber::ObjectNotSet);
   const FormExtent extent = RoomIn(widget->Container().get(), Canvas());
   (control.get()->*set)((extent.*room - (control.get()->*size)()) / 2);
-  ShowHandles(m_Selection.AreHandlesShown());
+  ShowHandles(m_Selection->AreHandlesShown());
 }
 
 }  // namespace cardwright

@@ -1,5 +1,13 @@
 #include "cardwright/designer/FormDesigner.h"
 
+#include "cardwright/designer/DesignClipboard.h"
+#include "cardwright/designer/DesignGrid.h"
+#include "cardwright/designer/DesignMenu.h"
+#include "cardwright/designer/OuterSize.h"
+#include "cardwright/designer/Placer.h"
+#include "cardwright/designer/Selection.h"
+#include "cardwright/designer/StackOrder.h"
+#include "cardwright/model/CForm.h"
 #include "cardwright/model/ControlClasses.h"
 #include "cardwright/model/Rename.h"
 #include "cardwright/shared/ModuleState.h"
@@ -72,7 +80,15 @@ const MemberTable& FormDesigner::Members() const {
 }
 
 FormDesigner::FormDesigner(DesignSurface& surface)
-    : m_Surface(&Prepared(surface)), m_Selection(surface, *this, Module().resizeHandleDims) {}
+    : m_Surface(&Prepared(surface)),
+      m_Selection(std::make_unique<Selection>(surface, static_cast<HandleListener&>(*this),
+                                              Module().resizeHandleDims)),
+      m_StackOrder(std::make_unique<StackOrder>()),
+      m_Placer(std::make_unique<Placer>(*this, *m_Selection)),
+      m_Clipboard(std::make_unique<DesignClipboard>()),
+      m_Menu(std::make_unique<DesignMenu>()),
+      m_Grid(std::make_unique<DesignGrid>()),
+      m_OuterSize(std::make_unique<OuterSize>()) {}
 
 Ref<FormDesigner> FormDesigner::Create(DesignSurface& surface) {
   Ref<FormDesigner> designer(new FormDesigner(surface));
@@ -88,15 +104,22 @@ FormDesigner::~FormDesigner() { DetachSurface(); }
 
 void FormDesigner::DetachSurface() {
   m_Document.Detach(m_Surface);
-  m_Selection.Detach();
+  m_Selection->Detach();
   if (m_Surface) {
     Attempt([&] { m_Surface->SetListener(nullptr); });
     Attempt([&] { m_Surface->SetScreenPointer(PointerShape::Default); });  // in the middle of a paste
   }
   m_Surface = nullptr;
   m_Document.Clear();
-  m_StackOrder.Clear();
+  m_StackOrder->Clear();
 }
+
+Ref<IControl> FormDesigner::CurrentControl() const { return m_Selection->Current(); }
+void FormDesigner::ShowHandles(bool show) { m_Selection->ShowHandles(show); }
+
+std::vector<Ref<IControl>> FormDesigner::ZList() const { return m_StackOrder->Controls(); }
+void FormDesigner::ResetZList() { m_StackOrder->Clear(); }
+void FormDesigner::AppendToZList(Ref<IControl> control) { m_StackOrder->Append(control); }
 
 DesignSurface& FormDesigner::Canvas() const {
   if (!m_Surface) Raise(ErrorNumber::ObjectNotSet);
@@ -119,13 +142,13 @@ bool FormDesigner::IsAlive(const IControl& control) const {
 void FormDesigner::SetCtrl(Ref<IControl> control) {
   if (!control) Raise(ErrorNumber::ObjectNotSet);
   const Ref<FormDesigner> keepAlive(this);
-  if (control != m_Selection.Current()) {
+  if (control != m_Selection->Current()) {
     Variant selected{Ref<Object>(control)};
     Variant args[] = {Variant::ByRef(selected)};
     RaiseEvent(u"CurrObjectChanged", args);
   }
   if (IsForm(*control)) SetControlTypeToAdd(ControlTypeEnum::ctDefault);
-  m_Selection.Select(control);
+  m_Selection->Select(control);
 }
 
 void FormDesigner::SetControlTypeToAdd(ControlTypeEnum type) {

@@ -1,21 +1,26 @@
 #pragma once
 
+#include <memory>
 #include <optional>
 
-#include "cardwright/designer/DesignClipboard.h"
-#include "cardwright/designer/DesignGrid.h"
-#include "cardwright/designer/DesignMenu.h"
-#include "cardwright/designer/OuterSize.h"
-#include "cardwright/designer/Placer.h"
-#include "cardwright/designer/Selection.h"
-#include "cardwright/designer/StackOrder.h"
+#include "cardwright/designer/HandleListener.h"
+#include "cardwright/designer/Placement.h"
 #include "cardwright/model/FormDocument.h"
 #include "cardwright/model/FormOwner.h"
+#include "cardwright/platform/DesignSurface.h"
 #include "cardwright/platform/PropertyBag.h"
 
 namespace cardwright {
 
+class DesignClipboard;
+class DesignGrid;
+class DesignMenu;
 class DesignTool;
+class OuterSize;
+class Placer;
+class Selection;
+class StackOrder;
+enum class DesignCommand;
 
 /// The surface on which an author draws a form. It owns the form's objects and selects, moves, resizes, adds,
 /// renames and deletes them. At most one control is selected, and nothing can be undone.
@@ -86,7 +91,7 @@ class FormDesigner final : public TableObject,
 
   Collection& Controls() override { return *m_Document.Controls(); }
   Ref<Collection> ControlCollection() const { return m_Document.Controls(); }
-  Ref<IControl> CurrentControl() const override { return m_Selection.Current(); }
+  Ref<IControl> CurrentControl() const override;
   /// The class of control that the next press on the surface draws; a number that names none is ignored.
   ControlTypeEnum ControlTypeToAdd() const override { return m_TypeToAdd; }
   void SetControlTypeToAdd(ControlTypeEnum type);
@@ -126,11 +131,11 @@ class FormDesigner final : public TableObject,
   /// @name For the elements of the form
   /// @{
   DesignSurface* GetSurface() override { return m_Surface; }
-  float OuterWidth() const override { return m_Surface ? OuterSize::Of(*m_Surface).width : 0; }
-  float OuterHeight() const override { return m_Surface ? OuterSize::Of(*m_Surface).height : 0; }
+  float OuterWidth() const override;
+  float OuterHeight() const override;
   void SetOuterSize(float width, float height) override;
   void ShowArrowPointer() override;
-  void ShowHandles(bool show) override { m_Selection.ShowHandles(show); }
+  void ShowHandles(bool show) override;
   void OpenControlMenu(IControl& control) override;
   void FrameMouseDown(IControl& frame, int button, int shift, float x, float y) override;
   void FrameMouseMove(int button, int shift, float x, float y) override { OnMouseMove(button, shift, x, y); }
@@ -138,9 +143,9 @@ class FormDesigner final : public TableObject,
   void SuspendEvents(bool suspend) override { m_AreEventsSuspended = suspend; }
   void ApplyScaleAndGrid() override;
   void RepaintGrid() override { SetGrid({}, true); }
-  std::vector<Ref<IControl>> ZList() const override { return m_StackOrder.Controls(); }
-  void ResetZList() override { m_StackOrder.Clear(); }
-  void AppendToZList(Ref<IControl> control) override { m_StackOrder.Append(control); }
+  std::vector<Ref<IControl>> ZList() const override;
+  void ResetZList() override;
+  void AppendToZList(Ref<IControl> control) override;
   void RaisePropertyChanged(int propertyIndex, const Variant& value) override;
   void RaiseRefreshPropertyList() override { RaiseEvent(u"RefreshPropertyList"); }
   void RaiseAttribsList(std::vector<Text> names) override;
@@ -188,14 +193,14 @@ class FormDesigner final : public TableObject,
 
   DesignSurface* m_Surface;  // null once it has ended
   FormDocument m_Document;
-  Selection m_Selection;
-  StackOrder m_StackOrder;
-  Placer m_Placer{*this, m_Selection};
+  const std::unique_ptr<Selection> m_Selection;
+  const std::unique_ptr<StackOrder> m_StackOrder;
+  const std::unique_ptr<Placer> m_Placer;
+  const std::unique_ptr<DesignClipboard> m_Clipboard;
+  const std::unique_ptr<DesignMenu> m_Menu;
+  const std::unique_ptr<DesignGrid> m_Grid;
+  const std::unique_ptr<OuterSize> m_OuterSize;
   DesignTool* m_Tool = nullptr;  // in use; null while the mouse is not followed
-  DesignClipboard m_Clipboard;
-  DesignMenu m_Menu;
-  DesignGrid m_Grid;
-  OuterSize m_OuterSize;
 
   ControlTypeEnum m_TypeToAdd = ControlTypeEnum::ctDefault;
   FormPoint m_PressedAt;

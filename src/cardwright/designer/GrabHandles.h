@@ -3,6 +3,7 @@
 #include <array>
 #include <cstddef>
 
+#include "cardwright/designer/HandleListener.h"
 #include "cardwright/platform/DesignSurface.h"
 
 namespace cardwright {
@@ -23,16 +24,6 @@ std::array<HandlePosition, kHandleCount> HandlePositions(float left, float top, 
                                                          float handleWidth, float handleHeight) noexcept;
 /// Pointer that shows the direction of a handle.
 PointerShape HandlePointer(int index) noexcept;
-
-/// Receives the mouse events of the handles, which count from 0.
-class HandleListener {
- public:
-  virtual void OnHandleDown(int index, int button) = 0;
-  virtual void OnHandleMove(int index) = 0;
-
- protected:
-  ~HandleListener() = default;
-};
 
 /// The nine grab handles of the selected control.
 class GrabHandles {

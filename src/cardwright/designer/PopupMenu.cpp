@@ -1,12 +1,15 @@
 // The popup menu of the bare surface and of a control.
 
+#include "cardwright/designer/DesignMenu.h"
 #include "cardwright/designer/FormDesigner.h"
+#include "cardwright/designer/Selection.h"
+#include "cardwright/model/Control.h"
 
 namespace cardwright {
 
 void FormDesigner::SetMenuState(const Text& menuName, bool state) {
   const Ref<FormDesigner> keepAlive(this);
-  const Ref<MenuItem> item(m_Menu.FindNamed(menuName));
+  const Ref<MenuItem> item(m_Menu->FindNamed(menuName));
   if (!item) return;
   item->m_Enabled = state;
   Variant args[] = {Variant(item->m_Name), Variant(state)};
@@ -20,17 +23,17 @@ void FormDesigner::OpenSurfaceMenu() {
   ShowHandles(false);
   SetMenuState(u"mnuCopy", false);
   SetMenuState(u"mnuCut", false);
-  m_Menu.ShowControlItems(false);
+  m_Menu->ShowControlItems(false);
   Attempt([&] { ShowMenu(); });
   SetMenuState(u"mnuCopy", true);
   SetMenuState(u"mnuCut", true);
-  m_Menu.ShowControlItems(true);
+  m_Menu->ShowControlItems(true);
 }
 
 void FormDesigner::OpenControlMenu(IControl&) {
   const Ref<FormDesigner> keepAlive(this);
   if (m_Tool) return;
-  const bool locked = m_Selection.IsLocked();
+  const bool locked = m_Selection->IsLocked();
   if (locked) {
     SetMenuState(u"mnuForeground", false);
     SetMenuState(u"mnuBackground", false);
@@ -43,9 +46,9 @@ void FormDesigner::OpenControlMenu(IControl&) {
 
 // The chosen command runs before the entries are restored, as with menus of the platform.
 void FormDesigner::ShowMenu() {
-  const std::vector<Ref<MenuItem>> items = m_Menu.Items();
+  const std::vector<Ref<MenuItem>> items = m_Menu->Items();
   const Text chosen = Canvas().ShowPopupMenu(items);
-  const MenuItem* item = m_Menu.Find(chosen);
+  const MenuItem* item = m_Menu->Find(chosen);
   const auto command = DesignMenu::CommandOf(chosen);
   if (m_Surface && command && item->m_Enabled && item->m_Visible) Run(*command);
 }

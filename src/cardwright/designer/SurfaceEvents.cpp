@@ -1,9 +1,14 @@
 // What mouse, keys and resizes do on the surface.
 
+#include "cardwright/designer/DesignGrid.h"
 #include "cardwright/designer/DragTool.h"
 #include "cardwright/designer/DrawTool.h"
 #include "cardwright/designer/FormDesigner.h"
+#include "cardwright/designer/GrabHandles.h"
+#include "cardwright/designer/OuterSize.h"
+#include "cardwright/designer/Placer.h"
 #include "cardwright/designer/RedrawLock.h"
+#include "cardwright/designer/Selection.h"
 #include "cardwright/model/CForm.h"
 #include "cardwright/shared/ModuleState.h"
 
@@ -43,7 +48,7 @@ void FormDesigner::Draw(Ref<Widget> container) {
   std::optional<Placement> drawn;
   m_AreEventsSuspended = false;  // as by a click
   {
-    DrawTool tool(*this, m_Selection, m_Tool, std::move(container));
+    DrawTool tool(*this, *m_Selection, m_Tool, std::move(container));
     drawn = tool.Run();
   }
   if (drawn) Place(*drawn);
@@ -68,8 +73,8 @@ void FormDesigner::Place(const Placement& placement) {
   m_TypeToAdd = placement.type;
   if (IsBusy()) return;
   const RedrawLock lock(m_Surface);
-  if (IsAdding() && !m_Placer.Place(placement)) return;
-  if (!m_Surface) m_Selection.Store(nullptr);  // a handler has ended it, and the designer is an empty one
+  if (IsAdding() && !m_Placer->Place(placement)) return;
+  if (!m_Surface) m_Selection->Store(nullptr);  // a handler has ended it, and the designer is an empty one
   EndAdding();
 }
 
@@ -95,21 +100,24 @@ void FormDesigner::OnKeyDown(int& keyCode, int&) {
 
 // While a control is being added, the handles of another do nothing.
 void FormDesigner::OnHandleDown(int index, int button) {
-  if (m_Tool || button != MouseButton::Left || m_Selection.IsLocked() || IsAdding()) return;
-  const Ref<IControl> control = m_Selection.Current();
+  if (m_Tool || button != MouseButton::Left || m_Selection->IsLocked() || IsAdding()) return;
+  const Ref<IControl> control = m_Selection->Current();
   if (!control || !IsAlive(*control)) return;
   const Ref<FormDesigner> keepAlive(this);
   m_AreEventsSuspended = false;  // as by a click
-  DragTool tool(*this, m_Selection, m_Tool, control, static_cast<DragMode>(index));
+  DragTool tool(*this, *m_Selection, m_Tool, control, static_cast<DragMode>(index));
   tool.Run();
 }
 
 void FormDesigner::OnHandleMove(int index) {
-  Canvas().SetPointer(m_Selection.IsLocked() ? PointerShape::Arrow : HandlePointer(index));
+  Canvas().SetPointer(m_Selection->IsLocked() ? PointerShape::Arrow : HandlePointer(index));
 }
 
+float FormDesigner::OuterWidth() const { return m_Surface ? OuterSize::Of(*m_Surface).width : 0; }
+float FormDesigner::OuterHeight() const { return m_Surface ? OuterSize::Of(*m_Surface).height : 0; }
+
 void FormDesigner::SetOuterSize(float width, float height) {
-  if (m_Surface) m_OuterSize.Set({width, height}, *m_Surface);
+  if (m_Surface) m_OuterSize->Set({width, height}, *m_Surface);
 }
 
 void FormDesigner::UserControl_Resize() {
@@ -117,7 +125,7 @@ void FormDesigner::UserControl_Resize() {
   Attempt([&] { SetGrid(m_GridStep); });
   if (IsBusy() || !m_Surface) return;
   m_AreEventsSuspended = true;
-  m_OuterSize.Store(*m_Surface);
+  m_OuterSize->Store(*m_Surface);
   Attempt([&] {
     const Ref<IControl> form = Form();
     if (auto* resized = dynamic_cast<CForm*>(form.get())) resized->OnDesignerResized();
@@ -125,7 +133,7 @@ void FormDesigner::UserControl_Resize() {
   Attempt([&] { RaiseEvent(u"Resize"); });
   Attempt([&] {
     const ScaleMode scale = Canvas().Scale();
-    const FormExtent size = m_OuterSize.Stored();
+    const FormExtent size = m_OuterSize->Stored();
     RaiseNeedResize(ScaleToTwips(size.width, scale), ScaleToTwips(size.height, scale));
   });
   m_AreEventsSuspended = false;
@@ -137,7 +145,7 @@ void FormDesigner::SetGrid(std::optional<std::int16_t> step, std::optional<bool>
   const std::int16_t wanted = step.value_or(-1) < 0 ? m_GridStep : *step;
   DesignSurface& surface = Canvas();
   const float inScale = PixelsToScale(static_cast<float>(wanted), surface.Scale());
-  m_Grid.Paint(surface, ToInteger(Variant(inScale)), reset.value_or(false));
+  m_Grid->Paint(surface, ToInteger(Variant(inScale)), reset.value_or(false));
 }
 
 void FormDesigner::ApplyScaleAndGrid() {

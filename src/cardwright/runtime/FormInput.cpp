@@ -1,7 +1,10 @@
 #include "cardwright/runtime/FormInput.h"
 
+#include "cardwright/model/CForm.h"
 #include "cardwright/model/Control.h"
 #include "cardwright/model/Rename.h"
+#include "cardwright/runtime/AttributeBinding.h"
+#include "cardwright/runtime/FormButton.h"
 #include "cardwright/runtime/RedrawPause.h"
 #include "cardwright/runtime/ScriptRun.h"
 #include "cardwright/shared/Messages.h"
@@ -40,17 +43,23 @@ const MemberTable& FormInput::Members() const {
   return table;
 }
 
-FormInput::FormInput(Surface& surface) : m_Surface(&surface) {
+FormInput::FormInput(Surface& surface)
+    : m_Surface(&surface), m_Binding(std::make_unique<AttributeBinding>()) {
   Module().formScaleMode = ScaleMode::Pixels;
   surface.SetScale(ScaleMode::Pixels);
-  m_OkButton.emplace(surface, u"cmdOK", messages::Ok, [this] { Ok(); });
-  m_CancelButton.emplace(surface, u"cmdCancel", messages::Cancel, [this] { Cancel(); });
+  m_OkButton = std::make_unique<FormButton>(surface, u"cmdOK", messages::Ok, [this] { Ok(); });
+  m_CancelButton =
+      std::make_unique<FormButton>(surface, u"cmdCancel", messages::Cancel, [this] { Cancel(); });
 }
 
 Ref<FormInput> FormInput::Create(Surface& surface) {
   Ref<FormInput> input(new FormInput(surface));
   input->m_Document.AddForm(input);
   return input;
+}
+
+BoundFeature FormInput::Feature() const {
+  return {GetFeatureClass(), m_FeatureID, m_NewFeature, m_DebugMode};
 }
 
 FormInput::~FormInput() { DetachSurface(); }
@@ -65,7 +74,7 @@ void FormInput::DetachSurface() {
 void FormInput::SetFeatureID(const Text& id) {
   const Ref<FormInput> keepAlive(this);  // a script may close the window when a value changes
   m_FeatureID = id;
-  if (CanRunScripts()) m_Binding.Load(Controls(), Feature());
+  if (CanRunScripts()) m_Binding->Load(Controls(), Feature());
 }
 
 bool FormInput::ProjectRead(const Text& fileName) {
@@ -73,7 +82,7 @@ bool FormInput::ProjectRead(const Text& fileName) {
   m_ProjectFile = fileName;
   if (!m_Document.Read(fileName)) return false;
   if (!CanRunScripts()) return true;
-  if (m_DebugMode) m_Binding.Load(Controls(), Feature());
+  if (m_DebugMode) m_Binding->Load(Controls(), Feature());
   RunScript(*this, Module().scriptContent, Module().scriptLanguage, m_DebugMode);
   RunFormEvent(u"Initialize");
   return true;
@@ -159,7 +168,7 @@ bool FormInput::RunOk() {
   const Running running(m_RunsOk);
   const std::optional<RedrawPause> pause = PauseRedraw(*this);
   if (!RunFormEvent(u"BeforeOkClick")) return false;
-  if (m_SetAttributesEnabled && m_Binding.Store(Controls(), Feature())) RunFormEvent(u"AfterSetAttributes");
+  if (m_SetAttributesEnabled && m_Binding->Store(Controls(), Feature())) RunFormEvent(u"AfterSetAttributes");
   if (AttributesWritable()) OrvClient::Shared().SelectNone(GetFeatureClass());
   return RunFormEvent(u"AfterOkClick");
 }

@@ -1,11 +1,15 @@
 #pragma once
 
+#include <memory>
+
 #include "cardwright/model/FormDocument.h"
 #include "cardwright/model/FormOwner.h"
-#include "cardwright/runtime/AttributeBinding.h"
-#include "cardwright/runtime/FormButton.h"
 
 namespace cardwright {
+
+class AttributeBinding;
+class FormButton;
+struct BoundFeature;
 
 /// The form as an end user fills it in for one feature: it owns the form's objects and the fixed buttons OK
 /// and Cancel, and the order in which scripts, required-field checks and attribute writes happen.
@@ -89,7 +93,7 @@ class FormInput final : public TableObject, public InputOwner {
   /// where a script refused.
   bool RunOk();
   bool RunCancel();
-  BoundFeature Feature() const { return {GetFeatureClass(), m_FeatureID, m_NewFeature, m_DebugMode}; }
+  BoundFeature Feature() const;
 
   Surface* m_Surface;
   FormDocument m_Document;
@@ -98,12 +102,12 @@ class FormInput final : public TableObject, public InputOwner {
   Text m_ProjectFile;
   Text m_FeatureID;
   Text m_Caption;
-  AttributeBinding m_Binding;
+  const std::unique_ptr<AttributeBinding> m_Binding;
   bool m_SetAttributesEnabled = true;
   bool m_RunsOk = false;
   bool m_RunsCancel = false;
-  std::optional<FormButton> m_OkButton;  // none once the surface has ended
-  std::optional<FormButton> m_CancelButton;
+  std::unique_ptr<FormButton> m_OkButton;  // none once the surface has ended
+  std::unique_ptr<FormButton> m_CancelButton;
 };
 
 }  // namespace cardwright

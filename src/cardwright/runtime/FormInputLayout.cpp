@@ -1,6 +1,7 @@
 // Size of the form and place of its two fixed buttons. Lengths are in pixels here and converted to the form's
 // scale.
 
+#include "cardwright/runtime/FormButton.h"
 #include "cardwright/runtime/FormInput.h"
 #include "cardwright/shared/ModuleState.h"
 
