@@ -1,8 +1,8 @@
 // The form object itself; its project file has tests of its own.
 
 #include "cardwright/platform/Picture.h"
+#include "model/AnsweringHost.h"
 #include "model/Forms.h"
-#include "model/ScriptedHost.h"
 
 namespace cardwright {
 TEST(CForm, HasNoPositionAndNoForeColor) {

@@ -1,6 +1,6 @@
 // Theme and attribute selectors.
 
-#include "model/ScriptedHost.h"
+#include "model/AnsweringHost.h"
 #include "model/SelectorForms.h"
 
 namespace cardwright {

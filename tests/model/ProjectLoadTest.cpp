@@ -4,9 +4,9 @@
 
 #include "cardwright/runtime/FormInput.h"
 #include "cardwright/storage/ProjectWriter.h"
+#include "model/AnsweringHost.h"
 #include "model/Forms.h"
 #include "model/ProjectTexts.h"
-#include "model/ScriptedHost.h"
 #include "storage/TempFolder.h"
 
 namespace cardwright {

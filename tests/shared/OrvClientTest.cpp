@@ -93,6 +93,10 @@ TEST_F(OrvClientTest, ReadsAttributeRecordsOfFourFields) {
   host->SetTheme({{"name", 0, 20, 0, ""}, {"flow", 1, 8, 2, ""}});
   const std::vector<AttributeRecord> expected = {{u"name", atCharacter, 20, 0}, {u"flow", atNumeric, 8, 2}};
   EXPECT_EQ(client.Attributes(wells), expected);
+  host->replies["THEME_ATTRIBUTE |wells| |POINT| 2"] = "flow, 1 bits,-5,99999999999";
+  EXPECT_EQ(client.Attributes(wells).back(), (AttributeRecord{u"flow", atNumeric, -5, 0}));
+  host->replies["THEME_ATTRIBUTE |wells| |POINT| 2"] = ",,,";
+  EXPECT_EQ(client.Attributes(wells).back(), AttributeRecord());
   host->replies["THEME_ATTRIBUTE |wells| |POINT| 2"] = "flow,1,8";
   EXPECT_EQ(client.Attributes(wells).back(), AttributeRecord()) << "no record, but counted";
   host->replies["THEME_ATTRIBUTE |wells| |POINT| 2"] = "";

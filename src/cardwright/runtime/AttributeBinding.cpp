@@ -39,8 +39,8 @@ void ForEachBound(const Collection& controls, const CAttribs& attribs, Use&& use
   }
 }
 
-/// Values of controls that can stand before those that fill their lists, as a renamed control moves to the
-/// end of the form. They are shown again at the end, or OK would clear their attributes.
+/// Values of controls that can precede those that fill their lists, as a renamed control moves to the end of
+/// the form. They are shown again at the end, or OK would clear their attributes.
 class DeferredValues {
  public:
   void Add(Control& control, const Text& value) {

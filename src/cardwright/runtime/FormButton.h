@@ -10,7 +10,7 @@ namespace cardwright {
 /// One of the form's fixed buttons: its widget and what a click on it does.
 class FormButton final : private WidgetListener {
  public:
-  /// The caption is a message, whose number stands in the widget's Tag as translators' tools expect.
+  /// The caption is a message; its number is kept in the widget's Tag, as translation tools expect.
   FormButton(Surface& surface, std::u16string_view name, int message, std::function<void()> onClick);
   ~FormButton();
   FormButton(const FormButton&) = delete;

@@ -5,7 +5,7 @@
 namespace cardwright {
 
 /// Keeps the host from redrawing for its life. The host redraws again even where a command in between failed:
-/// its map would stand still for good otherwise.
+/// otherwise its map would never be drawn again.
 class RedrawPause {
  public:
   /// What the end asks of the host: to redraw when it has to, or at once as well.

@@ -51,7 +51,7 @@ Ref<Object> ActiveControl() {
   return desktop ? Ref<Object>(desktop->ActiveControl()) : nullptr;
 }
 
-// Only a text box is asked for a separator that stands in it already; a second one passes in a combo box.
+// Only a text box is checked for a separator that it contains already; a combo box accepts a second one.
 char16_t FilterSeparator(const Ref<Object>& control, std::u16string_view separator) {
   if (LowerTypeName(control) == u"textbox" &&
       FindNoCase(ToText(GetProperty(*control, u"Text")), separator) != std::u16string_view::npos) {

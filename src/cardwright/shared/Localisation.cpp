@@ -14,7 +14,7 @@ namespace {
 
 std::int32_t NumberIn(std::u16string_view text) { return ToLong(Val(text)); }
 
-// 1-based search of the platform: 0 for no hit. A start behind the text finds nothing.
+// 1-based search of the platform: 0 for no hit. A start after the text finds nothing.
 std::size_t InStr(std::size_t start, std::u16string_view text, char16_t c) {
   const std::size_t at = text.find(c, start - 1);
   return at == text.npos ? 0 : at + 1;
@@ -24,8 +24,9 @@ std::u16string_view MidFrom(std::u16string_view text, std::size_t start) {
   return start > text.size() ? std::u16string_view() : text.substr(start - 1);
 }
 
-// The walk is made for one pair "key:number". It goes on behind a ";" with positions counted in the shortened
-// text, as translated tags were written against it. Some tags lead it in a circle; it ends where that closes.
+// The walk is made for one pair "key:number". It continues after a ";" with positions counted in the
+// shortened text, as translated tags were written against it. Some tags lead it in a circle; it ends where
+// that closes.
 void TranslateButton(Object& button) {
   const Text tag = ToText(GetProperty(button, u"Tag"));
   std::size_t position = 0;

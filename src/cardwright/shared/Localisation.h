@@ -7,7 +7,7 @@
 
 namespace cardwright {
 
-/// Message number in the widget's `Tag`, which is "id", "id:param" or either with " | rest" behind it.
+/// Message number in the widget's `Tag`, which is "id", "id:param" or either followed by " | rest".
 /// `param` gets the parameter; the widget keeps the rest as its `Tag`, the whole of it where there is no bar.
 std::int32_t ParseCaptionTag(Object& widget, Text& param);
 

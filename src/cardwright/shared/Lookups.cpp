@@ -20,7 +20,7 @@ std::optional<std::u16string_view> PieceAt(std::u16string_view list, std::size_t
   return std::nullopt;
 }
 
-// Row of a name, the hidden ones counted on behind the table.
+// Row of a name, the hidden ones numbered after those of the table.
 std::optional<std::size_t> RowOf(std::span<const std::u16string_view> names, std::u16string_view hidden,
                                  std::u16string_view name) {
   for (std::size_t i = 0; i < names.size(); ++i) {

@@ -13,7 +13,7 @@
 namespace cardwright {
 
 /// @name Rows of a property table by number or by name, whatever its case. `hidden` holds names that the
-/// table does not show, separated by ";"; they count on behind the table. Neither fails.
+/// table does not show, separated by ";"; they are numbered after those of the table. Neither fails.
 /// @{
 
 /// Number of the row, -1 where there is none. A numeric `index` comes back unchecked, as 16-bit integer.

@@ -106,7 +106,7 @@ enum Number : int {
 };
 }  // namespace messages
 
-/// A text of the interface. "##" stands for a line break, "%%1" and so on for the arguments.
+/// A text of the interface. "##" means a line break, "%%1" and so on for the arguments.
 struct Message {
   int id;
   std::u16string_view text;

@@ -14,7 +14,7 @@ namespace {
 
 // More attributes than any store has columns: a host's reply must not keep the form asking for ever.
 constexpr double kMostAttributes = 65535;
-// How the reply of a host begins that tells why it refuses; others answer nothing.
+// First word of the reply to a command that a host refuses, before the reason. Some hosts give no reason.
 constexpr std::u16string_view kRefusal = u"ERROR";
 
 template <class... Others>
@@ -28,18 +28,34 @@ Text InBars(const FeatureClass& features) {
   return Text(u"|") + features.theme + u"| |" + FeatureTypeText(features.type) + u"|";
 }
 
-std::int32_t NumberIn(const Text& field) {
-  return AttemptOr(0, [&] { return ToLong(Variant(Val(field))); });
+// Nearly all numbers are a few digits, and a form reads three for each attribute of its theme whenever it
+// opens a feature; others take the conversion of scripts.
+std::int32_t NumberInField(std::u16string_view field) {
+  const auto isDigit = [](char16_t c) { return c >= u'0' && c <= u'9'; };
+  if (field.size() > 9 || !std::ranges::all_of(field, isDigit))
+    return AttemptOr(0, [&] { return ToLong(Variant(Val(field))); });
+  std::int32_t number = 0;
+  for (const char16_t digit : field) number = number * 10 + (digit - u'0');
+  return number;
+}
+
+// Cuts the first field of a record off.
+std::u16string_view TakeField(std::u16string_view& record) {
+  const std::size_t end = std::min(record.find(u','), record.size());
+  const std::u16string_view field = record.substr(0, end);
+  record.remove_prefix(std::min(end + 1, record.size()));
+  return field;
 }
 
 // "Name,AttribType,Length,Decs"
-AttributeRecord ParseRecord(const Text& reply) {
-  const std::vector<Text> fields = Split(reply, u',');
-  if (fields.size() != 4) return {};
-  return {.name = fields[0],
-          .type = static_cast<AttributeTypeEnum>(NumberIn(fields[1])),
-          .length = NumberIn(fields[2]),
-          .decimals = NumberIn(fields[3])};
+AttributeRecord ParseRecord(std::u16string_view record) {
+  if (std::ranges::count(record, u',') != 3) return {};
+  AttributeRecord attribute;
+  attribute.name = TakeField(record);
+  attribute.type = static_cast<AttributeTypeEnum>(NumberInField(TakeField(record)));
+  attribute.length = NumberInField(TakeField(record));
+  attribute.decimals = NumberInField(TakeField(record));
+  return attribute;
 }
 
 Text SentValue(const AttributeRecord& attribute, const Text& value) {

@@ -10,7 +10,7 @@ namespace cardwright {
 
 struct ListedTheme {
   Text name;
-  FeatureTypeEnum featureType = FeatureTypeEnum::ftNone;  ///< ftNone too where the host does not tell
+  FeatureTypeEnum featureType = FeatureTypeEnum::ftNone;  ///< also where the host does not say
 };
 
 struct ListedAttribute {
@@ -81,7 +81,7 @@ class OrvClient {
   std::vector<ListedTheme> ListThemes();
   /// One request; none for an empty theme.
   std::vector<ListedAttribute> ListAttributes(const FeatureClass& features);
-  /// The record of a listed attribute; none where the host does not tell, or tells of another attribute.
+  /// The record of a listed attribute; none where the host has none, or describes another attribute.
   std::optional<AttributeRecord> Describe(const FeatureClass& features, const ListedAttribute& attribute);
   /// @}
 

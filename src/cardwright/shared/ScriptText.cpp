@@ -81,7 +81,7 @@ bool ProcedureMemory::Has(const Text& script, const Text& name, const Text& lang
 ComposedScript ComposeScript(std::u16string_view script, std::u16string_view language,
                              std::span<const Text> userNames) {
   ComposedScript composed;
-  // Declarations must not stand before the statement that asks for them.
+  // Declarations must not precede the statement that requires them.
   if (EqualsNoCase(script.substr(0, kOptionExplicit.size()), kOptionExplicit)) {
     composed.code = script.substr(0, kOptionExplicit.size());
     script.remove_prefix(kOptionExplicit.size());

@@ -14,8 +14,8 @@ Text BuildEventName(std::u16string_view name, std::u16string_view event);
 /// The procedure's first line as FindProcedure looks for it: CR LF, keyword, name, "(". "" for an empty name,
 /// CR LF alone for an unknown language.
 Text BuildProcedureHeader(std::u16string_view name, std::u16string_view language);
-/// Position of the procedure's header in the script, from 1; 0 where there is none. It must stand at the
-/// start of a line, with one blank behind the keyword and the bracket right behind the name; case does not
+/// Position of the procedure's header in the script, from 1; 0 where there is none. It must be at the
+/// start of a line, with one blank after the keyword and the bracket directly after the name; case does not
 /// matter.
 std::size_t FindProcedure(std::u16string_view script, std::u16string_view name, std::u16string_view language);
 
@@ -38,7 +38,7 @@ class ProcedureMemory {
 struct ComposedScript {
   Text code;           ///< declarations and the user's script
   Text mainCode;       ///< `Main`, which binds each name to its control
-  int lineOffset = 0;  ///< lines that stand in `code` before the user's first
+  int lineOffset = 0;  ///< lines of `code` before the user's first
 };
 
 /// Declares a variable for each control before the user's script; a leading "option explicit" line stays

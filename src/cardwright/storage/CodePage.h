@@ -42,7 +42,7 @@ class CodePage {
   char16_t ToChar(unsigned char byte) const noexcept { return m_Chars[byte]; }
   /// Byte of a character, or none. A surrogate has none.
   std::optional<unsigned char> ToByte(char16_t c) const noexcept;
-  /// The byte that stands for this one and for its other case.
+  /// The byte that represents this one and its other case when names are compared.
   unsigned char Fold(unsigned char byte) const noexcept { return m_Fold[byte]; }
 
  private:

@@ -10,7 +10,7 @@ constexpr std::int64_t kSecond = 1'000'000'000;
 std::int64_t Nanoseconds(const timespec& time) noexcept { return time.tv_sec * kSecond + time.tv_nsec; }
 
 // Files are stamped from a clock that moves with the kernel's timer: every 1 to 10 ms, by its build. Twice
-// the longest step leaves room for a write that took its time before and reached the disk behind the tick.
+// the longest step leaves room for a write that took its time before and reached the disk after the tick.
 constexpr std::int64_t kTimerMargin = 20'000'000;
 
 // Some file systems keep times in whole seconds or, as FAT does, in pairs of them. Times without a fraction

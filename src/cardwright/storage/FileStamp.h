@@ -8,7 +8,7 @@
 
 namespace cardwright {
 
-/// What tells one state of a file from another without reading it. The change time is part of it, which no
+/// Distinguishes one state of a file from another without reading it. The change time is part of it, which no
 /// program can set, so a file put back with its old times and size differs too.
 struct FileStamp {
   dev_t device = 0;

@@ -17,7 +17,7 @@ namespace cardwright {
 /// operations of the platform's private profile calls. Names match whatever their case; the first section of
 /// a name and the first key of a name in it count. Blanks and tabs around names and values do not belong to
 /// them, quotes do. A line that is no section header and no key, be it a comment (";"), foreign text or
-/// nothing, is kept byte by byte wherever it stands.
+/// nothing, is kept byte by byte in its place.
 class IniFile {
  public:
   explicit IniFile(std::string bytes = {}, const CodePage& page = CodePage::Current());
@@ -26,11 +26,11 @@ class IniFile {
 
   /// Bytes of the value; none where there is no such section or key. Valid until the next change.
   std::optional<std::string_view> Get(std::u16string_view section, std::u16string_view key) const;
-  /// Names in file order, a repeated one as often as it stands there. Valid until the next change.
+  /// Names in file order, a repeated one as often as the file has it. Valid until the next change.
   std::vector<std::string_view> SectionNames() const;
   std::vector<std::string_view> KeyNames(std::u16string_view section) const;
 
-  /// Writes one key. A new key goes behind the last one of its section, a new section to the end. A value
+  /// Writes one key. A new key goes after the last one of its section, a new section to the end. A value
   /// with a line break is written as it stands, so only its first line reads back. Like the other changes it
   /// answers false where the file says so already.
   bool Set(std::u16string_view section, std::u16string_view key, std::u16string_view value);
@@ -38,7 +38,7 @@ class IniFile {
   bool DeleteKey(std::u16string_view section, std::u16string_view key);
   /// Removes the first section of that name with all its lines.
   bool DeleteSection(std::u16string_view section);
-  /// Puts bytes behind the last one, whatever they are.
+  /// Appends bytes, whatever they are.
   bool Append(std::string_view bytes);
   bool Clear();
 
@@ -55,7 +55,7 @@ class IniFile {
     std::size_t size = 0;   // with the line end
     std::size_t nameBegin = 0;
     std::size_t nameSize = 0;
-    std::size_t valueBegin = 0;  // behind the "="
+    std::size_t valueBegin = 0;  // after the "="
     Id section = 0;
     Id next = kNone;           // further key of the same name in the section
     std::uint8_t endSize = 0;  // of the line end
@@ -64,7 +64,7 @@ class IniFile {
     std::size_t ContentEnd() const noexcept { return begin + size - endSize; }
   };
   struct Section {
-    Id header = kNone;  // none for what stands before the first header
+    Id header = kNone;  // none for the lines before the first header
     Id next = kNone;    // further section of the same name
     bool isRemoved = false;
     std::size_t insertAt = 0;  // where a new key goes among the lines

@@ -42,7 +42,7 @@ bool IniFile::DeleteKey(std::u16string_view section, std::u16string_view key) {
   Section& owner = m_Sections[sectionId];
   const auto at = static_cast<std::size_t>(std::ranges::find(owner.lines, id) - owner.lines.begin());
   owner.lines.erase(owner.lines.begin() + static_cast<std::ptrdiff_t>(at));
-  FindInsertPoint(owner, owner.insertAt - 1);  // a key always stands before the point
+  FindInsertPoint(owner, owner.insertAt - 1);  // a key is always before the insert point
 
   CheckSeam(at > 0 ? owner.lines[at - 1] : owner.header);
   m_IsCompact = false;
@@ -190,7 +190,7 @@ void IniFile::EndLine(Id id) {
 
 // A new key follows the last line that is neither blank nor a comment, since those at the end of a section
 // mostly belong to the next one, while foreign lines may be the rest of a value. In a section without such a
-// line it follows the comment under the header. `from`: no such line stands behind it.
+// line it follows the comment under the header. No such line follows `from`.
 void IniFile::FindInsertPoint(Section& section, std::size_t from) const noexcept {
   const auto kind = [&](std::size_t i) { return m_Lines[section.lines[i]].kind; };
   std::size_t at = from;
@@ -211,7 +211,7 @@ IniFile::Id IniFile::LastLineBefore(std::size_t section) const noexcept {
   return kNone;
 }
 
-// A lone CR that comes to stand before a line of a lone LF makes one line end with it.
+// A lone CR directly before a line of a lone LF would be read as one line end with it.
 void IniFile::CheckSeam(Id before) noexcept {
   if (before == kNone) return;
   const Line& line = m_Lines[before];

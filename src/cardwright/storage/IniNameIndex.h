@@ -36,7 +36,7 @@ class IniNameIndex {
   }
 
  private:
-  static constexpr std::uint32_t kRemoved = kNone - 1;  // keeps what was put behind it reachable
+  static constexpr std::uint32_t kRemoved = kNone - 1;  // keeps later names in the same run reachable
 
   void Grow();
 

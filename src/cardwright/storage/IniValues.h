@@ -9,7 +9,7 @@
 
 namespace cardwright {
 
-/// @name How values stand in files of INI form.
+/// @name How values are stored in files of INI form.
 /// @{
 /// What a reader gets of a value: at most 8191 characters, a numeric text with points for commas.
 Text ReadIniValue(std::string_view bytes, const CodePage& page);

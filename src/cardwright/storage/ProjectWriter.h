@@ -32,7 +32,7 @@ class ProjectWriter {
   /// content has, which a reader gives back: a script grows by it with each reading and saving.
   void WriteScript(const ProjectScript& script);
 
-  /// False where the file is gone or cannot be written; it then stands as it was.
+  /// False where the file is gone or cannot be written; it is then unchanged.
   bool Commit(Durability durability = Durability::PowerLoss);
 
  private:

@@ -10,7 +10,7 @@
 namespace cardwright {
 
 /// A host with prepared answers that records the commands it gets.
-class ScriptedHost final : public HostConnection {
+class AnsweringHost final : public HostConnection {
  public:
   Text Execute(std::u16string_view) override { return {}; }
   Text Request(std::u16string_view command) override {
@@ -35,7 +35,7 @@ struct Connected {
     SharedHost().SetHandle(0);
     Module().connections.Close(handle);
   }
-  Ref<ScriptedHost> host = MakeRef<ScriptedHost>();
+  Ref<AnsweringHost> host = MakeRef<AnsweringHost>();
   std::int32_t handle;
 };
 
