@@ -1,5 +1,6 @@
 #pragma once
 
+#include "cardwright/automation/Conversions.h"
 #include "cardwright/platform/HostConnection.h"
 
 namespace cardwright {
