@@ -12,8 +12,9 @@ namespace cardwright {
 
 /// Bounds of one dimension, both included.
 struct Bounds {
-  std::int32_t lower = 0;
-  std::int32_t upper = -1;
+  std::int32_t lower = 0;   ///< the smallest index
+  std::int32_t upper = -1;  ///< the largest index; lower - 1 for no elements
+  /// The number of elements; 0 for an empty dimension.
   std::int32_t Count() const noexcept { return upper - lower + 1; }
 };
 
@@ -21,14 +22,20 @@ struct Bounds {
 /// value semantics by copy on write: get a shared array for writing by Writable, which copies it.
 class Array final : public RefCounted {
  public:
+  /// An array of Empty values with these bounds. Error 9 for no or too many dimensions, or an upper bound
+  /// below the lower one; 7 if it would be too large.
   explicit Array(std::vector<Bounds> dimensions);
   /// An array without dimensions yet, as `Dim a()` makes it: error 9 for any index.
   Array();
   ~Array() override;
+  /// An array of one dimension, from 0, with these values.
   static Ref<Array> FromValues(std::vector<Variant> values);
+  /// An array of one dimension, from 0, with these texts.
   static Ref<Array> FromTexts(std::span<const Text> texts);
 
+  /// The bounds of each dimension; empty for an array without dimensions.
   std::span<const Bounds> Dimensions() const noexcept { return m_Dimensions; }
+  /// All elements, the first index varying fastest.
   std::span<Variant> Values() noexcept { return m_Values; }
   std::span<const Variant> Values() const noexcept { return m_Values; }
   /// Element at the indices, one for each dimension; error 9 outside the bounds or for a wrong count.
@@ -50,6 +57,7 @@ class Array final : public RefCounted {
   /// Changes the upper bound of the last dimension and keeps the values; error 9 for a bound below the lower
   /// one.
   void ResizeLast(std::int32_t upper);
+  /// A deep copy of the array with values of its own; it is neither fixed nor locked.
   Ref<Array> Copy() const;
 
   /// @name Fixed size: a fixed array cannot be redimensioned, but its copies can.

@@ -15,14 +15,19 @@ class Collection final : public TableObject {
  public:
   Text TypeName() const override { return u"Collection"; }
 
+  /// The number of items.
   std::int32_t Count() const noexcept { return static_cast<std::int32_t>(m_Entries.size()); }
   /// By position (numeric) or by key (text).
   const Variant& Item(const Variant& index) const;
   /// By key; null where there is none.
   const Variant* Find(std::u16string_view key) const noexcept;
+  /// Adds an item at the end, or before or after another one, given by position or key. Error 5 if both are
+  /// given.
   void Add(const Variant& item, std::optional<Variant> key = {}, std::optional<Variant> before = {},
            std::optional<Variant> after = {});
+  /// Removes an item by position or key.
   void Remove(const Variant& index);
+  /// Removes all items.
   void Clear();
   /// Items may be added and removed during the enumeration: each one that stays is visited once.
   std::unique_ptr<Enumerator> Enumerate() override;

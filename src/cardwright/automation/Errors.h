@@ -67,12 +67,18 @@ Text StandardErrorText(int number);
 /// A numbered run-time error: what scripts see as Err and what Attempt() catches.
 class Error : public std::exception {
  public:
+  /// An error with the standard text of its number if `description` is empty.
   explicit Error(int number, Text description = {}, Text source = {});
+  /// An error with its standard text.
   explicit Error(ErrorNumber number) : Error(static_cast<int>(number)) {}
 
+  /// The number, which scripts see as Err.Number.
   int Number() const noexcept { return m_Number; }
+  /// Whether the error has this number.
   bool Is(ErrorNumber number) const noexcept { return m_Number == static_cast<int>(number); }
+  /// The text, which scripts see as Err.Description.
   const Text& Description() const noexcept { return m_Description; }
+  /// The name of what raised the error; "" if it is not known.
   const Text& Source() const noexcept { return m_Source; }
   const char* what() const noexcept override;
 
@@ -83,8 +89,11 @@ class Error : public std::exception {
   std::string m_What;
 };
 
+/// @name Throw an Error.
+/// @{
 [[noreturn]] void Raise(ErrorNumber number);
 [[noreturn]] void Raise(int number, Text description = {}, Text source = {});
+/// @}
 
 /// Runs a step whose numbered failure is swallowed on purpose, and tells whether it went through. Nothing but
 /// Error is caught: a fault of our own stays loud.

@@ -19,9 +19,11 @@ namespace cardwright {
 
 /// @name Conversion between C++ values and variants. Classes derived from Object are converted as references.
 /// @{
+/// Specialised for the types that FromVariant does not convert itself.
 template <class T>
 struct VariantCast;
 
+/// The variant for a C++ value. Enumerations become Long, vectors of texts arrays.
 template <class T>
 Variant ToVariant(T&& value) {
   using Plain = std::remove_cvref_t<T>;
@@ -34,6 +36,7 @@ Variant ToVariant(T&& value) {
   }
 }
 
+/// The C++ value of a variant, by the conversions of Conversions.h; errors as there.
 template <class T>
 T FromVariant(Variant& value) {
   if constexpr (std::is_same_v<T, Variant>) {
@@ -57,6 +60,7 @@ T FromVariant(Variant& value) {
   }
 }
 
+/// A missing argument is no value.
 template <class T>
 struct VariantCast<std::optional<T>> {
   static std::optional<T> From(Variant& value) {
@@ -65,6 +69,7 @@ struct VariantCast<std::optional<T>> {
   }
 };
 
+/// Null for Nothing. Error 424 for a value that is no object, 13 for an object of another class.
 template <class T>
 requires std::is_base_of_v<Object, T>
 struct VariantCast<Ref<T>> {
@@ -81,13 +86,14 @@ struct VariantCast<Ref<T>> {
 
 /// One member of a class reachable by name.
 struct Member {
+  /// A function that calls the member of `self`; the last argument of let and set is the new value.
   using Call = Variant (*)(Object& self, Args args);
 
-  std::u16string_view name;
-  Call method = nullptr;
-  Call get = nullptr;
-  Call let = nullptr;
-  Call set = nullptr;
+  std::u16string_view name;  ///< as scripts spell it, in any case
+  Call method = nullptr;     ///< null if the member is no method
+  Call get = nullptr;        ///< null if it cannot be read
+  Call let = nullptr;        ///< null if it cannot be assigned a value
+  Call set = nullptr;        ///< null if it cannot be assigned an object
 };
 
 namespace detail {
@@ -220,10 +226,14 @@ constexpr cardwright::Member PlainField(std::u16string_view name) {
 /// `static const MemberTable table(kMembers, u"Item");`
 class MemberTable {
  public:
+  /// `members` must outlive the table; `defaultMember` is the name of the default member, or "".
   explicit MemberTable(std::span<const Member> members, std::u16string_view defaultMember = {});
 
+  /// The member of a name in any case, or kNoMember.
   MemberId Find(std::u16string_view name) const noexcept;
+  /// The default member, or kNoMember.
   MemberId Default() const noexcept { return m_Default; }
+  /// All members in declared order.
   std::span<const Member> Members() const noexcept { return m_Members; }
   /// A Get of a method calls it; a Set of a property without one is a Let. Errors as Object::Invoke.
   Variant Invoke(Object& self, MemberId member, CallKind kind, Args args) const;

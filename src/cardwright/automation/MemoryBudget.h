@@ -13,12 +13,15 @@ class MemoryBudget {
     if (t_Used + bytes > t_Limit) Refuse();
     t_Used += bytes;
   }
+  /// Subtracts memory that was charged.
   static void Refund(std::size_t bytes) noexcept { t_Used -= bytes; }
+  /// Bytes in use by the calling thread.
   static std::size_t Used() noexcept { return t_Used; }
 
   /// Allows that many further bytes as long as it lives; a stricter outer limit stays in force.
   class Limit {
    public:
+    /// Starts the limit; nested limits end in reverse order.
     explicit Limit(std::size_t furtherBytes) noexcept;
     ~Limit() { t_Limit = m_Outer; }
     Limit(const Limit&) = delete;

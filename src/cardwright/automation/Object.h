@@ -15,12 +15,14 @@ namespace cardwright {
 
 /// How a member is called. A request may allow several kinds: `o(1)` is a method call or a get.
 enum class CallKind : std::uint8_t { Method = 1, Get = 2, MethodOrGet = 3, Let = 4, Set = 8 };
+/// Whether the request includes this kind.
 constexpr bool Allows(CallKind request, CallKind kind) noexcept {
   return (static_cast<int>(request) & static_cast<int>(kind)) != 0;
 }
 
 /// Identifies a member of a class: looked up once by name, then used for calls.
 using MemberId = std::int32_t;
+/// No member.
 inline constexpr MemberId kNoMember = -1;
 
 /// Arguments in order. A Let or Set has the new value last.
@@ -30,6 +32,7 @@ using Args = std::span<Variant>;
 class Enumerator {
  public:
   virtual ~Enumerator() = default;
+  /// Stores the next value; returns false at the end.
   virtual bool Next(Variant& value) = 0;
 };
 
@@ -61,6 +64,7 @@ class Object : public RefCounted {
 
   /// Subscribes to all events of the object; returns the id of the connection for Disconnect.
   int Connect(EventHandler handler);
+  /// Ends a subscription; an unknown id is ignored.
   void Disconnect(int connection);
 
  protected:

@@ -17,10 +17,13 @@ class RefCounted {
   RefCounted(const RefCounted&) = delete;
   RefCounted& operator=(const RefCounted&) = delete;
 
+  /// @name References, which Ref counts
+  /// @{
   void AddRef() const noexcept { ++m_Count; }
   void Release() const noexcept {
     if (--m_Count == 0) Destroy();
   }
+  /// @}
   /// True with exactly one reference, whose holder may then change the object in place.
   bool IsUnique() const noexcept { return m_Count == 1; }
   /// @name Allocation is charged to the thread's MemoryBudget, as that of texts and arrays.
@@ -86,6 +89,7 @@ class Ref {
   T* m_Object = nullptr;
 };
 
+/// Creates an object, with the first reference to it.
 template <class T, class... Args>
 Ref<T> MakeRef(Args&&... args) {
   return Ref<T>(new T(std::forward<Args>(args)...));

@@ -42,11 +42,16 @@ class Text {
   std::string ToUtf8() const;
 
   operator std::u16string_view() const noexcept { return View(); }
+  /// The UTF-16 code units; valid until the text changes or ends.
   std::u16string_view View() const noexcept;
+  /// The number of UTF-16 code units.
   std::size_t Size() const noexcept { return View().size(); }
+  /// Whether the text has no characters.
   bool IsEmpty() const noexcept { return m_Rep == nullptr; }
+  /// The code unit at a position below Size().
   char16_t operator[](std::size_t index) const noexcept { return View()[index]; }
 
+  /// Appends a text. Error 7 for an impossible size.
   Text& operator+=(std::u16string_view tail);
   Text& operator+=(const char16_t* tail) { return *this += std::u16string_view(tail); }
 

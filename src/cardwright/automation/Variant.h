@@ -35,22 +35,22 @@ enum class VarType : std::uint16_t {
 
 /// Days since 1899-12-30; a type of its own so that a date is never taken for a number.
 struct Date {
-  double days = 0;
+  double days = 0;  ///< days since 1899-12-30, with the time of day as fraction
 };
 /// Ten-thousandths of a unit.
 struct Currency {
-  std::int64_t tenThousandths = 0;
+  std::int64_t tenThousandths = 0;  ///< the value times 10,000
 };
 /// (-1)^negative * (high * 2^64 + low) / 10^scale.
 struct Decimal {
-  std::uint64_t low = 0;
-  std::uint32_t high = 0;
-  std::uint8_t scale = 0;
-  bool negative = false;
+  std::uint64_t low = 0;   ///< the lower 64 bits of the integer
+  std::uint32_t high = 0;  ///< its upper 32 bits
+  std::uint8_t scale = 0;  ///< decimal places, 0 to 28
+  bool negative = false;   ///< the sign
 };
 /// An error number as a value. A missing argument is one.
 struct ErrorValue {
-  std::int32_t code = 0;
+  std::int32_t code = 0;  ///< the error number
 };
 
 /// The error value that stands for an argument that was left out.
@@ -112,6 +112,7 @@ class Variant {
     }
     return *this;
   }
+  /// Exchanges two values without copying them.
   void Swap(Variant& other) noexcept {
     std::swap(m_Header, other.m_Header);
     std::swap(m_Data, other.m_Data);
@@ -147,9 +148,11 @@ class Variant {
   /// Appends to the text, in place unless it is shared. The type must be String.
   void Append(std::u16string_view tail);
 
+  /// The value Null, of no valid data.
   static Variant Null() noexcept;
   /// The object reference without an object.
   static Variant Nothing() noexcept;
+  /// The value of an argument that was left out.
   static Variant Missing() noexcept { return ErrorValue{kMissingArgument}; }
   /// A reference to `target`, which must outlive it: an argument passed by reference.
   static Variant ByRef(Variant& target) noexcept;
@@ -157,7 +160,10 @@ class Variant {
   /// element that no longer exists reads as Empty.
   static Variant ByRefElement(Variant& holder, std::uint32_t position) noexcept;
 
+  /// The type of the value; ByRef or ByRefElement for a reference.
   VarType Type() const noexcept { return static_cast<VarType>(m_Header & 0xFFFF); }
+  /// @name Tests of the type; a reference is not dereferenced.
+  /// @{
   bool IsEmpty() const noexcept { return m_Header == 0; }
   bool IsNull() const noexcept { return Type() == VarType::Null; }
   bool IsString() const noexcept { return Type() == VarType::String; }
@@ -174,6 +180,8 @@ class Variant {
     return ((x.m_Header ^ 2) | (y.m_Header ^ 2)) <= 1;
   }
   bool IsMissing() const noexcept { return Type() == VarType::Error && m_Data.whole == kMissingArgument; }
+
+  /// @}
 
   /// The value itself, or what a by-reference value refers to.
   const Variant& Deref() const noexcept {

@@ -90,28 +90,37 @@ class FormDesigner final : public TableObject,
   void SetTracesMouse(bool traces) noexcept { m_TracesMouse = traces; }
 
   Collection& Controls() override { return *m_Document.Controls(); }
+  /// All objects of the form, the CForm first.
   Ref<Collection> ControlCollection() const { return m_Document.Controls(); }
   Ref<IControl> CurrentControl() const override;
   /// The class of control that the next press on the surface draws; a number that names none is ignored.
   ControlTypeEnum ControlTypeToAdd() const override { return m_TypeToAdd; }
   void SetControlTypeToAdd(ControlTypeEnum type);
+  /// Number of the surface's window; 0 once it has ended.
   std::int32_t WindowHandle() const;
+  /// The host's window; null if there is none.
   Ref<HostWindow> Parent() const { return m_Surface ? m_Surface->Host() : nullptr; }
 
   /// Reads a form project into the designer, which should be a new one; false if there is no such file.
   bool ProjectRead(const Text& fileName);
   /// Writes the form project. A project without controls has no file: it is deleted.
   bool ProjectSave(const Text& fileName, bool isTemporary = false);
+  /// @name Theme and feature type that the form is bound to
+  /// @{
   Text GetThemeName() const { return m_Document.ThemeName(); }
   FeatureTypeEnum GetFeatureType() const { return m_Document.FeatureType(); }
   void SetThemeName(const Text& themeName);
   void SetFeatureType(FeatureTypeEnum type);
+  /// @}
 
   /// Whether the Delete key deletes the selected control; the one setting that a container stores.
   bool EnableKeyDelete() const noexcept { return m_EnableKeyDelete; }
   void SetEnableKeyDelete(bool enable);
+  /// @name The settings that a container stores
+  /// @{
   void ReadProperties(const PropertyBag& bag);
   void WriteProperties(PropertyBag& bag) const;
+  /// @}
 
   /// Does nothing for a blank name or the name of another control, whatever its case.
   void ChangeControlName(Ref<Object> control, const Text& newName) override;

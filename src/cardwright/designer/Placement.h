@@ -9,21 +9,22 @@ class DesignClipboard;
 
 /// A point of the surface or of a container, in the surface's scale.
 struct FormPoint {
-  float x = 0;
-  float y = 0;
+  float x = 0;  ///< from the left edge
+  float y = 0;  ///< from the top edge
 };
 
+/// A size on the surface, in the surface's scale.
 struct FormExtent {
-  float width = 0;
-  float height = 0;
+  float width = 0;   ///< not negative
+  float height = 0;  ///< not negative
 };
 
 /// A rectangle on the surface or in a container, in the surface's scale.
 struct FormRect {
-  float left = 0;
-  float top = 0;
-  float width = 0;
-  float height = 0;
+  float left = 0;    ///< from the left edge
+  float top = 0;     ///< from the top edge
+  float width = 0;   ///< not negative
+  float height = 0;  ///< not negative
 };
 
 /// The rectangle between two opposite corners. The second one is moved to the edge where it is negative.
@@ -31,9 +32,9 @@ FormRect RectBetween(FormPoint first, FormPoint second);
 
 /// A control to be put on the surface.
 struct Placement {
-  ControlTypeEnum type = ControlTypeEnum::ctDefault;
-  FormRect rectangle;
-  Ref<Widget> container;  ///< null for the surface itself
+  ControlTypeEnum type = ControlTypeEnum::ctDefault;  ///< the kind of control
+  FormRect rectangle;                                 ///< in the container
+  Ref<Widget> container;                              ///< null for the surface itself
   const DesignClipboard* source =
       nullptr;  ///< what is pasted, at the top left corner; null for a new control
 };

@@ -39,10 +39,16 @@ class OrvEditor final : public TableObject {
   Text FileContent() const;
   void SetFileContent(const Text& document);
 
+  /// @name Whether the toolbar shows the button for saving
+  /// @{
   bool SaveButtonVisible() const;
   void SetSaveButtonVisible(bool visible);
+  /// @}
+  /// @name Whether the document has unsaved changes
+  /// @{
   bool FileModified() const;
   void SetFileModified(bool modified);
+  /// @}
   /// Path of the catalogue of host commands, in spite of its name: a Jet database or an SQLite file with the
   /// table "Funzioni". Setting it opens the catalogue; one that cannot be opened is an empty one.
   Text OrvInfoSearchPath() const;
@@ -52,8 +58,11 @@ class OrvEditor final : public TableObject {
   void ReadControls(Ref<Object> controls);
   /// Takes the same controls again after some came, went or were renamed.
   void RefreshControlsList();
+  /// @name Whether the toolbar is shown; true at first
+  /// @{
   bool ToolbarVisible() const;
   void SetToolbarVisible(bool visible);
+  /// @}
 
   /// @name What the toolbar's buttons do
   /// @{
@@ -72,16 +81,21 @@ class OrvEditor final : public TableObject {
   void DoShowHelp(std::int32_t value);
   /// @}
 
+  /// The language of the document.
   Text Language() const;
   /// The caret's line and column, both from 1.
   std::int32_t CurrentLine() const;
   std::int32_t CurrentCol() const;
   /// 1 while the button that shows the description is pressed, else 0.
   std::int32_t HelpButtonValue() const;
+  /// The host's window; null if there is none.
   Ref<HostWindow> Parent() const;
 
+  /// @name The settings that a container stores
+  /// @{
   void ReadProperties(const PropertyBag& bag);
   void WriteProperties(PropertyBag& bag) const;
+  /// @}
 
   /// Null once the surface has ended.
   EditorSurface* GetSurface() const;

@@ -11,6 +11,7 @@ namespace cardwright {
 /// The classes that a script can create, by their programmatic identifiers in any case.
 class ClassRegistry {
  public:
+  /// Makes a new object of a class.
   using Maker = std::function<Ref<Object>()>;
   /// Adds the classes of a module that is loaded when first needed.
   using Loader = std::function<void(ClassRegistry& classes)>;

@@ -13,7 +13,9 @@ class BestEffort;
 /// widget; its size, colours and title are those of its owner and of the owner's host window.
 class CForm final : public TableControl {
  public:
+  /// The rows, keys and events of the form.
   static const ClassTable kTable;
+  /// A form without an owner.
   CForm();
 
   float Width() const override;

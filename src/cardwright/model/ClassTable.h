@@ -22,10 +22,10 @@ struct Field {
 
 /// One row of a class's property table.
 struct PropertyRow {
-  std::u16string_view name;
-  PropertyTypeEnum type = PropertyTypeEnum::ptNone;
-  int description = 0;  ///< number of the message that helps the author
-  Field field;
+  std::u16string_view name;                           ///< as scripts and hosts spell it, in any case
+  PropertyTypeEnum type = PropertyTypeEnum::ptNone;   ///< the editor in a property grid
+  int description = 0;                                ///< number of the message that helps the author
+  Field field;                                        ///< how the value is read and assigned
   std::span<const std::u16string_view> choices = {};  ///< of a ptList row
   int filter = 0;                                     ///< number of the message with the dialog filter
   int argument = 0;  ///< number of the message that is the argument of the description
@@ -43,8 +43,8 @@ enum class KeyForm {
 
 /// One entry of a class's section in a form project, in writing order.
 struct FileKey {
-  std::u16string_view name;  ///< for Font and Items the first key of the group
-  KeyForm form = KeyForm::Text;
+  std::u16string_view name;            ///< for Font and Items the first key of the group
+  KeyForm form = KeyForm::Text;        ///< how the value is written
   Field field;                         ///< a null `set`: read by the class itself at the end
   const char16_t* fallback = nullptr;  ///< for a missing key; the current value where null
 };
@@ -54,6 +54,7 @@ enum class SurfaceColors { None, Back, BackAndFore };
 
 /// How a control of a class is drawn and dragged on the design surface. Lengths are in pixels.
 struct DesignTraits {
+  /// Height that is enough for one line of text.
   static constexpr int kMinimumHeight = 19;
 
   /// Passed to the widget factory for a new control; by default the one of reading. Hosts with a factory of
@@ -61,12 +62,12 @@ struct DesignTraits {
   std::u16string_view identifier = {};
   const char* displayName = "";             ///< what a person calls the kind, for translation by the program
   const char16_t* captionPrefix = nullptr;  ///< of a new control's caption, before its number; null for none
-  SurfaceColors surfaceColors = SurfaceColors::None;
-  int defaultWidth = 0;  ///< of a control that is added without being drawn
-  int defaultHeight = 0;
-  int minimumDrawnHeight = kMinimumHeight;    ///< of a new control
-  int minimumDraggedHeight = kMinimumHeight;  ///< of a control that is resized by its handles
-  bool hasFixedHeight = false;                ///< the widget's font decides the height
+  SurfaceColors surfaceColors = SurfaceColors::None;  ///< colours of a new control
+  int defaultWidth = 0;                               ///< of a control that is added without being drawn
+  int defaultHeight = 0;                              ///< likewise
+  int minimumDrawnHeight = kMinimumHeight;            ///< of a new control
+  int minimumDraggedHeight = kMinimumHeight;          ///< of a control that is resized by its handles
+  bool hasFixedHeight = false;                        ///< the widget's font decides the height
   bool hasWindow = true;     ///< false: its place on the screen is computed from its place in the container
   bool isContainer = false;  ///< other controls can be drawn inside
   bool refreshesWhenNew = true;  ///< false where a refresh would ask the host
@@ -90,13 +91,13 @@ struct ClassTable {
   /// Type name of the widgets that the class controls, unless it overrides Accepts.
   std::u16string_view widgetType = {};
   Ref<Control> (*create)() = nullptr;  ///< null where there is no control to create
-  DesignTraits design = {};
-  ValueTraits value = {};
+  DesignTraits design = {};            ///< how it is drawn
+  ValueTraits value = {};              ///< how it shows an attribute
 
-  std::span<const PropertyRow> rows = {};    ///< in grid order
-  std::span<const PropertyRow> hidden = {};  ///< answered, but shown in no grid
-  std::span<const FileKey> keys = {};        ///< between `UserName` and `Container`, in writing order
-  std::span<const std::u16string_view> events = {};
+  std::span<const PropertyRow> rows = {};            ///< in grid order
+  std::span<const PropertyRow> hidden = {};          ///< answered, but shown in no grid
+  std::span<const FileKey> keys = {};                ///< between `UserName` and `Container`, in writing order
+  std::span<const std::u16string_view> events = {};  ///< script events
   std::span<const std::u16string_view> rowNames = {};  ///< of `rows`
   std::u16string_view hiddenNames = {};                ///< of `hidden`, separated by ";"
 };

@@ -24,8 +24,11 @@ class FormDocument {
   /// Saves the form project. A temporary save is one that the host discards again.
   bool Save(const Text& fileName, bool isTemporary) const;
 
+  /// @name What the form is bound to
+  /// @{
   Text ThemeName() const;
   FeatureTypeEnum FeatureType() const;
+  /// @}
 
   /// Takes the widgets off their surface, where it has not ended, and the owner from the objects, which stay
   /// with whoever holds them.

@@ -13,6 +13,7 @@ class FormOwner;
 
 /// How the elements of a form reach their owner. A script may keep an element longer than the form lives.
 struct OwnerLink final : RefCounted {
+  /// A link to an owner, which clears it at its end.
   explicit OwnerLink(FormOwner* at) : owner(at) {}
   FormOwner* owner;  ///< null once the owner is gone
 };
@@ -23,6 +24,7 @@ class FormOwner {
   FormOwner(const FormOwner&) = delete;
   FormOwner& operator=(const FormOwner&) = delete;
 
+  /// The link that elements keep to their owner.
   Ref<OwnerLink> Link() const noexcept { return m_Link; }
   /// All objects of the form, the CForm first, keyed by lower-case user name.
   virtual Collection& Controls() = 0;
@@ -30,10 +32,12 @@ class FormOwner {
   virtual Surface* GetSurface() = 0;
   /// Renames the control unless another one has the name.
   virtual void ChangeControlName(Ref<Object> control, const Text& newName) = 0;
-  /// Outer size in the form's scale: the control's own size plus the frame of its top-level window.
+  /// @name Outer size in the form's scale: the control's own size and the frame of its top-level window
+  /// @{
   virtual float OuterWidth() const = 0;
   virtual float OuterHeight() const = 0;
   virtual void SetOuterSize(float width, float height) = 0;
+  /// @}
 
  protected:
   FormOwner() : m_Link(MakeRef<OwnerLink>(this)) {}
@@ -46,9 +50,11 @@ class FormOwner {
 /// The form being filled in, as its elements see it.
 class InputOwner : public FormOwner {
  public:
+  /// Whether event procedures may run.
   virtual bool CanRunScripts() const = 0;
   /// Runs a script event procedure; false where the script refused.
   virtual bool RunEvent(const Text& procedure) = 0;
+  /// The form's title.
   virtual Text Caption() const = 0;
   /// Stores the form's title and raises SetParentCaption.
   virtual void SetCaption(const Text& caption) = 0;
@@ -62,10 +68,15 @@ class InputOwner : public FormOwner {
 /// The design surface, as its elements see it.
 class DesignerOwner : public FormOwner {
  public:
+  /// Selects a control.
   virtual void SetCtrl(Ref<IControl> control) = 0;
+  /// The selected control, or null.
   virtual Ref<IControl> CurrentControl() const = 0;
+  /// The kind of control to be drawn next; ctDefault for none.
   virtual ControlTypeEnum ControlTypeToAdd() const = 0;
+  /// The controls of a kind.
   virtual std::vector<Ref<IControl>> FilterControls(ControlTypeEnum type) const = 0;
+  /// Shows the arrow as mouse pointer.
   virtual void ShowArrowPointer() = 0;
   /// Shows the grab handles around the current control, or hides them.
   virtual void ShowHandles(bool show) = 0;
@@ -89,14 +100,19 @@ class DesignerOwner : public FormOwner {
 
   /// Objects in z-order; a control whose z-order changes moves to the end.
   virtual std::vector<Ref<IControl>> ZList() const = 0;
+  /// Empties the z-order list.
   virtual void ResetZList() = 0;
+  /// Adds an object at the end of the z-order list. Error 457 if one with the same name is in it.
   virtual void AppendToZList(Ref<IControl> control) = 0;
 
+  /// @name Events of the designer
+  /// @{
   virtual void RaisePropertyChanged(int propertyIndex, const Variant& value) = 0;
   virtual void RaiseRefreshPropertyList() = 0;
   virtual void RaiseAttribsList(std::vector<Text> names) = 0;
   /// Both sizes in twips.
   virtual void RaiseNeedResize(float width, float height) = 0;
+  /// @}
 
  protected:
   ~DesignerOwner() = default;

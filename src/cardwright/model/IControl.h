@@ -38,19 +38,27 @@ class IControl : public TableObject {
   virtual void SetHeight(float /*value*/) {}
   /// @}
 
+  /// @name Colours of background and text; 0 where the class has none. Setting raises the designer's
+  /// PropertyChanged.
+  /// @{
   virtual OleColor BackColor() const { return 0; }
   virtual void SetBackColor(OleColor /*color*/) {}
   virtual OleColor ForeColor() const { return 0; }
   virtual void SetForeColor(OleColor /*color*/) {}
+  /// @}
   /// The font object itself, shared and not copied.
   virtual Ref<cardwright::Font> GetFont() const { return {}; }
+  /// Sets the font object. Error 424 for a value that is no object, 13 for another object.
   virtual void SetFont(const Variant& /*font*/) {}
 
   /// The bound widget.
   virtual Ref<Object> BoundObject() const { return {}; }
+  /// Binds the control to its widget, or for null to none. Error 13 for an object that does not fit the
+  /// class.
   virtual void BindObject(Ref<Object> /*object*/) {}
   /// The owner: a FormDesigner or a FormInput; an object of any other type is ignored.
   virtual Ref<Object> ParentForm() const { return {}; }
+  /// Sets the owner.
   virtual void SetParentForm(Ref<Object> /*form*/) {}
 
   /// @name Property table. An index is a row's number from 0 or a name in any case. Error 9 for a number
@@ -84,11 +92,14 @@ class IControl : public TableObject {
   /// Only stored; the owner changes the z-order of the widget.
   virtual std::int16_t ZOrder() const { return 0; }
   virtual void SetZOrder(std::int16_t /*position*/) {}
+  /// Removes the widget from the surface.
   virtual void Delete() {}
 
   /// Text that goes into the feature attribute. `params` may hold an array whose first element is a template.
   virtual Text Value(std::optional<Variant> /*params*/ = {}) const { return {}; }
+  /// The text that the control shows.
   virtual Text DisplayText() const { return {}; }
+  /// The feature attribute that the control is bound to, or "".
   virtual Text AttributeName() const { return {}; }
 
   /// @name Links to other controls, by name.
@@ -100,6 +111,7 @@ class IControl : public TableObject {
 
   /// Script events that the class offers.
   virtual std::vector<Text> Events() const { return {}; }
+  /// Repaints the widget and reads its choices again.
   virtual void Refresh() {}
 
  protected:

@@ -11,6 +11,7 @@ namespace cardwright {
 /// that is read-only in the contract (`Text`) is written through its row.
 class TableControl : public IControl {
  public:
+  /// The table of the class.
   const ClassTable& Table() const noexcept { return m_Table; }
 
   Text TypeName() const override { return m_Table.className; }

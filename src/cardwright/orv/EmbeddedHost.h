@@ -26,6 +26,7 @@ class StoreSession;
 /// value. One invalid value discards all of them.
 class EmbeddedHost final : public HostConnection {
  public:
+  /// How a store is opened.
   enum class Access { ReadOnly, ReadWrite };
 
   /// Opens a store by a path or connection text of the data library. With ReadWrite a store that can only be
@@ -55,6 +56,7 @@ class EmbeddedHost final : public HostConnection {
   /// together. It may send commands and release the host.
   std::function<void(const Text& reason)> onError;
 
+  /// Whether the store can only be read.
   bool IsReadOnly() const noexcept;
   /// The handle that HWND_CONTROL returns, under which the host is registered. 0 until set.
   void SetHandle(std::int32_t handle) noexcept;

@@ -18,10 +18,13 @@ enum class SystemColor : std::int32_t {
   ButtonText = 18,
 };
 
+/// The colour number of a system colour.
 constexpr OleColor ToOleColor(SystemColor color) noexcept {
   return static_cast<OleColor>(0x80000000u | static_cast<std::uint32_t>(color));
 }
+/// Whether the number is a system colour index.
 constexpr bool IsSystemColor(OleColor color) noexcept { return color < 0; }
+/// The colour number of red, green and blue, 0 to 255 each.
 constexpr OleColor Rgb(std::uint8_t red, std::uint8_t green, std::uint8_t blue) noexcept {
   return red | (green << 8) | (blue << 16);
 }

@@ -25,10 +25,10 @@ enum class PointerShape : int {
 /// Points to be set on a surface in black, at (column * step, row * step) in the surface's scale. First and
 /// last are inclusive; a last before its first means none. The numbers may reach far beyond the surface.
 struct GridPoints {
-  int step = 1;
-  int firstColumn = 0;
+  int step = 1;         ///< distance of the points, in the surface's scale
+  int firstColumn = 0;  ///< columns, from 0 at the left edge
   int lastColumn = -1;
-  int firstRow = 0;
+  int firstRow = 0;  ///< rows, from 0 at the top edge
   int lastRow = -1;
 
   friend bool operator==(const GridPoints&, const GridPoints&) = default;
@@ -52,6 +52,7 @@ class DesignSurface : public Surface {
 
   /// @name Appearance
   /// @{
+  /// Colour of texts on the surface.
   virtual OleColor ForeColor() const = 0;
   virtual void SetForeColor(OleColor color) = 0;
   /// Pointer over the surface and its widgets.
@@ -84,6 +85,7 @@ class DesignSurface : public Surface {
 
   /// @name The mouse, while a drag runs
   /// @{
+  /// Position of the mouse pointer.
   virtual ScreenPoint CursorPosition() const = 0;
   /// False too once the press is lost to us: the window hidden or no longer active, the press taken by
   /// another program, the surface gone.
@@ -104,6 +106,7 @@ class DesignSurface : public Surface {
   /// Shows a line of text in a small window of its own; `place` is the window's left top corner. It takes
   /// neither focus nor mouse.
   virtual void ShowTooltip(const Text& text, ScreenPoint place) = 0;
+  /// Hides the text of ShowTooltip.
   virtual void HideTooltip() = 0;
   /// @}
 

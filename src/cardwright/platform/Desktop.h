@@ -12,18 +12,22 @@ namespace cardwright {
 class SettingsStore {
  public:
   virtual ~SettingsStore() = default;
+  /// The value of a key, or `fallback` if there is none.
   virtual Text Get(std::u16string_view app, std::u16string_view section, std::u16string_view key,
                    std::u16string_view fallback) const = 0;
-  /// Error 5 where a name is empty.
+  /// Stores the value of a key. Error 5 if a name is empty.
   virtual void Save(std::u16string_view app, std::u16string_view section, std::u16string_view key,
                     std::u16string_view value) = 0;
 };
 
 /// Style of a message box: a question's buttons plus an icon, as the platform numbers them.
 namespace BoxStyle {
+/// The buttons.
 inline constexpr int OkOnly = 0, OkCancel = 1, AbortRetryIgnore = 2, YesNoCancel = 3, YesNo = 4,
                      RetryCancel = 5;
-inline constexpr int SecondIsDefault = 256, ThirdIsDefault = 512;  ///< of the buttons
+/// Which button is the default; the first one otherwise.
+inline constexpr int SecondIsDefault = 256, ThirdIsDefault = 512;
+/// The icon.
 inline constexpr int Critical = 16, Question = 32, Exclamation = 48, Information = 64;
 }  // namespace BoxStyle
 
@@ -48,6 +52,7 @@ class Desktop {
   /// For work that takes long: processes the toolkit's events, but of a person's hands only the Break key;
   /// what else was pressed or clicked is dropped, and timers are held back. True where Break was pressed.
   virtual bool BreakPressed() = 0;
+  /// Plays the warning sound.
   virtual void Beep() = 0;
   /// The widget that has the focus, or null.
   virtual Ref<Widget> ActiveControl() const = 0;
@@ -59,6 +64,7 @@ class Desktop {
   virtual void Start(const Text& commandLine) = 0;
   /// What no two texts have in common: the SHA-256 digest of a text's UTF-8, in hexadecimal digits.
   virtual Text Digest(const Text& text) const = 0;
+  /// The settings of the user.
   virtual SettingsStore& Settings() = 0;
 };
 

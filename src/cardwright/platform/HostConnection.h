@@ -21,6 +21,7 @@ class Connections {
  public:
   /// The new handle; never 0.
   std::int32_t Register(Ref<HostConnection> connection);
+  /// Ends a connection; an unknown handle is ignored.
   void Close(std::int32_t handle);
   /// Null for a handle that is no connection.
   Ref<HostConnection> Find(std::int32_t handle) const;
@@ -34,6 +35,7 @@ class Connections {
 /// and for a request " -> " and the reply.
 class LoggedConnection final : public HostConnection {
  public:
+  /// Passes everything on to `target`.
   explicit LoggedConnection(Ref<HostConnection> target) : m_Target(std::move(target)) {}
 
   Text Execute(std::u16string_view command) override;
@@ -41,6 +43,7 @@ class LoggedConnection final : public HostConnection {
 
   /// All lines, each ended by CR LF.
   const Text& Log() const noexcept { return m_Log; }
+  /// Empties the log.
   void ClearLog() { m_Log = Text(); }
   /// Called with each line as it is written, without its end.
   std::function<void(std::u16string_view line)> onLine;

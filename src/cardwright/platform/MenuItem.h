@@ -12,13 +12,16 @@ class MenuItem final : public TableObject {
   MenuItem(std::u16string_view name, std::u16string_view caption) : m_Name(name), m_Caption(caption) {}
 
   Text TypeName() const override { return u"Menu"; }
+  /// Whether the entry is a separator.
   bool IsSeparator() const noexcept { return m_Caption.IsEmpty(); }
 
+  /// The name by which hosts and events identify the entry.
   const Text m_Name;
+  /// The visible text.
   Text m_Caption;
-  bool m_Enabled = true;
-  bool m_Visible = true;
-  bool m_Checked = false;
+  bool m_Enabled = true;   ///< greyed if false
+  bool m_Visible = true;   ///< left out of the menu if false
+  bool m_Checked = false;  ///< shown with a check mark
 
  protected:
   const MemberTable& Members() const override;

@@ -12,11 +12,16 @@ namespace cardwright {
 /// right, as form projects store them. By name: Width, Height (in pixels).
 class Picture final : public TableObject {
  public:
+  /// A picture of width times height pixels; the sizes must match.
   Picture(int width, int height, std::vector<OleColor> pixels);
 
   Text TypeName() const override { return u"Picture"; }
+  /// @name Size in pixels
+  /// @{
   int Width() const noexcept { return m_Width; }
   int Height() const noexcept { return m_Height; }
+  /// @}
+  /// Width times height colours, from the bottom row up.
   const std::vector<OleColor>& Pixels() const noexcept { return m_Pixels; }
 
  protected:

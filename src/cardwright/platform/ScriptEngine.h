@@ -43,6 +43,7 @@ class ScriptHost {
 class ScriptObserver {
  public:
   virtual ~ScriptObserver() = default;
+  /// A statement is about to run; lines count from 1, columns from 0.
   virtual void OnStatement(std::u16string_view module, int line, int column) = 0;
   /// A procedure is about to return to the statement that called it.
   virtual void OnReturn(std::u16string_view module, int line, int column);
@@ -65,6 +66,7 @@ class ScriptEngine {
   virtual void AddCode(std::u16string_view module, std::u16string_view code) = 0;
   /// Calls a procedure of the module. Error 5 where there is none.
   virtual Variant Run(std::u16string_view module, std::u16string_view procedure, Args args) = 0;
+  /// The value of an expression in a module.
   virtual Variant Evaluate(std::u16string_view module, std::u16string_view expression) = 0;
   /// The procedures of a module in the order of their definition.
   virtual std::vector<ScriptProcedure> Procedures(std::u16string_view module) const = 0;
@@ -75,11 +77,14 @@ class ScriptEngine {
 
   /// The error that the latest call met; number 0 where it met none.
   virtual ScriptError LastError() const = 0;
+  /// Forgets the error.
   virtual void ClearError() = 0;
 
   /// Milliseconds that an outermost call may take; -1 for no limit.
   virtual void SetTimeout(std::int32_t milliseconds) = 0;
+  /// Whether scripts may show dialogs; true at first.
   virtual void SetAllowUI(bool allowed) = 0;
+  /// Sets the one observer; null for none. It must outlive its use.
   virtual void SetObserver(ScriptObserver* observer) = 0;
   /// Ends the objects that the scripts left, as the engine does at its own end; what they do then may still
   /// call the program. Names are empty afterwards.

@@ -24,6 +24,7 @@ struct ScriptLanguage {
 /// The script languages that a program has.
 class ScriptLanguages {
  public:
+  /// The languages in the order in which they are listed to users.
   ScriptLanguages(std::initializer_list<ScriptLanguage> languages) : m_Languages(languages) {}
 
   /// @name Null where there is none; the case does not matter
@@ -31,6 +32,7 @@ class ScriptLanguages {
   const ScriptLanguage* Named(std::u16string_view name) const;
   const ScriptLanguage* OfExtension(std::u16string_view extension) const;
   /// @}
+  /// All languages in the given order.
   const std::vector<ScriptLanguage>& All() const noexcept { return m_Languages; }
 
  private:

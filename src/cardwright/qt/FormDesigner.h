@@ -20,6 +20,7 @@ class FormDesigner final : public VisualControl {
   Q_OBJECT
   Q_PROPERTY(bool EnableKeyDelete READ EnableKeyDelete WRITE SetEnableKeyDelete NOTIFY EnableKeyDeleteChanged)
  public:
+  /// A new form without controls.
   explicit FormDesigner(QWidget* parent = nullptr);
   ~FormDesigner() override;
 
@@ -36,21 +37,29 @@ class FormDesigner final : public VisualControl {
   /// @}
 
  Q_SIGNALS:
+  /// The form was resized.
   void Resize();
   /// Back from drawing to selection.
   void StateChanged(const QString& state);
+  /// An entry of the popup menu was enabled or disabled.
   void MenuStateChanged(const QString& menuName, bool state);
   /// Before the control becomes the current one. Never null.
   void CurrObjectChanged(cardwright::IControl* control);
+  /// A row of the current control has a new value.
   void PropertyChanged(int propertyIndex, const cardwright::Variant& value);
+  /// The user chose Properties in the popup menu.
   void PropertyMenuClick();
+  /// The values of several rows have changed.
   void RefreshPropertyList();
+  /// The attributes of the form's theme have been read.
   void AttribsList(const QStringList& attributes);
   /// Name of the widget (object_1), not the author's name.
   void ObjectRemoved(const QString& objectName);
+  /// The controls were locked or unlocked.
   void ControlsLocked(bool locked);
   /// Before the links that others have to the control follow.
   void ControlNameChanged(const QString& oldName, const QString& newName);
+  /// The property EnableKeyDelete has changed.
   void EnableKeyDeleteChanged(bool enabled);
 
  protected:

@@ -21,9 +21,11 @@ class FormInput final : public VisualControl, private QAccessible::ActivationObs
   Q_PROPERTY(bool SetAttributesEnabled READ SetAttributesEnabled WRITE SetSetAttributesEnabled NOTIFY
                  SetAttributesEnabledChanged)
  public:
+  /// An empty form with its two buttons.
   explicit FormInput(QWidget* parent = nullptr);
   ~FormInput() override;
 
+  /// The form without the toolkit, with its controls.
   Ref<cardwright::FormInput> Object() const noexcept { return m_Input; }
   Ref<cardwright::Object> Control() const override { return m_Input; }
 
@@ -44,10 +46,15 @@ class FormInput final : public VisualControl, private QAccessible::ActivationObs
   QSize minimumSizeHint() const override { return sizeHint(); }
 
  Q_SIGNALS:
+  /// OK was carried out: the host closes its window.
   void OkClick();
+  /// The form was cancelled: the host closes its window.
   void CancelClick();
+  /// The title for the host's window.
   void SetParentCaption(const QString& caption);
+  /// A control was renamed.
   void ControlNameChanged(const QString& oldName, const QString& newName);
+  /// The property SetAttributesEnabled has changed.
   void SetAttributesEnabledChanged(bool enabled);
 
  protected:

@@ -22,9 +22,11 @@ class OrvEditor final : public VisualControl {
                  OrvInfoSearchPathChanged)
   Q_PROPERTY(bool ToolbarVisible READ ToolbarVisible WRITE SetToolbarVisible NOTIFY ToolbarVisibleChanged)
  public:
+  /// An editor with an empty document.
   explicit OrvEditor(QWidget* parent = nullptr);
   ~OrvEditor() override;
 
+  /// The editor without the toolkit.
   Ref<cardwright::OrvEditor> Object() const noexcept { return m_Editor; }
   Ref<cardwright::Object> Control() const override { return m_Editor; }
 
@@ -49,11 +51,16 @@ class OrvEditor final : public VisualControl {
  Q_SIGNALS:
   /// The person answered that changes are to be saved; a host that has saved them clears FileModified.
   void UserSaveChange();
+  /// The caret or the selection has moved.
   void SelChange();
+  /// The text has changed.
   void Change();
+  /// @name A property has changed
+  /// @{
   void SaveButtonVisibleChanged(bool visible);
   void OrvInfoSearchPathChanged(const QString& path);
   void ToolbarVisibleChanged(bool visible);
+  /// @}
 
  private:
   void Forward(std::u16string_view event);

@@ -26,7 +26,9 @@ class FormInput final : public TableObject, public InputOwner {
 
   /// All objects of the form, the CForm first.
   Collection& Controls() override { return *m_Document.Controls(); }
+  /// The same collection, to be kept.
   Ref<Collection> ControlCollection() const { return m_Document.Controls(); }
+  /// Whether OK writes commands to the debug output of the application object instead of sending them.
   bool DebugMode() const noexcept { return m_DebugMode; }
   void SetDebugMode(bool debug) noexcept { m_DebugMode = debug; }
   /// The form describes a feature that is not stored yet: its attributes are not loaded.
@@ -46,11 +48,15 @@ class FormInput final : public TableObject, public InputOwner {
   bool SetAttributesEnabled() const noexcept { return m_SetAttributesEnabled; }
   void SetSetAttributesEnabled(bool enabled) noexcept { m_SetAttributesEnabled = enabled; }
   void ChangeControlName(Ref<Object> control, const Text& newName) override;
+  /// @name Theme and feature type that the form is bound to
+  /// @{
   Text GetThemeName() const { return m_Document.ThemeName(); }
   FeatureTypeEnum GetFeatureType() const { return m_Document.FeatureType(); }
   Text GetFeatureTypeString() const { return FeatureTypeText(GetFeatureType()); }
   /// Theme and feature type together.
   FeatureClass GetFeatureClass() const { return {GetThemeName(), GetFeatureType()}; }
+  /// @}
+  /// Number of the surface's window; 0 once it has ended.
   std::int32_t WindowHandle() const;
   /// The host's window, as every container gives it to its controls under this name; null where there is
   /// none.
@@ -58,11 +64,14 @@ class FormInput final : public TableObject, public InputOwner {
 
   /// False only in a debugging run without an output object.
   bool CanRunScripts() const override;
+  /// Whether OK stores attribute values.
   bool AttributesWritable() const noexcept { return m_SetAttributesEnabled && !m_DebugMode; }
 
-  /// What a click on the buttons does.
+  /// @name What a click on the buttons does
+  /// @{
   void Ok();
   void Cancel();
+  /// @}
   /// Tells the host to close the window without checks, scripts or writing.
   void CloseWithoutChecks() { RaiseEvent(u"CancelClick"); }
   /// Places the buttons in the bottom right corner while the container is being designed.

@@ -30,22 +30,31 @@ class Vellum final : public TableObject {
   Text ScriptContent() const;
   void SetScriptContent(const Text& content);
 
+  /// The icon that a form project has; null if there is none.
   Ref<Picture> GetFormImage(const Text& fileName) const;
+  /// @name The menu flag of a form project; false if there is no such file
+  /// @{
   bool GetShowMenu(const Text& fileName) const;
   void SetShowMenu(const Text& fileName, bool value);
+  /// @}
 
-  /// The system's colours until a host has set two colours that differ.
+  /// @name Colours of new forms: the system's colours until a host has set two colours that differ
+  /// @{
   OleColor DefaultBackColor() const;
   void SetDefaultBackColor(OleColor color);
   OleColor DefaultForeColor() const;
   void SetDefaultForeColor(OleColor color);
+  /// @}
 
-  /// Room that the row of buttons takes, in the form's scale.
+  /// @name Space for the buttons OK and Cancel, in the form's scale
+  /// @{
   float ButtonsOffsetY() const;
   float ButtonsOffsetX() const;
+  /// @}
 
   /// Draws a picture box as a grab handle; error 13 for any other object.
   void ResizeHandleEnabled(Ref<Object> handle, bool enabled);
+  /// Whether a picture box is drawn as an enabled grab handle; error 13 for any other object.
   bool ResizeHandleIsEnabled(Ref<Object> handle) const;
 
  protected:

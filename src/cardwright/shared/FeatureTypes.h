@@ -26,16 +26,16 @@ constexpr std::u16string_view FeatureTypeText(FeatureTypeEnum type) noexcept {
 
 /// The features of one type in a theme.
 struct FeatureClass {
-  Text theme;
-  FeatureTypeEnum type = FeatureTypeEnum::ftNone;
+  Text theme;                                      ///< name of the theme
+  FeatureTypeEnum type = FeatureTypeEnum::ftNone;  ///< the geometry kind in it
 };
 
 /// What a host says of one attribute of a feature class.
 struct AttributeRecord {
-  Text name;  ///< "" where the host's reply could not be read
-  AttributeTypeEnum type = AttributeTypeEnum::atCharacter;
-  std::int32_t length = 0;  ///< characters; 0 for no limit
-  std::int32_t decimals = 0;
+  Text name;                                                ///< "" where the host's reply could not be read
+  AttributeTypeEnum type = AttributeTypeEnum::atCharacter;  ///< what its values are
+  std::int32_t length = 0;                                  ///< characters; 0 for no limit
+  std::int32_t decimals = 0;                                ///< decimal places of a number
 
   friend bool operator==(const AttributeRecord&, const AttributeRecord&) = default;
 };

@@ -15,6 +15,7 @@ class IniStore;
 /// program, but does not wait for the disk.
 class CIni final : public TableObject {
  public:
+  /// An object without a file.
   CIni();
   ~CIni() override;
 
@@ -23,6 +24,7 @@ class CIni final : public TableObject {
   /// Creates the file empty where it is missing. A blank name, or one under which no file can be made, leaves
   /// FileName empty.
   void SetFileName(const Text& fileName);
+  /// Path of the file; "" without one.
   Text FileName() const { return m_FileName; }
 
   /// Text of the key, at most 8191 characters, or of the default; Empty where that is "". In a numeric text

@@ -25,15 +25,19 @@ class CodePage {
   /// All names that Select knows, without the "cp" forms.
   static std::vector<std::string_view> Names();
 
+  /// A page with these characters for the bytes 128 to 255; the lower ones are ASCII.
   CodePage(std::string_view name, const std::array<char16_t, 128>& upperHalf);
   CodePage(const CodePage&) = delete;
   CodePage& operator=(const CodePage&) = delete;
 
+  /// The name, as Names lists it.
   std::string_view Name() const noexcept { return m_Name; }
 
+  /// The characters of the bytes, one each.
   Text Decode(std::string_view bytes) const;
   /// One byte for each character; "?" for one that the page lacks, a surrogate pair being one character.
   std::string Encode(std::u16string_view text) const;
+  /// Whether the page has the character.
   bool CanEncode(char16_t c) const noexcept;
   /// Position of the first character that Encode would lose.
   std::optional<std::size_t> FirstLost(std::u16string_view text) const noexcept;
