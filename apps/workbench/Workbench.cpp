@@ -68,7 +68,7 @@ Workbench::Workbench(desktop::DataSource& source)
   RestoreLayout();
   statusBar()->setSizeGripEnabled(false);
   ShowSelection(m_Document->Designer().CurrentControl());
-  m_Script->Show(m_Document->GetScript());
+  m_Script->Begin(m_Document->GetScript(), ControlsOf(m_Document->Designer().Controls()));
   UpdateGrid();
   ShowList();
   ShowState();
@@ -102,7 +102,7 @@ void Workbench::MakePanes() {
   m_Features = new FeaturePane(this);
   m_Output = new OutputPane(this);
   m_Grid->setFocusProxy(&m_Grid->View());
-  m_Script->setFocusProxy(m_Script->findChild<QPlainTextEdit*>());
+  m_Script->setFocusProxy(&m_Script->Editor());
   QDockWidget* tools = AddPane("paneTools", tr("Tool Box"), m_Tools, Qt::LeftDockWidgetArea);
   QDockWidget* list = AddPane("paneControls", tr("Controls"), m_List, Qt::RightDockWidgetArea);
   QDockWidget* grid = AddPane("paneProperties", tr("Properties"), m_Grid, Qt::RightDockWidgetArea);
@@ -150,6 +150,13 @@ void Workbench::ConnectDocument() {
   connect(m_Document, &Document::RowChanged, m_Grid, [this](int row) { m_Grid->Model().Refresh(row); });
   connect(m_Document, &Document::DrawingEnded, m_Tools, &ToolBox::Reset);
   connect(m_Document, &Document::Resized, this, &Workbench::UpdateGrid);
+  connect(m_Document, &Document::EventRequested, this, [this](IControl* control) {
+    QDockWidget* script = m_Panes[QStringLiteral("paneScript")];
+    script->show();
+    script->raise();
+    m_Script->OpenDefaultEvent(*control);
+    m_Script->setFocus();
+  });
   connect(m_Document, &Document::PropertiesRequested, this, [this] {
     m_Panes[QStringLiteral("paneProperties")]->show();
     m_Grid->View().setFocus();
@@ -170,7 +177,7 @@ void Workbench::ConnectDocument() {
   });
   connect(m_Document, &Document::ProjectOpened, this, [this] {
     m_List->Forget();
-    m_Script->Begin(m_Document->GetScript());
+    m_Script->Begin(m_Document->GetScript(), ControlsOf(m_Document->Designer().Controls()));
   });
   connect(m_Document, &Document::Changed, this, [this] {
     m_ListSoon.start(0);
@@ -238,7 +245,9 @@ void Workbench::ShowCommands() {
 void Workbench::ShowList() {
   cardwright::FormDesigner& designer = m_Document->Designer();
   m_List->Show(designer);
-  for (const Ref<IControl>& control : ControlsOf(designer.Controls()))
+  const std::vector<Ref<IControl>> controls = ControlsOf(designer.Controls());
+  m_Script->ShowControls(controls);
+  for (const Ref<IControl>& control : controls)
     if (QWidget* native = NativeOf(*control)) {
       native->setAccessibleName(qt::ToQString(control->UserName()));
       native->setAccessibleDescription(KindName(ClassOf(*control).type));

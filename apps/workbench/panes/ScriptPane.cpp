@@ -1,110 +1,168 @@
+// SPDX-License-Identifier: MIT
 #include "workbench/panes/ScriptPane.h"
 
-#include <QFontDatabase>
-#include <QHBoxLayout>
 #include <QKeyEvent>
-#include <QLabel>
-#include <QTextBlock>
+#include <QScopedValueRollback>
+#include <QScrollBar>
+#include <QToolBar>
 #include <QVBoxLayout>
+#include <algorithm>
 
+#include "cardwright/editor/EditorSurface.h"
+#include "cardwright/editor/LanguageTables.h"
 #include "cardwright/qt/values/QtText.h"
+#include "cardwright/qt/widgets/WidgetCore.h"
+#include "workbench/project/ModuleScope.h"
 #include "workbench/project/TextChange.h"
 
 namespace cardwright::workbench {
 namespace {
 
-// The editor uses line feeds; projects have carriage return and line feed.
-QString WithLineFeeds(const Text& content) {
-  return qt::ToQString(content).replace(QLatin1String("\r\n"), QLatin1String("\n")).replace(u'\r', u'\n');
-}
-Text WithBoth(QString text) { return qt::FromQString(text.replace(u'\n', QLatin1String("\r\n"))); }
+constexpr std::u16string_view kInitialize = u"Initialize";
+constexpr QChar kWrittenMark = u'*';  // of an event whose procedure is written
 
-// Replaces only what differs, as an edit: cursors, scroll position and undo steps stay.
-void Replace(QTextDocument& document, const QString& text) {
-  const QString before = document.toPlainText();
-  const TextChange change = ChangeBetween(qt::ViewOf(before), qt::ViewOf(text));
-  QTextCursor cursor(&document);
-  cursor.setPosition(static_cast<int>(change.begin));
-  cursor.setPosition(static_cast<int>(change.endBefore), QTextCursor::KeepAnchor);
-  cursor.insertText(text.sliced(static_cast<qsizetype>(change.begin),
-                                static_cast<qsizetype>(change.endAfter - change.begin)));
+// Projects may come with other line ends, but forms find procedures by carriage return and line feed.
+Text WithLineEnds(const Text& content) {
+  QString text = qt::ToQString(content);
+  text.replace(QLatin1String("\r\n"), QLatin1String("\n")).replace(u'\r', u'\n');
+  return qt::FromQString(text.replace(u'\n', QLatin1String("\r\n")));
 }
 
-/// Handles both shortcuts of Redo. The toolkit's editor has only one; the other would redo a step of the
-/// form.
-class ScriptEditor final : public QPlainTextEdit {
- public:
-  using QPlainTextEdit::QPlainTextEdit;
+QComboBox& NativeCombo(const Ref<ComboWidget>& combo) {
+  return *qobject_cast<QComboBox*>(dynamic_cast<const qt::WidgetCore&>(*combo).Native());
+}
 
- protected:
-  bool event(QEvent* event) override {
-    const bool isOurs = event->type() == QEvent::ShortcutOverride && IsRedo(static_cast<QKeyEvent&>(*event));
-    if (isOurs) event->accept();
-    return isOurs || QPlainTextEdit::event(event);
-  }
-  void keyPressEvent(QKeyEvent* event) override {
-    if (!IsRedo(*event)) return QPlainTextEdit::keyPressEvent(event);
-    redo();
-    event->accept();
-  }
+// As a user chooses it: an entry that is chosen already is chosen again.
+void Choose(QComboBox& combo, int index) {
+  if (index < 0) return;
+  combo.setCurrentIndex(index);
+  Q_EMIT combo.activated(index);
+}
 
- private:
-  static bool IsRedo(const QKeyEvent& key) {
-    return key.key() == Qt::Key_Y && key.modifiers() == Qt::ControlModifier;
-  }
-};
+Text DefaultEvent(const IControl& control) {
+  const std::vector<Text> events = control.Events();
+  if (std::ranges::find(events, Text(kInitialize)) != events.end()) return kInitialize;
+  return events.empty() ? Text() : events.front();
+}
+
+bool IsRedo(const QKeyEvent& key) { return key.key() == Qt::Key_Y && key.modifiers() == Qt::ControlModifier; }
 
 }  // namespace
 
-ScriptPane::ScriptPane(QWidget* parent)
-    : QWidget(parent),
-      m_Language(new QComboBox(this)),
-      m_Place(new QLabel(this)),
-      m_Editor(new ScriptEditor(this)) {
-  m_Language->addItems({QStringLiteral("VBScript"), QStringLiteral("JScript")});
-  m_Language->setAccessibleName(tr("Language of the script"));
-  auto* label = new QLabel(tr("&Language:"), this);
-  label->setBuddy(m_Language);
-  m_Editor->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
-  m_Editor->setLineWrapMode(QPlainTextEdit::NoWrap);
-  m_Editor->setTabChangesFocus(true);
-  m_Editor->setTabStopDistance(m_Editor->fontMetrics().horizontalAdvance(u' ') * 4);
-  m_Editor->setAccessibleName(tr("Script of the form"));
-  m_Editor->setPlaceholderText(tr("Procedures that the form's events run, such as Sub Form_Initialize()"));
+/// Keeps the keyboard focus where the user works: the editor moves it to the text whenever its lists change,
+/// which would end the editing of a cell. A disabled widget takes no focus.
+class ScriptPane::FocusGuard {
+ public:
+  explicit FocusGuard(ScriptPane& pane)
+      : m_Pane(pane), m_IsElsewhere(!pane.isAncestorOf(pane.window()->focusWidget())) {
+    if (m_IsElsewhere) m_Pane.setEnabled(false);
+  }
+  ~FocusGuard() {
+    if (m_IsElsewhere) m_Pane.setEnabled(true);
+  }
+  FocusGuard(const FocusGuard&) = delete;
+  FocusGuard& operator=(const FocusGuard&) = delete;
 
-  auto* head = new QHBoxLayout;
-  head->setContentsMargins(4, 4, 4, 0);
-  head->addWidget(label);
-  head->addWidget(m_Language);
-  head->addStretch();
-  head->addWidget(m_Place);
+ private:
+  ScriptPane& m_Pane;
+  const bool m_IsElsewhere;
+};
+
+ScriptPane::ScriptPane(QWidget* parent) : QWidget(parent), m_Controls(MakeRef<Collection>()) {
+  const FocusGuard guard(*this);
+  m_Editor = new qt::OrvEditor(this);
+  m_Editor->SetSaveButtonVisible(false);  // the script is saved with its project
+  m_Pad = m_Editor->Object()->GetSurface()->Pad();
+  m_Edit = m_Editor->findChild<qt::CodeEdit*>();
+  m_Edit->setAccessibleName(tr("Script of the form"));
+  m_Edit->setPlaceholderText(tr("Procedures that the form's events run, such as Sub Form_Initialize()"));
+  m_Edit->installEventFilter(this);
+  MakeLanguageChoice();
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins({});
-  layout->setSpacing(4);
-  layout->addLayout(head);
-  layout->addWidget(m_Editor, 1);
-
-  connect(m_Editor, &QPlainTextEdit::textChanged, this, &ScriptPane::OnEdit);
-  connect(m_Editor, &QPlainTextEdit::cursorPositionChanged, this, &ScriptPane::ShowPlace);
-  connect(m_Language, &QComboBox::activated, this, &ScriptPane::OnEdit);
-  ShowPlace();
+  layout->addWidget(m_Editor);
+  // An act of the user is told once: a line that is left takes another spelling, which belongs to the act.
+  connect(m_Edit, &qt::CodeEdit::InputBegins, this, [this] { ++m_InputDepth; });
+  connect(m_Edit, &qt::CodeEdit::InputEnds, this, [this] {
+    if (--m_InputDepth == 0) OnEdit();
+  });
+  connect(m_Editor, &qt::OrvEditor::Change, this, [this] {
+    if (m_InputDepth == 0) OnEdit();
+  });
 }
 
-void ScriptPane::Begin(const Script& script) {
-  m_IsShowing = true;
-  m_Shown = script;
+void ScriptPane::MakeLanguageChoice() {
+  m_Language = new QComboBox(this);
+  m_Language->addItems({qt::ToQString(kVbscriptName), qt::ToQString(kJscriptName)});
+  m_Language->setAccessibleName(tr("Language of the script"));
+  m_Language->setToolTip(m_Language->accessibleName());
+  auto* const bar = m_Editor->findChild<QToolBar*>();
+  bar->insertWidget(bar->actions().constFirst(), m_Language);  // seen in a narrow pane too
+  connect(m_Language, &QComboBox::activated, this, &ScriptPane::ChooseLanguage);
+}
+
+QComboBox& ScriptPane::Controls() const {
+  return NativeCombo(m_Editor->Object()->GetSurface()->ControlsCombo());
+}
+
+QComboBox& ScriptPane::Events() const { return NativeCombo(m_Editor->Object()->GetSurface()->EventsCombo()); }
+
+void ScriptPane::Begin(const Script& script, const std::vector<Ref<IControl>>& controls) {
+  m_ControlNames.clear();
+  ShowControls(controls);
+  Load(script);
+}
+
+// The editor takes controls, script and language together, and those two from the thread. It writes a first
+// line into an empty script, which is the author's to write here.
+void ScriptPane::Load(const Script& script) {
+  const FocusGuard guard(*this);
+  const QScopedValueRollback showing(m_IsShowing, true);
+  const Text content = WithLineEnds(script.content);
+  const Text language = IsKnownLanguage(script.language) ? script.language : Text(kVbscriptName);
+  {
+    const ModuleScope scope({language, content}, Module().formScaleMode);
+    m_Editor->Object()->ReadControls(m_Controls);
+  }
+  if (m_Pad->Contents() != content) m_Pad->SetContents(content);
   ShowLanguage(script.language);
-  m_Editor->setPlainText(WithLineFeeds(script.content));
-  m_IsShowing = false;
+  m_Shown = script;
 }
 
 void ScriptPane::Show(const Script& script) {
   if (script == m_Shown) return;
-  m_IsShowing = true;
-  ShowLanguage(script.language);
-  if (script.content != m_Shown.content) Replace(*m_Editor->document(), WithLineFeeds(script.content));
+  if (script.language != m_Shown.language) return Load(script);
+  const FocusGuard guard(*this);
+  const QScopedValueRollback showing(m_IsShowing, true);
+  Replace(WithLineEnds(script.content));
   m_Shown = script;
-  m_IsShowing = false;
+}
+
+// Replaces only what differs, as an edit: caret, scroll position and undo steps stay. The lines keep their
+// spelling, although the user leaves them.
+void ScriptPane::Replace(const Text& content) {
+  const TextChange change = ChangeBetween(m_Pad->Contents(), content);
+  const auto begin = static_cast<std::int32_t>(change.begin);
+  const auto end = static_cast<std::int32_t>(change.endBefore);
+  const auto size = static_cast<std::int32_t>(change.endAfter) - begin;
+  const auto moved = [&](std::int32_t place) {
+    return place <= begin ? place : place >= end ? place + begin + size - end : begin;
+  };
+  const std::int32_t selectionEnd = moved(m_Pad->SelStart() + m_Pad->SelLength());
+  const std::int32_t selectionStart = moved(m_Pad->SelStart());
+  const int scrolled = m_Edit->verticalScrollBar()->value();
+  m_Edit->SetTracksEdits(false);
+  {
+    const PadUpdate update(*m_Pad);
+    m_Pad->SetSelStart(begin);
+    m_Pad->SetSelLength(end - begin);
+    m_Pad->SetSelText(content.View().substr(change.begin, static_cast<std::size_t>(size)));
+    m_Pad->SetSelStart(selectionStart);
+    m_Pad->SetSelLength(selectionEnd - selectionStart);
+  }
+  m_Edit->SetTracksEdits(true);
+  m_Edit->verticalScrollBar()->setValue(scrolled);
+  if (m_Pad->Contents() != content) m_Pad->SetContents(content);
 }
 
 // Languages are compared without case; an unknown one is added to the list.
@@ -118,22 +176,50 @@ void ScriptPane::ShowLanguage(const Text& language) {
   m_Language->setCurrentIndex(at);
 }
 
-void ScriptPane::OnEdit() {
-  if (m_IsShowing) return;
+void ScriptPane::ChooseLanguage() {
   Script edited = m_Shown;
-  const QString text = m_Editor->toPlainText();
-  if (text != WithLineFeeds(m_Shown.content)) edited.content = WithBoth(text);
-  const QString language = m_Language->currentText();
-  if (language.compare(qt::ToQString(m_Shown.language), Qt::CaseInsensitive) != 0)
-    edited.language = qt::FromQString(language);
-  if (edited == m_Shown) return;
-  m_Shown = edited;
+  edited.language = qt::FromQString(m_Language->currentText());
+  if (EqualsNoCase(edited.language, m_Shown.language)) return;
+  const std::int32_t caret = m_Pad->SelStart();
+  Load(edited);
+  m_Pad->SetSelStart(caret);
   Q_EMIT Edited(edited);
 }
 
-void ScriptPane::ShowPlace() {
-  const QTextCursor cursor = m_Editor->textCursor();
-  m_Place->setText(tr("Line %1, column %2").arg(cursor.blockNumber() + 1).arg(cursor.positionInBlock() + 1));
+void ScriptPane::OnEdit() {
+  if (m_IsShowing) return;
+  const Text content = m_Pad->Contents();
+  if (content == WithLineEnds(m_Shown.content)) return;
+  m_Shown.content = content;
+  Q_EMIT Edited(m_Shown);
+}
+
+void ScriptPane::ShowControls(const std::vector<Ref<IControl>>& controls) {
+  std::vector<Text> names;
+  m_Controls->Clear();
+  for (const Ref<IControl>& control : controls) {
+    m_Controls->Add(Variant(control));
+    names.push_back(control->UserName());
+  }
+  if (std::exchange(m_ControlNames, names) == names) return;
+  const FocusGuard guard(*this);
+  m_Editor->Object()->RefreshControlsList();
+}
+
+void ScriptPane::OpenDefaultEvent(const IControl& control) {
+  Choose(Controls(), Controls().findText(qt::ToQString(control.UserName()), Qt::MatchFixedString));
+  const QString event = qt::ToQString(DefaultEvent(control));
+  const int plain = Events().findText(event, Qt::MatchFixedString);
+  Choose(Events(), plain >= 0 ? plain : Events().findText(event + kWrittenMark, Qt::MatchFixedString));
+}
+
+// Both shortcuts of Redo. The toolkit's editor has only one; the other would redo a step of the form.
+bool ScriptPane::eventFilter(QObject* object, QEvent* event) {
+  const bool isKey = event->type() == QEvent::ShortcutOverride || event->type() == QEvent::KeyPress;
+  if (!isKey || !IsRedo(static_cast<QKeyEvent&>(*event))) return QWidget::eventFilter(object, event);
+  if (event->type() == QEvent::KeyPress) m_Editor->Object()->DoRedo();
+  event->accept();
+  return true;
 }
 
 }  // namespace cardwright::workbench

@@ -69,6 +69,8 @@ class Document final : public QObject {
   void MenuChanged(const QString& name, bool enabled);
   void Locked(bool locked);
   void PropertiesRequested();
+  /// A control, or the form, was double-clicked.
+  void EventRequested(cardwright::IControl* control);
   /// The surface was resized.
   void Resized();
 
@@ -92,6 +94,8 @@ class Document final : public QObject {
   void GoTo(const ProjectState& state);
   void Begin(bool isSaved);
   Ref<IControl> Form() const;
+  void OnDoubleClick();
+  void OnRightPress();
   bool eventFilter(QObject* object, QEvent* event) override;
 
   FormStage& m_Stage;

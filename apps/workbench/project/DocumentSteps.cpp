@@ -204,13 +204,32 @@ void Document::OnChangeEvent(std::u16string_view event, Args args) {
   RecordSoon();
 }
 
+// The designer has no event for a double click, whose first press has selected what is meant.
+void Document::OnDoubleClick() {
+  if (m_Designer->ControlTypeToAdd() != ControlTypeEnum::ctDefault) return;
+  QTimer::singleShot(0, this, [this] {
+    if (const Ref<IControl> control = m_Designer->CurrentControl()) Q_EMIT EventRequested(control.get());
+  });
+}
+
 // The designer's popup menu restacks without an event, so a right click checks for changes.
+void Document::OnRightPress() {
+  RecordTyping();
+  m_RecordTimer.start();
+}
+
 bool Document::eventFilter(QObject* object, QEvent* event) {
-  if (event->type() == QEvent::MouseButtonPress &&
-      static_cast<QMouseEvent*>(event)->button() == Qt::RightButton && object->isWidgetType() &&
-      m_Stage.isAncestorOf(static_cast<QWidget*>(object)) && !m_IsLoading) {
-    RecordTyping();
-    m_RecordTimer.start();
+  const QEvent::Type type = event->type();
+  const bool isPress = type == QEvent::MouseButtonPress || type == QEvent::MouseButtonDblClick;
+  if (isPress && !m_IsLoading && object->isWidgetType()) {
+    const auto* const widget = static_cast<const QWidget*>(object);
+    const QWidget& form = m_Stage.Designer();
+    const Qt::MouseButton button = static_cast<QMouseEvent*>(event)->button();
+    if (type == QEvent::MouseButtonPress && button == Qt::RightButton && m_Stage.isAncestorOf(widget))
+      OnRightPress();
+    if (type == QEvent::MouseButtonDblClick && button == Qt::LeftButton &&
+        (widget == &form || form.isAncestorOf(widget)))
+      OnDoubleClick();
   }
   return QObject::eventFilter(object, event);
 }

@@ -104,7 +104,8 @@ QtToolbar::QtToolbar(WidgetPlace place, std::function<void(const Text& key)> onB
 QRect QtToolbar::RectOf(std::u16string_view key) const {
   for (QAction* action : Live(m_Bar)->actions())
     if (EqualsNoCase(ViewOf(action->objectName()), key))
-      if (const QWidget* const widget = m_Bar->widgetForAction(action)) return widget->geometry();
+      if (const QWidget* const widget = m_Bar->widgetForAction(action); widget && !widget->isHidden())
+        return widget->geometry();
   return {};
 }
 

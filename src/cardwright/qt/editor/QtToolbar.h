@@ -18,7 +18,7 @@ class QtToolbar final : public QtWidget<ToolbarWidget> {
 
   Text TypeName() const override { return ToolbarWidget::TypeName(); }
   Ref<ToolButtons> Buttons() const override { return Live(m_Buttons); }
-  /// A button's rectangle in pixels, in the toolbar.
+  /// A button's rectangle in pixels, in the toolbar; an empty one where the toolbar is too narrow for it.
   QRect RectOf(std::u16string_view key) const;
   QToolBar& Bar() const;
 
