@@ -7,12 +7,12 @@
 #include "FormFiles.h"
 #include "Measure.h"
 #include "cardwright/hosting/FormScripts.h"
-#include "cardwright/jscript/Engine.h"
+#include "cardwright/jscript/JScriptEngine.h"
 #include "cardwright/qt/FormInput.h"
 #include "cardwright/qt/Library.h"
 #include "cardwright/runtime/ScriptRun.h"
 #include "cardwright/shared/ModuleState.h"
-#include "cardwright/vbscript/Engine.h"
+#include "cardwright/vbscript/VbScriptEngine.h"
 
 namespace {
 

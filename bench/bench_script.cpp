@@ -13,7 +13,7 @@
 
 #include "Measure.h"
 #include "cardwright/automation/MemberTable.h"
-#include "cardwright/vbscript/Engine.h"
+#include "cardwright/vbscript/VbScriptEngine.h"
 
 namespace {
 

@@ -6,7 +6,7 @@
 #include "cardwright/automation/Errors.h"
 #include "cardwright/automation/MemoryBudget.h"
 #include "cardwright/scripting/Dictionary.h"
-#include "cardwright/vbscript/Engine.h"
+#include "cardwright/vbscript/VbScriptEngine.h"
 
 namespace cardwright::vbscript {
 

@@ -8,7 +8,7 @@
 
 #include "cardwright/automation/Collection.h"
 #include "cardwright/automation/Errors.h"
-#include "cardwright/jscript/Engine.h"
+#include "cardwright/jscript/JScriptEngine.h"
 
 namespace {
 

@@ -19,9 +19,9 @@
 
 #include "cardwright/automation/MemberTable.h"
 #include "cardwright/automation/MemoryBudget.h"
-#include "cardwright/jscript/Engine.h"
+#include "cardwright/jscript/JScriptEngine.h"
 #include "cardwright/platform/EngineControl.h"
-#include "cardwright/vbscript/Engine.h"
+#include "cardwright/vbscript/VbScriptEngine.h"
 
 namespace {
 

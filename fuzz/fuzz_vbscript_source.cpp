@@ -6,7 +6,7 @@
 #include <cstdint>
 
 #include "VbscriptRun.h"
-#include "cardwright/vbscript/Engine.h"
+#include "cardwright/vbscript/VbScriptEngine.h"
 #include "cardwright/vbscript/syntax/Parser.h"
 #include "cardwright/vbscript/syntax/Printer.h"
 

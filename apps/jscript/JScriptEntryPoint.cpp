@@ -1,4 +1,4 @@
-#include "cardwright/jscript/Engine.h"
+#include "cardwright/jscript/JScriptEngine.h"
 
 extern "C" __attribute__((visibility("default"))) const cardwright::ScriptLanguage cardwrightJScriptLanguage;
 const cardwright::ScriptLanguage cardwrightJScriptLanguage = cardwright::jscript::Language();

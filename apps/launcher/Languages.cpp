@@ -1,6 +1,6 @@
 #include "launcher/Languages.h"
 
-#include "cardwright/vbscript/Engine.h"
+#include "cardwright/vbscript/VbScriptEngine.h"
 #include "launcher/Modules.h"
 
 namespace cardwright::app {

@@ -8,7 +8,7 @@ new=$(mktemp -d)
 trap 'rm -rf "$new"' EXIT
 store="$new/wells.gpkg"
 
-# layer SQL [option...]: one layer from the query over its table; the types and widths stand in the query.
+# layer SQL [option...]: one layer from the query over its table; the query has the types and widths.
 layer() {
   name=$1 query=$2
   shift 2

@@ -12,12 +12,12 @@
 
 #include "cardwright/automation/Errors.h"
 #include "cardwright/hosting/FormScripts.h"
-#include "cardwright/jscript/Engine.h"
+#include "cardwright/jscript/JScriptEngine.h"
 #include "cardwright/orv/EmbeddedHost.h"
 #include "cardwright/qt/FormInput.h"
 #include "cardwright/qt/Library.h"
 #include "cardwright/qt/values/QtText.h"
-#include "cardwright/vbscript/Engine.h"
+#include "cardwright/vbscript/VbScriptEngine.h"
 
 using namespace cardwright;
 

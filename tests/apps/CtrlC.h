@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Program.h"
+#include "RunProgram.h"
 
 namespace cardwright::testing {
 

@@ -1,7 +1,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "Program.h"
+#include "RunProgram.h"
 
 namespace cardwright::testing {
 namespace {

@@ -4,7 +4,7 @@
 #include <csignal>
 #include <filesystem>
 
-#include "Program.h"
+#include "RunProgram.h"
 #include "RunningProgram.h"
 
 namespace cardwright::testing {
@@ -80,7 +80,7 @@ TEST(Fill, AsksAtCtrlCWhetherToStopAScriptAndEndsAtASecondOne) {
   }
 }
 
-// The whole road with real keys and clicks: form, widgets, host commands, GeoPackage; read back by the data
+// End to end with real keys and clicks: form, widgets, host commands, GeoPackage; read back by the data
 // library's own tool.
 TEST(Fill, StoresTypedValuesInTheGeoPackage) {
   const TempFolder folder;

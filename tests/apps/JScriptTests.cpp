@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "CtrlC.h"
-#include "Program.h"
+#include "RunProgram.h"
 
 namespace cardwright::testing {
 namespace {

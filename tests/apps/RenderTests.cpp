@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "Program.h"
+#include "RunProgram.h"
 
 namespace cardwright::testing {
 namespace {

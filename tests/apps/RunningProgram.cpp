@@ -10,7 +10,7 @@
 #include <sstream>
 #include <thread>
 
-#include "Program.h"
+#include "RunProgram.h"
 
 namespace cardwright::testing {
 namespace {

@@ -1,9 +1,9 @@
-// Which libraries a script file brings into the process. The loader tells of each on standard error.
+// Which libraries a script file loads into the process. The loader lists them on standard error.
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "Program.h"
+#include "RunProgram.h"
 
 namespace cardwright::testing {
 namespace {

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "cardwright/hosting/FormScripts.h"
-#include "cardwright/jscript/Engine.h"
-#include "cardwright/vbscript/Engine.h"
+#include "cardwright/jscript/JScriptEngine.h"
+#include "cardwright/vbscript/VbScriptEngine.h"
 #include "runtime/FormTest.h"
 
 namespace cardwright {

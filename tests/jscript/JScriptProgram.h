@@ -1,6 +1,6 @@
 #pragma once
 
-#include "cardwright/jscript/Engine.h"
+#include "cardwright/jscript/JScriptEngine.h"
 #include "programs/Program.h"
 
 namespace cardwright::jscript {

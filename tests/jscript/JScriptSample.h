@@ -12,7 +12,7 @@
 #include "cardwright/automation/Conversions.h"
 #include "cardwright/automation/Errors.h"
 #include "cardwright/automation/MemberTable.h"
-#include "cardwright/jscript/Engine.h"
+#include "cardwright/jscript/JScriptEngine.h"
 
 namespace cardwright::jscript {
 

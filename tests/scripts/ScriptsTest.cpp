@@ -5,7 +5,7 @@
 #include <cstdlib>
 #include <sstream>
 
-#include "apps/Program.h"
+#include "apps/RunProgram.h"
 
 namespace cardwright::testing {
 namespace {

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "cardwright/automation/Errors.h"
-#include "cardwright/vbscript/Engine.h"
+#include "cardwright/vbscript/VbScriptEngine.h"
 
 namespace cardwright::vbscript {
 namespace {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "cardwright/vbscript/Engine.h"
+#include "cardwright/vbscript/VbScriptEngine.h"
 #include "programs/Program.h"
 
 namespace cardwright::vbscript {

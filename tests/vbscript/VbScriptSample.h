@@ -11,7 +11,7 @@
 #include "cardwright/automation/Errors.h"
 #include "cardwright/automation/MemberTable.h"
 #include "cardwright/scripting/Dictionary.h"
-#include "cardwright/vbscript/Engine.h"
+#include "cardwright/vbscript/VbScriptEngine.h"
 
 namespace cardwright::vbscript {
 

@@ -47,8 +47,8 @@ TEST_F(DrawingTest, DrawsIntoTheFrameUnderTheMouse) {
 }
 
 TEST_F(DrawingTest, PaintsTheGridBlackExceptOnADarkBackground) {
-  const auto pointOn = [&](OleColor ground) {
-    Designer().GetSurface()->SetBackColor(ground);
+  const auto pointOn = [&](OleColor background) {
+    Designer().GetSurface()->SetBackColor(background);
     return bench->Stage().Designer().grab().toImage().pixelColor(8, 8);
   };
   EXPECT_EQ(pointOn(0xFFFFFF), QColor(Qt::black));

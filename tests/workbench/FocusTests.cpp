@@ -65,10 +65,10 @@ TEST_F(FocusTest, DoesNotChangeTheColorsOfTheForm) {
 
 TEST_F(FocusTest, HighlightsTheTitleOfTheFormWithFocus) {
   bench->List().setFocus();
-  const auto ground = [&] { return bench->Stage().Title().grab().toImage().pixelColor(2, 2); };
-  EXPECT_EQ(ground().saturation(), 0);
+  const auto background = [&] { return bench->Stage().Title().grab().toImage().pixelColor(2, 2); };
+  EXPECT_EQ(background().saturation(), 0);
   GoTo(Qt::Key_0);
-  EXPECT_EQ(ground(), bench->palette().color(QPalette::Active, QPalette::Highlight));
+  EXPECT_EQ(background(), bench->palette().color(QPalette::Active, QPalette::Highlight));
 }
 
 TEST_F(FocusTest, FollowsAPaletteChange) {

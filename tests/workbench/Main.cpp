@@ -5,7 +5,7 @@
 #include <memory>
 
 #include "cardwright/hosting/FormScripts.h"
-#include "cardwright/vbscript/Engine.h"
+#include "cardwright/vbscript/VbScriptEngine.h"
 
 namespace {
 

@@ -165,14 +165,14 @@ TEST_F(RunTest, LoadsNoValuesForANewFeature) {
 }
 
 TEST_F(RunTest, KeepsTheSelectionInTheOutputWhileTextIsAdded) {
-  desktop::DebugPane& told = *bench->Output().Debug();
-  for (int line = 0; line < 200; ++line) told.SetSelText(u"line\r\n");
-  QPlainTextEdit& pane = *told.Pane();
+  desktop::DebugPane& output = *bench->Output().Debug();
+  for (int line = 0; line < 200; ++line) output.SetSelText(u"line\r\n");
+  QPlainTextEdit& pane = *output.Pane();
   QTextCursor cursor(pane.document());
   cursor.select(QTextCursor::LineUnderCursor);
   pane.setTextCursor(cursor);
   const int place = pane.verticalScrollBar()->value();
-  told.SetSelText(u"more\r\n");
+  output.SetSelText(u"more\r\n");
   EXPECT_EQ(pane.textCursor().selectedText(), QStringLiteral("line"));
   EXPECT_EQ(pane.verticalScrollBar()->value(), place);
 }

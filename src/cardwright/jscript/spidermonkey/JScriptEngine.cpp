@@ -11,7 +11,7 @@
 #include <atomic>
 
 #include "cardwright/automation/Errors.h"
-#include "cardwright/jscript/Engine.h"
+#include "cardwright/jscript/JScriptEngine.h"
 #include "cardwright/jscript/errors/ErrorTexts.h"
 #include "cardwright/jscript/spidermonkey/ScriptErrors.h"
 #include "cardwright/jscript/spidermonkey/ScriptSession.h"

@@ -17,7 +17,7 @@
 #include <vector>
 
 #include "cardwright/automation/MemoryBudget.h"
-#include "cardwright/jscript/Engine.h"
+#include "cardwright/jscript/JScriptEngine.h"
 #include "cardwright/jscript/spidermonkey/MemberCache.h"
 #include "cardwright/jscript/spidermonkey/Runtime.h"
 #include "cardwright/jscript/spidermonkey/Watchdog.h"

@@ -11,7 +11,7 @@
 #include "cardwright/platform/ScriptEngine.h"
 #include "cardwright/platform/StopSignal.h"
 #include "cardwright/vbscript/Context.h"
-#include "cardwright/vbscript/Engine.h"
+#include "cardwright/vbscript/VbScriptEngine.h"
 #include "cardwright/vbscript/code/Linkage.h"
 #include "cardwright/vbscript/machine/ErrObject.h"
 #include "cardwright/vbscript/machine/Frame.h"

@@ -1,4 +1,4 @@
-#include "cardwright/vbscript/Engine.h"
+#include "cardwright/vbscript/VbScriptEngine.h"
 
 #include "cardwright/vbscript/code/Disassembler.h"
 #include "cardwright/vbscript/compile/Compiler.h"

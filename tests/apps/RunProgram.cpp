@@ -1,4 +1,4 @@
-#include "Program.h"
+#include "RunProgram.h"
 
 #include <sys/wait.h>
 #include <unistd.h>
