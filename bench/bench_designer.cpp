@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The designer at work on a form of 500 mixed controls: opening it, selecting, a step of a drag, the grid.
 
 #include <QApplication>

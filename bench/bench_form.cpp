@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Building a form of 500 mixed controls: from a form project, from the toolkit's own XML, and by plain code.
 
 #include <QApplication>

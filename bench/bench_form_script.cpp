@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Scripts in forms: the start of a script of 500 lines over a form of 100 controls, an event with nothing in
 // it, and a script that works on a field beside the same loop in C++.
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The script engine as the program that embeds it meets it: compiling, memory of an instance, calls into a
 // script, and a script's calls of host objects. bench/scripts/run times whole programs beside other
 // interpreters.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The workbench on a form of 500 controls: filling the property grid for a selection, selecting a control
 // with everything that follows it, a step of the history, and a step back.
 

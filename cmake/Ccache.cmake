@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Compiles through ccache where it is installed and nobody chose another launcher.
 find_program(CARDWRIGHT_CCACHE ccache)
 mark_as_advanced(CARDWRIGHT_CCACHE)

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Each room has a README, and the files that documents link to or name by their path exist. Run it as
 #   cmake -P cmake/CheckDocs.cmake
 cmake_minimum_required(VERSION 3.25)

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Holds the includes of the sources against the map of the rooms (Rooms.cmake). Run it as
 #   cmake -P cmake/CheckRooms.cmake
 # A room may include what it may link: the rooms that the map gives it and those that these use in turn.

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 add_custom_target(check-headers)
 
 # cardwright_add_room(<room>): the static library cardwright_<room> from src/cardwright/<room>/*.cpp, linked to the rooms that

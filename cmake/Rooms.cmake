@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # The rooms of the library, and the rooms that each may link.
 # CMakeLists.txt builds the rooms from it and cmake/CheckRooms.cmake holds the includes against it.
 set(CARDWRIGHT_ROOMS automation platform scripting storage shared vbscript jscript hosting orv model designer runtime editor qt robot)

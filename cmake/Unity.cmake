@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # cardwright_join_sources(<target>): compiles the sources of a target in batches. The compiler's front end, which reads
 # the same headers for each source, is most of a build's time. The price: names in unnamed namespaces must differ within
 # a target, and a source may miss an include unseen, which the builds without it (CARDWRIGHT_UNITY=OFF) find.

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Warnings are errors everywhere in this project; what includes us as a library is not judged by them.
 # -Wno-restrict: GCC 12 reports overlapping copies in std::string where there are none.
 add_library(cardwright_warnings INTERFACE)

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The designer with real widgets, as an author and a host use it. An input is a project, followed by a line
 // "#orders" and one order a line. Whatever the orders are, the designer is idle between two of them: no tool
 // in use, no outline, no hourglass pointer.

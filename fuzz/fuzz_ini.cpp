@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Any bytes are an INI file. What is not touched stays byte by byte, and what is written reads back.
 
 #include <cstdint>

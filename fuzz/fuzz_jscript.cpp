@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Any bytes are a JScript source. It compiles or is refused by a number and a place, and it runs within its
 // limits: whatever fails fails by a number, and host and engine are whole afterwards.
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The project loader with real widgets: any bytes as project file, any replies of the host, then a click on
 // OK.
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Regular expressions: the first line is the pattern, the second the replacement, the rest the text; the
 // first byte holds the flags. Any pattern is read or refused by a number, and what is found lies in the text,
 // in order.

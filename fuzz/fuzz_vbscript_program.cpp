@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Generates valid VBScript programs from the bytes, so that inputs reach code that changes what is in use:
 // arrays in a loop over them, variables in an expression that reads them, procedures and classes that are
 // running.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Takes any bytes as a VBScript source. It must parse or fail with a number and a position. What parses must
 // print to a source that parses and prints the same, and run within its limits. The first byte decides
 // whether the run is observed.

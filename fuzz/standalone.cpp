@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Runs a fuzz target without libFuzzer: the seeds as they are, then seeded mutations of them for a number of
 // seconds.
 //   PROGRAM SECONDS SEED...

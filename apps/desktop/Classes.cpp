@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "desktop/Classes.h"
 
 #include "cardwright/editor/CElement.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "desktop/DataSource.h"
 
 #include "cardwright/qt/values/QtText.h"

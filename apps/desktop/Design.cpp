@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/qt/desktop/TerminalBreak.h"
 #include "desktop/DesktopCommands.h"
 #include "desktop/DesktopSession.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "desktop/DesktopSession.h"
 
 #include "cardwright/automation/Errors.h"

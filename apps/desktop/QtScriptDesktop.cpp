@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "desktop/QtScriptDesktop.h"
 
 #include <QLoggingCategory>

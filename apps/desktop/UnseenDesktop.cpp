@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "desktop/UnseenDesktop.h"
 
 #include <string>

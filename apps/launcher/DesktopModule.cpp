@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "launcher/DesktopModule.h"
 
 #include "launcher/Modules.h"

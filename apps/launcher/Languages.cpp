@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "launcher/Languages.h"
 
 #include "cardwright/vbscript/VbScriptEngine.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "workbench/Recovery.h"
 
 #include <QCoreApplication>

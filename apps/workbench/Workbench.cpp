@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "workbench/Workbench.h"
 
 #include <QAction>

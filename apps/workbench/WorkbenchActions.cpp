@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The menus, shortcuts and tool bar of the workbench.
 
 #include <QAction>

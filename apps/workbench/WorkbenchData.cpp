@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The data source of the workbench, and runs of the form for its features.
 
 #include <QAction>

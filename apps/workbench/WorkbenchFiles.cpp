@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Opening and saving projects, with the questions to the user.
 
 #include <QDir>

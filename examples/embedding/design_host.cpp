@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A host for the form designer: tool box, surface, and a line that shows what is selected. A larger host uses
 // the same signals.
 #include <QApplication>

@@ -1,4 +1,5 @@
 #!/bin/sh
+# SPDX-License-Identifier: MIT
 # Makes wells.gpkg anew from the tables beside it: wells (points), aquifers (polygons) and pipelines (lines), all in
 # UTM zone 32, and symbols, a table without geometry that says how each of them is drawn. Needs ogr2ogr.
 set -eu

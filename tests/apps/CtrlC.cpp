@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "CtrlC.h"
 
 #include <sys/wait.h>

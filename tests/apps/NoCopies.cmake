@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Fails when a module defines a symbol that the program has: cmake -D NM=nm -D PROGRAM=... -D MODULE=... -P this.
 # Weak symbols are left out, as the loader makes one of them.
 cmake_minimum_required(VERSION 3.25)

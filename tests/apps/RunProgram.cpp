@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "RunProgram.h"
 
 #include <sys/wait.h>

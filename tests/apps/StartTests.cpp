@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Which libraries a script file loads into the process. The loader lists them on standard error.
 
 #include <gmock/gmock.h>

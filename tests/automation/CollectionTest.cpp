@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/automation/Collection.h"
 
 #include "automation/Printing.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "automation/SampleObject.h"
 
 namespace cardwright {

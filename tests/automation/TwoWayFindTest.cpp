@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/automation/TwoWayFind.h"
 
 #include <gtest/gtest.h>

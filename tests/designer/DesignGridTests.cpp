@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/designer/DesignGrid.h"
 
 #include "designer/DesignerTest.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/model/CForm.h"
 #include "designer/DesignerTest.h"
 

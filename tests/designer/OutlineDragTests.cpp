@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/designer/OutlineDrag.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Builds the project in SOURCE from scratch in BUILD against the library installed in PREFIX, then includes the script RUN.
 function(run)
   execute_process(COMMAND ${ARGV} COMMAND_ERROR_IS_FATAL ANY OUTPUT_QUIET)

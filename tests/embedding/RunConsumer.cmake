@@ -1,1 +1,2 @@
+# SPDX-License-Identifier: MIT
 run("${BUILD}/consumer" "${BUILD}/visits.ini")

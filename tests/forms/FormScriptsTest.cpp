@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Scripts of form projects in the engine that a program provides, with real widgets.
 
 #include <QApplication>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Scripts that delete objects which the form, the host or they themselves still use, with real widgets. Each
 // ends with a numbered error or does what it asks for, and the form can be used and closed afterwards.
 

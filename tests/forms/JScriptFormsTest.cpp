@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Scripts of form projects in JScript, with real widgets.
 
 #include "forms/FormScriptsFixture.h"

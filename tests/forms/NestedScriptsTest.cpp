@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Scripts of forms that cause other scripts to run.
 
 #include "forms/EitherLanguage.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Classes that the script of a form may use with the user's permission.
 
 #include <QSettings>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Scripts that recurse or allocate without end, and events at unexpected moments, with real widgets. Each
 // ends with a numbered error or does what it asks for.
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A script control whose language, code and objects change while its scripts run.
 
 #include "cardwright/platform/EngineControl.h"

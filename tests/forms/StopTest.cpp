@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Endless scripts of forms, and the Break key.
 
 #include <QElapsedTimer>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "gauge/CGauge.h"
 
 #include "cardwright/model/CommonFields.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A control class of the program's own, from the tool box to the attribute.
 
 #include <gmock/gmock.h>

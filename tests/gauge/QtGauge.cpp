@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "gauge/QtGauge.h"
 
 #include <QProgressBar>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/hosting/EventSinks.h"
 
 #include <gtest/gtest.h>

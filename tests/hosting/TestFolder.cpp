@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "hosting/TestFolder.h"
 
 #include <unistd.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "jscript/JScriptSample.h"
 
 namespace cardwright::jscript {

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "jscript/JScriptProgram.h"
 
 #include "cardwright/automation/Errors.h"

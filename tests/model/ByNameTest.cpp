@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Members and rows by name, in any case, as scripts use them.
 
 #include "cardwright/model/CItems.h"

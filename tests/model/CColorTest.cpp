@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/model/CColor.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The contract that all control classes share.
 
 #include "cardwright/model/IControl.h"

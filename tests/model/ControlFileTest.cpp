@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // One control and its section of a project.
 
 #include "cardwright/model/BestEffort.h"

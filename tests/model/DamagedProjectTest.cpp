@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Damaged projects: any bytes are read without a crash or a hang.
 
 #include <chrono>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "model/FakeOwners.h"
 
 #include "cardwright/model/ControlClasses.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The form object itself; its project file has tests of its own.
 
 #include "cardwright/platform/Picture.h"

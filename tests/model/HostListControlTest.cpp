@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Theme and attribute selectors.
 
 #include "model/AnsweringHost.h"

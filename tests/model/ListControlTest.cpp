@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Item collections, combo box and list box.
 
 #include <QTreeWidget>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A form project byte by byte: what is read, and what is written from it.
 
 #include "cardwright/model/CItems.h"

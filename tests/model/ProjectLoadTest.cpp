@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Reading and saving forms: owners, hosts, and everything that a project can get wrong.
 
 #include <sys/stat.h>

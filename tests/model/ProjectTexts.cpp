@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "model/ProjectTexts.h"
 
 namespace cardwright {

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What the five selectors have in common.
 
 #include "cardwright/automation/Array.h"

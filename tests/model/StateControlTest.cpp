@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Check box and option button.
 
 #include "model/Forms.h"

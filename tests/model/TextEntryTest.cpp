@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Text boxes of one line and of several.
 
 #include <QKeyEvent>

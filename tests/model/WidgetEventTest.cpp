@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Label, frame and command button, and what all controls do on a design surface.
 
 #include <QApplication>

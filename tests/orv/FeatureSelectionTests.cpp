@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "TestStore.h"
 
 namespace cardwright::orv_tests {

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/platform/ValueTemplate.h"
 
 #include <gtest/gtest.h>

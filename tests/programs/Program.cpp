@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "programs/Program.h"
 
 #include <algorithm>

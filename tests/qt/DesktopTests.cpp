@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/qt/desktop/QtDesktop.h"
 
 #include <QApplication>

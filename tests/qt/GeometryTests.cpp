@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <QVBoxLayout>
 
 #include "qt/Form.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <QAbstractScrollArea>
 #include <QApplication>
 #include <QComboBox>

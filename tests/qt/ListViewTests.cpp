@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <QTreeWidget>
 
 #include "qt/Form.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/platform/SelectorWidgets.h"
 #include "qt/Form.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A host that answers anything at all: a form must end each step, and with the host redrawing again.
 
 #include <random>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Keys and the focus in a form that is filled in, through the toolkit's own events.
 
 #include <QKeyEvent>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Size of the form, place of its fixed buttons and what the host is asked for.
 
 #include "cardwright/qt/surface/QtSurface.h"

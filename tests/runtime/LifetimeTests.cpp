@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What goes on when windows are closed in the middle of things, and what is left for those who still hold it.
 
 #include "runtime/FormTest.h"

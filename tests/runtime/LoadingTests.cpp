@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What a form asks of the host when a project is read and when a feature is set.
 
 #include "runtime/FormTest.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The form as scripts and hosts reach it by name, and the renaming of its controls.
 
 #include "runtime/FormTest.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The order in which OK and Cancel run scripts, write attributes and tell the host.
 
 #include "cardwright/qt/surface/QtSurface.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The check of required fields that OK begins with.
 
 #include "runtime/FormTest.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // How a form's program is composed and started, how event procedures are found, and what the user is told.
 
 #include "cardwright/qt/surface/QtSurface.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Selectors in a form that is filled in, with a host behind them.
 
 #include <chrono>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The values that OK writes, control by control.
 
 #include "runtime/FormTest.h"

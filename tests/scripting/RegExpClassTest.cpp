@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "scripting/RegExpRows.h"
 
 namespace cardwright::scripting {

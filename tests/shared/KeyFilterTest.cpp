@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/shared/KeyFilter.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The lists of themes and attributes that people choose from.
 
 #include <gtest/gtest.h>

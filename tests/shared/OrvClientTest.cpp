@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The texts that hosts get, to the byte, and how their replies are read.
 
 #include "cardwright/shared/OrvClient.h"

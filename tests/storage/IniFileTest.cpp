@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/storage/IniFile.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What others do to a file is noticed at the next call, however they do it.
 
 #include "cardwright/storage/IniStore.h"

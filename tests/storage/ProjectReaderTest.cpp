@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/storage/ProjectReader.h"
 
 #include <gtest/gtest.h>

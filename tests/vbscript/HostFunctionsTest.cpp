@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "vbscript/LibraryCalls.h"
 
 namespace cardwright::vbscript {

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/vbscript/syntax/Lexer.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "vbscript/OperatorSamples.h"
 
 namespace cardwright::vbscript {

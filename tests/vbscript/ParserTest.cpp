@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/vbscript/syntax/Parser.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/vbscript/syntax/Printer.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "automation/Printing.h"
 #include "cardwright/automation/Collection.h"
 #include "vbscript/LibraryCalls.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "vbscript/VbScriptSample.h"
 
 namespace cardwright::vbscript {

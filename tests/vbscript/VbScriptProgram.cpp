@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "vbscript/VbScriptProgram.h"
 
 #include "cardwright/automation/Errors.h"

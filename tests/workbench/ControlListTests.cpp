@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The list of controls while the form changes.
 
 #include "workbench/WorkbenchTest.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The data pane, fill-in runs and debugging runs.
 
 #include <QClipboard>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Forms drawn with the mouse, bound, saved, and filled in.
 
 #include "cardwright/qt/FormInput.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Menus, keys, the tool box, the list of controls.
 
 #include "workbench/WorkbenchTest.h"

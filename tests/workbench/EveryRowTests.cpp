@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Every row of every class of form element is opened, changed and restored by keyboard alone.
 
 #include <QFileDialog>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // How the workbench shows the keyboard focus.
 
 #include <QContextMenuEvent>

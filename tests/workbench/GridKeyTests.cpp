@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Keys and the mouse in the property grid.
 
 #include <QFileDialog>

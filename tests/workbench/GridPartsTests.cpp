@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The grid with any form element, including one with rows that no class of the library has: its look and what
 // it reports to screen readers.
 

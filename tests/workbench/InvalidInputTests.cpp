@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Input that the grid refuses: it shows the reason and keeps the text to be corrected.
 
 #include <QFontDialog>

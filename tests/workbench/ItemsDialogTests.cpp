@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The dialog for the items of a list, with real keys; a cell may be open when a command is given.
 
 #include <QClipboard>

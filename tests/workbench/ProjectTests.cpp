@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Opening and saving: nothing is lost, and failures are reported.
 
 #include "workbench/WorkbenchTest.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The property grid: each type of editor sets the property of the control, or shows why it refuses.
 
 #include <QColorDialog>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The workbench while a form is being filled in.
 
 #include <QClipboard>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Shortcuts of the window, with real keys in the focused widget.
 
 #include <QMenuBar>

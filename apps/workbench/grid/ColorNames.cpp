@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "workbench/grid/ColorNames.h"
 
 #include <QApplication>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "workbench/grid/DialogCell.h"
 
 #include <QKeyEvent>

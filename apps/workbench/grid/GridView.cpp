@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "workbench/grid/GridView.h"
 
 #include <QCoreApplication>

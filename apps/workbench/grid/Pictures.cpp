@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "workbench/grid/Pictures.h"
 
 #include <QApplication>

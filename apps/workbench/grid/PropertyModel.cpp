@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "workbench/grid/PropertyModel.h"
 
 #include <QApplication>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "workbench/grid/Validation.h"
 
 #include <QCoreApplication>

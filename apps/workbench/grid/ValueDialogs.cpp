@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The dialogs of the property grid.
 
 #include <QColorDialog>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "workbench/panes/FeatureModel.h"
 
 #include <QCollator>

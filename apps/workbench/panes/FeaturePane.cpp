@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "workbench/panes/FeaturePane.h"
 
 #include <QAction>

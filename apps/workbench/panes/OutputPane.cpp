@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "workbench/panes/OutputPane.h"
 
 #include <QFontDatabase>

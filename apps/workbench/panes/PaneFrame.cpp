@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "workbench/panes/PaneFrame.h"
 
 #include <QApplication>

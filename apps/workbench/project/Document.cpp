@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "workbench/project/Document.h"
 
 #include <QApplication>

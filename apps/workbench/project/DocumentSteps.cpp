@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The undo steps of a project: recording them, undo and redo.
 
 #include <QApplication>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "workbench/project/FormStage.h"
 
 #include <QEvent>

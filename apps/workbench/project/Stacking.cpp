@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "workbench/project/Stacking.h"
 
 #include <deque>

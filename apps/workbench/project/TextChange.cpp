@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "workbench/project/TextChange.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "workbench/project/Typing.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/automation/BudgetedMemory.h"
 
 #include "cardwright/automation/MemoryBudget.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/automation/Calendar.h"
 
 #include <chrono>

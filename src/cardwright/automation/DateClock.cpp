@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/automation/DateClock.h"
 
 #include <array>

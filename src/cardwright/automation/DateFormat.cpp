@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/automation/DateFormat.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/automation/DateTokens.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/automation/DecimalDigits.h"
 
 #include <algorithm>

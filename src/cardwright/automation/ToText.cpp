@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/automation/Conversions.h"
 #include "cardwright/automation/DateFormat.h"
 #include "cardwright/automation/DecimalDigits.h"

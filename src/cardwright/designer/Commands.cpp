@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The commands on the selected control.
 
 #include "cardwright/designer/DesignClipboard.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/designer/DesignMenu.h"
 
 #include "cardwright/automation/Conversions.h"

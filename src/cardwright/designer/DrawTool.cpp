@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/designer/DrawTool.h"
 
 #include "cardwright/designer/FormDesigner.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/designer/FormDesigner.h"
 
 #include "cardwright/designer/DesignClipboard.h"

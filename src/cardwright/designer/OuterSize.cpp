@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/designer/OuterSize.h"
 
 #include "cardwright/shared/ModuleState.h"

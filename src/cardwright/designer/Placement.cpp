@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/designer/Placement.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The popup menu of the bare surface and of a control.
 
 #include "cardwright/designer/DesignMenu.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/designer/Selection.h"
 
 #include "cardwright/automation/Errors.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/designer/StackOrder.h"
 
 #include "cardwright/model/Control.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What mouse, keys and resizes do on the surface.
 
 #include "cardwright/designer/DesignGrid.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/hosting/ClassRegistry.h"
 
 #include "cardwright/automation/Errors.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/hosting/DefaultButton.h"
 
 #include <array>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/hosting/ErrorLine.h"
 
 #include <string>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/hosting/FileOperations.h"
 
 #include "cardwright/automation/Errors.h"

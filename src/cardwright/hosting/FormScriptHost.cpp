@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/hosting/FormScriptHost.h"
 
 #include "cardwright/hosting/InterruptSignal.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/hosting/FormScripts.h"
 
 #include "cardwright/hosting/FormScriptHost.h"

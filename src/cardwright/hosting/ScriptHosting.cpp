@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/hosting/ScriptHosting.h"
 
 #include "cardwright/hosting/ErrorLine.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/hosting/TextEncoding.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/hosting/WScript.h"
 
 #include "cardwright/hosting/FilePaths.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/hosting/WScriptArguments.h"
 
 #include "cardwright/automation/Enumerators.h"

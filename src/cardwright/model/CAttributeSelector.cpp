@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/model/CAttributeSelector.h"
 
 #include "cardwright/model/WidgetFields.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/model/CCheckBox.h"
 
 #include <cstdlib>

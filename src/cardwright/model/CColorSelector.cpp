@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/model/CColorSelector.h"
 
 #include "cardwright/model/WidgetFields.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/model/CComboBox.h"
 
 #include "cardwright/model/ListEntries.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Reads and saves the project of a form.
 
 #include <filesystem>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/model/CFrame.h"
 
 #include "cardwright/model/CommonFields.h"

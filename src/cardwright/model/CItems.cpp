@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/model/CItems.h"
 #include "cardwright/storage/ProjectWriter.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/model/CListBox.h"
 
 #include "cardwright/model/ListEntries.h"

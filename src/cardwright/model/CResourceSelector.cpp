@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/model/CResourceSelector.h"
 
 #include "cardwright/model/RegKey.h"

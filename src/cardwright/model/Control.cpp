@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/model/Control.h"
 
 #include "cardwright/model/BestEffort.h"

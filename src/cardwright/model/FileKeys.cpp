@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/model/FileKeys.h"
 
 #include "cardwright/model/CItems.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/model/FormDocument.h"
 
 #include "cardwright/model/CForm.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/model/Rename.h"
 
 #include "cardwright/automation/Errors.h"

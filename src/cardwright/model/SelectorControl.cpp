@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/model/SelectorControl.h"
 
 #include "cardwright/automation/Array.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/model/TextEntry.h"
 
 #include "cardwright/shared/KeyFilter.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/orv/CommandReader.h"
 
 #include <limits>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/orv/DateTime.h"
 
 #include <chrono>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/orv/EmbeddedHost.h"
 
 #include "cardwright/orv/StoreSession.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/orv/ErrorTrap.h"
 
 #include <string_view>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // How the session finds and reads the features of a theme.
 #include "cardwright/orv/CommandError.h"
 #include "cardwright/orv/ErrorTrap.h"

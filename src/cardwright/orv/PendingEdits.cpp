@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/orv/PendingEdits.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The commands of the session. Their names and effects are in the table of StoreSession.cpp.
 #include <algorithm>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/orv/Theme.h"
 
 #include "cardwright/orv/CommandError.h"

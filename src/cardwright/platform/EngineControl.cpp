@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/platform/EngineControl.h"
 
 #include "cardwright/automation/Errors.h"

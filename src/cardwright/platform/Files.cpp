@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/platform/Files.h"
 
 #include <fcntl.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/platform/HostConnection.h"
 
 #include "cardwright/automation/Errors.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/platform/Surface.h"
 
 namespace cardwright {

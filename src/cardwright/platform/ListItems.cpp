@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/platform/ListItems.h"
 
 namespace cardwright {

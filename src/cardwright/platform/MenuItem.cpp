@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/platform/MenuItem.h"
 
 namespace cardwright {

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/platform/Widget.h"
 
 #include "cardwright/platform/WidgetMembers.h"

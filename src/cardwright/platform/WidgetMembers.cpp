@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/platform/WidgetMembers.h"
 
 namespace cardwright {

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/qt/FormDesigner.h"
 
 #include <QCoreApplication>

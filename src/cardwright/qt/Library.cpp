@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/qt/Library.h"
 
 #include "cardwright/shared/ModuleState.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/robot/RobotSession.h"
 
 namespace cardwright::robot {

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/robot/ScriptWindows.h"
 
 #include "cardwright/qt/FormDesigner.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/runtime/AttributeBinding.h"
 
 #include "cardwright/model/Control.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/runtime/CAttrib.h"
 
 namespace cardwright {

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/runtime/FormButton.h"
 
 #include "cardwright/automation/Conversions.h"

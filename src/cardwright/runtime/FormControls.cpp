@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/runtime/FormControls.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/runtime/FormInput.h"
 
 #include "cardwright/model/CForm.h"

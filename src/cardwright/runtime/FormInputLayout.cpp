@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Size of the form and place of its two fixed buttons. Lengths are in pixels here and converted to the form's
 // scale.
 

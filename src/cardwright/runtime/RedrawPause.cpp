@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/runtime/RedrawPause.h"
 
 #include "cardwright/automation/Errors.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/runtime/ScriptRun.h"
 
 #include "cardwright/runtime/FormControls.h"

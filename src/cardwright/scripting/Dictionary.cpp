@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/scripting/Dictionary.h"
 
 #include "cardwright/automation/Enumerators.h"

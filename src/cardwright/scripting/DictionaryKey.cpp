@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/scripting/DictionaryKey.h"
 
 #include <bit>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/scripting/RegExpEscape.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/scripting/RegExpPattern.h"
 
 #include <optional>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #define PCRE2_CODE_UNIT_WIDTH 16
 #include "cardwright/scripting/RegExpProgram.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/scripting/RegExpQuantifier.h"
 
 #include "cardwright/automation/Errors.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/scripting/RegExpReplacement.h"
 
 #include "cardwright/automation/Errors.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/shared/CommandText.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/shared/KeyFilter.h"
 
 #include "cardwright/automation/Conversions.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/shared/Localisation.h"
 
 #include <algorithm>

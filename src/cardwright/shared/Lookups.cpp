@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/shared/Lookups.h"
 
 #include <optional>

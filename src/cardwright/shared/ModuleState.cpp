@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/shared/ModuleState.h"
 
 #include <algorithm>

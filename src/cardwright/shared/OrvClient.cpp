@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/shared/OrvClient.h"
 
 #include <algorithm>

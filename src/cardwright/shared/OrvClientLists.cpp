@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The lists of a host's themes and attributes that people choose from.
 
 #include <unordered_set>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/shared/ResizeHandle.h"
 
 #include <utility>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/shared/ScreenKeyboard.h"
 
 #include "cardwright/automation/Errors.h"

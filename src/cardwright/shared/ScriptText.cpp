@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/shared/ScriptText.h"
 
 namespace cardwright {

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/storage/CIni.h"
 
 #include "cardwright/storage/IniStore.h"

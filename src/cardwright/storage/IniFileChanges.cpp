@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The changing half of IniFile. Each change leaves the image as it would be after reading the changed bytes
 // anew; the rare one that cannot be sure of that has them read anew (m_IsMisread).
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/storage/IniName.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/storage/IniNameIndex.h"
 
 #include <utility>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/storage/IniValues.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/storage/ProjectFile.h"
 
 #include "cardwright/automation/Errors.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/storage/SectionReader.h"
 
 #include "cardwright/automation/Conversions.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/jscript/errors/ErrorTexts.h"
 
 #include <algorithm>

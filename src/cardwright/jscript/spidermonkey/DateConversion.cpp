@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <js/CallAndConstruct.h>
 #include <js/Date.h>
 #include <js/PropertyAndElement.h>

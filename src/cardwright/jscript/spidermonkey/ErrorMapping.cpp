@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/jscript/spidermonkey/ErrorMapping.h"
 
 #include <js/ErrorReport.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/jscript/spidermonkey/GlobalNames.h"
 
 #include <js/PropertyAndElement.h>

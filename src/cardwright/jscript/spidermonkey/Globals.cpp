@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/jscript/spidermonkey/Globals.h"
 
 #include <js/Array.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/jscript/spidermonkey/HostMembers.h"
 
 #include "cardwright/automation/Errors.h"

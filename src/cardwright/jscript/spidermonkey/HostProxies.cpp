@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/jscript/spidermonkey/HostProxies.h"
 
 #include <js/CallAndConstruct.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <js/CallAndConstruct.h>
 #include <js/CompilationAndEvaluation.h>
 #include <js/Conversions.h>

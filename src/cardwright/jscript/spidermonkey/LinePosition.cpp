@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/jscript/spidermonkey/LinePosition.h"
 
 #include "cardwright/jscript/syntax/CharacterClasses.h"

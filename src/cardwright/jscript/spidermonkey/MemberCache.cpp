@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/jscript/spidermonkey/MemberCache.h"
 
 #include <js/GCAPI.h>

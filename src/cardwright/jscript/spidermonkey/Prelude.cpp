@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/jscript/spidermonkey/Prelude.h"
 
 namespace cardwright::jscript {

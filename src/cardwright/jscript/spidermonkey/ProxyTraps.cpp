@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Debian builds the library without RTTI, so classes that derive from the library's must be compiled without
 // it too. This file is, and therefore has no polymorphic classes but the handlers.
 #include "cardwright/jscript/spidermonkey/ProxyTraps.h"

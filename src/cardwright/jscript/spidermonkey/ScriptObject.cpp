@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/jscript/spidermonkey/ScriptObject.h"
 
 #include <js/Array.h>

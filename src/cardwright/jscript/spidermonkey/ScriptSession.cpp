@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/jscript/spidermonkey/ScriptSession.h"
 
 #include <js/GCAPI.h>

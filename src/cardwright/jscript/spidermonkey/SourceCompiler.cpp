@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/jscript/spidermonkey/SourceCompiler.h"
 
 #include <js/CompilationAndEvaluation.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/jscript/spidermonkey/StatementTracer.h"
 
 #include <js/CallAndConstruct.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/jscript/spidermonkey/ValueConversion.h"
 
 #include <js/BigInt.h>

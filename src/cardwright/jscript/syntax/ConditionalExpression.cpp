@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/jscript/syntax/ConditionalExpression.h"
 
 #include <cmath>

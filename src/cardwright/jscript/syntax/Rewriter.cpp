@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/jscript/syntax/Rewriter.h"
 
 #include <algorithm>

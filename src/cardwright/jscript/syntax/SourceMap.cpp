@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/jscript/syntax/SourceMap.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/jscript/syntax/Tokenizer.h"
 
 #include <algorithm>

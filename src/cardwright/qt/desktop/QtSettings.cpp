@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/qt/desktop/QtSettings.h"
 
 #include "cardwright/automation/Errors.h"

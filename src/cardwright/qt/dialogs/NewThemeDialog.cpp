@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/qt/dialogs/NewThemeDialog.h"
 
 #include <QComboBox>

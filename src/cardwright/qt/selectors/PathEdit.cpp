@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/qt/selectors/PathEdit.h"
 
 #include <QCompleter>

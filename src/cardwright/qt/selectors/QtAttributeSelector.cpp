@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/qt/selectors/QtAttributeSelector.h"
 
 #include "cardwright/qt/selectors/QtThemeSelector.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The second half of QtDesignSurface: what its listener hears of the toolkit's events, and the mouse.
 #include <QApplication>
 #include <QContextMenuEvent>

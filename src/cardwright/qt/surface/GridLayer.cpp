@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/qt/surface/GridLayer.h"
 
 #include <QPainter>

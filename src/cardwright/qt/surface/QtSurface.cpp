@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/qt/surface/QtSurface.h"
 
 #include <QApplication>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/qt/surface/WidgetFactory.h"
 
 #include <algorithm>

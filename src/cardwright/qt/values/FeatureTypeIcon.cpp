@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/qt/values/FeatureTypeIcon.h"
 
 #include <QPainter>

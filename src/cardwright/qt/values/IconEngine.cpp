@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/qt/values/IconEngine.h"
 
 #include <QApplication>

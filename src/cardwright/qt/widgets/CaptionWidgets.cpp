@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/qt/widgets/CaptionWidgets.h"
 
 #include <qdrawutil.h>

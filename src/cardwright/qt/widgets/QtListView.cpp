@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/qt/widgets/QtListView.h"
 
 #include <QHeaderView>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/qt/widgets/QtTextBox.h"
 
 #include <QLineEdit>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The second half of WidgetCore: the toolkit's input events as events of its listener.
 #include <QApplication>
 #include <QInputMethodEvent>

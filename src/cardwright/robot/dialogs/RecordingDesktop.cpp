@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/robot/dialogs/RecordingDesktop.h"
 
 #include <QApplication>

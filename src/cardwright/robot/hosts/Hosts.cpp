@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/robot/hosts/Hosts.h"
 
 #include "cardwright/orv/EmbeddedHost.h"

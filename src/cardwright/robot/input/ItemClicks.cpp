@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/robot/input/ItemClicks.h"
 
 #include <QAbstractItemView>

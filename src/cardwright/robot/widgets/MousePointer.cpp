@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/robot/widgets/MousePointer.h"
 
 #include <QCursor>

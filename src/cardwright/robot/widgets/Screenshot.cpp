@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/robot/widgets/Screenshot.h"
 
 #include <QImage>

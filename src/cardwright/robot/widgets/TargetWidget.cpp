@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/robot/widgets/TargetWidget.h"
 
 #include "cardwright/automation/Errors.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/robot/windows/ControlProperties.h"
 
 #include "cardwright/automation/Errors.h"

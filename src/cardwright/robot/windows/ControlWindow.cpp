@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/robot/windows/ControlWindow.h"
 
 #include "cardwright/qt/surface/QtHostWindow.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/vbscript/builtins/Builtin.h"
 
 namespace cardwright::vbscript {

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/automation/Errors.h"
 #include "cardwright/automation/Locale.h"
 #include "cardwright/vbscript/Context.h"

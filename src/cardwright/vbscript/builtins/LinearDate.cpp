@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/vbscript/builtins/LinearDate.h"
 
 #include <chrono>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/vbscript/builtins/Weeks.h"
 
 #include "cardwright/automation/Errors.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/vbscript/code/ClassInfo.h"
 
 namespace cardwright::vbscript {

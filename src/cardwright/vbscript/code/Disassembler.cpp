@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/vbscript/code/Disassembler.h"
 
 #include <string>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/vbscript/code/Module.h"
 
 namespace cardwright::vbscript {

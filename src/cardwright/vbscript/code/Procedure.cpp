@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/vbscript/code/Procedure.h"
 
 #include <algorithm>

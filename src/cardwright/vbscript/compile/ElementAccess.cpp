@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/vbscript/compile/BodyCompiler.h"
 
 // `a(i)` and `a(i, j)`, read and assigned. Few indices of a variable have instructions of their own; anything

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/vbscript/compile/BodyCompiler.h"
 #include "cardwright/vbscript/operators/Operators.h"
 

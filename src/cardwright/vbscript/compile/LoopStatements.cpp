@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/vbscript/compile/BodyCompiler.h"
 
 // Loops. What a loop keeps between its turns (limit and step, or the enumeration) is in hidden registers,

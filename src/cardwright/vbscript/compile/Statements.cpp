@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/vbscript/compile/BodyCompiler.h"
 
 namespace cardwright::vbscript {

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/scripting/RegExp.h"
 #include "cardwright/vbscript/builtins/Builtin.h"
 #include "cardwright/vbscript/machine/Elements.h"

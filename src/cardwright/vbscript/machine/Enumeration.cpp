@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/vbscript/machine/Enumeration.h"
 
 #include "cardwright/automation/Errors.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/vbscript/machine/ErrObject.h"
 
 #include <utility>

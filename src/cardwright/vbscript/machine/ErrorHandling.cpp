@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/vbscript/machine/Machine.h"
 
 namespace cardwright::vbscript {

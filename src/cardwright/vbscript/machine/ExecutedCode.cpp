@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/vbscript/compile/Compiler.h"
 #include "cardwright/vbscript/machine/FunctionReference.h"
 #include "cardwright/vbscript/machine/Machine.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/vbscript/machine/Instance.h"
 
 #include "cardwright/automation/Errors.h"

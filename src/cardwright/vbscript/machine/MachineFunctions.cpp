@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/vbscript/machine/MachineFunctions.h"
 
 #include "cardwright/automation/Conversions.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/vbscript/VbScriptEngine.h"
 
 #include "cardwright/vbscript/code/Disassembler.h"

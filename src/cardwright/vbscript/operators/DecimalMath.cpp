@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/vbscript/operators/DecimalMath.h"
 
 #include <algorithm>

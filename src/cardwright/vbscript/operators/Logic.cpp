@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/automation/Conversions.h"
 #include "cardwright/automation/Errors.h"
 #include "cardwright/vbscript/operators/Operand.h"

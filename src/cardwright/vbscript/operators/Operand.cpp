@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/vbscript/operators/Operand.h"
 
 #include <cmath>

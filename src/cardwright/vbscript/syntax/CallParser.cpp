@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/vbscript/syntax/StatementParser.h"
 
 namespace cardwright::vbscript {

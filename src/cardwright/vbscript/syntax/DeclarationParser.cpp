@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/vbscript/syntax/DeclarationParser.h"
 
 namespace cardwright::vbscript {

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <utility>
 
 #include "cardwright/vbscript/syntax/StatementParser.h"

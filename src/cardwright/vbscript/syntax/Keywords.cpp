@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/vbscript/syntax/Keywords.h"
 
 #include <array>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cardwright/vbscript/syntax/ParserCore.h"
 
 #include "cardwright/vbscript/syntax/Characters.h"
