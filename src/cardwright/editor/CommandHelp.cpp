@@ -104,8 +104,9 @@ void CommandHelp::ReadPlace() {
 }
 
 void CommandHelp::SavePlace() const {
-  const ScreenRect place = m_Core.Surface().Description().Place();
   const EditorSettings settings = EditorSettings::OfDescription();
+  if (!settings.IsNamed()) return;
+  const ScreenRect place = m_Core.Surface().Description().Place();
   settings.SaveNumber(kWidthSetting, static_cast<float>(place.Width()));
   settings.SaveNumber(kHeightSetting, static_cast<float>(place.Height()));
   settings.SaveNumber(kTopSetting, static_cast<float>(place.top));

@@ -152,11 +152,11 @@ void Completion::Open(const Text& word) {
   const bool isRequest = EqualsNoCase(word, kRequestFunction);
   if (isRequest || EqualsNoCase(word, kCommandFunction)) {
     m_Rows = m_Catalogue.ListRows(isRequest);
+    if (m_Rows.empty()) return;  // what is shown stays as it is
     m_QuoteInsert = true;
     m_List->SetVisible(true);
     m_List->SetRows(m_Rows);
-    if (!m_Rows.empty()) Place({});
-    return;
+    return Place({});
   }
   const Text signature = FindUserProcSignature(*m_Core.pad, word);
   m_QuoteInsert = false;
@@ -234,11 +234,12 @@ bool Completion::EnterList() {
 // The list keeps all its entries; only the selected one follows.
 void Completion::SelectTyped() {
   if (!IsVisible()) return;
-  const Text typed = TypedText();
+  const std::optional<Text> found = TypedText();
+  if (!found) return;
+  const Text& typed = *found;
   const auto isMatch = [&](const CompletionRow& row) {
     return EqualsNoCase(row.text.View().substr(0, typed.Size()), typed);
   };
-  if (m_Core.pad->SelStart() < m_AnchorPos) return;
   const auto hit = typed.IsEmpty() ? m_Rows.end() : std::ranges::find_if(m_Rows, isMatch);
   if (hit == m_Rows.end()) return m_List->SetSelectedRow(0);
   const int row = static_cast<int>(hit - m_Rows.begin()) + 1;
@@ -246,16 +247,17 @@ void Completion::SelectTyped() {
   m_List->EnsureVisible(row);
 }
 
-Text Completion::TypedText() const {
+// None where nothing stands behind the anchor: the entry that was selected stays so.
+std::optional<Text> Completion::TypedText() const {
   const Lexipad& pad = *m_Core.pad;
   const Text line = pad.LineText(pad.CurrentLine());
   const std::int32_t offset = m_AnchorPos - pad.LineIndex(-1);
-  if (offset < 0 || static_cast<std::size_t>(offset) > line.Size()) return {};
+  if (offset < 0 || static_cast<std::size_t>(offset) > line.Size()) return std::nullopt;
   const auto anchor = static_cast<std::size_t>(offset);
   const std::size_t end = TypedEnd(line, anchor);
-  if (end <= anchor) return {};
+  if (end <= anchor) return std::nullopt;
   const std::u16string_view typed = Trim(line.View().substr(anchor, end - anchor));
-  return WithoutQuotes(typed, WithoutBlanks(pad.Language().stringQuotes));
+  return Text(WithoutQuotes(typed, WithoutBlanks(pad.Language().stringQuotes)));
 }
 
 std::size_t Completion::TypedEnd(std::u16string_view line, std::size_t anchor) const {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <optional>
+
 #include "cardwright/editor/CommandCatalogue.h"
 #include "cardwright/editor/EditorCore.h"
 
@@ -41,7 +43,6 @@ class Completion {
  private:
   void Show(bool show);
   void Open(const Text& word);
-  void OpenList(const Text& word);
   void Place(const Text& signature);
   void ShowTip(const Text& text);
   float PopupX();
@@ -49,7 +50,7 @@ class Completion {
   Text WordBeforeCaret();
   Text CallAtCaret();
   void LeaveString();
-  Text TypedText() const;
+  std::optional<Text> TypedText() const;
   std::size_t TypedEnd(std::u16string_view line, std::size_t anchor) const;
   Text WordDelimiters() const;
 

@@ -75,7 +75,8 @@ class NamesOf {
 void AddToConstants(Lexipad& pad, const Text& name) {
   LexipadLanguage language = pad.Language();
   if (HasWord(language.constants, name)) {
-    language.constants = Replace(language.constants, name, name, true);
+    const Text word = Text(u" ") + name + u" ";
+    language.constants = Replace(language.constants, word, word, true);
   } else {
     language.constants += name;
   }

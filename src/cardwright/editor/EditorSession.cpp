@@ -82,6 +82,7 @@ void EditorSession::DetachSurface() {
   if (!m_Core.HasSurface()) return;
   EditorSurface& surface = m_Core.Surface();
   Attempt([&] { m_Help.SaveVisible(); });
+  Attempt([&] { m_Help.SavePlace(); });
   Attempt([&] { surface.SetTimer(false); });
   Attempt([&] { surface.Description().SetVisible(false); });
   Attempt([&] { surface.PopupList()->SetCompletionListener(nullptr); });
@@ -117,9 +118,7 @@ bool EditorSession::ProjectRead(const Text& fileName) {
   if (!bytes) Raise(kFileAccessError);
   bool isRead = true;
   if (bytes->empty()) {
-    const Text path = m_FileName;
-    SetNewSource({});
-    m_FileName = path;
+    SetNewSource({});  // which has no file: saving it does nothing
   } else {
     const BusyScope busy(m_Core);
     const auto [language, script] = SplitLanguageField(CodePage::Current().Decode(*bytes));
@@ -165,9 +164,11 @@ void EditorSession::SetNewSource(const Text& language) {
     const BusyScope busy(m_Core);
     ApplyLanguage(m_Core.language);
     const bool isVbscript = IsVbscript(m_Core.language);
-    pad.SetContents({});
-    if (isVbscript) pad.SetSelText(u"option explicit\r\n");  // as if typed: the words take their case
-    pad.SetSelStart(pad.LineIndex(isVbscript ? 4 : 2) + 4);
+    if (IsKnownLanguage(m_Core.language)) {
+      pad.SetContents({});
+      if (isVbscript) pad.SetSelText(u"option explicit\r\n");  // as if typed: the words take their case
+      pad.SetSelStart(pad.LineIndex(isVbscript ? 4 : 2) + 4);
+    }
     m_FileName = Text();
     FocusPad(m_Core);
   }

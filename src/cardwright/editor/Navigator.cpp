@@ -134,8 +134,9 @@ void Navigator::OnControlChosen() {
   if (index >= 0 && index == m_LastControl) return FocusPad(m_Core);
   m_Core.eventsCombo->Clear();
   if (index == 0) {
-    FillProcedures();
+    const bool isReadable = Attempt([this] { FillProcedures(); });
     if (!m_IsSyncing && m_Core.eventsCombo->ListCount() > 0) m_Core.eventsCombo->SetListIndex(0);
+    if (!isReadable) return;  // so that the list is filled anew at the next choice
   } else if (index > 0) {
     FillEvents(ChosenControl());
     if (!m_IsSyncing) OnEventChosen();

@@ -59,19 +59,31 @@ QString DocumentText::ToDocumentForm(std::u16string_view text, std::u16string& s
   return form;
 }
 
-Text DocumentText::FromDocumentForm(QString raw, int position) const {
-  for (qsizetype at = raw.indexOf(kSign); at >= 0; at = raw.indexOf(kSign, at + 1)) {
-    QTextCursor cursor(&m_Document);
-    cursor.setPosition(position + static_cast<int>(at) + 1);
-    const QVariant original = cursor.charFormat().property(kOriginal);
-    if (original.isValid()) raw[at] = QChar(static_cast<char16_t>(original.toUInt()));
+char16_t DocumentText::OriginalAt(int position) const {
+  QTextCursor cursor(&m_Document);
+  cursor.setPosition(position + 1);
+  const QVariant original = cursor.charFormat().property(kOriginal);
+  return original.isValid() ? static_cast<char16_t>(original.toUInt()) : kSign;
+}
+
+// One pass, as the original of a sign may be what else ends a line.
+Text DocumentText::FromDocumentForm(const QString& raw, int position) const {
+  constexpr std::u16string_view kTranslated = u"\u2029\u2424";
+  const std::u16string_view form = ViewOf(raw);
+  std::size_t done = 0;
+  std::u16string text;
+  text.reserve(form.size());
+  for (std::size_t at = form.find_first_of(kTranslated); at != form.npos;
+       at = form.find_first_of(kTranslated, done)) {
+    text += form.substr(done, at - done);
+    if (form[at] == kSign)
+      text += OriginalAt(position + static_cast<int>(at));
+    else
+      text += m_LineEnd;
+    done = at + 1;
   }
-  if (m_LineEnd == u"\n") {
-    raw.replace(QChar(QChar::ParagraphSeparator), QChar(u'\n'));
-    return FromQString(raw);
-  }
-  raw.replace(QString(QChar(QChar::ParagraphSeparator)), ToQString(m_LineEnd));
-  return FromQString(raw);
+  text += form.substr(done);
+  return text;
 }
 
 void DocumentText::Set(const Text& text) {
@@ -87,6 +99,7 @@ void DocumentText::Set(const Text& text) {
 }
 
 void DocumentText::Insert(QTextCursor& cursor, const Text& text) const {
+  Forget();
   std::u16string signs;
   const QString form = ToDocumentForm(text, signs);
   if (signs.empty()) {

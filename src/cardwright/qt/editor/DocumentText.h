@@ -36,12 +36,17 @@ class DocumentText {
   /// The place in the document; inside a line end it is the place before it, outside the text the nearest.
   int ToDocument(std::int32_t position) const;
 
+  /// The document was changed by other means. Its revision does not tell: all changes of one editing block
+  /// have the same.
+  void Forget() const noexcept { m_CachedRevision = -1; }
+
   std::u16string_view LineEnd() const noexcept { return m_LineEnd; }
 
  private:
   int LineEndSize() const noexcept { return static_cast<int>(m_LineEnd.size()); }
   QString ToDocumentForm(std::u16string_view text, std::u16string& signs) const;
-  Text FromDocumentForm(QString raw, int position) const;
+  char16_t OriginalAt(int position) const;
+  Text FromDocumentForm(const QString& raw, int position) const;
 
   QTextDocument& m_Document;
   std::u16string_view m_LineEnd = u"\r\n";

@@ -72,6 +72,7 @@ QtLexipad::QtLexipad(WidgetPlace place)
   RememberLine(m_Edit->document()->begin());
   QObject::connect(m_Edit->document(), &QTextDocument::contentsChange, this,
                    [this](int, int removed, int added) {
+                     m_Text.Forget();
                      if (removed != 0 || added != 0) m_HasChanged = true;
                    });
   QObject::connect(m_Edit, &QPlainTextEdit::textChanged, this, [this] {
@@ -173,7 +174,8 @@ void QtLexipad::SetContents(const Text& text) {
   m_Text.Set(text);
   m_Edit->SetTracksEdits(true);
   RememberLine(m_Edit->document()->begin());
-  m_HeldCursor = m_Edit->textCursor();
+  m_HeldCursor = QTextCursor(m_Edit->document());
+  m_Edit->setTextCursor(m_HeldCursor);
   m_HasChanged = true;
   m_HasMoved = true;
   ParseAll();
@@ -367,9 +369,11 @@ void QtLexipad::Reformat(ReformatMode mode, std::optional<std::int32_t> line) {
   if (block.isValid()) ParseLine(block);
 }
 
-// The line is tidied in the same step of undo as what was typed into it.
+// The line is tidied in the same step of undo as what was typed into it. A line that holds characters of
+// another kind than it shows is left alone, as they would not come out the same.
 void QtLexipad::TidyLine(const QTextBlock& block) {
   const QString before = block.text();
+  if (m_Text.LineText(block).View() != ViewOf(before)) return;
   const Text tidy = m_Edit->Words().Tidy(ViewOf(before), m_Edit->BeginsInRemark(block));
   const QString after = ToQString(tidy);
   if (before == after) return;
@@ -385,6 +389,7 @@ void QtLexipad::TidyLine(const QTextBlock& block) {
   cursor.setPosition(block.position() + static_cast<int>(before.size() - tail), QTextCursor::KeepAnchor);
   cursor.insertText(after.mid(head, after.size() - head - tail));
   cursor.endEditBlock();
+  m_Text.Forget();
 }
 
 void QtLexipad::ParseLine(const QTextBlock& block) {
