@@ -3,7 +3,9 @@
 #include "desktop/DesktopCommands.h"
 #include "desktop/DesktopSession.h"
 #include "launcher/CommandLine.h"
+#include "launcher/Languages.h"
 #include "workbench/Workbench.h"
+#include "workbench/panes/ScriptPane.h"
 
 namespace cardwright::desktop {
 
@@ -18,6 +20,7 @@ int RunDesign(std::span<const std::string> words) {
   DesktopSession session(Display::Needed);
   const qt::TerminalBreak terminal;
   workbench::Workbench window(session.Data());
+  window.Script().CheckWith(app::Languages());
   window.show();
   if (line.Operands().empty()) {
     window.OfferLeftWork();

@@ -2,9 +2,11 @@
 // The script of the form in its pane.
 
 #include <QAbstractItemView>
+#include <QInputDialog>
 #include <QTextBlock>
 
 #include "cardwright/storage/ProjectReader.h"
+#include "cardwright/vbscript/VbScriptEngine.h"
 #include "workbench/WorkbenchTest.h"
 
 namespace cardwright::workbench {
@@ -149,6 +151,51 @@ TEST_F(ScriptPaneTest, HasNoSaveButtonOfItsOwn) {
   const auto* const save = Pane().findChild<QAction*>(QStringLiteral("save"));
   ASSERT_NE(save, nullptr);
   EXPECT_FALSE(save->isVisible());
+}
+
+TEST_F(ScriptPaneTest, UnderlinesTheFirstErrorWithItsMessage) {
+  Pane().CheckWith({vbscript::Language()});
+  Editor().setPlainText(QStringLiteral("Option Explicit\nSub A()\n  If 1 Then (\nEnd Sub\n"));
+  ASSERT_TRUE(QTest::qWaitFor([&] { return !Pane().FaultMark().Message().isEmpty(); }));
+  const QList<QTextEdit::ExtraSelection> marks = Editor().extraSelections();
+  ASSERT_EQ(marks.size(), 1);
+  EXPECT_EQ(marks[0].cursor.blockNumber(), 2);
+  EXPECT_EQ(marks[0].format.underlineStyle(), QTextCharFormat::WaveUnderline);
+  Editor().setPlainText(QStringLiteral("Sub A()\nEnd Sub\n"));
+  ASSERT_TRUE(QTest::qWaitFor([&] { return Pane().FaultMark().Message().isEmpty(); }));
+  EXPECT_TRUE(Editor().extraSelections().isEmpty());
+}
+
+TEST_F(ScriptPaneTest, ShowsBracketsBesideTheUnderlinedError) {
+  Pane().CheckWith({vbscript::Language()});
+  Editor().setPlainText(QStringLiteral("x = (1)\nIf\n"));
+  ASSERT_TRUE(QTest::qWaitFor([&] { return !Pane().FaultMark().Message().isEmpty(); }));
+  Editor().moveCursor(QTextCursor::Start);
+  Editor().moveCursor(QTextCursor::EndOfLine);
+  EXPECT_EQ(Editor().extraSelections().size(), 3);
+}
+
+TEST_F(ScriptPaneTest, TogglesCommentsOfTheSelectedLines) {
+  Editor().setPlainText(QStringLiteral("a = 1\n\n  b = 2\nc = 3"));
+  Editor().setFocus();
+  Editor().moveCursor(QTextCursor::Start);
+  for (int i = 0; i < 3; ++i) Editor().moveCursor(QTextCursor::Down, QTextCursor::KeepAnchor);
+  QTest::keyClick(&Editor(), Qt::Key_Slash, Qt::ControlModifier);
+  EXPECT_EQ(Content(), QStringLiteral("'a = 1\r\n\r\n  'b = 2\r\nc = 3"));
+  QTest::keyClick(&Editor(), Qt::Key_Slash, Qt::ControlModifier);
+  EXPECT_EQ(Content(), QStringLiteral("a = 1\r\n\r\n  b = 2\r\nc = 3"));
+}
+
+TEST_F(ScriptPaneTest, GoesToALine) {
+  Editor().setPlainText(QStringLiteral("a = 1\nb = 2\nc = 3"));
+  Editor().setFocus();
+  qt::Meet<QInputDialog>([](QInputDialog& dialog) {
+    dialog.setIntValue(3);
+    dialog.accept();
+  });
+  QTest::keyClick(&Editor(), Qt::Key_G, Qt::ControlModifier);
+  EXPECT_EQ(Editor().textCursor().blockNumber(), 2);
+  EXPECT_TRUE(bench->Action(QStringLiteral("mnuGrid"))->isChecked());
 }
 
 }  // namespace

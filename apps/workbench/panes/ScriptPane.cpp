@@ -12,6 +12,7 @@
 #include "cardwright/editor/LanguageTables.h"
 #include "cardwright/qt/values/QtText.h"
 #include "cardwright/qt/widgets/WidgetCore.h"
+#include "workbench/panes/ScriptLines.h"
 #include "workbench/project/ModuleScope.h"
 #include "workbench/project/TextChange.h"
 
@@ -45,7 +46,12 @@ Text DefaultEvent(const IControl& control) {
   return events.empty() ? Text() : events.front();
 }
 
-bool IsRedo(const QKeyEvent& key) { return key.key() == Qt::Key_Y && key.modifiers() == Qt::ControlModifier; }
+// Of the pane, although the window has others for them. Slash needs Shift on some keyboards.
+bool IsPaneKey(const QKeyEvent& key) {
+  const Qt::KeyboardModifiers with = key.modifiers() & ~Qt::KeypadModifier;
+  if (key.key() == Qt::Key_Slash) return (with & ~Qt::ShiftModifier) == Qt::ControlModifier;
+  return with == Qt::ControlModifier && (key.key() == Qt::Key_Y || key.key() == Qt::Key_G);
+}
 
 }  // namespace
 
@@ -77,6 +83,7 @@ ScriptPane::ScriptPane(QWidget* parent) : QWidget(parent), m_Controls(MakeRef<Co
   m_Edit->setAccessibleName(tr("Script of the form"));
   m_Edit->setPlaceholderText(tr("Procedures that the form's events run, such as Sub Form_Initialize()"));
   m_Edit->installEventFilter(this);
+  m_FaultMark = new ScriptFaultMark(*m_Edit);
   MakeLanguageChoice();
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins({});
@@ -127,6 +134,7 @@ void ScriptPane::Load(const Script& script) {
   if (m_Pad->Contents() != content) m_Pad->SetContents(content);
   ShowLanguage(script.language);
   m_Shown = script;
+  m_FaultMark->CheckSoon(m_Shown, m_ControlNames);
 }
 
 void ScriptPane::Show(const Script& script) {
@@ -136,6 +144,7 @@ void ScriptPane::Show(const Script& script) {
   const QScopedValueRollback showing(m_IsShowing, true);
   Replace(WithLineEnds(script.content));
   m_Shown = script;
+  m_FaultMark->CheckSoon(m_Shown, m_ControlNames);
 }
 
 // Replaces only what differs, as an edit: caret, scroll position and undo steps stay. The lines keep their
@@ -191,6 +200,7 @@ void ScriptPane::OnEdit() {
   const Text content = m_Pad->Contents();
   if (content == WithLineEnds(m_Shown.content)) return;
   m_Shown.content = content;
+  m_FaultMark->CheckSoon(m_Shown, m_ControlNames);
   Q_EMIT Edited(m_Shown);
 }
 
@@ -204,6 +214,7 @@ void ScriptPane::ShowControls(const std::vector<Ref<IControl>>& controls) {
   if (std::exchange(m_ControlNames, names) == names) return;
   const FocusGuard guard(*this);
   m_Editor->Object()->RefreshControlsList();
+  m_FaultMark->CheckSoon(m_Shown, m_ControlNames);
 }
 
 void ScriptPane::OpenDefaultEvent(const IControl& control) {
@@ -213,12 +224,26 @@ void ScriptPane::OpenDefaultEvent(const IControl& control) {
   Choose(Events(), plain >= 0 ? plain : Events().findText(event + kWrittenMark, Qt::MatchFixedString));
 }
 
-// Both shortcuts of Redo. The toolkit's editor has only one; the other would redo a step of the form.
+void ScriptPane::CheckWith(ScriptLanguages languages) {
+  m_FaultMark->SetLanguages(std::move(languages));
+  m_FaultMark->CheckSoon(m_Shown, m_ControlNames);
+}
+
+// The toolkit's editor has only one of the two shortcuts of Redo; the other would redo a step of the form.
+void ScriptPane::RunKey(int key) {
+  if (key == Qt::Key_Y) m_Editor->Object()->DoRedo();
+  if (key == Qt::Key_G) AskForLine(*m_Edit);
+  if (key == Qt::Key_Slash)
+    ToggleComment(*m_Edit, IsVbscript(m_Shown.language) ? QStringLiteral("'") : QStringLiteral("//"));
+}
+
 bool ScriptPane::eventFilter(QObject* object, QEvent* event) {
-  const bool isKey = event->type() == QEvent::ShortcutOverride || event->type() == QEvent::KeyPress;
-  if (!isKey || !IsRedo(static_cast<QKeyEvent&>(*event))) return QWidget::eventFilter(object, event);
-  if (event->type() == QEvent::KeyPress) m_Editor->Object()->DoRedo();
+  const bool isPress = event->type() == QEvent::KeyPress;
+  if (!isPress && event->type() != QEvent::ShortcutOverride) return QWidget::eventFilter(object, event);
+  const auto& key = static_cast<const QKeyEvent&>(*event);
+  if (!IsPaneKey(key)) return QWidget::eventFilter(object, event);
   event->accept();
+  if (isPress) RunKey(key.key());
   return true;
 }
 

@@ -9,6 +9,7 @@
 #include "cardwright/model/IControl.h"
 #include "cardwright/qt/OrvEditor.h"
 #include "cardwright/qt/editor/CodeEdit.h"
+#include "workbench/panes/ScriptFaultMark.h"
 #include "workbench/project/ProjectState.h"
 
 namespace cardwright::workbench {
@@ -29,6 +30,10 @@ class ScriptPane final : public QWidget {
   /// a form. Writes an empty one if there is none.
   void OpenDefaultEvent(const IControl& control);
 
+  /// Has errors of scripts in these languages underlined.
+  void CheckWith(ScriptLanguages languages);
+  const ScriptFaultMark& FaultMark() const noexcept { return *m_FaultMark; }
+
   /// The text of the script.
   QPlainTextEdit& Editor() noexcept { return *m_Edit; }
   QComboBox& Language() noexcept { return *m_Language; }
@@ -48,12 +53,14 @@ class ScriptPane final : public QWidget {
   void ShowLanguage(const Text& language);
   void ChooseLanguage();
   void OnEdit();
+  void RunKey(int key);
   bool eventFilter(QObject* object, QEvent* event) override;
 
   QComboBox* m_Language = nullptr;
   qt::OrvEditor* m_Editor = nullptr;
   Ref<Lexipad> m_Pad;
-  qt::CodeEdit* m_Edit = nullptr;    // which the pad works on
+  qt::CodeEdit* m_Edit = nullptr;  // which the pad works on
+  ScriptFaultMark* m_FaultMark = nullptr;
   const Ref<Collection> m_Controls;  // what the editor offers
   std::vector<Text> m_ControlNames;  // as it offers them
   Script m_Shown;

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
-// The half of CodeEdit that shows which bracket belongs to the one at the caret.
+// The half of CodeEdit that shows which bracket belongs to the one at the caret, and the marks of others.
 
 #include <QTextBlock>
 #include <QTextEdit>
+#include <utility>
 
 #include "cardwright/qt/editor/CodeEdit.h"
 
@@ -46,8 +47,13 @@ QTextCursor CodeEdit::BracketOpposite(const QTextCursor& bracket) {
   return {};
 }
 
+void CodeEdit::SetMarks(QList<QTextEdit::ExtraSelection> marks) {
+  m_Marks = std::move(marks);
+  ShowBrackets();
+}
+
 void CodeEdit::ShowBrackets() {
-  QList<QTextEdit::ExtraSelection> shown;
+  QList<QTextEdit::ExtraSelection> shown = m_Marks;
   QTextCursor caret = textCursor();
   for (const QTextCursor::MoveOperation side : {QTextCursor::Left, QTextCursor::Right}) {
     QTextCursor bracket(document());

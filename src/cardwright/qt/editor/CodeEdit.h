@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QPlainTextEdit>
+#include <QTextEdit>
 #include <array>
 #include <memory>
 
@@ -37,6 +38,9 @@ class CodeEdit final : public FocusFramed<QPlainTextEdit> {
   /// Whether changes count as edits; a text that is loaded is none.
   void SetTracksEdits(bool tracks) noexcept { m_TracksEdits = tracks; }
   /// @}
+
+  /// Shows places of the text in formats of their own, beside the brackets. Replaces former ones.
+  void SetMarks(QList<QTextEdit::ExtraSelection> marks);
 
   bool HasLineNumbers() const noexcept { return m_HasLineNumbers; }
   void SetLineNumbers(bool shown);
@@ -81,6 +85,7 @@ class CodeEdit final : public FocusFramed<QPlainTextEdit> {
   std::unique_ptr<LanguageWords> m_Words;
   ElementStyles m_Styles;
   std::array<QTextCharFormat, kSyntaxElementCount> m_Formats;
+  QList<QTextEdit::ExtraSelection> m_Marks;
   int m_MaxLineLength = 1024;
   int m_Revision = 1;  // of language and styles
   Margin* m_Margin;
