@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Opening one feature in a form of 100 bound text boxes, over a GeoPackage of 100,000 features, beside
+// Opening one feature in a form of 100 bound text boxes, over a GeoPackage of 100,000 features, compared with
 // reading the same columns of the same features by identifier with the data library alone.
 
 #include <gdal_priv.h>

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
-// Reading a large INI file key by key, as a form project is read, beside GLib's GKeyFile. CIni goes to the
-// file for each call, as its callers depend on; GKeyFile reads the file once and then answers from memory.
+// Reading a large INI file key by key, as a form project is read, compared with GLib's GKeyFile. CIni goes to
+// the file for each call, as its callers depend on; GKeyFile reads the file once and then answers from
+// memory.
 
 #include <glib.h>
 

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-# What `cmake --install` lays down beside the rooms themselves (cmake/Room.cmake): the two libraries that users name,
+# What `cmake --install` installs besides the rooms themselves (cmake/Room.cmake): the two libraries that users name,
 # Cardwright::Core without Qt and Cardwright::Qt, for find_package(Cardwright) and for pkg-config.
 include(CMakePackageConfigHelpers)
 

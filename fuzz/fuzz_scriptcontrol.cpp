@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The script control as a host drives it: an input is a list of orders to a control, with the code that they
-// add. Scripts reach the control through an object of the host, so that whatever runs can be reset, run anew
+// add. Scripts reach the control through an object of the host, so that whatever runs can be reset, run again
 // or given to another language under its own feet. Whatever fails fails by a number, and nothing is left
 // behind.
 //

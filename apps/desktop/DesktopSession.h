@@ -17,7 +17,7 @@ class DesktopSession {
   /// Error 5 with a description if a display is needed and there is none.
   explicit DesktopSession(Display display);
 
-  /// Whether a person can see the windows.
+  /// Whether a user can see the windows.
   bool HasDisplay() const;
 
   /// Message boxes of forms are not shown, because nobody can answer them.

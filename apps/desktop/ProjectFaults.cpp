@@ -30,15 +30,15 @@ class LineFaults {
     const std::string bytes = ReadFile(ToPath(file)).value_or(std::string());
     for (std::size_t at = 0; at < bytes.size() && !m_InScript;) {
       const std::size_t end = std::min(bytes.find_first_of("\r\n", at), bytes.size());
-      Look(QByteArrayView(bytes)
-               .sliced(static_cast<qsizetype>(at), static_cast<qsizetype>(end - at))
-               .trimmed());
+      CheckLine(QByteArrayView(bytes)
+                    .sliced(static_cast<qsizetype>(at), static_cast<qsizetype>(end - at))
+                    .trimmed());
       at = end + (std::string_view(bytes).substr(end).starts_with("\r\n") ? 2 : 1);
     }
   }
 
  private:
-  void Look(QByteArrayView line) {
+  void CheckLine(QByteArrayView line) {
     ++m_Number;
     if (line.isEmpty() || line.startsWith(';')) return;
     if (line.startsWith('[') && line.endsWith(']')) {
@@ -54,11 +54,11 @@ class LineFaults {
     const QByteArrayView value = line.sliced(equals + 1).trimmed();
     if (value.size() > kLongestValue)
       Add(QStringLiteral("the value of %1 is cut to %2 characters").arg(key).arg(kLongestValue));
-    LookAtCharacters(key, value);
+    CheckCharacters(key, value);
   }
 
   // Today's editors save UTF-8; the form would show each accented letter as two characters.
-  void LookAtCharacters(const QString& key, QByteArrayView value) {
+  void CheckCharacters(const QString& key, QByteArrayView value) {
     const bool isPlain =
         std::all_of(value.begin(), value.end(), [](char c) { return static_cast<signed char>(c) >= 0; });
     if (isPlain) return;
@@ -90,8 +90,8 @@ class SectionFaults {
     if (data) m_Data.emplace(Ref<HostConnection>(data));
     m_Ini.SetFileName(file);
     m_Elements.push_back({QStringLiteral("Form"), CForm::kTable.events});
-    LookAtForm();
-    LookAtControls();
+    CheckForm();
+    CheckControls();
   }
 
   /// The elements that the script can use.
@@ -101,11 +101,11 @@ class SectionFaults {
   QString Value(std::u16string_view key) const { return qt::ToQString(m_Ini.GetText(m_Section, key)); }
   void Add(const QString& text) { m_Faults.push_back({qt::ToQString(m_Section), text}); }
 
-  void LookAtForm() {
+  void CheckForm() {
     m_Section = u"FORM";
     if (!m_Ini.Find(m_Section, u"ControlsNumber"))
       Add(QStringLiteral("there is no ControlsNumber: the form has no controls"));
-    LookAtNumbers();
+    CheckNumbers();
     m_Theme = m_Ini.GetText(m_Section, u"ThemeName");
     if (!m_Data || m_Theme.IsEmpty()) return;
     if (m_Data->ThemeNumber(m_Theme) > 0) {
@@ -126,12 +126,12 @@ class SectionFaults {
   }
 
   // If a size or position cannot be read, the control is invisible.
-  void LookAtNumbers() {
-    for (const char16_t* key : {u"Left", u"Top", u"ItemsNumber"}) LookAtNumber(key, false);
-    for (const char16_t* key : {u"Width", u"Height", u"FontSize"}) LookAtNumber(key, true);
+  void CheckNumbers() {
+    for (const char16_t* key : {u"Left", u"Top", u"ItemsNumber"}) CheckNumber(key, false);
+    for (const char16_t* key : {u"Width", u"Height", u"FontSize"}) CheckNumber(key, true);
   }
 
-  void LookAtNumber(const char16_t* key, bool isSize) {
+  void CheckNumber(const char16_t* key, bool isSize) {
     const QString value = Value(key).trimmed();
     if (value.isEmpty()) return;
     bool isNumber = false;
@@ -141,12 +141,12 @@ class SectionFaults {
               .arg(QStringView(key), isSize ? QStringLiteral("size") : QStringLiteral("number"), value));
   }
 
-  void LookAtControls() {
+  void CheckControls() {
     const double count = Val(m_Ini.GetText(m_Section, u"ControlsNumber"));
     if (count > INT16_MAX)
       return Add(QStringLiteral("ControlsNumber is more than %1: the form has no controls").arg(INT16_MAX));
     for (int i = 1; i <= count; ++i) NoteKind(i);
-    for (int i = 1; i <= count; ++i) LookAtControl(i);
+    for (int i = 1; i <= count; ++i) CheckControl(i);
   }
 
   void EnterControl(int number) { m_Section = Text(u"CONTROLS_") + ToText(Variant(std::int32_t{number})); }
@@ -167,23 +167,23 @@ class SectionFaults {
     if (const ClassTable* const kind = Kind(); kind && !m_Kinds.contains(name)) m_Kinds.insert(name, kind);
   }
 
-  void LookAtControl(int number) {
+  void CheckControl(int number) {
     EnterControl(number);
     const QString type = Value(u"Type");
     if (type.isEmpty())
       return Add(QStringLiteral("the section is missing or has no Type: there is no such control"));
     const ClassTable* const known = Kind();
     if (!known) return Add(QStringLiteral("unknown type %1: the control is left out").arg(type));
-    LookAtNames(number, *known);
-    LookAtNumbers();
-    LookAtLinks(*known);
-    LookAtRegKey(*known);
+    CheckNames(number, *known);
+    CheckNumbers();
+    CheckLinks(*known);
+    CheckRegKey(*known);
     const QString attribute = Value(u"Attribute");
     if (m_KnowsAttributes && !attribute.isEmpty() && !m_Attributes.contains(attribute.toLower()))
       Add(QStringLiteral("the theme %1 has no attribute %2").arg(qt::ToQString(m_Theme), attribute));
   }
 
-  void LookAtLinks(const ClassTable& known) {
+  void CheckLinks(const ClassTable& known) {
     for (const PropertyRow& row : known.rows) {
       const ClassTable* const wanted = FindControlClass(row.links);
       const QString target = wanted ? Value(row.name) : QString();
@@ -200,7 +200,7 @@ class SectionFaults {
       Add(QStringLiteral("there is no ThemeSelectorName: the control lists no attributes"));
   }
 
-  void LookAtRegKey(const ClassTable& known) {
+  void CheckRegKey(const ClassTable& known) {
     const QString key = Value(u"RegKey");
     if (known.type != ControlTypeEnum::ctResourceSelector || key.trimmed().isEmpty()) return;
     if (!SplitRegKey(qt::ViewOf(key)))
@@ -208,7 +208,7 @@ class SectionFaults {
               .arg(key));
   }
 
-  void LookAtNames(int number, const ClassTable& known) {
+  void CheckNames(int number, const ClassTable& known) {
     const QString name = WidgetName(number);
     const QString userName = UserName(number);
     const QString container = Value(u"Container");

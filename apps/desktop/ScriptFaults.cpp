@@ -23,7 +23,7 @@ class ScriptFaults {
       m_Script = std::move(script.content);
       m_Language = std::move(script.language);
     }
-    if (!m_Script.IsEmpty() && !m_Language.IsEmpty()) LookAtScript();
+    if (!m_Script.IsEmpty() && !m_Language.IsEmpty()) CheckScript();
   }
 
   std::vector<Fault> Take() { return std::move(m_Faults); }
@@ -32,20 +32,20 @@ class ScriptFaults {
   void Add(const QString& text) { m_Faults.push_back({QStringLiteral("SCRIPT"), text}); }
   void AddAt(int line, const QString& text) { Add(QStringLiteral("line %1: %2").arg(line).arg(text)); }
 
-  void LookAtScript() {
+  void CheckScript() {
     const ScriptLanguages languages = app::Languages();
     const ScriptLanguage* language = languages.Named(m_Language);
     if (!language)
       return Add(QStringLiteral("the language %1 is neither VBScript nor JScript: no script runs")
                      .arg(qt::ToQString(m_Language)));
-    LookAtNames();
-    LookAtProgram(*language);
+    CheckNames();
+    CheckProgram(*language);
     for (const ScriptProcedure& procedure : ProceduresOf(qt::ToQString(m_Script), qt::ToQString(m_Language)))
-      LookAtProcedure(procedure);
+      CheckProcedure(procedure);
   }
 
   // The program declares a variable for each element under its name.
-  void LookAtNames() {
+  void CheckNames() {
     static const QRegularExpression basic(QStringLiteral("^[A-Za-z][A-Za-z0-9_]*$"));
     static const QRegularExpression java(QStringLiteral("^[\\p{L}_$][\\p{L}\\p{N}_$]*$"));
     const QRegularExpression& identifier = EqualsNoCase(m_Language, u"JScript") ? java : basic;
@@ -59,7 +59,7 @@ class ScriptFaults {
     }
   }
 
-  void LookAtProgram(const ScriptLanguage& language) {
+  void CheckProgram(const ScriptLanguage& language) {
     const ComposedScript composed = ComposeScript(m_Script, m_Language, m_Names);
     ScriptError error = language.check(composed.code);
     if (error.number == 0) error = language.check(composed.mainCode);
@@ -76,7 +76,7 @@ class ScriptFaults {
       AddAt(line, QStringLiteral("Option Explicit has to be the first line of the script"));
   }
 
-  void LookAtProcedure(const ScriptProcedure& procedure) {
+  void CheckProcedure(const ScriptProcedure& procedure) {
     const ScriptedElement* element = nullptr;
     QString event;
     for (const ScriptedElement& one : m_Elements) {
@@ -93,11 +93,11 @@ class ScriptFaults {
     if (FindProcedure(m_Script, qt::FromQString(procedure.name), m_Language) == 0)
       AddAt(procedure.line, QStringLiteral("%1 is not found by the form: its line has to begin with \"%2\"")
                                 .arg(procedure.name, HeaderOf(procedure.name)));
-    LookAtSpelling(procedure, element->userName + u'_' + qt::ToQString(*known));
+    CheckSpelling(procedure, element->userName + u'_' + qt::ToQString(*known));
   }
 
   // The form finds procedures in any case, but a language that distinguishes cases does not.
-  void LookAtSpelling(const ScriptProcedure& procedure, const QString& called) {
+  void CheckSpelling(const ScriptProcedure& procedure, const QString& called) {
     if (EqualsNoCase(m_Language, u"JScript") && procedure.name != called)
       AddAt(procedure.line,
             QStringLiteral("%1 fails as an event procedure: JScript tells cases apart, and the form calls %2")

@@ -18,7 +18,7 @@ struct Command {
 constexpr Command kCommands[] = {
     {"design", "draw forms in the workbench, as without a command", nullptr},
     {"fill", "fill in a form for one feature", nullptr},
-    {"check", "tell the faults of form projects", nullptr},
+    {"check", "list the faults of form projects", nullptr},
     {"info", "show what a form project holds", nullptr},
     {"render", "make a picture of a form", nullptr},
     {"orv", "send host commands to a data source", nullptr},
@@ -33,7 +33,7 @@ std::string Help() {
     text += "  " + name + std::string(command.summary) + "\n";
   }
   return text +
-         "\ncardwright COMMAND --help tells a command's options.\n"
+         "\ncardwright COMMAND --help lists a command's options.\n"
          "Exit status: 0 done, 1 faults found or an error met, 2 wrong use, 3 the form was cancelled.";
 }
 

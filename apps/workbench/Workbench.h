@@ -93,7 +93,7 @@ class Workbench final : public QMainWindow, private Choices {
   /// Saves or discards unsaved changes, as the user says; false if the user cancels.
   bool MayLeave();
   /// Remembers the project just opened, and shows the messages about it.
-  void TellOpened();
+  void NoteOpened();
   void FillRecentMenu(QMenu& menu);
   bool Offer(const LeftWork& work);
   void KeepWork();

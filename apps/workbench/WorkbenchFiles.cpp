@@ -34,11 +34,11 @@ bool Workbench::OpenProject(const QString& path) {
     QMessageBox::warning(this, tr("Open"), failure);
     return false;
   }
-  TellOpened();
+  NoteOpened();
   return true;
 }
 
-void Workbench::TellOpened() {
+void Workbench::NoteOpened() {
   if (QFileInfo::exists(m_Document->Path())) kRecentProjects.Add(m_Document->Path());
   if (!m_Document->Notice().isEmpty()) QMessageBox::information(this, tr("Open"), m_Document->Notice());
 }
@@ -150,7 +150,7 @@ bool Workbench::Offer(const LeftWork& work) {
     if (other.file != work.file) Recovery::SetAside(other);
   KeepWork();
   if (Recovery::FileFor(work.project) != work.file) Recovery::Forget(work);
-  TellOpened();
+  NoteOpened();
   return true;
 }
 

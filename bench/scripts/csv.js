@@ -1,4 +1,4 @@
-// A table as text, as scripts get it from files: 50,000 lines made, taken apart and written anew with other formats.
+// A table as text, as scripts get it from files: 50,000 lines made, taken apart and written again with other formats.
 var COUNT = 50000;
 var lines = [], seed = 7;
 for (var i = 0; i < COUNT; i++) {

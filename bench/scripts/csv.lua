@@ -1,4 +1,4 @@
--- A table as text, as scripts get it from files: 50,000 lines made, taken apart and written anew with other formats.
+-- A table as text, as scripts get it from files: 50,000 lines made, taken apart and written again with other formats.
 local COUNT = 50000
 local lines, seed = {}, 7
 for i = 0, COUNT - 1 do

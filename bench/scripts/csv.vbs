@@ -1,4 +1,4 @@
-' A table as text, as scripts get it from files: 50,000 lines made, taken apart and written anew with other formats.
+' A table as text, as scripts get it from files: 50,000 lines made, taken apart and written again with other formats.
 ' The amounts are quarters, which every language writes alike.
 Const COUNT = 50000
 Dim lines, i, seed, text, fields, amount, total, hash

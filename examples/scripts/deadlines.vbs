@@ -5,7 +5,7 @@ Option Explicit
 '   cardwright script deadlines.vbs [FILE [DAY]]
 '
 ' FILE is a text with one well a line, "name;last inspection;months between inspections", dates as 2024-03-31.
-' Without it, a short list that stands below is used. DAY is the day to count from; without it, today.
+' Without it, the short list below is used. DAY is the day to count from; without it, today.
 
 Const ForReading = 1
 

@@ -123,7 +123,7 @@ End Class
 
 ' ==== Classes: findings ===================================================================================
 
-' One thing that a person should look at.
+' One thing that a user should look at.
 Class Finding
   Public Severity, Place, Message
 
@@ -264,7 +264,7 @@ End Class
 
 ' ==== Classes: the parts of a project =====================================================================
 
-' One control, as its section of the project tells.
+' One control, as its section of the project describes it.
 Class ControlInfo
   Public Number, TypeText, WidgetName, UserName, Container, Attribute, IsNeeded
 
@@ -328,7 +328,7 @@ Class ProcedureInfo
   End Property
 End Class
 
-' The script behind the marker: its procedures, and every word that it uses.
+' The script after the marker: its procedures, and every word that it uses.
 Class ScriptInfo
   Public Language, CodeLines, OptionExplicitLine, HasBrokenMarker
   Private m_Lines, m_Procedures, m_Words
@@ -356,7 +356,7 @@ Class ScriptInfo
   End Property
 
   ' What the form looks for when an event comes: the keyword at the start of a line, one blank, the name, and the
-  ' bracket right behind it.
+  ' bracket right after it.
   Public Function Wanted(name)
     Wanted = m_Keyword & name & "("
   End Function
@@ -370,7 +370,7 @@ Class ScriptInfo
     Mentions = m_Words(name)
   End Function
 
-  ' Reads a whole project file. What stands before the marker is none of the script's business.
+  ' Reads a whole project file. What comes before the marker is none of the script's business.
   Public Sub Read(content)
     Dim at, tail, lineEnd
     at = InStr(1, content, ScriptMarker & vbCrLf, vbTextCompare)
@@ -415,7 +415,7 @@ Class ScriptInfo
       If matches.Count > 0 Then
         Set current = NewProcedure(matches(0), i + 1)
         CountWords current.Parameters
-        ' What stands in the line of the header, as in "Sub Tell(what): lblHint.Text = what"
+        ' The rest of the header line, as in "Sub Tell(what): lblHint.Text = what"
         CountWords Mid(code, matches(0).Length + 1)
       Else
         CountWords code
@@ -602,7 +602,7 @@ Class Inspector
 
   Private Sub CheckCount()
     If m_Project.DeclaredCount = m_Project.ControlCount Then Exit Sub
-    Note sevError, "FORM", "ControlsNumber tells of " & Plural(m_Project.DeclaredCount, "control") & _
+    Note sevError, "FORM", "ControlsNumber counts " & Plural(m_Project.DeclaredCount, "control") & _
       ", but there are sections for " & m_Project.ControlCount
   End Sub
 

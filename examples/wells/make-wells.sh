@@ -1,6 +1,6 @@
 #!/bin/sh
 # SPDX-License-Identifier: MIT
-# Makes wells.gpkg anew from the tables beside it: wells (points), aquifers (polygons) and pipelines (lines), all in
+# Recreates wells.gpkg from the tables next to it: wells (points), aquifers (polygons) and pipelines (lines), all in
 # UTM zone 32, and symbols, a table without geometry that says how each of them is drawn. Needs ogr2ogr.
 set -eu
 cd "$(dirname "$0")"
@@ -9,7 +9,7 @@ new=$(mktemp -d)
 trap 'rm -rf "$new"' EXIT
 store="$new/wells.gpkg"
 
-# layer SQL [option...]: one layer from the query over its table; the query has the types and widths.
+# layer SQL [option...]: one layer from the query over its table; the query gives types and widths.
 layer() {
   name=$1 query=$2
   shift 2

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Fills in the example form as a person would, on a machine without a display: the same window, widgets, keys
+// Fills in the example form as a user would, on a machine without a display: the same window, widgets, keys
 // and mouse, on the toolkit's offscreen platform. Prints every host command, writes a picture of the form and
 // shows the feature's row before and after.
 

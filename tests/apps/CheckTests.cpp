@@ -76,7 +76,7 @@ TEST(Check, AcceptsNamesThatOnlyJScriptAllows) {
 struct FaultyProject {
   std::string name;
   std::string bytes;
-  std::string line;  ///< behind the file's name
+  std::string line;  ///< after the file's name
 };
 
 void PrintTo(const FaultyProject& project, std::ostream* out) { *out << project.name; }

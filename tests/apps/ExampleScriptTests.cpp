@@ -72,7 +72,7 @@ INSTANTIATE_TEST_SUITE_P(
     Faults, ProjectReportTest,
     ::testing::Values(
         Fault{"ControlsNumber= 26", "ControlsNumber= 27",
-              "error: FORM: ControlsNumber tells of 27 controls, but there are sections for 26"},
+              "error: FORM: ControlsNumber counts 27 controls, but there are sections for 26"},
         Fault{"Type=ListBox", "Type=Chart",
               "error: lstAquifer: unknown type Chart; the control will be left out"},
         Fault{"UserName=txtOwner", "UserName=txtName", "error: txtName: the name is used more than once"},

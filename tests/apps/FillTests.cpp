@@ -25,7 +25,7 @@ TEST(Fill, RejectsAMissingFormOrTheme) {
   EXPECT_THAT(noTheme.err, HasSubstr("the data source has no theme springs"));
 }
 
-// A form passes over a feature that is not there without a word: what was typed would be lost at OK.
+// A form ignores a missing feature silently: what was typed would be lost at OK.
 TEST(Fill, RejectsAMissingFeatureBeforeTheFormIsShown) {
   const std::string data = SourceFile("examples/wells/wells.gpkg");
   for (const char* id : {"999", "abc", "", "3 OR 1=1"})
@@ -81,7 +81,7 @@ TEST(Fill, AsksAtCtrlCWhetherToStopAScriptAndEndsAtASecondOne) {
   }
 }
 
-// End to end with real keys and clicks: form, widgets, host commands, GeoPackage; read back by the data
+// End to end, with real keys and clicks: form, widgets, host commands, GeoPackage; read back by the data
 // library's own tool.
 TEST(Fill, StoresTypedValuesInTheGeoPackage) {
   const TempFolder folder;

@@ -64,7 +64,7 @@ bool RunningProgram::WaitUntilItHandlesCtrlC() const {
 
 void RunningProgram::PressCtrlC() const { kill(m_Child, SIGINT); }
 
-// The fields behind the program's name, which is in brackets.
+// The fields after the program's name, which is in brackets.
 long RunningProgram::ProcessorTime() const {
   const std::string all = Proc("stat");
   std::istringstream fields(all.substr(all.rfind(')') + 1));

@@ -8,7 +8,7 @@
 
 namespace cardwright::testing {
 
-/// The command line run beside the test, as in a terminal with Ctrl+C. It is killed at the end.
+/// The command line run next to the test, as in a terminal with Ctrl+C. It is killed at the end.
 class RunningProgram {
  public:
   explicit RunningProgram(std::vector<std::string> words);

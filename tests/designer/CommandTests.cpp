@@ -130,7 +130,7 @@ TEST_F(DeleteTest, RemovesTheControlsOfAFrameOneLevelDeep) {
   EXPECT_EQ(NamesOf(designer->ZList()), "Form, object_4");
   EXPECT_EQ(surface->WidgetCount(), 0);
   EXPECT_EQ(surface->handles[0]->Container(), nullptr);
-  // A control without a widget is passed over everywhere.
+  // A control without a widget is ignored everywhere.
   designer->SetCtrl(lost);
   EXPECT_FALSE(surface->handles[0]->IsVisible());
   designer->LockUnlock();

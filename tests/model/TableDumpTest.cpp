@@ -108,7 +108,7 @@ class EveryClassTable : public testing::TestWithParam<const ClassTable*> {};
 INSTANTIATE_TEST_SUITE_P(, EveryClassTable, testing::ValuesIn(AllTables()),
                          [](const auto& test) { return Utf8(test.param->className); });
 
-// CARDWRIGHT_PROMOTE=1 writes the golden files anew: review the difference before you commit it.
+// CARDWRIGHT_PROMOTE=1 rewrites the golden files: review the difference before you commit it.
 TEST_P(EveryClassTable, MatchesItsGoldenFile) {
   const ClassTable& table = *GetParam();
   const std::string path = CARDWRIGHT_SOURCE_DIR "/tests/model/golden/" + Utf8(table.className) + ".txt";

@@ -9,7 +9,7 @@
 
 namespace cardwright {
 
-/// What the selectors have beside the common state: the lock, and the listener that a test speaks for.
+/// What the selectors have besides the common state: the lock, and the listener that a test speaks for.
 template <class Base>
 class FakeSelector : public FakeWidget<Base> {
  public:

@@ -52,8 +52,8 @@ std::vector<std::string> Lines(const std::string& text) {
   return lines;
 }
 
-/// The text behind a comment's mark and a word.
-std::optional<std::string> Behind(const std::string& line, const std::string& head) {
+/// The text after a comment's mark and a word.
+std::optional<std::string> After(const std::string& line, const std::string& head) {
   if (!line.starts_with(head)) return std::nullopt;
   std::string rest = line.substr(head.size());
   if (rest.starts_with(' ')) rest.erase(0, 1);
@@ -67,8 +67,8 @@ ProgramError& ErrorOf(Program& program) {
 
 void ReadError(Program& program, const std::string& line, const std::string& text) {
   int number = 0, at = 0, column = 0;
-  char behind = '\0';
-  const int read = std::sscanf(text.c_str(), "%d at %d:%d %c", &number, &at, &column, &behind);
+  char after = '\0';
+  const int read = std::sscanf(text.c_str(), "%d at %d:%d %c", &number, &at, &column, &after);
   const bool isWhole = read == 3 || (read == 2 && text.find(':') == std::string::npos) ||
                        (read == 1 && text.find_first_not_of("-0123456789 ") == std::string::npos);
   if (!isWhole) return program.faults.push_back(line);
@@ -90,29 +90,29 @@ bool IsDoubtful(const std::string& line, std::string_view comment) {
 
 void ReadLine(Program& program, const std::string& line, std::string_view comment) {
   const std::string mark = std::string(comment) + " ";
-  if (const auto shown = Behind(line, mark + "expect:")) {
+  if (const auto shown = After(line, mark + "expect:")) {
     program.expected.lines.push_back(*shown);
-  } else if (const auto error = Behind(line, mark + "expect error:")) {
+  } else if (const auto error = After(line, mark + "expect error:")) {
     ReadError(program, line, *error);
-  } else if (const auto text = Behind(line, mark + "expect text:")) {
+  } else if (const auto text = After(line, mark + "expect text:")) {
     ErrorOf(program).text = *text;
-  } else if (const auto locale = Behind(line, mark + "locale:")) {
+  } else if (const auto locale = After(line, mark + "locale:")) {
     program.locale = *locale;
   } else if (IsDoubtful(line, comment)) {
     program.faults.push_back(line);
   }
 }
 
-// What nobody has said anything about is as it may be.
+// Anything fits a missing expectation.
 template <class Value>
-bool FitsWhereTold(const std::optional<Value>& expected, const std::optional<Value>& actual) {
+bool FitsIfGiven(const std::optional<Value>& expected, const std::optional<Value>& actual) {
   return !expected || expected == actual;
 }
 
 bool Fits(const std::optional<ProgramError>& expected, const std::optional<ProgramError>& actual) {
   if (!expected || !actual) return expected.has_value() == actual.has_value();
-  return expected->number == actual->number && FitsWhereTold(expected->line, actual->line) &&
-         FitsWhereTold(expected->column, actual->column) && FitsWhereTold(expected->text, actual->text);
+  return expected->number == actual->number && FitsIfGiven(expected->line, actual->line) &&
+         FitsIfGiven(expected->column, actual->column) && FitsIfGiven(expected->text, actual->text);
 }
 
 /// The thread's locale is another one for a while.

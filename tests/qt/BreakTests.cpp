@@ -71,7 +71,7 @@ TEST(BreakPressed, DropsAllOtherInput) {
   EXPECT_EQ(clicks.count(), 0);
   EXPECT_TRUE(window.isVisible());
   QCoreApplication::processEvents();
-  EXPECT_EQ(field.text(), "") << "it is passed over and not put off";
+  EXPECT_EQ(field.text(), "") << "it is ignored, not deferred";
 }
 
 TEST(BreakPressed, HoldsTimersBack) {

@@ -154,7 +154,7 @@ TEST(Surface, RemovesAFrameWithWhatItContains) {
   EXPECT_FALSE(form.surface.Find(u"inner"));
   EXPECT_EQ(ErrorOf([&] { inner->Name(); }), 91);
   EXPECT_EQ(ErrorOf([&] { form.surface.Add(u"vb.label", u"x", frame.get()); }), 91);
-  form.surface.Remove(u"box");  // passed over
+  form.surface.Remove(u"box");  // ignored
 }
 
 TEST(Surface, SetControlGivesWidgetsTheirParent) {

@@ -98,14 +98,14 @@ TEST_F(Layout, TitlesTheHostsWindow) {
       << "the window took the title, so the host is told nothing";
 }
 
-TEST_F(Layout, TellsTheTitleToAHostWithoutAWindowOfItsOwn) {
+TEST_F(Layout, PassesTheTitleToAHostWithoutAWindowOfItsOwn) {
   form->setParent(nullptr);
   Read({});
   EXPECT_EQ(events, (Lines{"SetParentCaption A form", "NeedResize 400 249"}));
   EXPECT_EQ(Row(u"Form", u"Text"), u"A form");
 }
 
-TEST_F(Layout, TellsEveryLaterTitleAndHandsItByReference) {
+TEST_F(Layout, PassesEveryLaterTitleByReference) {
   Read({});
   bool byReference = false;
   form->Object()->Connect([&](std::u16string_view event, Args args) {

@@ -104,7 +104,7 @@ TEST_F(Selectors, GetTheValuesOfAFeature) {
 
 TEST_F(Selectors, GetTheAttributeThoughItsThemeComesLater) {
   ReadLinked();
-  SetRow(u"thm", u"Name", u"theme");  // and now stands behind the others
+  SetRow(u"thm", u"Name", u"theme");  // and now comes after the others
   form->SetFeatureID("7");
   EXPECT_EQ(Row(u"theme", u"Text"), u"rivers");
   EXPECT_EQ(Row(u"att", u"Text"), u"Length");

@@ -102,7 +102,7 @@ TEST_F(VellumTest, AnswersSystemColoursUntilTwoThatDifferAreSet) {
   Let(u"DefaultForeColor", 0);
 }
 
-TEST_F(VellumTest, TellsTheRoomOfTheButtonsInTheFormsScale) {
+TEST_F(VellumTest, ReportsTheSpaceForTheButtonsInTheFormsScale) {
   EXPECT_EQ(ToSingle(Get(u"ButtonsOffsetX")), 196);
   EXPECT_EQ(ToSingle(Get(u"ButtonsOffsetY")), 49);
   Module().formScaleMode = ScaleMode::Twips;

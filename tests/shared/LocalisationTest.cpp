@@ -107,7 +107,7 @@ TEST_P(TranslateToolbar, WalksTheTagsOfItsButtons) {
   EXPECT_EQ(button->Shown(u"Caption"), GetParam().caption);
 }
 
-// Positions behind a ";" are counted in the shortened text, so a second pair mostly is not read as one.
+// Positions after a ";" are counted in the shortened text, so a second pair mostly is not read as one.
 INSTANTIATE_TEST_SUITE_P(
     Tags, TranslateToolbar,
     testing::Values(Button{u"tooltip:1038", u"Save", u"-"}, Button{u" ToolTip :1039", u"Options...", u"-"},

@@ -270,7 +270,7 @@ TEST_F(CIniSections, AreCutWhereTheyPass8190Characters) {
 
   const auto names = Items(With(bytes + "[x]\r\n")->Sections());
   ASSERT_EQ(names.size(), 819u);
-  EXPECT_EQ(names.back(), u"s10000818   ");  // 8189 characters are kept, and the buffer's blanks behind them
+  EXPECT_EQ(names.back(), u"s10000818   ");  // 8189 characters are kept, and the buffer's blanks after them
   EXPECT_EQ(names.front(), u"s10000000");
 }
 

@@ -42,7 +42,7 @@ TEST(Corpus, RunsTheSamePrintedAndParsedAgain) {
   EXPECT_GT(programs, 500);
 }
 
-// Whether a program that runs out of memory has to stop there: it passes over no errors, which might keep it
+// Whether a program that runs out of memory has to stop there: it ignores no errors, which might keep it
 // in a loop, not even in a Class_Terminate, whose errors are ignored.
 bool StopsAtErrors(const Program& program) {
   return !program.expected.error && program.source.find("Resume Next") == std::string::npos &&

@@ -31,7 +31,7 @@ class PropertyModel final : public QAbstractTableModel {
 
   /// Sets the value of a row. Returns false if it is invalid, and emits Refused with the reason.
   bool Assign(int row, const Variant& value);
-  /// Sets a row to what a person has typed. An invalid text stays in the row, to be corrected.
+  /// Sets a row to what the user typed. An invalid text stays in the row, to be corrected.
   bool Enter(int row, const QString& text);
   /// Whether the row has an invalid text, and why it is invalid.
   bool IsRefused(int row) const { return m_Rows[static_cast<std::size_t>(row)].refusal.has_value(); }

@@ -15,7 +15,7 @@ struct TypedValue {
   Variant value;
   QString fault;  ///< "" if there is a value
 };
-/// The value of a text that a person has typed or chosen for a row of that type: a result of TextOf, or an
+/// The value of a text that the user typed or chose for a row of that type: a result of TextOf, or an
 /// equivalent text.
 TypedValue ValueOfText(PropertyTypeEnum type, const QString& text);
 

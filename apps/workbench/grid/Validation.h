@@ -7,7 +7,7 @@
 
 namespace cardwright::workbench {
 
-/// The reason why a form element cannot take a value; "" if the value is valid. Only values that a person
+/// The reason why a form element cannot take a value; "" if the value is valid. Only values that a user
 /// enters are checked: a project may hold anything.
 QString CheckValue(const IControl& control, const QString& row, PropertyTypeEnum type, const Variant& value);
 

@@ -7,7 +7,7 @@
 
 namespace cardwright::workbench {
 
-/// Restores the keyboard focus: selecting a control moves it to the surface, which would disturb a person who
+/// Restores the keyboard focus: selecting a control moves it to the surface, which would disturb a user who
 /// works in a list or in the grid.
 class FocusKeeper {
  public:

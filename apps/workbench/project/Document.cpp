@@ -177,7 +177,7 @@ QString Document::Save(const QString& path) {
     const ModuleScope scope(m_Script, m_Designer->GetSurface()->Scale());
     m_Designer->ProjectSave(qt::FromQString(info.absoluteFilePath()));
   }
-  // Saving passes over what it cannot write, so the file itself is compared.
+  // Saving ignores what it cannot write, so the file itself is compared.
   if (wanted.isEmpty() || ReadAll(info.absoluteFilePath()) != wanted)
     return tr("%1 could not be written.").arg(path);
   m_Path = info.absoluteFilePath();

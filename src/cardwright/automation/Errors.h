@@ -96,8 +96,8 @@ class Error : public std::exception {
 [[noreturn]] void Raise(int number, Text description = {}, Text source = {});
 /// @}
 
-/// Runs a step whose numbered failure is swallowed on purpose, and tells whether it went through. Nothing but
-/// Error is caught: a fault of our own stays loud.
+/// Runs a step whose numbered failure is ignored on purpose, and returns whether it succeeded. Only Error is
+/// caught: other exceptions, which are bugs, propagate.
 template <class Step>
 bool Attempt(Step&& step) {
   try {

@@ -19,7 +19,7 @@ class DesignClipboard {
 
   /// After an error the clipboard is unchanged.
   void Copy(const IControl& control, const Widget& widget);
-  /// Sets colours, font and width of a new widget. Failures are passed over.
+  /// Sets colours, font and width of a new widget. Failures are ignored.
   void ApplyAppearance(Widget& widget) const;
   /// Sets the values of the property rows. Items are copied into the collection that the control has.
   void ApplyProperties(Control& control) const;

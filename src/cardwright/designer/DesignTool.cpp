@@ -96,7 +96,7 @@ void DesignTool::MoveTo(ScreenPoint cursor) {
   ShowOutline();
 }
 
-// A grid accepts only positions that are exactly on it, and a quick hand is seen at few of them.
+// A grid accepts only positions that are exactly on it, and a fast drag is polled at few of them.
 bool DesignTool::Trace(ScreenPoint from) {
   const int right = m_Cursor.x - from.x;
   const int down = m_Cursor.y - from.y;

@@ -163,13 +163,13 @@ std::vector<Ref<IControl>> FormDesigner::FilterControls(ControlTypeEnum type) co
 void FormDesigner::ChangeControlName(Ref<Object> control, const Text& newName) {
   const Ref<FormDesigner> keepAlive(this);
   const Ref<Collection> controls = ControlCollection();  // a handler may end the surface
-  const auto tell = [this](const Text& oldName, IControl& renamed) {
+  const auto notify = [this](const Text& oldName, IControl& renamed) {
     Variant old(oldName);
     Variant object{Ref<Object>(&renamed)};
     Variant args[] = {Variant::ByRef(old), Variant::ByRef(object)};
     RaiseEvent(u"ControlNameChanged", args);
   };
-  if (RenameControl(*controls, control, newName, tell)) AttachLinks();
+  if (RenameControl(*controls, control, newName, notify)) AttachLinks();
 }
 
 void FormDesigner::AttachLinks() {

@@ -72,7 +72,7 @@ class FormDesigner final : public TableObject,
   void SetMenuState(const Text& menuName, bool state);
 
   /// Puts a control on the surface, selects it and returns to the selection tool. While the designer is busy,
-  /// this only sets ControlTypeToAdd. Failures are passed over; if no widget can be created, ControlTypeToAdd
+  /// this only sets ControlTypeToAdd. Failures are ignored; if no widget can be created, ControlTypeToAdd
   /// stays set.
   void Place(const Placement& placement);
 
@@ -85,8 +85,8 @@ class FormDesigner final : public TableObject,
   bool GridAlignment() const noexcept { return m_GridAlignment; }
   void SetGridAlignment(bool align) noexcept { m_GridAlignment = align; }
   /// Whether a drag counts the mouse as having been at each point between two positions where it is polled.
-  /// Without it, which is the default, a quick hand passes grid points unseen. For hosts; scripts do not see
-  /// it.
+  /// Without it, which is the default, a fast drag misses grid points that lie between two
+  /// such positions. For hosts; scripts do not see it.
   bool TracesMouse() const noexcept { return m_TracesMouse; }
   void SetTracesMouse(bool traces) noexcept { m_TracesMouse = traces; }
 

@@ -62,7 +62,7 @@ Placer::NewControl Placer::Create(const Placement& placement) {
   return made;
 }
 
-// A name that the surface keeps for itself is passed over like one that a widget has.
+// A name that the surface keeps for itself is skipped like one that a widget has.
 Ref<Widget> Placer::AddWidget(std::u16string_view identifier, Widget* container) {
   for (;;) {
     try {
@@ -125,7 +125,7 @@ void Placer::KeepInContainer(Control& pasted, const Widget* container) const {
 void Placer::Adopt(const NewControl& made) {
   Widget& widget = *made.widget;
   Attempt([&] { widget.SetVisible(true); });
-  // Keeps text from being typed into a widget under design; classes without the property are passed over.
+  // Keeps text from being typed into a widget under design; classes without the property are ignored.
   Attempt([&] { LetProperty(widget, u"Locked", Variant(true)); });
   Attempt([&] { widget.SetZOrder(StackPosition::Front); });
   if (!made.control) return;

@@ -19,7 +19,7 @@ class Placer {
   Placer(FormDesigner& designer, Selection& selection) : m_Designer(designer), m_Selection(selection) {}
 
   /// Creates the widget and the control object, gives them size and contents, adds the control to the form
-  /// and selects it. False where no widget could be created. From then on failures are passed over: as much
+  /// and selects it. False where no widget could be created. From then on failures are ignored: as much
   /// is done as can be.
   bool Place(const Placement& placement);
 

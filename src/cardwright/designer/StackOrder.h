@@ -18,7 +18,7 @@ class StackOrder {
   void Remove(const IControl& control);
   void Clear() { m_Controls = MakeRef<Collection>(); }
   /// Moves the control to the end of the list and its widget to the front or to the back. What fails is
-  /// passed over.
+  /// ignored.
   void Restack(const Ref<IControl>& control, StackPosition position);
 
  private:

@@ -56,7 +56,7 @@ class FileScriptHost final : public ScriptHost {
   /// The script's spelling of a procedure's name, an exact match first; empty where there is no such
   /// procedure.
   Text ProcedureSpelling(std::u16string_view procedure) const;
-  /// Whether a person can see a message box. Loads the desktop if need be.
+  /// Whether a user can see a message box. Loads the desktop if need be.
   bool CanShowMessages();
 
   const ScriptJob& m_Job;

@@ -16,7 +16,7 @@ class ScriptDesktop {
   virtual ~ScriptDesktop() = default;
   /// Processes window events for that time.
   virtual void ProcessEvents(std::chrono::milliseconds time) = 0;
-  /// Whether a person can see the windows.
+  /// Whether a user can see the windows.
   virtual bool HasDisplay() const = 0;
 };
 

@@ -19,7 +19,7 @@ FileHandle Handle(int descriptor) { return {descriptor, FileHandle::Owner::Progr
 
 StandardStreams StandardStreams::OfProcess() {
   FileHandle file = Handle(STDOUT_FILENO);
-  // A person wants to see output at once; for a program, blocks are faster.
+  // A user wants to see output at once; for a program, blocks are faster.
   const Buffering buffering = file.IsTerminal() ? Buffering::None : Buffering::Blocks;
   const Ref<TextStream> out = StreamOf(std::move(file), Access::Write, buffering);
   const Ref<TextStream> in = StreamOf(Handle(STDIN_FILENO), Access::Read, Buffering::Blocks);

@@ -19,7 +19,7 @@ class CColor final : public TableObject {
   std::uint8_t m_Red = 0;
   std::uint8_t m_Green = 0;
   std::uint8_t m_Blue = 0;
-  std::uint8_t m_Alpha = 0;  ///< kept beside the colour number, which has none
+  std::uint8_t m_Alpha = 0;  ///< kept separately: the colour number has none
 
  protected:
   const MemberTable& Members() const override;

@@ -87,6 +87,7 @@ void CListBox::ShowValue(const Text&, const Text& value) {
   if (position > 0) View().SetSelectedRow(position);
 }
 
+// Without a selection the value of the control before it is stored again (AttributeBinding.cpp says why).
 bool CListBox::TakeValue(Text& value) const {
   if (const Ref<CItem> item = CurrentItem()) value = item->m_Value;
   return true;

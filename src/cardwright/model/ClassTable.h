@@ -61,7 +61,7 @@ struct DesignTraits {
   /// Passed to the widget factory for a new control; by default the one of reading. Hosts with a factory of
   /// their own have seen both spellings where they differ.
   std::u16string_view identifier = {};
-  const char* displayName = "";             ///< what a person calls the kind, for translation by the program
+  const char* displayName = "";             ///< what a user calls the kind, for translation by the program
   const char16_t* captionPrefix = nullptr;  ///< of a new control's caption, before its number; null for none
   SurfaceColors surfaceColors = SurfaceColors::None;  ///< colours of a new control
   int defaultWidth = 0;                               ///< of a control that is added without being drawn

@@ -7,7 +7,7 @@
 namespace cardwright {
 namespace {
 
-// What stands under the key, or the fallback for a missing key; an empty value reads as Empty. Fallbacks are
+// The value of the key, or the fallback for a missing key; an empty value reads as Empty. Fallbacks are
 // made only when they are needed: most keys of a project are there.
 template <class Fallback>
 Variant ReadValue(const SectionReader& section, std::u16string_view key, Fallback&& fallback) {

@@ -20,9 +20,9 @@ class SectionWriter;
 /// The class itself has no behaviour: each member does nothing and returns an empty value.
 class IControl : public TableObject {
  public:
-  /// The bound widget's own name, or the user name where there is none.
+  /// The bound widget's own name, or the user name if there is no widget. SetName does not change it.
   virtual Text Name() const { return {}; }
-  /// Stores the user name; the widget's own name never changes.
+  /// Sets the user name, as `Name` means in scripts that assign it; UserName returns it.
   virtual void SetName(const Text& /*name*/) {}
   /// Name that the form's author gave; in lower case it is the key of the control in its form.
   virtual Text UserName() const { return {}; }

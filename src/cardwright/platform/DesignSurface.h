@@ -65,7 +65,7 @@ class DesignSurface : public Surface {
   virtual void Cls() = 0;
   /// Sets points. They stay until Cls, whatever the surface's size.
   virtual void PaintPoints(const GridPoints& points) = 0;
-  /// Paints the surface anew, at once.
+  /// Repaints the surface at once.
   virtual void Repaint() = 0;
   /// Keeps the surface from being painted; each lock is followed by one unlock.
   virtual void LockRedraw(bool lock) = 0;

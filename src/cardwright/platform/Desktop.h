@@ -37,7 +37,7 @@ namespace BoxAnswer {
 inline constexpr int Ok = 1, Cancel = 2, Abort = 3, Retry = 4, Ignore = 5, Yes = 6, No = 7;
 }  // namespace BoxAnswer
 
-/// What the library asks of the machine that it runs on, beside surfaces and widgets.
+/// What the library asks of the machine that it runs on, besides surfaces and widgets.
 class Desktop {
  public:
   virtual ~Desktop() = default;
@@ -50,7 +50,7 @@ class Desktop {
                           const Variant& y) = 0;
   /// Whether somebody is there to answer a box.
   virtual bool IsAttended() const = 0;
-  /// For work that takes long: processes the toolkit's events, but of a person's hands only the Break key;
+  /// For work that takes long: processes the toolkit's events, but of the user's input only the Break key;
   /// what else was pressed or clicked is dropped, and timers are held back. True where Break was pressed.
   virtual bool BreakPressed() = 0;
   /// Plays the warning sound.

@@ -7,7 +7,7 @@ namespace cardwright {
 
 namespace {
 
-// Rows, headers and items are views of the list view, made anew for whoever asks.
+// Rows, headers and items are views of the list view, created for each caller.
 Ref<ListItems> GetListItems(ListViewWidget& list) { return MakeRef<ListItems>(&list); }
 Ref<ColumnHeaders> GetColumnHeaders(ListViewWidget& list) { return MakeRef<ColumnHeaders>(&list); }
 

@@ -16,7 +16,7 @@ struct ScreenPoint {
 struct ScreenRect {
   int left = 0;    ///< the first column of pixels
   int top = 0;     ///< the first row of pixels
-  int right = 0;   ///< the first column behind the rectangle
+  int right = 0;   ///< the first column right of the rectangle
   int bottom = 0;  ///< the first row below the rectangle
 
   /// @name Size in pixels

@@ -31,7 +31,7 @@ class ScriptHost {
   virtual Ref<Object> LoadPicture(std::u16string_view path);
   /// Title of boxes that name none.
   virtual Text BoxTitle() const;
-  /// Whether what the host does for scripts may ask a person anything. Initially it may.
+  /// Whether what the host does for scripts may ask a user anything. Initially it may.
   virtual void SetAllowUI(bool allowed);
   /// Whether the running script should stop. Engines poll it during a long call from outside, a few times a
   /// second, on the script's thread and between two steps of the script: the host may take its time to answer

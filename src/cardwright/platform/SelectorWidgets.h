@@ -5,7 +5,7 @@
 
 namespace cardwright {
 
-/// A widget with which a person chooses a value of one kind: a path, a theme, an attribute, a font or a
+/// A widget with which a user chooses a value of one kind: a path, a theme, an attribute, a font or a
 /// colour. Events: the click; further ones are named at each kind.
 class SelectorWidget : public Widget {
  public:
@@ -53,7 +53,7 @@ class ResourceSelectorWidget : public SelectorWidget {
   const MemberTable& Members() const override;
 };
 
-/// A list that the host fills and a person chooses from. It asks the host itself, over the connection that it
+/// A list that the host fills and a user chooses from. It asks the host itself, over the connection that it
 /// is given. Its height follows its font.
 class HostListWidget : public SelectorWidget {
  public:
@@ -97,7 +97,7 @@ class AttributeSelectorWidget : public HostListWidget {
   /// 0 points, 1 arcs, 2 polygons, -1 none; any other number counts as none.
   virtual std::int32_t FeatureType() const = 0;
   virtual void SetFeatureType(std::int32_t type) = 0;
-  /// Follows a theme selector: asks for the attributes anew whenever its theme changes. Null unlinks; the
+  /// Follows a theme selector: asks for the attributes again whenever its theme changes. Null unlinks; the
   /// list is then empty. The other widget may end before this one.
   virtual void LinkThemeSelector(Ref<ThemeSelectorWidget> themes) = 0;
   /// Follows a combo box whose entries are points, arcs and polygons: what is chosen there replaces

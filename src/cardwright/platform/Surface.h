@@ -82,7 +82,7 @@ class Surface {
   virtual Ref<HostWindow> Host() const = 0;
   /// The frame of the host's window; zero without one.
   virtual FrameSize HostFrame() const = 0;
-  /// True where the host's top-level window has a raised and a sunken edge beside its frame.
+  /// True where the host's top-level window has a raised and a sunken edge besides its frame.
   virtual bool HostHasEdges() const = 0;
   /// Number of the control's window in this process; 0 if there is none.
   virtual std::int32_t WindowHandle() const = 0;

@@ -14,11 +14,11 @@ namespace cardwright {
 /// value has to mean the same on every machine.
 /// @{
 
-/// Knows `%c%`, the colour's number, beside the components.
+/// Knows `%c%`, the colour's number, besides the components.
 Text FillColorTemplate(std::u16string_view mask, OleColor color);
 /// Knows `%n%`, the name; `%s%`, `%spx%` and `%stw%`, the size in points (with a point, whatever the locale),
 /// in whole pixels and in whole twips, half to even; `%bold%`, `%italic%`, `%underline%` and
-/// `%strikethrough%`, "True" or "False", beside the components.
+/// `%strikethrough%`, "True" or "False", besides the components.
 Text FillFontTemplate(std::u16string_view mask, const FontValues& font, OleColor color);
 
 /// @}

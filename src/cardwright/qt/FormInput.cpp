@@ -92,7 +92,7 @@ void FormInput::keyPressEvent(QKeyEvent* event) {
   button->click();
 }
 
-// The fixed buttons are the oldest children and so first in the focus chain; a person begins in the first
+// The fixed buttons are the oldest children and so first in the focus chain; a user begins in the first
 // field.
 void FormInput::showEvent(QShowEvent* event) {
   VisualControl::showEvent(event);

@@ -6,7 +6,7 @@
 
 namespace cardwright::robot {
 
-/// `Cardwright.Robot`: lets a script use a form as a person does. Its input takes the toolkit's real event
+/// `Cardwright.Robot`: lets a script use a form as a user does. Its input takes the toolkit's real event
 /// path, and dialogs that open meanwhile are answered from its queues. A widget may be given as its control,
 /// as itself or as its visual control; points are pixels inside it.
 class Robot final : public TableObject {

@@ -97,7 +97,9 @@ class PrintingConnection final : public HostConnection {
 
 void StoreControls(OrvClient& host, const Collection& controls, const FeatureClass& features,
                    const CAttribs& attribs) {
-  Text value;  // kept from control to control: a list box without a selection writes the value before it
+  // Lives across controls: a list box without a selection stores the value of the control before it, or "" as
+  // the first one. Existing projects depend on it, as they would store other values otherwise.
+  Text value;
   ForEachBound(controls, attribs, [&](Control& control, const AttributeRecord& attribute) {
     if (AttemptOr(false, [&] { return control.TakeValue(value); }))
       host.SetAttribute(features, attribute, value);

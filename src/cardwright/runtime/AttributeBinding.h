@@ -28,8 +28,8 @@ class AttributeBinding {
   bool Store(const Collection& controls, const BoundFeature& feature);
 
  private:
-  /// The attributes as the host has them now. It nearly always answers what it answered before, so the
-  /// collection is kept for as long as it does.
+  /// The attributes as the host has them now. The host's reply rarely changes, so the collection is cached
+  /// for as long as the reply is the same.
   Ref<CAttribs> AttributesOf(OrvClient& host, const FeatureClass& features);
   void LoadControls(OrvClient& host, const Collection& controls, const BoundFeature& feature);
 

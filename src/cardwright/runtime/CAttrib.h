@@ -38,7 +38,7 @@ class CAttribs final : public TableObject {
   void Clear() { m_Attribs->Clear(); }
   std::unique_ptr<Enumerator> Enumerate() override { return m_Attribs->Enumerate(); }
 
-  /// Adds under the attribute's name; a second one of a name is passed over. Not for scripts.
+  /// Adds under the attribute's name; a second one of a name is ignored. Not for scripts.
   void Add(Ref<CAttrib> attrib);
 
  protected:

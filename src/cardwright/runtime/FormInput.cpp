@@ -163,7 +163,7 @@ std::optional<RedrawPause> PauseRedraw(const FormInput& form) {
 }  // namespace
 
 // A script that presses the button in an event of the same button would do so for ever: the inner press is
-// passed over.
+// ignored.
 bool FormInput::RunOk() {
   if (m_RunsOk) return false;
   const Running running(m_RunsOk);

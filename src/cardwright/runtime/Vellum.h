@@ -23,7 +23,7 @@ class Vellum final : public TableObject {
   /// Takes the host's editor object, asks it for its connection handle ("HWND_CONTROL") and uses that.
   /// Nothing takes the object away and keeps the handle. Errors of the editor reach the caller.
   void AttachOVeditor(Ref<Object> editor);
-  /// Path of a file beside the project; "" where a check was asked for and fails.
+  /// Path of a file in the folder of the project; "" where a check was asked for and fails.
   Text GetOrvPath(const Text& projectPath, const Text& fileName, std::optional<bool> checkParentFolder = {},
                   std::optional<bool> checkFile = {}) const;
 

@@ -15,7 +15,7 @@ enum class ExecutorMode : std::int32_t { Normal = 0, Debug = 2 };
 /// In debugging mode each command is written as a line to `SelText` of the debug output. Requests are still
 /// answered by the host, but nothing is executed: a debugging run must not change data.
 ///
-/// Members by name are script names too, as the object's members are global in a form's script; those beside
+/// Members by name are script names too, as the object's members are global in a form's script; those besides
 /// ORVExecute and ORVRequest have names that no script variable is likely to bear.
 class HostExecutor final : public TableObject {
  public:

@@ -44,7 +44,7 @@ int FindListItem(Object& list, std::u16string_view text, const ListSearch& searc
 /// The widget of that name, or null. Does not fail.
 Ref<Widget> ControlByName(const Surface& surface, std::u16string_view name);
 
-/// Swaps the two where the first is the lesser, so that it is the greater.
+/// Puts the greater of the two first.
 template <class T>
 void OrderPair(T& a, T& b) {
   if (a < b) std::swap(a, b);

@@ -113,7 +113,7 @@ struct Message {
   std::u16string_view text;
 };
 
-/// All texts that a person reads, by ascending number. A translation replaces this table whole.
+/// All texts that a user reads, by ascending number. A translation replaces this table whole.
 std::span<const Message> MessageTable() noexcept;
 
 /// Every "##" as CR LF.

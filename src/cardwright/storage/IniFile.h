@@ -32,8 +32,8 @@ class IniFile {
   std::vector<std::string_view> KeyNames(std::u16string_view section) const;
 
   /// Writes one key. A new key goes after the last one of its section, a new section to the end. A value
-  /// with a line break is written as it stands, so only its first line reads back. Like the other changes it
-  /// answers false where the file says so already.
+  /// with a line break is written unchanged, so only its first line reads back. Like the other changes it
+  /// returns false if the file has the value already.
   bool Set(std::u16string_view section, std::u16string_view key, std::u16string_view value);
   /// Removes the first key of that name.
   bool DeleteKey(std::u16string_view section, std::u16string_view key);
@@ -93,12 +93,12 @@ class IniFile {
   void FindInsertPoint(Section& section, std::size_t from) const noexcept;
   Id LastLineBefore(std::size_t section) const noexcept;
   void CheckSeam(Id before) noexcept;
-  void Settle();
+  void ReparseIfMisread();
 
   const CodePage* m_Page;
   std::string m_Bytes;       // what the lines refer to
   bool m_IsCompact = true;   // m_Bytes is the file; else it holds lines out of order and old ones
-  bool m_IsMisread = false;  // somebody who reads the bytes anew would find other lines
+  bool m_IsMisread = false;  // parsing the bytes again would find other lines
   std::vector<Line> m_Lines;
   std::vector<Section> m_Sections;  // in file order; the first one has no header
   IniNameIndex m_SectionIndex;

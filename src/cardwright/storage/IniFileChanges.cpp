@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The changing half of IniFile. Each change leaves the image as it would be after reading the changed bytes
-// anew; the rare one that cannot be sure of that has them read anew (m_IsMisread).
+// The changing half of IniFile. Each change leaves the image as it would be after reading the changed
+// bytes; the rare one that cannot be sure of that has them read again (m_IsMisread).
 
 #include <algorithm>
 
@@ -28,7 +28,7 @@ bool IniFile::Set(std::u16string_view section, std::u16string_view key, std::u16
     const Id id = sectionSlot ? sectionSlot->id : AddSection(sectionName, header);
     AddKey(id, keyName, m_Page->Encode(IniName::Trim(key)) + "=" + valueBytes);
   }
-  Settle();
+  ReparseIfMisread();
   return isChanged;
 }
 
@@ -47,7 +47,7 @@ bool IniFile::DeleteKey(std::u16string_view section, std::u16string_view key) {
 
   CheckSeam(at > 0 ? owner.lines[at - 1] : owner.header);
   m_IsCompact = false;
-  Settle();
+  ReparseIfMisread();
   return true;
 }
 
@@ -70,7 +70,7 @@ bool IniFile::DeleteSection(std::u16string_view section) {
 
   CheckSeam(LastLineBefore(sectionId));
   m_IsCompact = false;
-  Settle();
+  ReparseIfMisread();
   return true;
 }
 
@@ -130,7 +130,7 @@ void IniFile::AddKey(Id section, const IniName& name, std::string_view text) {
   if (lines.size() > 1) InsertLines(section, at + 1, std::span(lines).subspan(1));
 }
 
-// Behind the first line of a value.
+// After the first line of a value.
 void IniFile::InsertLines(Id section, std::size_t at, std::span<const Line> lines) {
   Section& owner = m_Sections[section];
   std::vector<Id> ids;
@@ -219,7 +219,7 @@ void IniFile::CheckSeam(Id before) noexcept {
   if (line.endSize == 1 && m_Bytes[line.ContentEnd()] == '\r') m_IsMisread = true;
 }
 
-void IniFile::Settle() {
+void IniFile::ReparseIfMisread() {
   if (m_IsMisread) Parse();
 }
 

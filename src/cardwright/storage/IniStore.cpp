@@ -11,7 +11,7 @@
 namespace cardwright {
 namespace {
 
-// Images that a thread keeps at hand, beside those in use. A form and what it was copied from are two.
+// Images that a thread keeps at hand, besides those in use. A form and what it was copied from are two.
 constexpr std::size_t kKeptStores = 16;
 
 }  // namespace
@@ -86,8 +86,8 @@ void IniStore::Refresh() {
   if (&m_Image->Page() != &CodePage::Current()) m_Image = std::make_shared<IniFile>(m_Image->Bytes());
 }
 
-// The stamp is taken before the bytes: should the file change in between, the next stamp differs from it, as
-// long as it was settled by then. An image that is not is held against the bytes at each use until it is.
+// The stamp is taken before the bytes are read: if the file changes in between, the next stamp differs. Until
+// the stamp is old enough to be reliable, the file is read and compared at each use.
 void IniStore::Load() {
   const std::int64_t now = FileStamp::Now();
   m_Stamp = FileStamp::Of(m_Path);

@@ -13,7 +13,7 @@ namespace {
 constexpr std::size_t kBuffer = 8192;
 constexpr std::size_t kLongestValue = kBuffer - 1;
 
-// Where the digits end that a separator may stand in: at an exponent, or before "&H" and "&O". A parcel
+// The end of the digits, among which a separator may be: at an exponent, or before "&H" and "&O". A parcel
 // number like "2E5,7" is no number anywhere and keeps its comma.
 std::size_t EndOfMantissa(std::u16string_view text) {
   for (std::size_t i = 0; i < text.size(); ++i) {

@@ -56,7 +56,7 @@ class SectionWriter {
   SectionWriter(ProjectWriter& project, std::u16string_view name) : m_Project(project), m_Name(name) {}
 
   const ProjectWriter& Project() const noexcept { return m_Project; }
-  /// Never fails: an empty key, an Empty value and a value without a text are passed over.
+  /// Never fails: an empty key, an Empty value and a value without a text are ignored.
   void Write(std::u16string_view key, const Variant& value);
 
  private:

@@ -94,7 +94,7 @@ bool IsHeldBack(QEvent::Type type) {
   }
 }
 
-/// While it lives, nothing that a person does reaches any widget: keys, clicks and the closing of windows are
+/// While it lives, nothing that a user does reaches any widget: keys, clicks and the closing of windows are
 /// dropped, and timers are put off. It only notes whether Break was pressed: the key Cancel, or Ctrl+Pause.
 /// Windows still paint themselves.
 class BreakWatch final : public QObject {

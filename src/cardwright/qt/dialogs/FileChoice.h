@@ -19,7 +19,7 @@ struct FileQuestion {
   QString folder;  ///< where to start when no folder of `path` is there
 };
 
-/// Has a person choose; the path list, or none where it was cancelled or the dialog ended with its window.
+/// Lets a user choose; the path list, or none where it was cancelled or the dialog ended with its window.
 /// The dialog is the desktop's own where there is one.
 std::optional<QString> ChooseFiles(QWidget& owner, const FileQuestion& question);
 

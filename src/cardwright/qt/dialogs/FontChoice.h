@@ -10,7 +10,7 @@ class QWidget;
 
 namespace cardwright::qt {
 
-/// Has a person choose a font, from the present one on; none where it was cancelled or the dialog ended with
+/// Lets a user choose a font, from the present one on; none where it was cancelled or the dialog ended with
 /// its window. A present family that is not installed keeps its name unless another one is chosen, and a size
 /// that the dialog rounds stays as it is unless another one is chosen.
 std::optional<FontValues> ChooseFont(QWidget& owner, const QString& title, const FontValues& present);

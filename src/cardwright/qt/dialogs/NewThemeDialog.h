@@ -18,7 +18,7 @@ struct NewTheme {
   FeatureTypeEnum featureType = FeatureTypeEnum::ftPoint;
 };
 
-/// Asks a person for the name and the feature type of a new theme; none where it was cancelled or the dialog
+/// Asks a user for the name and the feature type of a new theme; none where it was cancelled or the dialog
 /// ended with its window. A name that `isTaken` knows or no host can take is refused while it is typed. The
 /// dialog's own name is "frmNewTheme"; its parts are "txtName", "cboKind", "cmdOK" and "cmdCancel".
 std::optional<NewTheme> AskForNewTheme(QWidget& owner, const QString& title,

@@ -14,7 +14,7 @@ QStringList SplitPathList(const QString& list);
 QString JoinPathList(const QStringList& files);
 /// @}
 
-/// @name A path list as a person reads and types it: several files each in quotes, a quote in a name doubled,
+/// @name A path list as a user reads and types it: several files each in quotes, a quote in a name doubled,
 /// the first one with the folder of all. Any other text is left as it is.
 /// @{
 QString ShownPaths(const QString& list);

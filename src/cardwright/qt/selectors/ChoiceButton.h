@@ -5,7 +5,7 @@
 
 namespace cardwright::qt {
 
-/// The button with three points beside what it lets a person choose. It is no stop of its own on the
+/// The button with three points beside what it lets a user choose. It is no stop of its own on the
 /// keyboard: a press gives the focus to `field`, whose keys open the choice too.
 class ChoiceButton final : public QToolButton {
  public:

@@ -48,7 +48,7 @@ class QtHostList : public QtSelector<Interface> {
     });
   }
 
-  /// A person chose a row of the open list, or by the keys of the closed one.
+  /// A user chose a row of the open list, or by the keys of the closed one.
   virtual void OnActivated(int row) {
     SetChosen(row);
     if (this->Native()) this->NotifyClick();

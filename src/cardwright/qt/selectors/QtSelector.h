@@ -71,7 +71,7 @@ class QtButtonSelector : public QtDialogSelector<Interface> {
     if (this->Native()) this->Notify([](WidgetListener& listener) { listener.OnAfterButtonClick(); });
   }
 
-  /// Has the person choose, and takes the choice over.
+  /// Lets the user choose, and stores the choice.
   virtual void RunDialog() = 0;
 
  private:

@@ -20,7 +20,7 @@ class FontCache {
   std::vector<std::pair<FontValues, QFont>> m_Fonts;
 };
 
-/// The application's font, for what keeps it beside text in a font of its own. Every property of it is set,
+/// The application's font, for what keeps it besides text in a font of its own. Every property of it is set,
 /// as the toolkit would take those that are not from that text.
 QFont PlainFont();
 

@@ -8,7 +8,7 @@
 namespace cardwright::qt {
 
 /// A scrolling widget of the toolkit whose frame shows the focus, as the frames of its one-line fields do.
-/// Many styles leave that out, and a person on the keyboard would not see where they are.
+/// Many styles leave that out, and a user on the keyboard would not see where they are.
 template <class Base>
 class FocusFramed : public Base {
  public:

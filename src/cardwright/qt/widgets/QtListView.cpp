@@ -109,7 +109,7 @@ void QtListView::ShowMark(QTreeWidgetItem& item) {
   item.setData(0, Qt::CheckStateRole, m_HasCheckBoxes ? QVariant(state) : QVariant());
 }
 
-/// Only a person's click or key gets here: what code changes is silent.
+/// Only the user's click or key gets here: what code changes is silent.
 void QtListView::OnItemChanged(QTreeWidgetItem& item) {
   const bool marked = item.checkState(0) == Qt::Checked;
   if (!m_HasCheckBoxes || marked == item.data(0, kMarkRole).toBool()) return;

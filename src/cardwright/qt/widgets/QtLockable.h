@@ -5,7 +5,7 @@
 
 namespace cardwright::qt {
 
-/// A widget whose value a person can be kept from changing, while it still shows it and takes the focus.
+/// A widget whose value a user can be kept from changing, while it still shows it and takes the focus.
 template <class Interface>
 class QtLockable : public QtWidget<Interface> {
  public:

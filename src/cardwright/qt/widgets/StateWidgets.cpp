@@ -84,7 +84,7 @@ void QtOptionButton::SetState(int state) {
   if (selected) {
     m_Button->setChecked(true);
   } else {
-    // A person cannot leave a group without a selection, code can.
+    // A user cannot leave a group without a selection, code can.
     m_Group->setExclusive(false);
     m_Button->setChecked(false);
     m_Group->setExclusive(true);

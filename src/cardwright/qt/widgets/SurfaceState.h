@@ -55,7 +55,7 @@ class SurfaceState final : public RefCounted {
   /// Deletes now or when the handlers are through.
   void Delete(QWidget* widget);
 
-  /// Has the widget settle with the next turn of the event loop.
+  /// Flushes the widget in the next turn of the event loop.
   void FlushLater(Ref<Widget> widget);
   /// For a surface that ends.
   void CancelFlushes() { m_ToFlush.clear(); }

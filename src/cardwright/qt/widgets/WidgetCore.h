@@ -38,7 +38,7 @@ class WidgetCore : public QObject, private Font::User {
   /// run-time widgets.
   static WidgetCore* Of(QWidget& widget);
   virtual Widget& Self() = 0;
-  /// A part of the widget that a person knows as such, "button" or "edit" in any case; null where it has no
+  /// A part of the widget that a user knows as such, "button" or "edit" in any case; null where it has no
   /// such part.
   virtual QWidget* Part(std::u16string_view /*name*/) const { return nullptr; }
 

@@ -51,7 +51,7 @@ Text ItemsText(const QMenu& menu) {
 }
 
 /// Items without a name, such as those of the toolkit's own menus, are found by their caption. Null where a
-/// person could not choose the item.
+/// user could not choose the item.
 QAction* ItemNamed(const QMenu& menu, std::u16string_view name) {
   for (QAction* item : menu.actions()) {
     const QString known = item->objectName().isEmpty() ? CaptionOf(*item).remove(u'&') : item->objectName();
@@ -62,7 +62,7 @@ QAction* ItemNamed(const QMenu& menu, std::u16string_view name) {
 }
 
 /// Several files are given as their folder and their names, separated by NUL, as forms keep them. They are
-/// typed as a person would type them, each in quotes.
+/// typed as a user would type them, each in quotes.
 void PutPaths(QFileDialog& dialog, const QString& path) {
   QStringList parts = path.split(QChar::Null);
   auto* const line = dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));

@@ -23,7 +23,7 @@ namespace cardwright::robot {
 
 /// Answers every message box, dialog of the toolkit and popup menu as soon as it is shown: with the queued
 /// answer or, without one, with the default button of a message box and by dismissing everything else. So
-/// nothing waits for a person. Any other modal dialog is passed to the procedure that is set for its name,
+/// nothing waits for a user. Any other modal dialog is passed to the procedure that is set for its name,
 /// and dismissed if it is still open afterwards.
 class DialogResponder final : public QObject {
  public:

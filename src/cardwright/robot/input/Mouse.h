@@ -16,7 +16,7 @@ struct ClickOptions {
 };
 
 /// Makes gestures with the mouse. Points are pixels inside the widget. Error 5 with a description where a
-/// person could not reach the point: in a hidden widget, or outside the window.
+/// user could not reach the point: in a hidden widget, or outside the window.
 class Mouse {
  public:
   void Move(QWidget& widget, QPoint to);

@@ -9,7 +9,7 @@
 namespace cardwright::robot {
 
 /// A widget of the toolkit that is no widget of a form: a part of a selector, a dialog, or a widget in a
-/// dialog. A robot takes it like any other widget. Its members tell what can be seen of it; they raise error
+/// dialog. A robot takes it like any other widget. Its members describe what can be seen; they raise error
 /// 91 once the widget was deleted. Default member: Text.
 class WidgetPart final : public TableObject {
  public:

@@ -11,7 +11,7 @@
 #include "cardwright/vbscript/builtins/Builtin.h"
 #include "cardwright/vbscript/builtins/BuiltinArguments.h"
 
-// Numbers and dates as a person of the script's locale writes them.
+// Numbers and dates as a user of the script's locale writes them.
 namespace cardwright::vbscript {
 
 namespace {

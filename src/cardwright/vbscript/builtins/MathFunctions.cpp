@@ -80,7 +80,7 @@ constexpr int kCurrencyDecimals = 4;
 constexpr std::int64_t kCurrencyUnit = 10000;  // ten-thousandths
 
 // Rounds a number of any type and keeps the type; a Boolean becomes an Integer, a string a Double. A way of
-// rounding tells what it does with Double, Currency and Decimal.
+// rounding defines what it does with Double, Currency and Decimal.
 template <class Way>
 Variant RoundNumber(const Variant& number, const Way& way) {
   const Operand value(number);

@@ -21,7 +21,7 @@ struct ClassMember;
 inline constexpr std::uint16_t kNoRegister = 0xFFFF;
 
 /// A name that a procedure uses and does not declare, with a cache of its binding. The binding is looked up
-/// when the code first needs it, and again after any name of the engine was bound anew: every such change
+/// when the code first needs it, and again after any name of the engine was rebound: every such change
 /// increments the machine's epoch, so a cached binding is valid while its epoch equals the machine's.
 struct SymbolUse {
   NameId name = kNoName;

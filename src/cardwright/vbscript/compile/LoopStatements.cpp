@@ -20,7 +20,7 @@ void BodyCompiler::CompileLoopBody(ExitKind exit, Label& end, std::size_t outsid
 }
 
 // First value, limit and step are all evaluated before any of them is stored. Where one of them fails and
-// errors are passed over, the loop stays unprepared: its body runs once, and Next is an error.
+// errors are ignored, the loop stays unprepared: its body runs once, and Next is an error.
 void BodyCompiler::CompileFor(const ForStmt& statement) {
   const Binding binding = Resolve(*statement.variable);
   const std::size_t mark = Mark(statement.position);
@@ -56,7 +56,7 @@ void BodyCompiler::EmitForBounds(const ForStmt& statement, std::uint16_t bounds)
   m_Code.FreeTemporaries(used);
 }
 
-// What cannot be enumerated runs the body once where errors are passed over.
+// What cannot be enumerated runs the body once where errors are ignored.
 void BodyCompiler::CompileForEach(const ForEachStmt& statement) {
   const Binding binding = Resolve(*statement.variable);
   const std::size_t mark = Mark(statement.position);
@@ -82,7 +82,7 @@ void BodyCompiler::CompileForEach(const ForEachStmt& statement) {
   ReleaseHidden(state, kEachRegisters);
 }
 
-// A condition at the end that fails leaves the loop where errors are passed over. Exit Do does not leave a
+// A condition at the end that fails leaves the loop where errors are ignored. Exit Do does not leave a
 // While.
 void BodyCompiler::CompileLoop(const LoopStmt& statement) {
   const bool first = statement.loop == LoopKind::DoWhile || statement.loop == LoopKind::DoUntil ||

@@ -77,7 +77,7 @@ void BodyCompiler::CompileSimpleStatement(const Stmt& statement) {
   m_Code.ResumeHere(mark);
 }
 
-// Where errors are passed over, a condition that fails counts as true: its branch is entered.
+// Where errors are ignored, a condition that fails counts as true: its branch is entered.
 void BodyCompiler::CompileIf(const IfStmt& statement) {
   Label end;
   for (std::size_t k = 0; k < statement.branches.size(); ++k) {
@@ -94,7 +94,7 @@ void BodyCompiler::CompileIf(const IfStmt& statement) {
   m_Code.Bind(end);
 }
 
-// Where errors are passed over, a subject that fails skips the whole statement; a value of a Case that fails
+// Where errors are ignored, a subject that fails skips the whole statement; a value of a Case that fails
 // counts as a match.
 void BodyCompiler::CompileSelect(const SelectStmt& statement) {
   const std::size_t subjectMark = Mark(statement.position);

@@ -7,7 +7,7 @@
 
 namespace cardwright::vbscript {
 
-/// `Err`: the last error that the script passed over, and the means to raise one.
+/// `Err`: the last error that the script ignored, and the means to raise one.
 class ErrObject final : public TableObject {
  public:
   Text TypeName() const override { return u"Object"; }

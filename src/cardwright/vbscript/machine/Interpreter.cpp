@@ -27,13 +27,10 @@
 // Errors. They are exceptions, so that the quick paths need not test for them. The handlers at the end of Run
 // catch them; Handle finds the frame that continues, and the loop starts again with it.
 //
-// As an example, `x = a(i) + 1` with variables of the procedure and temporaries t0 and t1:
-//
-//   GetElement t1 a i   Copies the element to t1. If `a` holds no array or `i` no whole number, then
-//                       GetElementSlowly converts the index, or calls the default member of an object.
-//   Move t0 t1          Moves the value; t1 is empty again.
-//   Add x t0 1          Adds whole numbers or doubles at once. For anything else ApplyAdd calls the operator,
-//                       clears t0 and stores the result.
+// As an example, take `x = a(i) + 1`, whose instructions BodyCompiler.h lists. GetElement copies the element.
+// If `a` holds no array or `i` no whole number, GetElementSlowly converts the index, or calls the default
+// member of an object. Move leaves its source empty. Add adds whole numbers or doubles at once; for anything
+// else ApplyAdd calls the operator, clears the temporary and stores the result.
 
 // Jumps to the addresses of labels are what makes the loop quick: each operation ends with a jump of its own
 // to the next operation (NEXT), which the processor predicts by what usually follows this one. All compilers

@@ -47,7 +47,7 @@ class Machine final : public Context, public Linkage, private StopSignal {
   /// Error 5 for no object, or a name that is taken.
   void AddObject(std::u16string_view name, Ref<Object> object, bool addMembers);
   Symbol* Lookup(Module& module, NameId name) override;
-  /// Called after any name was bound anew: makes the bindings that code has cached invalid.
+  /// Called after any name was rebound: makes the bindings that code has cached invalid.
   void NamesChanged() noexcept { ++m_Epoch; }
   /// @}
 

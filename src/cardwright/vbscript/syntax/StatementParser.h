@@ -14,7 +14,7 @@ class StatementParser : public ExpressionParser {
  protected:
   ~StatementParser() = default;
 
-  /// What encloses a statement, which decides what is allowed in it. The body of a procedure starts anew.
+  /// What encloses a statement, which decides what is allowed in it. A procedure has its own.
   struct Enclosing {
     TokenKind procedure = TokenKind::EndOfSource;  ///< Sub, Function or Property; EndOfSource outside them
     NameScope* names = nullptr;                    ///< where Dim and Const declare
