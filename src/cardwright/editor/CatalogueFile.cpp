@@ -14,7 +14,7 @@ namespace cardwright {
 namespace {
 
 constexpr std::string_view kSqliteMark{"SQLite format 3\0", 16};
-// Of Jet and of its successor, after a number that tells the version.
+// Of Jet and of its successor, after a number, which is the version.
 constexpr std::size_t kJetMarkAt = 4;
 constexpr std::string_view kJetMark = "Standard Jet DB", kAceMark = "Standard ACE DB";
 

@@ -25,7 +25,7 @@ std::u16string_view FirstWord(std::u16string_view text) {
 int ToTwip(float value) { return static_cast<int>(std::lround(value)); }
 
 // An empty guide stays so while the window has the title it was made with; hosts that give it another one
-// have a person read it.
+// have the user read it.
 Text GuideText(std::u16string_view tip, const Text& caption) {
   const std::u16string_view guide = Trim(tip);
   const bool isMissing = guide.empty() || guide == u"?";

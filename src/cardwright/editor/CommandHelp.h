@@ -11,11 +11,11 @@ class CommandHelp {
  public:
   CommandHelp(EditorCore& core, const CommandCatalogue& catalogue) : m_Core(core), m_Catalogue(catalogue) {}
 
-  /// Describes what is selected, or what the caret stands in.
+  /// Describes what is selected, or the word at the caret.
   void FollowCaret();
   /// Describes a command by the text of its row in the pop-up's list.
   void Describe(std::u16string_view word);
-  /// Shows or hides the window as the check button stands.
+  /// Shows or hides the window as the check button says.
   void ApplyButton();
 
   /// @name The user's settings for the window: whether it is shown, and where

@@ -128,7 +128,7 @@ void Completion::LeaveString() {
     pad.MoveToDelimiter(delimiters, false, false);
     const std::int32_t now = pad.SelStart();
     if (now == 0 || now < lineStart) return;
-    // Right behind the quote the edge stays where it is; one step left leaves the string.
+    // Right after the quote the edge stays where it is; one step left leaves the string.
     pad.SetSelStart(now - 1);
     if (pad.SelStart() == before) return;
   }

@@ -20,11 +20,11 @@ class Completion {
 
   /// A character is about to be typed into the text widget.
   void OnKeyPress(char16_t key);
-  /// Looks for what the caret stands in, as Ctrl+I asks.
+  /// Looks up the word at the caret, as Ctrl+I asks.
   void OpenAtCaret();
   /// Writes a call of ORVExecute or ORVRequest with an empty command at the caret and opens its list.
   void InsertCall(std::u16string_view function);
-  /// Follows what is typed behind the place where the list was opened, after each key.
+  /// Follows what is typed after the place where the list was opened, after each key.
   void SelectTyped();
   /// The text widget's Down key; true where it went into the list.
   bool EnterList();
@@ -60,10 +60,10 @@ class Completion {
   const Ref<CompletionListWidget> m_List;
   const Ref<CaptionWidget> m_Tip;
   std::vector<CompletionRow> m_Rows;  // of the list that is open
-  std::int32_t m_AnchorPos = 0;       // behind the character that opened the pop-up
+  std::int32_t m_AnchorPos = 0;       // after the character that opened the pop-up
   std::int32_t m_ListCaretPos = 0;    // caret with which the pop-up's left moves
   bool m_QuoteInsert = false;         // what is picked goes between quotes
-  float m_Width = 4000;               // of the list, in twips, as a person left it
+  float m_Width = 4000;               // of the list, in twips, as the user left it
   float m_Height = 1700;
   std::int32_t m_CaretX = 0;  // in pixels, as seen last
   std::int32_t m_CaretY = 0;

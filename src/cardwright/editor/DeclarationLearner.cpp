@@ -70,7 +70,7 @@ class NamesOf {
   std::size_t m_At = 0;
 };
 
-// A new name is appended with no blank behind it, so the next one joins it: hosts that read `constants` back
+// A new name is appended with no space after it, so the next one joins it: hosts that read `constants` back
 // know the list in this form.
 void AddToConstants(Lexipad& pad, const Text& name) {
   LexipadLanguage language = pad.Language();

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The toolbar of the script editor, and what the editor does with what a person does in the text.
+// The toolbar of the script editor, and what the editor does with what the user does in the text.
 
 #include "cardwright/editor/DeclarationLearner.h"
 #include "cardwright/editor/EditorSession.h"
@@ -185,7 +185,7 @@ void EditorSession::OnLineParsed(std::int32_t position, const Text& line) {
   });
 }
 
-// The host's windows are not drawn anew while a large text is read.
+// The host's windows are not drawn again while a large text is read.
 void EditorSession::OnBatchStart() {
   Handle([] { SharedHost().ORVExecute(u"APPLICATION_FLAGREDRAW OFF"); });
 }

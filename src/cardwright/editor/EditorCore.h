@@ -5,8 +5,8 @@
 
 namespace cardwright {
 
-/// What the parts of one editor share: its widgets, the document's language and the state that tells a
-/// person's edits from the editor's own.
+/// What the parts of one editor share: its widgets, the document's language and the state that tells the
+/// user's edits from the editor's own.
 class EditorCore {
  public:
   explicit EditorCore(EditorSurface& surface);

@@ -53,7 +53,7 @@ EditorSession::EditorSession(EditorSurface& surface, EventSink events)
       m_ControlChosen([this] { Handle([this] { m_Navigator.OnControlChosen(); }); }),
       m_EventChosen([this] { Handle([this] { m_Navigator.OnEventChosen(); }); }) {}
 
-// Each step stands for itself: settings of another version, or a desktop that refuses one, leave the rest.
+// Each step is independent: settings of another version, or a desktop that refuses one, leave the rest.
 void EditorSession::SetUp() {
   EditorSurface& surface = m_Core.Surface();
   TranslateControls(surface.TaggedWidgets());
@@ -155,7 +155,7 @@ void EditorSession::SetFileContent(const Text& document) {
   m_Core.pad->SetContents(script);
 }
 
-// The caret is asked for on lines that a new text has not got, and so comes to stand at its end.
+// The caret is asked for on lines that the new text lacks, so it ends up at its end.
 void EditorSession::SetNewSource(const Text& language) {
   const Ref<EditorSession> keepAlive(this);
   Lexipad& pad = *m_Core.pad;

@@ -12,8 +12,8 @@
 
 namespace cardwright {
 
-/// The work of a script editor on one surface: the document, the commands, and what follows from what a
-/// person does. OrvEditor is its face to hosts and scripts, and tells there what each member does.
+/// The work of a script editor on one surface: the document, the commands, and what follows from what the
+/// user does. OrvEditor is its public interface for hosts and scripts, and documents the members.
 class EditorSession final : public RefCounted,
                             private WidgetListener,
                             private LexipadListener,
@@ -52,7 +52,7 @@ class EditorSession final : public RefCounted,
   void WriteProperties(PropertyBag& bag) const;
 
  private:
-  /// Hears that a person, or the caret, chose an entry of a combo.
+  /// Hears that the user, or the caret, chose an entry of a combo.
   class ChoiceListener final : public WidgetListener {
    public:
     explicit ChoiceListener(std::function<void()> onChoice) : m_OnChoice(std::move(onChoice)) {}
@@ -80,7 +80,7 @@ class EditorSession final : public RefCounted,
   void OnLineLeft();
   void CopyIndent();
 
-  // What a person does in the text widget, and around it.
+  // What the user does in the text widget, and around it.
   void OnGotFocus() override;
   void OnLostFocus() override;
   void OnChange() override;
@@ -119,7 +119,7 @@ class EditorSession final : public RefCounted,
   Text m_FileName;  // of the script file, "" for a new source
   Text m_SearchPath;
   bool m_ToolbarVisible = true;
-  bool m_MouseLineChange = false;  // the mouse went down since a line was read anew
+  bool m_MouseLineChange = false;  // the mouse went down since a line was read again
   bool m_EnterPressed = false;     // the last key down was Enter alone
 };
 

@@ -19,7 +19,7 @@ struct CompletionRow {
   bool isRequest = false;  ///< shows the icon of a request ("function"), else that of a command ("method")
 };
 
-/// What a person does in the pop-up's list. Rows count from 1.
+/// What the user does in the pop-up's list. Rows count from 1.
 class CompletionListListener {
  public:
   /// A character typed while the list has the keyboard, U+001B for Esc and U+000D for Enter among them.
@@ -66,7 +66,7 @@ class DescriptionWindow {
   virtual bool IsActive() const = 0;
 };
 
-/// What a person asked the search dialog for.
+/// What the user asked the search dialog for.
 struct SearchRequest {
   Text text;
   bool wholeWord = false;
@@ -74,10 +74,10 @@ struct SearchRequest {
   int direction = 0;  ///< 0 all, 1 down, 2 up
 };
 
-/// What an editor hears of the toolkit around it, beside what its widgets tell their own listeners.
+/// Events of the toolkit around an editor, besides those that its widgets raise.
 class EditorListener {
  public:
-  /// A button of the toolbar was pressed by a person.
+  /// A button of the toolbar was pressed by the user.
   virtual void OnToolButton(const Text& /*key*/) {}
   /// One tick of the timer that follows the caret.
   virtual void OnTimer() {}
@@ -126,7 +126,7 @@ class EditorSurface {
   /// Width of a text in the pop-up's tip, and the height of a line of text, in twips.
   virtual float TextWidth(const Text& text) const = 0;
   virtual float TextHeight() const = 0;
-  /// Distance from the control's top to that of the container that the text widget stands in.
+  /// Distance from the control's top to that of the container that the text widget is in.
   virtual float PadOffset() const = 0;
 
   /// Gives the pop-up a frame by which it can be resized, or takes it away.
@@ -144,7 +144,7 @@ class EditorSurface {
 
   /// @name Dialogs. Each is modal; the surface may end meanwhile.
   /// @{
-  /// The search dialog, which keeps what was looked for until UnloadSearch. `text` replaces what stands in
+  /// The search dialog, which keeps what was looked for until UnloadSearch. `text` replaces what is in
   /// its field where it is not empty. None where it was left without OK or without a text.
   virtual std::optional<SearchRequest> AskSearch(const Text& text) = 0;
   virtual void UnloadSearch() = 0;

@@ -8,7 +8,7 @@ namespace cardwright {
 
 namespace {
 
-// Long enough for any script that only declares things, short enough for the person who opened a list.
+// Long enough for any script that only declares things, short enough for the user who opened a list.
 constexpr std::int32_t kEnginePatience = 500;  // milliseconds
 
 Ref<ScriptControl> EngineWith(std::u16string_view language, std::u16string_view script) {

@@ -5,8 +5,8 @@ namespace cardwright {
 
 namespace {
 
-// The lists stand as authors' settings and the learning of names count on them: where a list begins or ends
-// with a blank, a name that is appended to it becomes a word of its own or joins the last one.
+// The lists keep their exact form: authors' settings and the learning of names depend on it. If a list begins
+// or ends with a space, a name that is appended to it becomes a word of its own or joins the last one.
 constexpr std::u16string_view kVbscriptKeywords =
     u" And Call Case Const Date Dim Do Each Else ElseIf Empty End Eqv Erase Error Exit Explicit False "
     u"For Function If Imp Is LBound Loop Mod Next Not Nothing Null Object On Option Or Preserve "

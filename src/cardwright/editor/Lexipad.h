@@ -58,15 +58,15 @@ inline constexpr int WholeWord = 2, MatchCase = 4, KeepSelection = 8;
 /// What a call of Reformat works on.
 enum class ReformatMode : std::int32_t { Line = 1, Text = 2 };
 
-/// Events that a syntax-colouring widget has beside those of every widget. A key press is told in the order
+/// Events of a syntax-colouring widget besides those of every widget. A key press raises them in the order
 /// KeyDown, KeyPress, Change, SelChange, KeyUp.
 class LexipadListener {
  public:
   virtual void OnSelChange() {}
   virtual void OnKeyUp(int /*keyCode*/, int /*shift*/) {}
-  /// A line was read anew. `position` is that of its first character.
+  /// A line was read again. `position` is that of its first character.
   virtual void OnLineParsed(std::int32_t /*position*/, const Text& /*line*/) {}
-  /// Around the lines of a text that is read anew as a whole.
+  /// Around the lines of a text that is read again as a whole.
   virtual void OnBatchStart() {}
   virtual void OnBatchEnd() {}
 
@@ -97,7 +97,7 @@ class Lexipad : public Widget {
   virtual std::int32_t SelLength() const = 0;
   virtual void SetSelLength(std::int32_t length) = 0;
   virtual Text SelText() const = 0;
-  /// Replaces the selection; the caret goes behind the text.
+  /// Replaces the selection; the caret goes after the text.
   virtual void SetSelText(const Text& text) = 0;
   /// Colour of the selected text's first character, or of the one at the caret.
   virtual OleColor SelColor() const = 0;
@@ -141,7 +141,7 @@ class Lexipad : public Widget {
   /// Moves the selection's edge, its start going backward and its end going forward, to the nearest character
   /// of `delimiters` or the text's end. With `extend` the selection grows, else it is left empty there.
   virtual void MoveToDelimiter(const Text& delimiters, bool forward, bool extend) = 0;
-  /// Reads a line, counted from 1, or the whole text anew: colours, and the case and blanks of lines that
+  /// Reads a line, counted from 1, or the whole text again: colours, and the case and blanks of lines that
   /// were edited.
   virtual void Reformat(ReformatMode mode, std::optional<std::int32_t> line = {}) = 0;
 

@@ -20,7 +20,7 @@ Margin MarginOf(BlankFormat format) {
           format == BlankFormat::BothSides || format == BlankFormat::After};
 }
 
-/// What stands before a sign that makes it one of two operands; else it belongs to what follows.
+/// What comes before a sign and makes it one of two operands; else it belongs to what follows.
 bool IsOperandEnd(const Lexeme& lexeme, std::u16string_view text) {
   switch (lexeme.kind) {
     case LexemeKind::Word:

@@ -63,7 +63,7 @@ LanguageWords::LanguageWords(const LexipadLanguage& language)
   AddWords(language.constants, LexemeKind::Constant);
 }
 
-// A word that stands in both lists is a keyword. The last spelling of a list counts: names are learned so.
+// A word that is in both lists is a keyword. The last spelling of a list counts: names are learned so.
 void LanguageWords::AddWords(std::u16string_view list, LexemeKind kind) {
   for (Text& word : WordsOf(list)) {
     const auto [listed, isNew] = m_Words.try_emplace(word, Listed{kind, word});

@@ -22,7 +22,7 @@ enum class LexemeKind : std::uint8_t {
   Other,
 };
 
-/// A piece of a line. Blanks stand between the pieces and belong to none.
+/// A piece of a line. Spaces are between the pieces and belong to none.
 struct Lexeme {
   LexemeKind kind;
   std::size_t start;

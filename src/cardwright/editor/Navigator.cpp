@@ -136,7 +136,7 @@ void Navigator::OnControlChosen() {
   if (index == 0) {
     const bool isReadable = Attempt([this] { FillProcedures(); });
     if (!m_IsSyncing && m_Core.eventsCombo->ListCount() > 0) m_Core.eventsCombo->SetListIndex(0);
-    if (!isReadable) return;  // so that the list is filled anew at the next choice
+    if (!isReadable) return;  // so that the list is filled again at the next choice
   } else if (index > 0) {
     FillEvents(ChosenControl());
     if (!m_IsSyncing) OnEventChosen();
@@ -182,7 +182,7 @@ void Navigator::OnEventChosen() {
   if (event >= 0) GoToProcedure(name, ChosenEvent());
 }
 
-// Choosing an entry runs the handler anew. Where nothing is written yet nothing is chosen by the author, so
+// Choosing an entry runs the handler again. Where nothing is written yet nothing is chosen by the author, so
 // the first entry is shown and no procedure made.
 void Navigator::ChooseFirstWritten(const Text& control) {
   ComboWidget& events = *m_Core.eventsCombo;

@@ -16,9 +16,9 @@ class Navigator {
   explicit Navigator(EditorCore& core) : m_Core(core) {}
 
   /// The controls of the form, in any collection of them; null for none. Empties the combos and fills the
-  /// first one anew.
+  /// first one again.
   void TakeControls(Ref<Object> controls);
-  /// Fills the first combo anew after controls came, went or were renamed.
+  /// Fills the first combo again after controls came, went or were renamed.
   void RefreshControls();
   /// The names of the controls with a blank around each, as the widget's constants take them.
   const Text& ControlNames() const noexcept { return m_ControlNames; }
@@ -49,7 +49,7 @@ class Navigator {
   EditorCore& m_Core;
   Ref<Object> m_Controls;
   Text m_ControlNames;
-  int m_LastControl = -1;           // index handled last; -1 has the events filled anew
+  int m_LastControl = -1;           // index handled last; -1 has the events filled again
   bool m_IsSyncing = false;         // the combos follow the caret, which stays
   bool m_IsRefreshing = false;      // the first combo is being filled
   bool m_IsGoing = false;           // the caret is on its way to a procedure

@@ -25,17 +25,17 @@ class OrvEditor final : public TableObject {
   Text TypeName() const override { return u"OrvEditor"; }
 
   /// Reads a script file; true where it was read. A file of length 0 is an empty source. False for a folder
-  /// that does not exist, and for a file whose first line is no known language, which the person is told.
-  /// Error 53 for a file that is not there, 75 for one that cannot be read.
+  /// that does not exist, and for a file whose first line is no known language, which the user is informed
+  /// of. Error 53 for a file that is not there, 75 for one that cannot be read.
   bool ProjectRead(const Text& fileName);
-  /// Asks about unsaved changes; false where the person wants to go on editing. A host that gets true closes.
+  /// Asks about unsaved changes; false if the user wants to go on editing. A host that gets true closes.
   bool TerminateRequested();
-  /// Asks about unsaved changes; true where the caller must stop, be it that the person wants to, be it that
-  /// the changes were not saved.
+  /// Asks about unsaved changes; true if the caller must stop, because the user wants to or the changes
+  /// were not saved.
   bool CheckModify();
   /// Starts an empty document. A language that is not known leaves the one that is set.
   void SetNewSource(const Text& language);
-  /// The document. Setting one whose first line is no known language tells the person and changes nothing.
+  /// The document. Setting one whose first line is no known language informs the user and changes nothing.
   Text FileContent() const;
   void SetFileContent(const Text& document);
 

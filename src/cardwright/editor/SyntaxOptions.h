@@ -8,7 +8,7 @@
 
 namespace cardwright {
 
-/// Elements whose colour and weight a person can choose, in the order of the options dialog.
+/// Elements whose colour and weight the user can choose, in the order of the options dialog.
 inline constexpr int kChoosableElements = 6;
 
 /// What the options dialog changes: the font and the colours of a text widget. Nothing reaches the widget or
@@ -28,7 +28,7 @@ class SyntaxOptions {
   /// Whether anything was chosen, be it what was there before.
   bool IsDirty() const noexcept { return m_IsDirty; }
 
-  /// Gives the widget what was chosen, saves it and colours the text anew. Does nothing where nothing was
+  /// Gives the widget what was chosen, saves it and colours the text again. Does nothing where nothing was
   /// chosen.
   void Apply();
 

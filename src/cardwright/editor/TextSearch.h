@@ -24,7 +24,7 @@ class TextSearch {
  public:
   explicit TextSearch(EditorCore& core) : m_Core(core) {}
 
-  /// Asks the person what to look for, and looks for it; true for a hit.
+  /// Asks the user what to look for, and looks for it; true for a hit.
   bool Ask();
   /// Looks for the same text from the caret on; true for a hit.
   bool Again();

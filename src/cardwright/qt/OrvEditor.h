@@ -49,7 +49,7 @@ class OrvEditor final : public VisualControl {
   QSize sizeHint() const override;
 
  Q_SIGNALS:
-  /// The person answered that changes are to be saved; a host that has saved them clears FileModified.
+  /// The user answered that changes are to be saved; a host that has saved them clears FileModified.
   void UserSaveChange();
   /// The caret or the selection has moved.
   void SelChange();

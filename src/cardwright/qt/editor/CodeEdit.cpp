@@ -18,7 +18,7 @@ namespace cardwright::qt {
 namespace {
 
 // A line's state as its block keeps it: the revision of the language it was read by, whether it was edited
-// since its layout was tidied, whether a remark goes on behind it. A new line has -1.
+// since its layout was tidied, whether a remark goes on after it. A new line has -1.
 constexpr int kNewLine = -1;
 constexpr int kInRemarkBit = 1, kEditedBit = 2, kRevisionShift = 2;
 
@@ -138,7 +138,7 @@ void CodeEdit::ReadLine(QTextBlock block) {
     block.layout()->setFormats(formats);
     document()->markContentsDirty(block.position(), block.length());
   }
-  // What follows is read anew where a remark over several lines began or ended.
+  // What follows is read again where a remark over several lines began or ended.
   if (tokens.endsInRemark != wasInRemark && block.next().isValid()) {
     QTextBlock next = block.next();
     next.setUserState(StateOf(next) & kEditedBit);

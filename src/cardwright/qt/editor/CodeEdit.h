@@ -23,7 +23,7 @@ class CodeEdit final : public FocusFramed<QPlainTextEdit> {
   explicit CodeEdit(QWidget* parent);
   ~CodeEdit() override;
 
-  /// Reads all lines anew when they are seen next.
+  /// Reads all lines again when they are seen next.
   void SetLanguage(const LexipadLanguage& language, const ElementStyles& styles, int maxLineLength);
   const LanguageWords& Words() const noexcept { return *m_Words; }
   /// Whether a line begins inside a remark over several lines.
@@ -31,7 +31,7 @@ class CodeEdit final : public FocusFramed<QPlainTextEdit> {
   /// What is at a place of a line; "code" for a blank.
   SyntaxElement ElementAt(const QTextBlock& block, int column);
 
-  /// @name Lines that a person, or the editor, changed since they were read
+  /// @name Lines that the user, or the editor, changed since they were read
   /// @{
   static bool IsEdited(const QTextBlock& block);
   static void SetEdited(QTextBlock block, bool edited);
@@ -52,7 +52,7 @@ class CodeEdit final : public FocusFramed<QPlainTextEdit> {
 
  Q_SIGNALS:
   void KeyReleased(int key, Qt::KeyboardModifiers modifiers);
-  /// An event of a person begins and ends; what changes in between is told at its end.
+  /// An event of the user begins and ends; what changes in between is reported at its end.
   void InputBegins();
   void InputEnds();
 

@@ -10,7 +10,7 @@ class QPlainTextEdit;
 
 namespace cardwright::qt {
 
-/// The window that describes a host command, "frmOrvDesc". It stands beside the window of its owner, which
+/// The window that describes a host command, "frmOrvDesc". It is next to the window of its owner, which
 /// keeps the keyboard.
 class DescriptionDialog final : public QDialog, public DescriptionWindow {
   Q_OBJECT
@@ -32,7 +32,7 @@ class DescriptionDialog final : public QDialog, public DescriptionWindow {
 
  Q_SIGNALS:
   void PlaceChanged();
-  /// A person has closed the window.
+  /// The user has closed the window.
   void Closed();
 
  protected:

@@ -29,7 +29,7 @@ float ToTwips(int pixels) { return static_cast<float>(pixels) * kTwipsPerPixel; 
 
 }  // namespace
 
-/// The corner by which a person makes the pop-up larger or smaller.
+/// The corner by which the user makes the pop-up larger or smaller.
 class QtEditorSurface::Grip final : public QWidget {
  public:
   Grip(QWidget& popup, std::function<void(QSize)> resize) : QWidget(&popup), m_Resize(std::move(resize)) {
@@ -172,7 +172,7 @@ void QtEditorSurface::LayOut() {
   m_Pad->Move(0, padTop, width, std::max(0.0F, ToTwips(canvas.height()) - padTop));
 }
 
-// The panes stand where the toolbar has left room for them, their text in the middle of its height.
+// The panes are where the toolbar has left room for them, their text in the middle of its height.
 void QtEditorSurface::PlacePanes() {
   const auto place = [&](QtLabel& label, std::u16string_view key) {
     const QRect room = m_Toolbar->RectOf(key);

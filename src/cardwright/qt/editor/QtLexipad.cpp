@@ -111,7 +111,7 @@ void QtLexipad::EndEvents() {
   if (--m_EventDepth == 0 && Native()) TellEvents();
 }
 
-// A handler that changes the text or the selection has its own told after it, in the same order.
+// A handler that changes the text or the selection has its own raised after it, in the same order.
 void QtLexipad::TellEvents() {
   if (m_IsTelling || !Native() || m_UpdateDepth > 0) return;
   const Ref<Widget> keepAlive(&Self());
@@ -317,7 +317,7 @@ std::int32_t QtLexipad::Find(const Text& text, std::int32_t start, std::optional
   return hit;
 }
 
-// Whole lines are passed over where no delimiter ends a line.
+// Whole lines are skipped where no delimiter ends a line.
 int QtLexipad::DelimiterBefore(int place, const Text& delimiters) const {
   const bool stopsAtLine = delimiters.View().find(m_Text.LineEnd().back()) != std::u16string_view::npos;
   QTextBlock block = m_Edit->document()->findBlock(place);

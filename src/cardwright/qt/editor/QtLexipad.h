@@ -16,7 +16,7 @@ class CodeEdit;
 /// The syntax-colouring text widget on the toolkit's plain text editor.
 ///
 /// While an update is held (BeginUpdate), selections move a cursor of the adapter's own, and the widget
-/// follows once, at the end. Events of one operation or of one act of a person are told together when it is
+/// follows once, at the end. Events of one operation or of one act of the user are raised together when it is
 /// over: the change, then the selection, then the line that was left.
 class QtLexipad final : public QtWidget<Lexipad> {
  public:

@@ -10,10 +10,10 @@ class QToolBar;
 
 namespace cardwright::qt {
 
-/// The toolbar of the script editor, with the two panes that stand on it.
+/// The toolbar of the script editor, with its two panes.
 class QtToolbar final : public QtWidget<ToolbarWidget> {
  public:
-  /// `onButton` hears the key of each button that a person presses.
+  /// `onButton` hears the key of each button that the user presses.
   QtToolbar(WidgetPlace place, std::function<void(const Text& key)> onButton);
 
   Text TypeName() const override { return ToolbarWidget::TypeName(); }
