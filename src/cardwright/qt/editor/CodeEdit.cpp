@@ -2,6 +2,7 @@
 #include "cardwright/qt/editor/CodeEdit.h"
 
 #include <QContextMenuEvent>
+#include <QFontDatabase>
 #include <QMenu>
 #include <QMimeData>
 #include <QPainter>
@@ -310,7 +311,8 @@ void CodeEdit::ApplyFont() {
   QFont font = this->font();
   const qreal size = font.pointSizeF() > 0 ? font.pointSizeF() : QFontInfo(font).pointSizeF();
   font.setPointSizeF(std::max<qreal>(size + m_Zoom, kLeastSize));
-  font.setStyleHint(QFont::Monospace);  // where the machine lacks the family
+  // A machine that lacks the family gets another one whose characters are equally wide.
+  font.setFamilies({font.family(), QFontDatabase::systemFont(QFontDatabase::FixedFont).family()});
   document()->setDefaultFont(font);
   setTabStopDistance(QFontMetricsF(font).horizontalAdvance(u' ') * m_TabBlanks);
   ++m_Revision;

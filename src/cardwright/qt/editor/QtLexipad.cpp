@@ -23,22 +23,6 @@ constexpr WidgetKind kLexipad = [] {
   return kind;
 }();
 
-bool IsWholeWord(std::u16string_view text, std::size_t at, std::size_t size) {
-  const bool beginsWord = at == 0 || !IsNameCharacter(text[at - 1]);
-  const bool endsWord = at + size >= text.size() || !IsNameCharacter(text[at + size]);
-  return beginsWord && endsWord;
-}
-
-std::size_t FindText(std::u16string_view text, std::u16string_view what, std::size_t from, int options) {
-  for (;;) {
-    const std::size_t at = (options & FindOption::MatchCase) != 0 ? cardwright::Find(text, what, from)
-                                                                  : FindNoCase(text, what, from);
-    if (at == text.npos || (options & FindOption::WholeWord) == 0 || IsWholeWord(text, at, what.size()))
-      return at;
-    from = at + 1;
-  }
-}
-
 TokenKind TokenKindOf(LexemeKind kind) {
   switch (kind) {
     case LexemeKind::String: return TokenKind::String;
@@ -51,19 +35,6 @@ TokenKind TokenKindOf(LexemeKind kind) {
 }
 
 }  // namespace
-
-/// Tells the events of what is done in a scope at its end.
-class QtLexipad::EventScope {
- public:
-  explicit EventScope(QtLexipad& pad) : m_Self(&pad), m_Pad(pad) { pad.BeginEvents(); }
-  ~EventScope() { m_Pad.EndEvents(); }
-  EventScope(const EventScope&) = delete;
-  EventScope& operator=(const EventScope&) = delete;
-
- private:
-  const Ref<Widget> m_Self;
-  QtLexipad& m_Pad;
-};
 
 QtLexipad::QtLexipad(WidgetPlace place)
     : QtWidget(kLexipad, place), m_Edit(new CodeEdit(place.parent)), m_Text(*m_Edit->document()) {
@@ -98,13 +69,6 @@ QtLexipad::QtLexipad(WidgetPlace place)
 CodeEdit& QtLexipad::Edit() const {
   RequireAlive();
   return *m_Edit;
-}
-
-template <class Call>
-void QtLexipad::NotifyPad(Call&& call) {
-  if (!m_PadListener) return;
-  const HandlerScope scope(*this);
-  Attempt([&] { call(*m_PadListener); });
 }
 
 void QtLexipad::EndEvents() {
@@ -293,142 +257,6 @@ void QtLexipad::EndUpdate() {
       m_Edit->setTextCursor(m_HeldCursor);
   }
   EndEvents();
-}
-
-std::int32_t QtLexipad::Find(const Text& text, std::int32_t start, std::optional<std::int32_t> end,
-                             int options) {
-  RequireAlive();
-  if (text.IsEmpty()) return -1;
-  const Text all = m_Text.Get();
-  std::u16string_view searched = all;
-  if (end) searched = searched.substr(0, static_cast<std::size_t>(std::max(*end, 0)));
-  const auto from = static_cast<std::size_t>(std::max(start, 0));
-  if (from > searched.size()) return -1;
-  const std::size_t at = FindText(searched, text, from, options);
-  if (at == searched.npos) return -1;
-  const auto hit = static_cast<std::int32_t>(at);
-  if ((options & FindOption::KeepSelection) == 0) {
-    QTextCursor cursor = Cursor();
-    cursor.setPosition(m_Text.ToDocument(hit));
-    cursor.setPosition(m_Text.ToDocument(hit + static_cast<std::int32_t>(text.Size())),
-                       QTextCursor::KeepAnchor);
-    SetCursor(cursor);
-  }
-  return hit;
-}
-
-// Whole lines are skipped where no delimiter ends a line.
-int QtLexipad::DelimiterBefore(int place, const Text& delimiters) const {
-  const bool stopsAtLine = delimiters.View().find(m_Text.LineEnd().back()) != std::u16string_view::npos;
-  QTextBlock block = m_Edit->document()->findBlock(place);
-  int column = place - block.position();
-  for (;;) {
-    const QString text = block.text();
-    while (column > 0 && delimiters.View().find(text[column - 1].unicode()) == std::u16string_view::npos)
-      --column;
-    if (column > 0 || stopsAtLine || !block.previous().isValid()) return block.position() + column;
-    block = block.previous();
-    column = block.length() - 1;
-  }
-}
-
-int QtLexipad::DelimiterAfter(int place, const Text& delimiters) const {
-  const bool stopsAtLine = delimiters.View().find(m_Text.LineEnd().front()) != std::u16string_view::npos;
-  QTextBlock block = m_Edit->document()->findBlock(place);
-  int column = place - block.position();
-  for (;;) {
-    const QString text = block.text();
-    const auto length = static_cast<int>(text.size());
-    while (column < length && delimiters.View().find(text[column].unicode()) == std::u16string_view::npos)
-      ++column;
-    if (column < length || stopsAtLine || !block.next().isValid()) return block.position() + column;
-    block = block.next();
-    column = 0;
-  }
-}
-
-void QtLexipad::MoveToDelimiter(const Text& delimiters, bool forward, bool extend) {
-  QTextCursor cursor = Cursor();
-  const int start = cursor.selectionStart();
-  const int end = cursor.selectionEnd();
-  const int edge = forward ? DelimiterAfter(end, delimiters) : DelimiterBefore(start, delimiters);
-  cursor.setPosition(extend ? (forward ? start : end) : edge);
-  if (extend) cursor.setPosition(edge, QTextCursor::KeepAnchor);
-  SetCursor(cursor);
-}
-
-void QtLexipad::Reformat(ReformatMode mode, std::optional<std::int32_t> line) {
-  RequireAlive();
-  const EventScope events(*this);
-  if (mode == ReformatMode::Text) {
-    OnSettingsChanged();
-    return ParseAll();
-  }
-  const std::int32_t wanted = line.value_or(CurrentLine());
-  const QTextBlock block = m_Edit->document()->findBlockByNumber(wanted - 1);
-  if (block.isValid()) ParseLine(block);
-}
-
-// The line is tidied in the same step of undo as what was typed into it. A line that holds characters of
-// another kind than it shows is left alone, as they would not come out the same.
-void QtLexipad::TidyLine(const QTextBlock& block) {
-  const QString before = block.text();
-  if (m_Text.LineText(block).View() != ViewOf(before)) return;
-  const Text tidy = m_Edit->Words().Tidy(ViewOf(before), m_Edit->BeginsInRemark(block));
-  const QString after = ToQString(tidy);
-  if (before == after) return;
-  qsizetype head = 0;
-  while (head < std::min(before.size(), after.size()) && before[head] == after[head]) ++head;
-  qsizetype tail = 0;
-  while (tail < std::min(before.size(), after.size()) - head &&
-         before[before.size() - 1 - tail] == after[after.size() - 1 - tail])
-    ++tail;
-  QTextCursor cursor(block);
-  cursor.joinPreviousEditBlock();
-  cursor.setPosition(block.position() + static_cast<int>(head));
-  cursor.setPosition(block.position() + static_cast<int>(before.size() - tail), QTextCursor::KeepAnchor);
-  cursor.insertText(after.mid(head, after.size() - head - tail));
-  cursor.endEditBlock();
-  m_Text.Forget();
-}
-
-void QtLexipad::ParseLine(const QTextBlock& block) {
-  if (CodeEdit::IsEdited(block)) TidyLine(block);
-  CodeEdit::SetEdited(block, false);
-  const std::int32_t position = m_Text.ToText(block.position());
-  const Text text = m_Text.LineText(block);
-  NotifyPad([&](LexipadListener& listener) { listener.OnLineParsed(position, text); });
-}
-
-void QtLexipad::ParseAll() {
-  if (std::exchange(m_IsParsing, true)) return;
-  NotifyPad([](LexipadListener& listener) { listener.OnBatchStart(); });
-  // By number: a listener may give words another spelling meanwhile.
-  for (int i = 0; Native() && i < m_Edit->blockCount(); ++i) {
-    const QTextBlock block = m_Edit->document()->findBlockByNumber(i);
-    const std::int32_t position = m_Text.ToText(block.position());
-    const Text text = m_Text.LineText(block);
-    NotifyPad([&](LexipadListener& listener) { listener.OnLineParsed(position, text); });
-  }
-  if (Native()) NotifyPad([](LexipadListener& listener) { listener.OnBatchEnd(); });
-  m_IsParsing = false;
-}
-
-// What is typed at the start of a line does not take the mark along.
-void QtLexipad::RememberLine(const QTextBlock& block) {
-  m_LeftLine = QTextCursor(block);
-  m_LeftLine.setKeepPositionOnInsert(true);
-}
-
-void QtLexipad::LeaveLine() {
-  const QTextBlock now = m_Edit->textCursor().block();
-  const QTextBlock left = m_LeftLine.block();
-  if (now == left || m_IsParsing) return;
-  RememberLine(now);
-  if (!left.isValid() || !CodeEdit::IsEdited(left)) return;
-  m_IsParsing = true;
-  ParseLine(left);
-  m_IsParsing = false;
 }
 
 void QtLexipad::Undo() {

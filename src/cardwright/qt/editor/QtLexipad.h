@@ -68,7 +68,18 @@ class QtLexipad final : public QtWidget<Lexipad> {
   CodeEdit& Edit() const;
 
  private:
-  class EventScope;
+  /// Raises the events of what is done in a scope at its end.
+  class EventScope {
+   public:
+    explicit EventScope(QtLexipad& pad) : m_Self(&pad), m_Pad(pad) { pad.BeginEvents(); }
+    ~EventScope() { m_Pad.EndEvents(); }
+    EventScope(const EventScope&) = delete;
+    EventScope& operator=(const EventScope&) = delete;
+
+   private:
+    const Ref<Widget> m_Self;
+    QtLexipad& m_Pad;
+  };
 
   void OnSettingsChanged() override;
   void CollectColors(QPalette& own, const QPalette& inherited) const override;
@@ -76,7 +87,11 @@ class QtLexipad final : public QtWidget<Lexipad> {
   bool TakesEnter() const override { return true; }
 
   template <class Call>
-  void NotifyPad(Call&& call);
+  void NotifyPad(Call&& call) {
+    if (!m_PadListener) return;
+    const HandlerScope scope(*this);
+    Attempt([&] { call(*m_PadListener); });
+  }
   void BeginEvents() { ++m_EventDepth; }
   void EndEvents();
   void TellEvents();
