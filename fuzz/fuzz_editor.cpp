@@ -16,7 +16,7 @@
 //   e CONTROL N    chooses the Nth entry of the Nth list above the text
 //   l N            changes the language, the text staying
 //   n N            starts a new source
-//   m MODE LINE    reads a line or the text anew
+//   m MODE LINE    reads a line or the text again
 //   a N            performs the Nth act of a host at the next event
 
 #include <QClipboard>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The keys that the editor itself takes, and what follows a person's caret.
+// The keys that the editor itself takes, and what follows the user's caret.
 
 #include <QComboBox>
 

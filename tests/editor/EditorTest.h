@@ -81,7 +81,7 @@ class NamedControl final : public IControl {
   std::vector<Text> m_Events;
 };
 
-/// What stands before the first editor of a test is made.
+/// What exists before the first editor of a test is made.
 class EditorSetup : public testing::Test {
  protected:
   EditorSetup() {

@@ -195,7 +195,7 @@ TEST(SplitHeaderLineTest, NamesOfHeaders) {
   }
 }
 
-/// The script's lines are joined by CR LF and the caret is where the bar stands.
+/// The script's lines are joined by CR LF and the caret is where the bar is.
 class ProcedureAtCaretTest : public EditorTest {
  protected:
   std::string At(std::u16string_view marked, std::u16string_view language = u"VBScript") {

@@ -11,7 +11,7 @@ namespace cardwright::workbench {
 namespace {
 
 struct IndentedLine {
-  int start;  ///< of its text, behind the indent
+  int start;  ///< of its text, after the indent
   bool isComment;
 };
 

@@ -88,7 +88,8 @@ ScriptPane::ScriptPane(QWidget* parent) : QWidget(parent), m_Controls(MakeRef<Co
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins({});
   layout->addWidget(m_Editor);
-  // An act of the user is told once: a line that is left takes another spelling, which belongs to the act.
+  // An act of the user is reported once: a line that is left takes another spelling, which belongs to the
+  // act.
   connect(m_Edit, &qt::CodeEdit::InputBegins, this, [this] { ++m_InputDepth; });
   connect(m_Edit, &qt::CodeEdit::InputEnds, this, [this] {
     if (--m_InputDepth == 0) OnEdit();

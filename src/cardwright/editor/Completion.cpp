@@ -247,7 +247,7 @@ void Completion::SelectTyped() {
   m_List->EnsureVisible(row);
 }
 
-// None where nothing stands behind the anchor: the entry that was selected stays so.
+// None if nothing follows the anchor: the entry that was selected stays so.
 std::optional<Text> Completion::TypedText() const {
   const Lexipad& pad = *m_Core.pad;
   const Text line = pad.LineText(pad.CurrentLine());
