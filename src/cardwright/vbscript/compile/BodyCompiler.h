@@ -51,9 +51,9 @@ class BodyCompiler {
   bool Knows(NameId name) const { return m_Locals.contains(name); }
   /// Registers for the names that a procedure's body declares and uses.
   void AddNames(const NamesOfBody& names);
-  /// Likewise for code outside procedures or executed in a procedure's scope, whose variables have been added
-  /// already.
-  void AddOutermostNames(const NamesOfBody& names);
+  /// The last step, after all variables: fixes the hidden registers and the first temporary, and dims the
+  /// arrays. AddNames ends with it; code whose variables are added one by one calls it alone.
+  void LayOutRegisters(const NamesOfBody& names);
   /// @}
 
   void CompileBody(Block body);

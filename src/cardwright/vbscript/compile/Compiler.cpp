@@ -130,7 +130,7 @@ void BlockCompiler::CompileOutermost() {
     m_Block.hasVariables = true;
   }
   m_Block.code = code;
-  compiler.AddOutermostNames(names);
+  compiler.LayOutRegisters(names);
   // Procedures come first: they refer to the variables by name only.
   CompileProcedures();
   compiler.CompileBody(m_Tree.body);
@@ -171,7 +171,7 @@ CompiledInScope ScopeCompiler::Compile(const SyntaxTree& tree) {
   ReferToVariables(body, names);
   for (const auto& [name, value] : names.constants) body.AddConstant(name, value);
   if (tree.expression) body.AddResult(kNoName);
-  body.AddOutermostNames(names);
+  body.LayOutRegisters(names);
   if (tree.expression) {
     body.CompileResult(*tree.expression, m_Compiled.code->result);
   } else {

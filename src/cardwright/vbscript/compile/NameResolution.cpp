@@ -57,10 +57,10 @@ void BodyCompiler::AddNames(const NamesOfBody& names) {
     m_Procedure.symbols[SymbolIndex(name)].local = r;
     m_Procedure.locals.emplace_back(name, r);
   }
-  AddOutermostNames(names);
+  LayOutRegisters(names);
 }
 
-void BodyCompiler::AddOutermostNames(const NamesOfBody& names) {
+void BodyCompiler::LayOutRegisters(const NamesOfBody& names) {
   m_Assigned = names.assigned;
   m_FirstHidden = m_Registers;
   m_Code.SetFirstTemporary(m_Registers + names.hidden);

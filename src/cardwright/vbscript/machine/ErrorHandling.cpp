@@ -24,14 +24,14 @@ Machine::PendingError Machine::Describe(const Error& error) const {
 // Looks for a frame with On Error Resume Next, from the topmost one down to the one that Run was entered for,
 // and ends the frames on the way. The found frame continues after the failed statement. Where there is none,
 // the error leaves Run as a ScriptFault.
-void Machine::Handle(PendingError pending, std::size_t entry) {
+void Machine::Handle(PendingError pending, std::size_t baseDepth) {
   // A host that the script has called, and that has called the script, gets a stop as an error. Here it
   // becomes the stop again.
   if (IsStopping()) {
-    Unwind(entry - 1);
+    Unwind(baseDepth - 1);
     throw Interrupted{};
   }
-  while (m_Depth >= entry) {
+  while (m_Depth >= baseDepth) {
     Frame& frame = Current();
     const Procedure& procedure = *frame.procedure;
     const auto at = static_cast<std::size_t>(frame.pc - procedure.code.data()) - 1;

@@ -27,7 +27,7 @@ Variant Machine::RunInScope(SyntaxTree& tree) {
   BindNames(block, *outer.module, nullptr);
   std::vector<Variant> variables;
   for (const NameId name : compiled.variables) variables.push_back(ReferenceInScope(m_Frames[depth], name));
-  return Enter(*compiled.code, m_Frames[depth].me, variables);
+  return RunProcedure(*compiled.code, m_Frames[depth].me, variables);
 }
 
 // A variable of that name joins the scope where it has none.

@@ -108,7 +108,7 @@ void Machine::PopFrame(Ending ending) noexcept {
   procedure.Release();
 }
 
-Variant Machine::Enter(const Procedure& procedure, Instance* me, Args args) {
+Variant Machine::RunProcedure(const Procedure& procedure, Instance* me, Args args) {
   CheckNesting();
   // A call may be too short to get to an interrupt check of its own. Objects that create objects when they
   // end could go on like this for ever.

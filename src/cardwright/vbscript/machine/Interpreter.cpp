@@ -73,7 +73,7 @@ void Machine::Run() {
 #undef OPCODE
   };
 
-  const std::size_t entry = m_Depth;  // Run returns when this frame does
+  const std::size_t baseDepth = m_Depth;  // Run returns when this frame does
   const Instruction* pc = nullptr;
   const Procedure* procedure = nullptr;
   Variant* R = nullptr;
@@ -566,7 +566,7 @@ void Machine::Run() {
       AFTER_CALL(NewObject(procedure->symbols[i.Wide()], R[i.a]));
       OPERATION(Return)
       PopFrame(Ending::ByReturn);
-      if (m_Depth < entry) return;
+      if (m_Depth < baseDepth) return;
       RELOAD();
       NEXT;
 
@@ -596,11 +596,11 @@ void Machine::Run() {
       const MemoryBudget::Exemption exemption;
       pending = Describe(Error(ErrorNumber::OutOfMemory));
     } catch (const Interrupted&) {
-      Unwind(entry - 1);
+      Unwind(baseDepth - 1);
       throw;
     }
     Current().pc = pc;
-    Handle(std::move(pending), entry);
+    Handle(std::move(pending), baseDepth);
   }
 }
 // NOLINTEND(readability-function-size)

@@ -35,7 +35,7 @@ Machine::~Machine() {
 
 // Objects that refer to each other are left when all names have been cleared; they end here too.
 void Machine::Close() {
-  const Entry entry(*this);
+  const CallScope scope(*this);
   m_IsClosing = true;
   for (const auto& module : m_Modules) module->Clear();
   while (m_Instances) {
@@ -110,12 +110,12 @@ Variant Machine::Evaluate(Module& module, std::u16string_view expression) {
   CompiledBlock block;
   const auto outer = MakeRef<Procedure>();
   outer->module = &module;
-  return Enter(*CompileInScope(*tree, *this, *outer, nullptr, block).code, nullptr, {});
+  return RunProcedure(*CompileInScope(*tree, *this, *outer, nullptr, block).code, nullptr, {});
 }
 
 Variant Machine::Call(const Procedure& procedure, Instance* me, Args args) {
-  const Entry entry(*this);
-  return Enter(procedure, me, args);
+  const CallScope scope(*this);
+  return RunProcedure(procedure, me, args);
 }
 
 Ref<Instance> Machine::MakeInstance(ClassInfo& cls) {
@@ -135,14 +135,14 @@ void Machine::Forget(Instance& instance) noexcept {
   instance.m_Previous = instance.m_Next = nullptr;
 }
 
-Machine::Entry::Entry(Machine& machine)
+Machine::CallScope::CallScope(Machine& machine)
     : m_Machine(machine),
       m_Outer(Locale::Current()),
       m_OuterErr(machine.m_Err->Exchange({})),
       m_Memory(machine.m_Limits.memoryBytes),
       m_StopScope(machine) {
   Locale::SetCurrent(*machine.locale);
-  if (machine.m_Entries++ != 0) return;
+  if (machine.m_CallDepth++ != 0) return;
   // An earlier order to stop was meant for what ran then.
   machine.m_Order.store(Order::None, std::memory_order_relaxed);
   machine.m_HostPoll.Restart();
@@ -151,10 +151,10 @@ Machine::Entry::Entry(Machine& machine)
                            : std::chrono::steady_clock::now() + std::chrono::milliseconds(machine.m_Timeout);
 }
 
-Machine::Entry::~Entry() {
+Machine::CallScope::~CallScope() {
   Locale::SetCurrent(m_Outer);
   m_Machine.m_Err->Exchange(std::move(m_OuterErr));
-  --m_Machine.m_Entries;
+  --m_Machine.m_CallDepth;
 }
 
 }  // namespace cardwright::vbscript

@@ -82,12 +82,12 @@ class Machine final : public Context, public Linkage, private StopSignal {
 
   /// Lives during every call from outside: sets the locale and the limits, and for an outermost call the
   /// deadline.
-  class Entry {
+  class CallScope {
    public:
-    explicit Entry(Machine& machine);
-    ~Entry();
-    Entry(const Entry&) = delete;
-    Entry& operator=(const Entry&) = delete;
+    explicit CallScope(Machine& machine);
+    ~CallScope();
+    CallScope(const CallScope&) = delete;
+    CallScope& operator=(const CallScope&) = delete;
 
    private:
     Machine& m_Machine;
@@ -113,7 +113,7 @@ class Machine final : public Context, public Linkage, private StopSignal {
   void Run();
 
   // Frames.cpp
-  Variant Enter(const Procedure& procedure, Instance* me, Args args);
+  Variant RunProcedure(const Procedure& procedure, Instance* me, Args args);
   void RunOutermost(const Procedure& code, Variant* variables);
   /// Where the arguments of a call are: at the top of the caller's registers, so that the frame can start
   /// there.
@@ -177,7 +177,7 @@ class Machine final : public Context, public Linkage, private StopSignal {
 
   // ErrorHandling.cpp
   PendingError Describe(const Error& error) const;
-  void Handle(PendingError pending, std::size_t entry);
+  void Handle(PendingError pending, std::size_t baseDepth);
   void ResumeAfter(const StatementMark& mark, Frame& frame) noexcept;
   void Unwind(std::size_t depth) noexcept;
 
@@ -210,7 +210,7 @@ class Machine final : public Context, public Linkage, private StopSignal {
   std::size_t m_Depth = 0;     // frames in use
   Frame* m_Current = nullptr;  // the topmost of them
   std::uint32_t m_Epoch = 1;   // counts changes of bindings
-  int m_Entries = 0;           // calls from outside, one within the other
+  int m_CallDepth = 0;         // calls from outside, one within the other
   // What the interpreter has to do at its next check. Other threads set it, to stop the script.
   enum class Order : std::uint8_t { None, Poll, Stop };
   std::atomic<Order> m_Order = Order::None;

@@ -68,7 +68,7 @@ template <class Step>
 void VbScriptEngine::RecordErrors(Step&& step) {
   m_Error = {};
   try {
-    const Machine::Entry entry(m_Machine);
+    const Machine::CallScope scope(m_Machine);
     step();
     m_Error = {};  // errors of calls within this one
   } catch (const SyntaxError& error) {
