@@ -18,7 +18,7 @@ TEST_P(RunawayScripts, PressOkAndCancelInEachOthersEvents) {
                  "Sub Form_BeforeCancelClick()\nORVExecute \"cancel\"\nCancel\nOk\nEnd Sub\n",
                  "function Form_BeforeOkClick(){\nORVExecute('ok');\nOk();\nCancel();\n}\n"
                  "function Form_BeforeCancelClick(){\nORVExecute('cancel');\nCancel();\nOk();\n}\n"));
-  form->SetSetAttributesEnabled(false);
+  form->SetStoresAttributes(false);
   ClickOk();
   EXPECT_EQ(host->Take(), (Lines{"X ok", "X cancel"}));
   EXPECT_EQ(TakeEvents(), (Lines{"CancelClick", "OkClick"}));

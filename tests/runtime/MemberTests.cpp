@@ -59,7 +59,7 @@ TEST_F(Members, KeepOneSettingInTheContainer) {
   QObject::connect(form, &qt::FormInput::SetAttributesEnabledChanged, [&] { ++changes; });
   EXPECT_EQ(form->property("SetAttributesEnabled"), QVariant(true));
   form->setProperty("SetAttributesEnabled", false);
-  EXPECT_FALSE(form->Object()->SetAttributesEnabled());
+  EXPECT_FALSE(form->Object()->StoresAttributes());
   EXPECT_EQ(changes, 1);
 }
 

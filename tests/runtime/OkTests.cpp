@@ -99,7 +99,7 @@ TEST_F(Ok, WritesNothingForABlankIdentifier) {
 
 TEST_F(Ok, OnlyRunsScriptsWhereAttributesAreNotToBeSet) {
   ReadForm();
-  form->SetSetAttributesEnabled(false);
+  form->SetStoresAttributes(false);
   ClickOk();
   EXPECT_EQ(TakeMerged(), (Lines{"Run Form_BeforeOkClick", "Run Form_AfterOkClick", "OkClick"}));
   ClickCancel();
@@ -183,7 +183,7 @@ TEST_F(Debugging, CancelSendsNoRedrawCommands) {
 TEST_F(Debugging, PrintsNothingWhereAttributesAreNotToBeSet) {
   ReadForm();
   form->SetDebugMode(true);
-  form->SetSetAttributesEnabled(false);
+  form->SetStoresAttributes(false);
   output->SetDisplayText({});
   ClickOk();
   EXPECT_EQ(TakeMerged(), (Lines{"Run Form_BeforeOkClick", "Run Form_AfterOkClick", "OkClick"}));

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "automation/Printing.h"
+#include "cardwright/shared/FindListItem.h"
 #include "platform/FakeWidgets.h"
 #include "shared/NamedObject.h"
 

@@ -5,9 +5,10 @@
 #include <utility>
 
 #include "cardwright/automation/Errors.h"
+#include "cardwright/automation/FlagScope.h"
 #include "cardwright/editor/CaretProcedure.h"
 #include "cardwright/editor/EngineProcedures.h"
-#include "cardwright/shared/Lookups.h"
+#include "cardwright/shared/FindListItem.h"
 #include "cardwright/shared/ModuleState.h"
 #include "cardwright/shared/ScriptText.h"
 
@@ -19,19 +20,6 @@ constexpr std::u16string_view kFreeProcedures = u"(generale)";
 constexpr std::u16string_view kDeclarations = u"(dichiarazioni)";
 constexpr std::u16string_view kMark = u"*";  // of an event whose procedure is written
 constexpr std::u16string_view kLineEnd = u"\r\n";
-
-/// Sets a flag for a scope.
-class FlagScope {
- public:
-  explicit FlagScope(bool& flag) : m_Flag(flag), m_Was(flag) { flag = true; }
-  ~FlagScope() { m_Flag = m_Was; }
-  FlagScope(const FlagScope&) = delete;
-  FlagScope& operator=(const FlagScope&) = delete;
-
- private:
-  bool& m_Flag;
-  const bool m_Was;
-};
 
 // By the script's language and not the document's: forms run the one.
 std::size_t FindInScript(std::u16string_view script, const Text& name) {

@@ -17,8 +17,8 @@ class BestEffort {
     }
   }
 
-  /// False only if the last error had the number -1. Form projects depend on it: a control that was read in
-  /// part is accepted.
+  /// False only if the last error had the number -1, which the library never raises, but an object of the
+  /// host can. Form projects depend on it: a control that was read in part is accepted.
   bool Result() const noexcept { return m_LastFailure != -1; }
 
  private:

@@ -2,7 +2,7 @@
 #include "cardwright/model/CComboBox.h"
 
 #include "cardwright/model/ListEntries.h"
-#include "cardwright/shared/Lookups.h"
+#include "cardwright/shared/FindListItem.h"
 #include "cardwright/storage/SectionReader.h"
 
 namespace cardwright {

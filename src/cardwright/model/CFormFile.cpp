@@ -51,6 +51,7 @@ bool CForm::Read(const Text& filePath, const Text&) {
 
 void CForm::ReadProject(const ProjectReader& project, BestEffort& step) {
   const SectionReader form = project.Section(kForm);
+  // What holds if the key cannot be read as a number.
   step([&] { Module().formScaleMode = ScaleMode::Twips; });
   step([&] {
     Module().formScaleMode =
@@ -74,25 +75,24 @@ void CForm::ReadProject(const ProjectReader& project, BestEffort& step) {
 }
 
 void CForm::ReadAppearance(const SectionReader& form) {
-  BestEffort step;
   Surface& surface = Canvas();
   if (Designer()) {
-    step([&] { Designer()->ApplyScaleAndGrid(); });
+    Attempt([&] { Designer()->ApplyScaleAndGrid(); });
     Designer()->SuspendEvents(true);
   } else {
-    step([&] { surface.SetScale(Module().formScaleMode); });
+    Attempt([&] { surface.SetScale(Module().formScaleMode); });
   }
-  step([&] { SetBackColor(ToLong(form.GetValue(u"BackColor", Variant(surface.BackColor())))); });
-  step([&] {
+  Attempt([&] { SetBackColor(ToLong(form.GetValue(u"BackColor", Variant(surface.BackColor())))); });
+  Attempt([&] {
     const Ref<Font> font = surface.GetFont();
     font->Assign(ReadFontKeys(font->Values(), form));
   });
-  step([&] {
+  Attempt([&] {
     const double width = ReadNumber(form, u"Width", Variant(Width()));
     const double height = ReadNumber(form, u"Height", Variant(Height()));
     Owner()->SetOuterSize(ToSingle(Variant(width)), ToSingle(Variant(height)));
   });
-  step([&] { ReadTitle(form); });
+  Attempt([&] { ReadTitle(form); });
   if (!Designer()) return;
   Designer()->SuspendEvents(false);
   const ScaleMode scale = surface.Scale();
@@ -180,35 +180,33 @@ bool CForm::SaveProject(const Text& filePath, bool isTemporary) {
 }
 
 void CForm::WriteProject(ProjectWriter& project) const {
-  BestEffort step;
   SectionWriter form = project.Section(kForm);
-  step([&] { WriteSettings(form); });
-  if (Designer()) step([&] { project.WriteImage(m_Image.get()); });
+  Attempt([&] { WriteSettings(form); });
+  if (Designer()) Attempt([&] { project.WriteImage(m_Image.get()); });
   const std::vector<Ref<IControl>> controls = ControlsOf(Elements());
-  step([&] { form.Write(u"ControlsNumber", Variant(static_cast<std::int32_t>(controls.size()) - 1)); });
+  Attempt([&] { form.Write(u"ControlsNumber", Variant(static_cast<std::int32_t>(controls.size()) - 1)); });
   for (std::size_t i = 1; i < controls.size(); ++i) {
     SectionWriter section = project.Section(ControlSection(static_cast<std::int32_t>(i)));
-    step([&] { controls[i]->SaveTo(section); });
+    Attempt([&] { controls[i]->SaveTo(section); });
   }
   SectionWriter stacking = project.Section(kStacking);
-  if (Designer()) step([&] { WriteStacking(stacking); });
-  step(
+  if (Designer()) Attempt([&] { WriteStacking(stacking); });
+  Attempt(
       [&] { project.WriteScript({.language = Module().scriptLanguage, .content = Module().scriptContent}); });
 }
 
 void CForm::WriteSettings(SectionWriter& form) const {
-  BestEffort step;
   const Surface& surface = Canvas();
-  step([&] { form.Write(u"ScaleMode", Variant(static_cast<std::int32_t>(Module().formScaleMode))); });
-  step([&] { form.Write(u"BackColor", Variant(surface.BackColor())); });
-  step([&] { WriteFontKeys(surface.GetFont()->Values(), form); });
-  step([&] { form.Write(u"Text", Variant(Caption())); });
-  step([&] { form.Write(u"Width", Variant(Width())); });
-  step([&] { form.Write(u"Height", Variant(Height())); });
-  step([&] { form.Write(u"ThemeName", Variant(m_ThemeName)); });
-  step([&] { form.Write(u"FeatureType", Variant(m_FeatureType)); });
-  step([&] { form.Write(u"StartMode", Variant(m_StartMode)); });
-  step([&] { form.Write(u"ShowMenu", Variant(m_ShowMenu)); });
+  Attempt([&] { form.Write(u"ScaleMode", Variant(static_cast<std::int32_t>(Module().formScaleMode))); });
+  Attempt([&] { form.Write(u"BackColor", Variant(surface.BackColor())); });
+  Attempt([&] { WriteFontKeys(surface.GetFont()->Values(), form); });
+  Attempt([&] { form.Write(u"Text", Variant(Caption())); });
+  Attempt([&] { form.Write(u"Width", Variant(Width())); });
+  Attempt([&] { form.Write(u"Height", Variant(Height())); });
+  Attempt([&] { form.Write(u"ThemeName", Variant(m_ThemeName)); });
+  Attempt([&] { form.Write(u"FeatureType", Variant(m_FeatureType)); });
+  Attempt([&] { form.Write(u"StartMode", Variant(m_StartMode)); });
+  Attempt([&] { form.Write(u"ShowMenu", Variant(m_ShowMenu)); });
 }
 
 void CForm::WriteStacking(SectionWriter& stacking) const {

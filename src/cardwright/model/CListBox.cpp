@@ -139,9 +139,8 @@ void CListBox::FinishRead(const SectionReader& section) {
   } else {
     FillWidget();
   }
-  Attempt([&] {
-    FitColumn(Input() ? kColumnMargin : 0, Module().formScaleMode);
-  });  // fails for a list narrower than the margin
+  // Fails for a list narrower than the margin.
+  Attempt([&] { FitColumn(Input() ? kColumnMargin : 0, Module().formScaleMode); });
   if (!Input() || m_Text.IsEmpty()) return;
   SelectStoredText();
   const int selected = View().SelectedRow();

@@ -51,7 +51,8 @@ class FormOwner {
 /// The form being filled in, as its elements see it.
 class InputOwner : public FormOwner {
  public:
-  /// Whether event procedures may run.
+  /// False only in a debugging run without an output object. Then event procedures do not run, values are not
+  /// loaded, required fields are not checked, and no screen keyboard opens.
   virtual bool CanRunScripts() const = 0;
   /// Runs a script event procedure; false where the script refused.
   virtual bool RunEvent(const Text& procedure) = 0;

@@ -2,7 +2,7 @@
 #include "cardwright/model/HostListControl.h"
 
 #include "cardwright/model/WidgetFields.h"
-#include "cardwright/shared/Lookups.h"
+#include "cardwright/shared/FindListItem.h"
 #include "cardwright/shared/ModuleState.h"
 #include "cardwright/storage/SectionReader.h"
 

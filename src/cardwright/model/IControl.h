@@ -96,7 +96,8 @@ class IControl : public TableObject {
   /// Removes the widget from the surface.
   virtual void Delete() {}
 
-  /// Text that goes into the feature attribute. `params` may hold an array whose first element is a template.
+  /// The control's value as scripts and hosts read it; what is stored is TakeValue of Control, which can
+  /// differ. `params` may hold an array whose first element is a template.
   virtual Text Value(std::optional<Variant> /*params*/ = {}) const { return {}; }
   /// The text that the control shows.
   virtual Text DisplayText() const { return {}; }

@@ -59,9 +59,9 @@ bool FormInput::NewFeature() const { return m_Input->NewFeature(); }
 void FormInput::SetNewFeature(bool isNew) { m_Input->SetNewFeature(isNew); }
 bool FormInput::DebugMode() const { return m_Input->DebugMode(); }
 void FormInput::SetDebugMode(bool debug) { m_Input->SetDebugMode(debug); }
-bool FormInput::SetAttributesEnabled() const { return m_Input->SetAttributesEnabled(); }
-void FormInput::SetSetAttributesEnabled(bool enabled) {
-  m_Input->SetSetAttributesEnabled(enabled);
+bool FormInput::StoresAttributes() const { return m_Input->StoresAttributes(); }
+void FormInput::SetStoresAttributes(bool enabled) {
+  m_Input->SetStoresAttributes(enabled);
   Q_EMIT SetAttributesEnabledChanged(enabled);
 }
 

@@ -19,7 +19,7 @@ class QtSurface;
 /// While a screen reader runs, every control has a name for it (see SetAccessibleNames).
 class FormInput final : public VisualControl, private QAccessible::ActivationObserver {
   Q_OBJECT
-  Q_PROPERTY(bool SetAttributesEnabled READ SetAttributesEnabled WRITE SetSetAttributesEnabled NOTIFY
+  Q_PROPERTY(bool SetAttributesEnabled READ StoresAttributes WRITE SetStoresAttributes NOTIFY
                  SetAttributesEnabledChanged)
  public:
   /// An empty form with its two buttons.
@@ -40,8 +40,8 @@ class FormInput final : public VisualControl, private QAccessible::ActivationObs
   void SetNewFeature(bool isNew);
   bool DebugMode() const;
   void SetDebugMode(bool debug);
-  bool SetAttributesEnabled() const;
-  void SetSetAttributesEnabled(bool enabled);
+  bool StoresAttributes() const;
+  void SetStoresAttributes(bool enabled);
   /// @}
 
   QSize minimumSizeHint() const override { return sizeHint(); }

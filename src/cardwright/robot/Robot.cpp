@@ -35,18 +35,18 @@ constexpr milliseconds kWaitForWindow{1000};
 constexpr int kDefaultDragMoves = 8;
 
 ClickOptions ClickOptionsOf(const OptionalLong& button, const OptionalLong& shift) {
-  ClickOptions grip;
+  ClickOptions options;
   switch (button.value_or(MouseButton::Left)) {
     case MouseButton::Left: break;
-    case MouseButton::Right: grip.button = Qt::RightButton; break;
-    case MouseButton::Middle: grip.button = Qt::MiddleButton; break;
+    case MouseButton::Right: options.button = Qt::RightButton; break;
+    case MouseButton::Middle: options.button = Qt::MiddleButton; break;
     default: Raise(ErrorNumber::InvalidCall);
   }
   const std::int32_t keys = shift.value_or(0);
-  if (keys & ShiftKey::Shift) grip.modifiers |= Qt::ShiftModifier;
-  if (keys & ShiftKey::Ctrl) grip.modifiers |= Qt::ControlModifier;
-  if (keys & ShiftKey::Alt) grip.modifiers |= Qt::AltModifier;
-  return grip;
+  if (keys & ShiftKey::Shift) options.modifiers |= Qt::ShiftModifier;
+  if (keys & ShiftKey::Ctrl) options.modifiers |= Qt::ControlModifier;
+  if (keys & ShiftKey::Alt) options.modifiers |= Qt::AltModifier;
+  return options;
 }
 
 QPoint PointIn(const QWidget& widget, const OptionalLong& x, const OptionalLong& y) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "cardwright/runtime/FormInput.h"
 
+#include "cardwright/automation/FlagScope.h"
 #include "cardwright/model/CForm.h"
 #include "cardwright/model/Control.h"
 #include "cardwright/model/Rename.h"
@@ -17,18 +18,14 @@ namespace {
 
 constexpr std::u16string_view kFormName = u"Form";
 
-bool ProjectSave(FormInput& form, const Text& fileName, std::optional<bool> isTemporary) {
-  return form.ProjectSave(fileName, isTemporary.value_or(false));
-}
-
 constexpr Member kFormInputMembers[] = {
     Property<&FormInput::ControlCollection>(u"Controls"),
     Property<&FormInput::DebugMode, &FormInput::SetDebugMode>(u"DebugMode"),
     Property<&FormInput::NewFeature, &FormInput::SetNewFeature>(u"NewFeature"),
     Property<&FormInput::FeatureID, &FormInput::SetFeatureID>(u"FeatureID"),
     Method<&FormInput::ProjectRead>(u"ProjectRead"),
-    Method<&ProjectSave>(u"ProjectSave"),
-    Property<&FormInput::SetAttributesEnabled, &FormInput::SetSetAttributesEnabled>(u"SetAttributesEnabled"),
+    Method<&FormInput::ProjectSave>(u"ProjectSave"),
+    Property<&FormInput::StoresAttributes, &FormInput::SetStoresAttributes>(u"SetAttributesEnabled"),
     Method<&FormInput::ChangeControlName>(u"ChangeControlName"),
     Method<&FormInput::GetThemeName>(u"GetThemeName"),
     Method<&FormInput::GetFeatureType>(u"GetFeatureType"),
@@ -89,8 +86,8 @@ bool FormInput::ProjectRead(const Text& fileName) {
   return true;
 }
 
-bool FormInput::ProjectSave(const Text& fileName, bool isTemporary) {
-  return m_Document.Save(fileName, isTemporary);
+bool FormInput::ProjectSave(const Text& fileName, std::optional<bool> isTemporary) {
+  return m_Document.Save(fileName, isTemporary.value_or(false));
 }
 
 void FormInput::ChangeControlName(Ref<Object> control, const Text& newName) {
@@ -120,6 +117,7 @@ Ref<IControl> FormInput::FirstMissing() const {
   Text value;  // kept from control to control: one of a kind that has no value of its own takes its
                // predecessor's
   for (const Ref<IControl>& control : ControlsOf(*ControlCollection())) {
+    // Only this spelling counts: a form in use that has another one has never required the value.
     const bool needed =
         AttemptOr(false, [&] { return ToText(control->PropertyValue(u"IsNeeded")) == u"True"; });
     if (!needed) continue;
@@ -141,18 +139,6 @@ void FormInput::ReportMissing(IControl& control) {
 
 namespace {
 
-// Set for a scope.
-class Running {
- public:
-  explicit Running(bool& flag) noexcept : m_Flag(flag) { m_Flag = true; }
-  ~Running() { m_Flag = false; }
-  Running(const Running&) = delete;
-  Running& operator=(const Running&) = delete;
-
- private:
-  bool& m_Flag;
-};
-
 // Keeps the host from redrawing where the form may change its data.
 std::optional<RedrawPause> PauseRedraw(const FormInput& form) {
   using Pause = std::optional<RedrawPause>;
@@ -166,10 +152,10 @@ std::optional<RedrawPause> PauseRedraw(const FormInput& form) {
 // ignored.
 bool FormInput::RunOk() {
   if (m_RunsOk) return false;
-  const Running running(m_RunsOk);
+  const FlagScope running(m_RunsOk);
   const std::optional<RedrawPause> pause = PauseRedraw(*this);
   if (!RunFormEvent(u"BeforeOkClick")) return false;
-  if (m_SetAttributesEnabled && m_Binding->Store(Controls(), Feature())) RunFormEvent(u"AfterSetAttributes");
+  if (m_StoresAttributes && m_Binding->Store(Controls(), Feature())) RunFormEvent(u"AfterSetAttributes");
   if (AttributesWritable()) OrvClient::Shared().SelectNone(GetFeatureClass());
   return RunFormEvent(u"AfterOkClick");
 }
@@ -177,7 +163,7 @@ bool FormInput::RunOk() {
 bool FormInput::RunCancel() {
   if (!CanRunScripts()) return true;
   if (m_RunsCancel) return false;
-  const Running running(m_RunsCancel);
+  const FlagScope running(m_RunsCancel);
   const std::optional<RedrawPause> pause = PauseRedraw(*this);
   return RunFormEvent(u"BeforeCancelClick");
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 
 #include "cardwright/model/FormDocument.h"
 #include "cardwright/model/FormOwner.h"
@@ -44,10 +45,10 @@ class FormInput final : public TableObject, public InputOwner {
   const Text& ProjectFile() const noexcept { return m_ProjectFile; }
   /// Saves the form's own settings and script. Beware: run-time controls write nothing, so on an existing
   /// project their sections are gone afterwards while their count stays. Hosts know and keep to reading.
-  bool ProjectSave(const Text& fileName, bool isTemporary = false);
+  bool ProjectSave(const Text& fileName, std::optional<bool> isTemporary = {});
   /// Whether OK writes attributes.
-  bool SetAttributesEnabled() const noexcept { return m_SetAttributesEnabled; }
-  void SetSetAttributesEnabled(bool enabled) noexcept { m_SetAttributesEnabled = enabled; }
+  bool StoresAttributes() const noexcept { return m_StoresAttributes; }
+  void SetStoresAttributes(bool enabled) noexcept { m_StoresAttributes = enabled; }
   void ChangeControlName(Ref<Object> control, const Text& newName) override;
   /// @name Theme and feature type that the form is bound to
   /// @{
@@ -63,12 +64,12 @@ class FormInput final : public TableObject, public InputOwner {
   /// none.
   Ref<HostWindow> Parent() const { return m_Surface ? m_Surface->Host() : nullptr; }
 
-  /// False only in a debugging run without an output object.
   bool CanRunScripts() const override;
   /// Whether OK stores attribute values.
-  bool AttributesWritable() const noexcept { return m_SetAttributesEnabled && !m_DebugMode; }
+  bool AttributesWritable() const noexcept { return m_StoresAttributes && !m_DebugMode; }
 
-  /// @name What a click on the buttons does
+  /// @name What a click on the buttons does. Without a connection no event procedure can run, which counts as
+  /// a refusal: the form stays open.
   /// @{
   void Ok();
   void Cancel();
@@ -113,7 +114,7 @@ class FormInput final : public TableObject, public InputOwner {
   Text m_FeatureID;
   Text m_Caption;
   const std::unique_ptr<AttributeBinding> m_Binding;
-  bool m_SetAttributesEnabled = true;
+  bool m_StoresAttributes = true;
   bool m_RunsOk = false;
   bool m_RunsCancel = false;
   std::unique_ptr<FormButton> m_OkButton;  // none once the surface has ended

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
+#include "cardwright/shared/FindListItem.h"
+
 #include <optional>
 
 #include "cardwright/automation/Conversions.h"
 #include "cardwright/automation/Errors.h"
-#include "cardwright/shared/Lookups.h"
 
 namespace cardwright {
 namespace {

@@ -20,6 +20,7 @@ struct EditNames {
   std::u16string_view selLength = u"SelLength";
 };
 
+// Editable grids are widgets of hosts that filter their keys by this function; the library has none.
 EditNames EditNamesOf(std::u16string_view lowerTypeName) {
   if (lowerTypeName == u"edgridado" || lowerTypeName == u"editgrid") {
     return {u"TextSelStart", u"GridText", u"TextSelLength"};
@@ -64,7 +65,7 @@ char16_t FilterSeparator(const Ref<Object>& control, std::u16string_view separat
 }  // namespace
 
 char16_t FilterKey(char16_t key, Ref<Object> control, std::u16string_view separator, bool allowNegative) {
-  if (!control) control = ActiveControl();
+  if (!control) control = ActiveControl();  // for callers outside the library
   if (!separator.empty() && (key == u'.' || separator == std::u16string_view(&key, 1))) {
     return FilterSeparator(control, separator);
   }

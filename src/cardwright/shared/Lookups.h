@@ -11,6 +11,8 @@
 #include "cardwright/platform/Surface.h"
 #include "cardwright/platform/Widget.h"
 
+// Small lookups for control classes, those of applications among them; not all have a use in the library.
+
 namespace cardwright {
 
 /// @name Rows of a property table by number or by name, whatever its case. `hidden` holds names that the
@@ -23,22 +25,6 @@ std::int16_t PropertyIndexOf(std::span<const std::u16string_view> names, const V
 /// Name of the row in lower case, "" where there is none.
 Text PropertyNameOf(std::span<const std::u16string_view> names, const Variant& index,
                     std::u16string_view hidden = {});
-/// @}
-
-/// How FindListItem compares.
-struct ListSearch {
-  bool matchCase = false;
-  bool byItemData = false;  ///< compare the number kept with each row, "" counting as 0
-  bool exact = false;       ///< else the rows that begin with the text count too
-  int notFound = -1;
-};
-
-/// @name First row of a list that the text names, counted from 0, or `search.notFound`. Neither fails.
-/// @{
-int FindListItem(const ComboWidget& list, std::u16string_view text, const ListSearch& search);
-int FindListItem(const HostListWidget& list, std::u16string_view text, const ListSearch& search);
-/// For any widget that has `ListCount`, `List` and `ItemData`.
-int FindListItem(Object& list, std::u16string_view text, const ListSearch& search);
 /// @}
 
 /// The widget of that name, or null. Does not fail.

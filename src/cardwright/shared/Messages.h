@@ -10,8 +10,8 @@
 
 namespace cardwright {
 
-/// Numbers of the messages. Translated captions of widgets and hosts know them, so they never change. `…Help`
-/// describes a row of the property grid.
+/// Numbers of the messages. Translated captions of widgets and hosts know them, so they never change, and
+/// some have no other use. `…Help` describes a row of the property grid.
 namespace messages {
 enum Number : int {
   ScriptErrorAt = 98,

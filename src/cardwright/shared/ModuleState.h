@@ -24,6 +24,7 @@ struct ModuleState {
   Ref<ScriptControl> scriptControl;
   Ref<Object> formControlsObject;
   Ref<Object> debugOutput;
+  /// Scale of the form that was made or read last, not of each form: hosts and scripts read this one value.
   ScaleMode formScaleMode = ScaleMode::Pixels;
   std::int32_t resizeHandleDims = 7;  ///< side of a resize handle in pixels
   OleColor resizeHandleBackColor = ToOleColor(SystemColor::Highlight);
@@ -40,7 +41,7 @@ struct ModuleState {
   OleColor defaultBackColor = 0;
   OleColor defaultForeColor = 0;
   std::int32_t scriptLineOffset = 0;  ///< declaration lines put before the user's script
-  ProcedureMemory procedures;         ///< of the script read last
+  ProcedureCache procedureCache;      ///< of the script read last
   Text programFile;                   ///< form project whose script was started last
   Text program;                       ///< all that was composed of that script
 

@@ -25,6 +25,7 @@ Text Fill(std::u16string_view pattern, const FeatureClass& features, Others... o
   return FillTemplate(pattern, placeholders);
 }
 
+// Unlike by Fill, a theme's name that holds a placeholder is sent as it is.
 Text InBars(const FeatureClass& features) {
   return Text(u"|") + features.theme + u"| |" + FeatureTypeText(features.type) + u"|";
 }

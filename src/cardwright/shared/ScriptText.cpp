@@ -68,7 +68,7 @@ std::size_t FindProcedure(std::u16string_view script, std::u16string_view name,
   return EqualsNoCase(script.substr(0, firstLine.size()), firstLine) ? 1 : 0;
 }
 
-bool ProcedureMemory::Has(const Text& script, const Text& name, const Text& language) {
+bool ProcedureCache::Has(const Text& script, const Text& name, const Text& language) {
   if (m_Script != script || m_Language != language) {
     m_Script = script;
     m_Language = language;

@@ -21,7 +21,7 @@ Text BuildProcedureHeader(std::u16string_view name, std::u16string_view language
 std::size_t FindProcedure(std::u16string_view script, std::u16string_view name, std::u16string_view language);
 
 /// Whether a script has a procedure, for callers that ask again and again: every change of a field asks.
-class ProcedureMemory {
+class ProcedureCache {
  public:
   bool Has(const Text& script, const Text& name, const Text& language);
 

@@ -40,7 +40,7 @@ Ref<scripting::Dictionary> WriteProperties(qt::VisualControl& control) {
   } else if (const auto* editor = qobject_cast<qt::OrvEditor*>(&control)) {
     editor->Object()->WriteProperties(bag);
   } else if (const auto* form = qobject_cast<qt::FormInput*>(&control)) {
-    bag.WriteProperty(kSetAttributesEnabled, form->SetAttributesEnabled(), true);
+    bag.WriteProperty(kSetAttributesEnabled, form->StoresAttributes(), true);
   }
   return values;
 }
@@ -52,7 +52,7 @@ void ReadProperties(qt::VisualControl& control, scripting::Dictionary& values) {
   } else if (const auto* editor = qobject_cast<qt::OrvEditor*>(&control)) {
     editor->Object()->ReadProperties(bag);
   } else if (auto* form = qobject_cast<qt::FormInput*>(&control)) {
-    form->SetSetAttributesEnabled(ToBoolean(bag.ReadProperty(kSetAttributesEnabled, true)));
+    form->SetStoresAttributes(ToBoolean(bag.ReadProperty(kSetAttributesEnabled, true)));
   }
 }
 
