@@ -2,8 +2,8 @@
 #include "cardwright/runtime/AttributeBinding.h"
 
 #include "cardwright/model/Control.h"
+#include "cardwright/runtime/DebugStorage.h"
 #include "cardwright/runtime/RedrawPause.h"
-#include "cardwright/shared/Messages.h"
 #include "cardwright/shared/ModuleState.h"
 #include "cardwright/shared/OrvClient.h"
 
@@ -20,9 +20,14 @@ bool IsBound(const BoundFeature& feature) {
 double SelectFeature(OrvClient& host, const BoundFeature& feature) {
   host.SelectByValue(feature.features, feature.id);
   const double count = host.SelectedNumber(feature.features);
-  if (!(count > 0)) return count;
-  host.MoveFirst(feature.features);
-  return host.CurrentIsValid(feature.features) ? count : 0;
+  if (count > 0) host.MoveFirst(feature.features);
+  return count;
+}
+
+// The same, but 0 if the host then has no valid feature.
+double SelectValidFeature(OrvClient& host, const BoundFeature& feature) {
+  const double count = SelectFeature(host, feature);
+  return count > 0 && !host.CurrentIsValid(feature.features) ? 0 : count;
 }
 
 InputTypeEnum InputTypeOf(const AttributeRecord& attribute) {
@@ -63,38 +68,6 @@ class DeferredValues {
   std::vector<Entry> m_Values;
 };
 
-void Print(const Text& text) {
-  if (const Ref<Object> output = Module().debugOutput)
-    Attempt([&] { LetProperty(*output, u"SelText", Variant(text)); });
-}
-
-Text Rule() { return Text(std::u16string(100, u'-')); }
-Text Banner(int step) {
-  return GetMessage(messages::InternalProcedure, {Variant(GetMessage(step))}) + u"\r\n";
-}
-
-void PrintOpening() {
-  Print(Text(u"\r\n\r\n") + Rule() + u"\r\n");
-  Print(Banner(messages::StorageStart));
-  Print(Rule() + u"\r\n");
-}
-
-void PrintClosing() {
-  Print(Rule() + u"\r\n");
-  Print(Banner(messages::StorageEnd));
-  Print(Rule() + u"\r\n\r\n\r\n");
-}
-
-/// Prints the commands that a debugging run would send.
-class PrintingConnection final : public HostConnection {
- public:
-  Text Execute(std::u16string_view command) override {
-    Print(Text(u"     ") + command + u"\r\n");
-    return {};
-  }
-  Text Request(std::u16string_view) override { return {}; }
-};
-
 void StoreControls(OrvClient& host, const Collection& controls, const FeatureClass& features,
                    const CAttribs& attribs) {
   // Lives across controls: a list box without a selection stores the value of the control before it, or "" as
@@ -123,7 +96,7 @@ void AttributeBinding::Load(const Collection& controls, const BoundFeature& feat
   OrvClient host = OrvClient::Shared();
   if (IsBlank(feature.id)) return LoadControls(host, controls, feature);
   const RedrawPause pause(host, RedrawPause::End::Resume);
-  if (SelectFeature(host, feature) < 1) return;
+  if (SelectValidFeature(host, feature) < 1) return;
   LoadControls(host, controls, feature);
   host.SelectNone(feature.features);
 }
@@ -149,15 +122,13 @@ bool AttributeBinding::Store(const Collection& controls, const BoundFeature& fea
   OrvClient host = OrvClient::Shared();
   const FeatureClass& features = feature.features;
   if (feature.isDebugging) {
-    OrvClient printer(MakeRef<PrintingConnection>());
-    PrintOpening();
+    OrvClient printer(DebugConnection());
+    PrintDebugOpening();
     StoreControls(printer, controls, features, *AttributesOf(host, features));
-    PrintClosing();
+    PrintDebugClosing();
     return true;
   }
-  host.SelectByValue(features, feature.id);
-  if (!(host.SelectedNumber(features) > 0)) return false;
-  host.MoveFirst(features);
+  if (!(SelectFeature(host, feature) > 0)) return false;
   StoreControls(host, controls, features, *AttributesOf(host, features));
   return true;
 }

@@ -14,7 +14,7 @@ class FormControls final : public TableObject {
   Text TypeName() const override { return u"FormControls"; }
 
   /// The form that the script serves from now on.
-  void Serve(Ref<Object> form) { m_Form = std::move(form); }
+  void SetForm(Ref<Object> form) { m_Form = std::move(form); }
 
   /// Object of the form by its user name, error 5 where there is none; without a name the whole collection.
   Variant Controls(std::optional<Variant> name) const;

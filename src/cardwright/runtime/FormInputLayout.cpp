@@ -18,6 +18,10 @@ constexpr float kRoomBelow = 4;
 constexpr float kLeastLeft = 4;
 constexpr float kEdgeOffsetX = 2;  // of a host window that draws edges inside its frame
 constexpr float kEdgeOffsetY = 4;
+// While the container is being designed, the buttons lie in the form.
+constexpr float kDesignRoomAtSide = 4;  // of the gap and the right margin together
+constexpr float kDesignGap = 2;
+constexpr float kDesignRoomBelow = 2;
 
 }  // namespace
 
@@ -72,9 +76,9 @@ void FormInput::PlaceButtonsForDesign() {
   const ScaleMode scale = m_Surface->Scale();
   Widget& ok = m_OkButton->Button();
   Widget& cancel = m_CancelButton->Button();
-  ok.SetLeft(m_Surface->Width() - ok.Width() - PixelsToScale(4, scale) - cancel.Width());
-  ok.SetTop(m_Surface->Height() - ok.Height() - PixelsToScale(2, scale));
-  cancel.SetLeft(ok.Left() + ok.Width() + PixelsToScale(2, scale));
+  ok.SetLeft(m_Surface->Width() - ok.Width() - PixelsToScale(kDesignRoomAtSide, scale) - cancel.Width());
+  ok.SetTop(m_Surface->Height() - ok.Height() - PixelsToScale(kDesignRoomBelow, scale));
+  cancel.SetLeft(ok.Left() + ok.Width() + PixelsToScale(kDesignGap, scale));
   cancel.SetTop(ok.Top());
 }
 

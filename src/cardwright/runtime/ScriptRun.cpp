@@ -67,7 +67,7 @@ void StartScript(FormInput& form, const ComposedScript& composed, const Text& la
   engine->SetTimeout(-1);
   engine->AddObject(u"OrvExecutor", executor, true);
   engine->AddObject(u"OrvDebugger", debugger, true);
-  if (const Ref<FormControls> controls = ScriptControls()) controls->Serve(Ref<Object>(&form));
+  if (const Ref<FormControls> controls = ScriptControls()) controls->SetForm(Ref<Object>(&form));
   engine->AddObject(u"FrmCtrls", Module().formControlsObject, true);
   engine->AddCode(composed.code);
   const Ref<ScriptModule> init = engine->AddModule(u"init");
@@ -97,7 +97,7 @@ bool RunEvent(const Text& procedure) {
   if (!SharedHost().IsConnected()) return false;
   const Ref<ScriptControl> engine = Module().scriptControl;
   if (!engine) return true;
-  if (!Module().procedures.Has(Module().scriptContent, procedure, Module().scriptLanguage)) return true;
+  if (!Module().procedureCache.Has(Module().scriptContent, procedure, Module().scriptLanguage)) return true;
   const Ref<FormControls> controls = ScriptControls();
   if (controls) controls->SetResponse(true);
   try {

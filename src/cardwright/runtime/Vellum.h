@@ -10,7 +10,8 @@ namespace cardwright {
 
 /// The application object through which a host ties the library to itself: the connection handle, where
 /// settings are kept, defaults of appearance, and queries on form project files. All instances of a thread
-/// share one state; the first to come makes it, and the last to go ends the script engine.
+/// share one state. Each new one resets the scale and the look of grab handles, and gives the thread a new
+/// script engine: the procedures of a form that is open are gone. The last to go ends the engine.
 class Vellum final : public TableObject {
  public:
   Vellum();
