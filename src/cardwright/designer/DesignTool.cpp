@@ -13,12 +13,6 @@ namespace {
 
 constexpr int kPenWidth = 2;  // pixels
 
-ScreenRect Ordered(ScreenRect rect) {
-  if (rect.right < rect.left) std::swap(rect.left, rect.right);
-  if (rect.bottom < rect.top) std::swap(rect.top, rect.bottom);
-  return rect;
-}
-
 }  // namespace
 
 DesignTool::DesignTool(FormDesigner& designer, Selection& selection, DesignTool*& inUse) noexcept
@@ -34,11 +28,7 @@ DesignTool::~DesignTool() {
   Module().designDragging = false;
 }
 
-DesignSurface& DesignTool::Canvas() const {
-  DesignSurface* surface = m_Designer->GetSurface();
-  if (!surface) Raise(ErrorNumber::ObjectNotSet);
-  return *surface;
-}
+DesignSurface& DesignTool::Canvas() const { return m_Designer->Canvas(); }
 
 bool DesignTool::FollowMouse() {
   Begin();

@@ -18,10 +18,6 @@ namespace {
 
 constexpr std::u16string_view kEnableKeyDelete = u"EnableKeyDelete";
 
-bool ProjectSave(FormDesigner& designer, const Text& fileName, std::optional<bool> isTemporary) {
-  return designer.ProjectSave(fileName, isTemporary.value_or(false));
-}
-
 Ref<Collection> FilterByName(FormDesigner& designer, ControlTypeEnum type) {
   auto found = MakeRef<Collection>();
   for (const Ref<IControl>& control : designer.FilterControls(type))
@@ -60,7 +56,7 @@ constexpr Member kMembers[] = {
     Property<&D::ControlTypeToAdd, &D::SetControlTypeToAdd>(u"ControlTypeToAdd"),
     Property<&D::WindowHandle>(u"hWnd"),
     Method<&D::ProjectRead>(u"ProjectRead"),
-    Method<&ProjectSave>(u"ProjectSave"),
+    Method<&D::ProjectSave>(u"ProjectSave"),
     Method<&D::GetThemeName>(u"GetThemeName"),
     Method<&D::GetFeatureType>(u"GetFeatureType"),
     Method<&D::SetThemeName>(u"SetThemeName"),
@@ -183,9 +179,9 @@ bool FormDesigner::ProjectRead(const Text& fileName) {
   return AttemptOr(false, [&] { return m_Document.Read(fileName); });
 }
 
-bool FormDesigner::ProjectSave(const Text& fileName, bool isTemporary) {
+bool FormDesigner::ProjectSave(const Text& fileName, std::optional<bool> isTemporary) {
   const Ref<FormDesigner> keepAlive(this);
-  return m_Document.Save(fileName, isTemporary);
+  return m_Document.Save(fileName, isTemporary.value_or(false));
 }
 
 void FormDesigner::SetThemeName(const Text& themeName) {

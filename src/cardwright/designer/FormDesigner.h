@@ -78,7 +78,8 @@ class FormDesigner final : public TableObject,
 
   /// To be called after the surface was resized.
   void UserControl_Resize();
-  /// Step of the grid, in the surface's scale. Setting only stores it.
+  /// Step of the grid: in pixels where the grid is painted, in the surface's scale where a drag snaps to it.
+  /// Setting only stores it.
   std::int16_t GridStep() const noexcept { return m_GridStep; }
   void SetGridStep(std::int16_t step) noexcept { m_GridStep = step; }
   /// Whether a drag snaps to the grid.
@@ -105,7 +106,7 @@ class FormDesigner final : public TableObject,
   /// Reads a form project into the designer, which should be a new one; false if there is no such file.
   bool ProjectRead(const Text& fileName);
   /// Writes the form project. A project without controls has no file: it is deleted.
-  bool ProjectSave(const Text& fileName, bool isTemporary = false);
+  bool ProjectSave(const Text& fileName, std::optional<bool> isTemporary = {});
   /// @name Theme and feature type that the form is bound to
   /// @{
   Text GetThemeName() const { return m_Document.ThemeName(); }
@@ -141,6 +142,8 @@ class FormDesigner final : public TableObject,
   /// @name For the elements of the form
   /// @{
   DesignSurface* GetSurface() override { return m_Surface; }
+  /// The surface; error 91 once it has ended.
+  DesignSurface& Canvas() const;
   float OuterWidth() const override;
   float OuterHeight() const override;
   void SetOuterSize(float width, float height) override;
@@ -168,8 +171,6 @@ class FormDesigner final : public TableObject,
   const MemberTable& Members() const override;
 
  private:
-  /// Error 91 once the surface has ended.
-  DesignSurface& Canvas() const;
   Ref<IControl> Form() const { return m_Document.Form(); }
   static bool IsForm(const IControl& control);
   /// Whether the next press draws a new control.
@@ -192,6 +193,8 @@ class FormDesigner final : public TableObject,
   void OnHandleMove(int index) override;
   void Press(Ref<Widget> container, int button, int shift, FormPoint at);
   void Draw(Ref<Widget> container);
+  /// A press or click ends the suspension that a handler of Resize has left by running a message loop.
+  void ResumeEvents() noexcept { m_AreEventsSuspended = false; }
 
   void RemoveFromLists(const IControl& control);
   void RemoveChildren(const Widget& container);

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "cardwright/designer/OutlineDrag.h"
 
-#include <utility>
+#include "cardwright/shared/Lookups.h"
 
 namespace cardwright {
 namespace {
@@ -18,13 +18,18 @@ void TakeRows(ScreenRect& rect, const ScreenRect& from) {
 
 }  // namespace
 
+ScreenRect Ordered(ScreenRect rect) {
+  OrderPair(rect.right, rect.left);
+  OrderPair(rect.bottom, rect.top);
+  return rect;
+}
+
 OutlineDrag::OutlineDrag(const Setup& setup) : m_Setup(setup), m_Current(setup.start) {}
 
 bool OutlineDrag::MoveTo(ScreenPoint cursor) {
   ScreenRect proposed = Proposed(cursor);
   KeepMinimumSize(proposed);
-  if (proposed.right < proposed.left) std::swap(proposed.left, proposed.right);
-  if (proposed.bottom < proposed.top) std::swap(proposed.top, proposed.bottom);
+  proposed = Ordered(proposed);
   KeepInContainer(proposed);
   SnapToGrid(proposed);
   if (proposed == m_Current) return false;

@@ -19,6 +19,9 @@ enum class DragMode {
   Bottom = 8,
 };
 
+/// The rectangle with its edges in order.
+ScreenRect Ordered(ScreenRect rect);
+
 /// The smallest size in pixels that a drag gives a control; 0 means no limit.
 struct MinimumSize {
   int width = 0;
@@ -43,7 +46,6 @@ class OutlineDrag {
   /// Follows the mouse. Returns whether the outline changed.
   bool MoveTo(ScreenPoint cursor);
 
-  DragMode Mode() const noexcept { return m_Setup.mode; }
   const ScreenRect& Start() const noexcept { return m_Setup.start; }
   const ScreenRect& Current() const noexcept { return m_Current; }
 

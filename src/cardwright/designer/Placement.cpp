@@ -2,15 +2,16 @@
 #include "cardwright/designer/Placement.h"
 
 #include <algorithm>
-#include <utility>
+
+#include "cardwright/shared/Lookups.h"
 
 namespace cardwright {
 
 FormRect RectBetween(FormPoint first, FormPoint second) {
   second.x = std::max(second.x, 0.0F);
   second.y = std::max(second.y, 0.0F);
-  if (second.x < first.x) std::swap(first.x, second.x);
-  if (second.y < first.y) std::swap(first.y, second.y);
+  OrderPair(second.x, first.x);
+  OrderPair(second.y, first.y);
   return {first.x, first.y, second.x - first.x, second.y - first.y};
 }
 

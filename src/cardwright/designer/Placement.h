@@ -36,8 +36,8 @@ struct Placement {
   ControlTypeEnum type = ControlTypeEnum::ctDefault;  ///< the kind of control
   FormRect rectangle;                                 ///< in the container
   Ref<Widget> container;                              ///< null for the surface itself
-  const DesignClipboard* source =
-      nullptr;  ///< what is pasted, at the top left corner; null for a new control
+  /// What is pasted, at the top left corner; null for a new control.
+  const DesignClipboard* source = nullptr;
 };
 
 /// Room for controls in a container, or on the surface for null.

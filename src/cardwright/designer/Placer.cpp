@@ -15,22 +15,18 @@ constexpr std::u16string_view kWidgetPrefix = u"object_";
 
 }  // namespace
 
-DesignSurface& Placer::Canvas() const {
-  DesignSurface* surface = m_Designer.GetSurface();
-  if (!surface) Raise(ErrorNumber::ObjectNotSet);
-  return *surface;
-}
+DesignSurface& Placer::Canvas() const { return m_Designer.Canvas(); }
 
 bool Placer::Place(const Placement& placement) {
   NewControl made;
   if (!Attempt([&] { made = Create(placement); })) return false;
   if (!made.widget) return true;
   if (placement.source) {
-    Fill(made, placement);
+    ApplyCopy(made, placement);
   } else {
     Attempt([&] { Size(made, placement); });
   }
-  if (m_Designer.GetSurface()) Adopt(made);
+  if (m_Designer.GetSurface()) AddToForm(made);
   return true;
 }
 
@@ -95,7 +91,7 @@ void Placer::Size(const NewControl& made, const Placement& placement) const {
 
 // The new control is selected without an event unless its copied values raise one: hosts of pasted controls
 // listen to StateChanged.
-void Placer::Fill(const NewControl& made, const Placement& placement) {
+void Placer::ApplyCopy(const NewControl& made, const Placement& placement) {
   Attempt([&] { Canvas().SetScreenPointer(PointerShape::Hourglass); });
   placement.source->ApplyAppearance(*made.widget);
   if (made.control) {
@@ -122,7 +118,7 @@ void Placer::KeepInContainer(Control& pasted, const Widget* container) const {
 
 // A control whose name is taken, by one that its author gave such a name, stays on the surface but is no part
 // of the form: user names are unique.
-void Placer::Adopt(const NewControl& made) {
+void Placer::AddToForm(const NewControl& made) {
   Widget& widget = *made.widget;
   Attempt([&] { widget.SetVisible(true); });
   // Keeps text from being typed into a widget under design; classes without the property are ignored.

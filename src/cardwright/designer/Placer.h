@@ -36,9 +36,9 @@ class Placer {
   Ref<Widget> AddWidget(std::u16string_view identifier, Widget* container);
   void Bind(const NewControl& made) const;
   void Size(const NewControl& made, const Placement& placement) const;
-  void Fill(const NewControl& made, const Placement& placement);
+  void ApplyCopy(const NewControl& made, const Placement& placement);
   void KeepInContainer(Control& pasted, const Widget* container) const;
-  void Adopt(const NewControl& made);
+  void AddToForm(const NewControl& made);
 
   FormDesigner& m_Designer;
   Selection& m_Selection;

@@ -31,6 +31,8 @@ void FormDesigner::OpenSurfaceMenu() {
   m_Menu->ShowControlItems(true);
 }
 
+// Hosts hear of both entries as enabled afterwards, although the controls stay locked: their own menus have
+// always followed these events.
 void FormDesigner::OpenControlMenu(IControl&) {
   const Ref<FormDesigner> keepAlive(this);
   if (m_Tool) return;

@@ -47,7 +47,7 @@ void FormDesigner::FrameMouseDown(IControl& frame, int button, int shift, float 
 void FormDesigner::Draw(Ref<Widget> container) {
   const Ref<FormDesigner> keepAlive(this);
   std::optional<Placement> drawn;
-  m_AreEventsSuspended = false;  // as by a click
+  ResumeEvents();
   {
     DrawTool tool(*this, *m_Selection, m_Tool, std::move(container));
     drawn = tool.Run();
@@ -59,7 +59,8 @@ void FormDesigner::OnMouseMove(int, int, float, float) {
   Canvas().SetPointer(IsAdding() ? PointerShape::Cross : PointerShape::Arrow);
 }
 
-// A release without a press that draws, as of another button, gives the tool back.
+// A release without a press that draws, as of another button, gives the tool back. While adding there is one
+// if the host has set ControlTypeToAdd between press and release: it draws from the press that drew last.
 void FormDesigner::OnMouseUp(int button, int, float x, float y) {
   if (IsBusy()) return;
   if (button != MouseButton::Left || !IsAdding()) return EndAdding();
@@ -105,7 +106,7 @@ void FormDesigner::OnHandleDown(int index, int button) {
   const Ref<IControl> control = m_Selection->Current();
   if (!control || !IsAlive(*control)) return;
   const Ref<FormDesigner> keepAlive(this);
-  m_AreEventsSuspended = false;  // as by a click
+  ResumeEvents();
   DragTool tool(*this, *m_Selection, m_Tool, control, static_cast<DragMode>(index));
   tool.Run();
 }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The second half of QtDesignSurface: what its listener hears of the toolkit's events, and the mouse.
+// The events that QtDesignSurface passes to its listener, and the mouse.
 #include <QApplication>
 #include <QContextMenuEvent>
 #include <QKeyEvent>
