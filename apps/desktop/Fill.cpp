@@ -18,28 +18,49 @@ void ChooseTheme(qt::FormInput& form, const std::string& theme) {
     root->SetPropertyValue(u"ThemeName", Text::FromUtf8(theme));
 }
 
+app::CommandLine FillLine() {
+  return app::CommandLine({.name = "fill",
+                           .summary = "Fills in a form for one feature. Status 0 after OK, 3 after Cancel.",
+                           .operands = "FORM",
+                           .leastOperands = 1,
+                           .mostOperands = 1,
+                           .options = {{"--data <SOURCE>", "the data source, as a GeoPackage's path"},
+                                       {"--theme <NAME>", "the theme that the feature is in"},
+                                       {"--id <N>", "the feature's identifier"},
+                                       {"--new", "the feature is new: its attributes are not loaded"},
+                                       {"--debug",
+                                        "only show what would be stored, in a pane below the form,\n"
+                                        "which stays open after OK"}}});
+}
+
+// Reads the form into its window; the exit status if that fails.
+std::optional<int> OpenForm(const app::CommandLine& line, FormWindow& window, DataSource& data) {
+  if (line.Has("debug")) {
+    window.ShowDebugOutput();
+    window.Form().SetDebugMode(true);
+  }
+  const std::string& file = line.Operands().front();
+  if (!window.Form().ProjectRead(QString::fromStdString(file)))
+    return line.Fail("the form project " + file + " could not be read");
+  const std::string theme = line.Value("theme");
+  ChooseTheme(window.Form(), theme);
+  const std::string id = line.Value("id");
+  if (data.HasFeature(window.Form().Object()->GetFeatureClass(), Text::FromUtf8(id))) return std::nullopt;
+  return line.Fail("the theme " + theme + " has no feature " + id + " of the form's feature type",
+                   app::kWrongUse);
+}
+
 }  // namespace
 
 int RunFill(std::span<const std::string> words) {
-  app::CommandLine line({.name = "fill",
-                         .summary = "Fills in a form for one feature. Status 0 after OK, 3 after Cancel.",
-                         .operands = "FORM",
-                         .leastOperands = 1,
-                         .mostOperands = 1,
-                         .options = {{"--data <SOURCE>", "the data source, as a GeoPackage's path"},
-                                     {"--theme <NAME>", "the theme that the feature is in"},
-                                     {"--id <N>", "the feature's identifier"},
-                                     {"--new", "the feature is new: its attributes are not loaded"},
-                                     {"--debug",
-                                      "only show what would be stored, in a pane below the form,\n"
-                                      "which stays open after OK"}}});
+  app::CommandLine line = FillLine();
   if (const auto status = line.Parse(words)) return *status;
   for (const char* needed : {"data", "theme", "id"})
     if (!line.Has(needed)) return line.Refuse("--" + std::string(needed) + " is missing");
 
   const std::string& file = line.Operands().front();
-  const QString path = QString::fromStdString(file);
-  if (!QFileInfo(path).isFile()) return line.Fail("there is no form project " + file, app::kWrongUse);
+  if (!QFileInfo(QString::fromStdString(file)).isFile())
+    return line.Fail("there is no form project " + file, app::kWrongUse);
   DesktopSession session(Display::Needed);
   const qt::TerminalBreak terminal;
   DataSource& data = session.Data();
@@ -49,18 +70,9 @@ int RunFill(std::span<const std::string> words) {
     return line.Fail("the data source has no theme " + theme, app::kWrongUse);
 
   FormWindow window(data);
-  if (line.Has("debug")) {
-    window.ShowDebugOutput();
-    window.Form().SetDebugMode(true);
-  }
-  if (!window.Form().ProjectRead(path)) return line.Fail("the form project " + file + " could not be read");
-  ChooseTheme(window.Form(), theme);
-  const std::string id = line.Value("id");
-  if (!data.HasFeature(window.Form().Object()->GetFeatureClass(), Text::FromUtf8(id)))
-    return line.Fail("the theme " + theme + " has no feature " + id + " of the form's feature type",
-                     app::kWrongUse);
+  if (const auto status = OpenForm(line, window, data)) return *status;
   window.Form().SetNewFeature(line.Has("new"));
-  window.Form().SetFeatureID(QString::fromStdString(id));
+  window.Form().SetFeatureID(QString::fromStdString(line.Value("id")));
   window.show();
   QApplication::exec();
   return window.IsAccepted() ? app::kDone : app::kCancelled;

@@ -17,10 +17,8 @@ bool IsSet(const char* variable) {
   return value && *value != '\0';
 }
 
-}  // namespace
-
-int RunScriptCommand(std::span<const std::string> words) {
-  CommandLine line(
+CommandLine ScriptLine() {
+  return CommandLine(
       {.name = "script",
        .summary = "Runs a VBScript or JScript file. Status 1 after an error that the script did not "
                   "catch, 130 after Ctrl+C,\nelse what WScript.Quit said, or 0.",
@@ -36,10 +34,9 @@ int RunScriptCommand(std::span<const std::string> words) {
                    {"--help", "this text (-h)"},
                    {"--version", "the program's version (-v)"}},
        .optionPlace = CommandText::OptionPlace::BeforeOperands});
-  if (const auto status = line.Parse(words)) return *status;
-  const bool hasDisplay = IsSet("DISPLAY") || IsSet("WAYLAND_DISPLAY");
-  if (line.Has("display") && !hasDisplay) return line.Refuse("there is no display");
+}
 
+ScriptJob JobOf(const CommandLine& line) {
   ScriptJob job;
   job.file = Text::FromUtf8(line.Operands().front());
   for (const std::string& word : std::span(line.Operands()).subspan(1))
@@ -48,6 +45,16 @@ int RunScriptCommand(std::span<const std::string> words) {
   if (line.Has("disassemble")) job.task = ScriptJob::Task::Disassemble;
   job.traces = line.Has("trace");
   job.profiles = line.Has("profile");
+  return job;
+}
+
+}  // namespace
+
+int RunScriptCommand(std::span<const std::string> words) {
+  CommandLine line = ScriptLine();
+  if (const auto status = line.Parse(words)) return *status;
+  const bool hasDisplay = IsSet("DISPLAY") || IsSet("WAYLAND_DISPLAY");
+  if (line.Has("display") && !hasDisplay) return line.Refuse("there is no display");
 
   ScriptEnvironment environment{.languages = Languages(), .classes = {}};
   environment.program = Text::FromUtf8(ProgramPath());
@@ -57,7 +64,7 @@ int RunScriptCommand(std::span<const std::string> words) {
   environment.classes.SetLoader(u"Cardwright.", [&environment, display](ClassRegistry&) {
     environment.desktop = LoadDesktopModule().startForScript(display, environment);
   });
-  return RunScript(job, environment);
+  return RunScript(JobOf(line), environment);
 }
 
 }  // namespace cardwright::app
