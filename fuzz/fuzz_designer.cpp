@@ -97,7 +97,7 @@ class Studio {
       end = std::min(orders.find('\n', from), orders.size());
       const std::string_view line = orders.substr(from, end - from);
       if (line.empty()) continue;
-      Attempt([&] { Obey(Parsed(line)); });
+      BestEffort([&] { Obey(Parsed(line)); });
       QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
       RequireRest();
       ++count;
@@ -231,7 +231,7 @@ class Studio {
     if (act == 2) Lose(QEvent::WindowDeactivate);
     if (act == 3) Lose(QEvent::WindowBlocked);
     if (act == 4) RemoveContainer();
-    Attempt([&] { ActAnywhere(act); });
+    BestEffort([&] { ActAnywhere(act); });
   }
 
   // A host ends the designer when the event is through.
@@ -264,7 +264,7 @@ class Studio {
     const Ref<IControl> current = m_Object->CurrentControl();
     const auto* widget = current ? dynamic_cast<Widget*>(current->BoundObject().get()) : nullptr;
     if (!widget) return;
-    Attempt([&] {
+    BestEffort([&] {
       if (const Ref<Widget> container = widget->Container())
         m_Object->GetSurface()->Remove(container->Name());
     });

@@ -113,7 +113,7 @@ class Desk {
       end = std::min(orders.find('\n', from), orders.size());
       const std::string_view line = orders.substr(from, end - from);
       if (line.empty()) continue;
-      Attempt([&] { Obey(Parsed(line)); });
+      BestEffort([&] { Obey(Parsed(line)); });
       QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
       QCoreApplication::processEvents();
       RequireSameText();

@@ -61,7 +61,7 @@ QJsonArray PropertiesJson(const IControl& control) {
   QJsonArray rows;
   for (std::int32_t i = 0; i < control.PropertyCount(); ++i) {
     const Variant index(i);
-    const Variant value = AttemptOr(Variant(), [&] { return control.PropertyValue(index); });
+    const Variant value = BestEffortOr(Variant(), [&] { return control.PropertyValue(index); });
     rows += QJsonObject{{"name", qt::ToQString(control.PropertyName(index))}, {"value", ValueJson(value)}};
   }
   return rows;

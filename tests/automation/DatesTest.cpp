@@ -22,7 +22,8 @@ void ExpectDates(std::u16string_view locale, std::initializer_list<DateText> cas
   const InLocale current(locale);
   for (const DateText& c : cases) {
     EXPECT_TRUE(IsDate(c.text)) << Text(c.text).ToUtf8();
-    EXPECT_NEAR(AttemptOr(-1.0, [&] { return ToDate(c.text).days; }), c.days, 1e-9) << Text(c.text).ToUtf8();
+    EXPECT_NEAR(BestEffortOr(-1.0, [&] { return ToDate(c.text).days; }), c.days, 1e-9)
+        << Text(c.text).ToUtf8();
   }
 }
 

@@ -28,15 +28,15 @@ TEST(Error, HasTheStandardTextUnlessGivenAnother) {
   EXPECT_STREQ(own.what(), "Error 6: Too much");
 }
 
-TEST(Attempt, SwallowsNumberedErrorsOnly) {
-  EXPECT_TRUE(Attempt([] {}));
-  EXPECT_FALSE(Attempt([] { Raise(ErrorNumber::InvalidCall); }));
-  EXPECT_THROW(Attempt([] { throw std::logic_error("a fault of our own"); }), std::logic_error);
+TEST(BestEffort, SwallowsNumberedErrorsOnly) {
+  EXPECT_TRUE(BestEffort([] {}));
+  EXPECT_FALSE(BestEffort([] { Raise(ErrorNumber::InvalidCall); }));
+  EXPECT_THROW(BestEffort([] { throw std::logic_error("a fault of our own"); }), std::logic_error);
 }
 
-TEST(AttemptOr, GivesTheFallbackForAnError) {
-  EXPECT_EQ(AttemptOr(7, [] { return 1; }), 1);
-  EXPECT_EQ(AttemptOr(7, []() -> int { Raise(5); }), 7);
+TEST(BestEffortOr, GivesTheFallbackForAnError) {
+  EXPECT_EQ(BestEffortOr(7, [] { return 1; }), 1);
+  EXPECT_EQ(BestEffortOr(7, []() -> int { Raise(5); }), 7);
 }
 
 }  // namespace

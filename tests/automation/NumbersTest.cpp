@@ -160,7 +160,7 @@ void ExpectNumbers(std::u16string_view locale, std::initializer_list<TextNumber>
   const InLocale current(locale);
   for (const TextNumber& c : cases) {
     EXPECT_TRUE(IsNumericText(c.text)) << Text(c.text).ToUtf8();
-    EXPECT_EQ(AttemptOr(-999.0, [&] { return ToDouble(c.text); }), c.expected) << Text(c.text).ToUtf8();
+    EXPECT_EQ(BestEffortOr(-999.0, [&] { return ToDouble(c.text); }), c.expected) << Text(c.text).ToUtf8();
   }
 }
 

@@ -206,12 +206,12 @@ TEST_F(MemberTest, AllowAHandlerToEndTheSurface) {
     each->SetControlTypeToAdd(ctAttributeSelector);
     own.listener->OnMouseUp(MouseButton::Left, 0, 50, 50);
     const Ref<IControl> control = each->CurrentControl();
-    if (control) Attempt([&] { each->ChangeControlName(control, u"chosen"); });
-    Attempt([&] { each->Copy(); });
-    Attempt([&] { each->Paste(); });
-    Attempt([&] { each->LockUnlock(); });
-    Attempt([&] { each->CenterLeft(); });
-    Attempt([&] { each->Delete(); });
+    if (control) BestEffort([&] { each->ChangeControlName(control, u"chosen"); });
+    BestEffort([&] { each->Copy(); });
+    BestEffort([&] { each->Paste(); });
+    BestEffort([&] { each->LockUnlock(); });
+    BestEffort([&] { each->CenterLeft(); });
+    BestEffort([&] { each->Delete(); });
     EXPECT_EQ(each->GetSurface(), nullptr) << event;
     EXPECT_EQ(each->Controls().Count(), 0) << event;
     EXPECT_EQ(own.screenPointers.back(), 0) << event;
@@ -227,7 +227,7 @@ TEST_F(MemberTest, AllowAHandlerToEndTheSurfaceAtAPressOnAControl) {
     each->SetCtrl(ControlsOf(each->Controls())[0]);
     each->SetControlTypeToAdd(button == MouseButton::Left ? ctLabel : ctDefault);
     each->Connect([&](std::u16string_view, Args) { each->DetachSurface(); });
-    Attempt([&] { FakeDesignSurface::At(WidgetOf(*frame)).listener->OnMouseDown(button, 0, 5, 5); });
+    BestEffort([&] { FakeDesignSurface::At(WidgetOf(*frame)).listener->OnMouseDown(button, 0, 5, 5); });
     EXPECT_EQ(each->GetSurface(), nullptr);
     EXPECT_FALSE(each->IsBusy());
     EXPECT_FALSE(Module().designDragging);

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // One control and its section of a project.
 
-#include "cardwright/model/BestEffort.h"
+#include "cardwright/model/BestEffortSteps.h"
 #include "model/Forms.h"
 #include "storage/TempFolder.h"
 
@@ -102,8 +102,8 @@ TEST(Read, AcceptsKeysInAnyOrderAndCase) {
   EXPECT_EQ(box->Left(), 1.5F);
 }
 
-TEST(BestEffort, FailsOnlyIfTheLastErrorIsMinusOne) {
-  BestEffort step;
+TEST(BestEffortSteps, FailsOnlyIfTheLastErrorIsMinusOne) {
+  BestEffortSteps step;
   int run = 0;
   step([&] { Raise(ErrorNumber::TypeMismatch); });
   step([&] { ++run; });

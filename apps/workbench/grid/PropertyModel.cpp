@@ -39,7 +39,7 @@ void PropertyModel::SetControl(Ref<IControl> control) {
 // A control without its widget has no values any more.
 Variant PropertyModel::ValueOf(int row) const {
   if (!m_Control) return {};
-  return AttemptOr(Variant(), [&] { return m_Control->PropertyValue(IndexOf(row)); });
+  return BestEffortOr(Variant(), [&] { return m_Control->PropertyValue(IndexOf(row)); });
 }
 
 QString PropertyModel::TextOfRow(int row) const {

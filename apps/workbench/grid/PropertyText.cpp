@@ -35,7 +35,7 @@ QString FontText(const FontValues& font) {
 
 QString PlainText(const Variant& value) {
   if (value.IsEmpty() || value.IsObject()) return {};
-  return qt::ToQString(AttemptOr(Text(), [&] { return ToText(value); }));
+  return qt::ToQString(BestEffortOr(Text(), [&] { return ToText(value); }));
 }
 
 // A comma is accepted as decimal point. Infinity and NaN are not numbers here.
@@ -72,7 +72,7 @@ QString FeatureTypeName(FeatureTypeEnum type) {
 QString TextOf(PropertyTypeEnum type, const Variant& value) {
   using enum PropertyTypeEnum;
   switch (type) {
-    case ptColor: return AttemptOr(QString(), [&] { return ColorName(ToLong(value)); });
+    case ptColor: return BestEffortOr(QString(), [&] { return ColorName(ToLong(value)); });
     case ptFont: {
       const auto* font = As<Font>(value);
       return font ? FontText(font->Values()) : QString();
@@ -83,16 +83,16 @@ QString TextOf(PropertyTypeEnum type, const Variant& value) {
       return count == 1 ? Wording::tr("1 item") : Wording::tr("%1 items").arg(count);
     }
     case ptFeatureType:
-      return AttemptOr(QString(),
-                       [&] { return FeatureTypeName(static_cast<FeatureTypeEnum>(ToLong(value))); });
+      return BestEffortOr(QString(),
+                          [&] { return FeatureTypeName(static_cast<FeatureTypeEnum>(ToLong(value))); });
     case ptImage: {
       const auto* picture = As<Picture>(value);
       return picture ? Wording::tr("%1 × %2 pixels").arg(picture->Width()).arg(picture->Height())
                      : Wording::tr("(none)");
     }
     case ptBoolean:
-      return AttemptOr(false, [&] { return ToBoolean(value); }) ? QStringLiteral("True")
-                                                                : QStringLiteral("False");
+      return BestEffortOr(false, [&] { return ToBoolean(value); }) ? QStringLiteral("True")
+                                                                   : QStringLiteral("False");
     default: return PlainText(value);
   }
 }
@@ -109,7 +109,7 @@ TypedValue ValueOfText(PropertyTypeEnum type, const QString& text) {
 
 QIcon SampleOf(PropertyTypeEnum type, const Variant& value) {
   if (type == PropertyTypeEnum::ptColor)
-    return AttemptOr(QIcon(), [&] { return ColorSample(ToLong(value)); });
+    return BestEffortOr(QIcon(), [&] { return ColorSample(ToLong(value)); });
   const auto* picture = type == PropertyTypeEnum::ptImage ? As<Picture>(value) : nullptr;
   return picture ? QIcon(QPixmap::fromImage(ImageOf(*picture))) : QIcon();
 }

@@ -39,7 +39,7 @@ void ValueDelegate::OpenDialog(QWidget& owner, int row) const {
 }
 
 void ValueDelegate::ChooseColor(QWidget& owner, int row) const {
-  const OleColor present = AttemptOr(OleColor{}, [&] { return ToLong(m_Model.ValueOf(row)); });
+  const OleColor present = BestEffortOr(OleColor{}, [&] { return ToLong(m_Model.ValueOf(row)); });
   auto* dialog = new QColorDialog(qt::ToQColor(present, owner.palette()), &owner);
   dialog->setWindowTitle(m_Model.NameOf(row));
   qt::RunDialog(dialog, owner, [&](const QColorDialog& accepted) {
@@ -52,7 +52,7 @@ void ValueDelegate::ChooseFontOf(QWidget& owner, int row) const {
   const Ref<Font> font = ObjectIn<Font>(m_Model.ValueOf(row));
   if (!font) return;
   std::optional<FontValues> chosen;
-  if (!Attempt([&] { chosen = qt::ChooseFont(owner, m_Model.NameOf(row), font->Values()); }))
+  if (!BestEffort([&] { chosen = qt::ChooseFont(owner, m_Model.NameOf(row), font->Values()); }))
     Q_EMIT m_Model.Refused(tr("A font of this size cannot be kept."));
   if (!chosen) return;
   font->Assign(*chosen);
@@ -63,9 +63,9 @@ void ValueDelegate::ChooseItems(QWidget& owner, int row) const {
   const Ref<CItems> items = ObjectIn<CItems>(m_Model.ValueOf(row));
   const Ref<IControl> control = m_Model.Control();
   if (!items || !control || !EditItems(owner, *items)) return;
-  const Variant text = AttemptOr(Variant(), [&] { return control->PropertyValue(Variant(u"Text")); });
+  const Variant text = BestEffortOr(Variant(), [&] { return control->PropertyValue(Variant(u"Text")); });
   control->Refresh();  // which clears a combo box
-  Attempt([&] { control->SetPropertyValue(Variant(u"Text"), text); });
+  BestEffort([&] { control->SetPropertyValue(Variant(u"Text"), text); });
   m_Model.Assign(row, Variant(items));
 }
 

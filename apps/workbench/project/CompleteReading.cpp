@@ -29,7 +29,7 @@ int KeepTexts(Collection& controls, const CIni& project) {
     const Ref<Object> bound = combo->BoundObject();
     auto* const widget = dynamic_cast<ComboWidget*>(bound.get());
     if (widget && widget->ListIndex() < 0)
-      Attempt([&] { widget->SetDisplayText(project.GetText(section, u"Text")); });
+      BestEffort([&] { widget->SetDisplayText(project.GetText(section, u"Text")); });
   }
   return found;
 }
@@ -39,7 +39,7 @@ int KeepTexts(Collection& controls, const CIni& project) {
 int CompleteReading(cardwright::FormDesigner& designer, const Text& path) {
   Collection& controls = designer.Controls();
   for (const Ref<IControl>& control : ControlsOf(controls))
-    Attempt([&] { control->AttachControls(controls); });
+    BestEffort([&] { control->AttachControls(controls); });
   CIni project;
   project.SetFileName(path);
   return std::max(0, KeepTexts(controls, project) - (controls.Count() - 1));

@@ -33,7 +33,7 @@ ProjectState Document::StateNow() const {
     // The font is an object of the designer, and an undo step gets another designer.
     const bool isFont = form->PropertyType(Variant(row)) == PropertyTypeEnum::ptFont;
     state.formRows.push_back(
-        isFont ? Variant() : AttemptOr(Variant(), [&] { return form->PropertyValue(Variant(row)); }));
+        isFont ? Variant() : BestEffortOr(Variant(), [&] { return form->PropertyValue(Variant(row)); }));
   }
   if (const Ref<Font> font = form->GetFont()) state.formFont = font->Values();
   return state;
@@ -163,7 +163,7 @@ void Document::RestoreForm(const ProjectState& state) {
   for (std::size_t row = 0; row < state.formRows.size(); ++row) {
     const Variant index(static_cast<std::int32_t>(row));
     if (form->PropertyType(index) != PropertyTypeEnum::ptFont)
-      Attempt([&] { form->SetPropertyValue(index, state.formRows[row]); });
+      BestEffort([&] { form->SetPropertyValue(index, state.formRows[row]); });
   }
   if (const Ref<Font> font = form->GetFont()) font->Assign(state.formFont);
 }

@@ -26,7 +26,7 @@ const Widget* ContainerOf(const IControl& control) {
   const Ref<Object> bound = control.BoundObject();
   const auto* widget = dynamic_cast<const Widget*>(bound.get());
   if (!widget) return nullptr;
-  return AttemptOr(static_cast<const Widget*>(nullptr), [&] { return widget->Container().get(); });
+  return BestEffortOr(static_cast<const Widget*>(nullptr), [&] { return widget->Container().get(); });
 }
 
 void MoveContentsAfter(Collection& controls, const IControl& frame) {

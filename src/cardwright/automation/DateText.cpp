@@ -174,7 +174,7 @@ Date ToDate(const Variant& value) {
 }
 
 bool IsDate(const Variant& value) noexcept {
-  return AttemptOr(false, [&] {
+  return BestEffortOr(false, [&] {
     const Variant plain = DefaultValue(value);
     if (plain.IsString()) return ReadDateText(plain.StringView(), Locale::Current()).has_value();
     return plain.Type() == VarType::Date;

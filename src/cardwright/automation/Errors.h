@@ -65,7 +65,7 @@ enum class ErrorNumber : int {
 /// The platform's text for an error number; "Unknown runtime error" for others.
 Text StandardErrorText(int number);
 
-/// A numbered run-time error: what scripts see as Err and what Attempt() catches.
+/// A numbered run-time error: what scripts see as Err and what BestEffort() catches.
 class Error : public std::exception {
  public:
   /// An error with the standard text of its number if `description` is empty.
@@ -99,7 +99,7 @@ class Error : public std::exception {
 /// Runs a step whose numbered failure is ignored on purpose, and returns whether it succeeded. Only Error is
 /// caught: other exceptions, which are bugs, propagate.
 template <class Step>
-bool Attempt(Step&& step) {
+bool BestEffort(Step&& step) {
   try {
     step();
     return true;
@@ -110,7 +110,7 @@ bool Attempt(Step&& step) {
 
 /// The value of `step`, or `fallback` where it fails with a numbered error.
 template <class Step, class Value>
-Value AttemptOr(Value fallback, Step&& step) {
+Value BestEffortOr(Value fallback, Step&& step) {
   try {
     return step();
   } catch (const Error&) {

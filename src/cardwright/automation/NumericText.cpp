@@ -169,11 +169,11 @@ std::optional<NumericText> ReadNumericText(std::u16string_view text, const Local
 
 bool IsNumericText(std::u16string_view text) noexcept {
   const auto number = ReadNumericText(text, Locale::Current());
-  return number && (number->bits || AttemptOr(false, [&] { return number->digits.ToDouble(), true; }));
+  return number && (number->bits || BestEffortOr(false, [&] { return number->digits.ToDouble(), true; }));
 }
 
 bool IsNumeric(const Variant& value) noexcept {
-  return AttemptOr(false, [&] {
+  return BestEffortOr(false, [&] {
     const Variant plain = DefaultValue(value);
     switch (plain.Type()) {
       case VarType::Null:

@@ -47,34 +47,34 @@ void FormDesigner::Delete() {
   const Ref<FormDesigner> keepAlive(this);
   const Ref<IControl> control = m_Selection->Current();
   if (!control || IsForm(*control)) return;
-  const Text name = AttemptOr(Text(), [&] { return control->Name(); });
+  const Text name = BestEffortOr(Text(), [&] { return control->Name(); });
   const Ref<IControl> form = Form();
   if (form && form->Name() == ToLower(name)) return;
   const Ref<Widget> widget = BoundWidget(*control);
   if (widget && ClassOf(*control).design.isContainer) RemoveChildren(*widget);
   RemoveFromLists(*control);
   m_Selection->ReleaseHandles();
-  Attempt([&] { Canvas().Remove(name); });
+  BestEffort([&] { Canvas().Remove(name); });
   m_Selection->Store(nullptr);
-  Attempt([&] {
+  BestEffort([&] {
     Variant removed(name);
     Variant args[] = {Variant::ByRef(removed)};
     RaiseEvent(u"ObjectRemoved", args);
   });
   const Ref<Collection> left = ControlCollection();  // a handler may end the surface
   if (left->Count() == 0) return;
-  for (const Ref<IControl>& other : ControlsOf(*left)) Attempt([&] { other->LinkControlDelete(*left); });
+  for (const Ref<IControl>& other : ControlsOf(*left)) BestEffort([&] { other->LinkControlDelete(*left); });
   AttachLinks();
-  if (const Ref<IControl> first = Form()) Attempt([&] { SetCtrl(first); });
-  Attempt([&] { RaiseRefreshPropertyList(); });
+  if (const Ref<IControl> first = Form()) BestEffort([&] { SetCtrl(first); });
+  BestEffort([&] { RaiseRefreshPropertyList(); });
 }
 
 void FormDesigner::RemoveFromLists(const IControl& control) {
-  Attempt([&] {
+  BestEffort([&] {
     const Text key = ToLower(control.UserName());
     if (FindControl(Controls(), key) == &control) Controls().Remove(Variant(key));
   });
-  Attempt([&] { m_StackOrder->Remove(control); });
+  BestEffort([&] { m_StackOrder->Remove(control); });
 }
 
 // One level only: a control in a frame inside the frame loses its widget and stays in the lists, and a
@@ -82,9 +82,9 @@ void FormDesigner::RemoveFromLists(const IControl& control) {
 void FormDesigner::RemoveChildren(const Widget& container) {
   for (const Ref<IControl>& child : ControlsOf(Controls())) {
     const Ref<Widget> widget = BoundWidget(*child);
-    const bool isInside = widget && AttemptOr(false, [&] { return widget->Container() == &container; });
+    const bool isInside = widget && BestEffortOr(false, [&] { return widget->Container() == &container; });
     if (!isInside) continue;
-    Attempt([&] { child->Delete(); });
+    BestEffort([&] { child->Delete(); });
     RemoveFromLists(*child);
   }
 }

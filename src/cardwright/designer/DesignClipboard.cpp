@@ -23,17 +23,17 @@ void DesignClipboard::Copy(const IControl& control, const Widget& widget) {
 }
 
 void DesignClipboard::ApplyAppearance(Widget& widget) const {
-  Attempt([&] { widget.SetBackColor(m_BackColor); });
-  Attempt([&] { widget.SetForeColor(m_ForeColor); });
+  BestEffort([&] { widget.SetBackColor(m_BackColor); });
+  BestEffort([&] { widget.SetForeColor(m_ForeColor); });
   // The font is shared: a font that was changed since the copy pastes as it is now.
-  Attempt([&] { widget.GetFont()->Assign(m_Font->Values()); });
-  Attempt([&] { widget.SetWidth(m_Width); });
+  BestEffort([&] { widget.GetFont()->Assign(m_Font->Values()); });
+  BestEffort([&] { widget.SetWidth(m_Width); });
 }
 
 void DesignClipboard::ApplyProperties(Control& control) const {
   const auto rows = std::min<std::size_t>(m_Properties.size(), control.PropertyCount());
   for (std::size_t row = 0; row < rows; ++row)
-    Attempt([&] { ApplyProperty(control, static_cast<std::int32_t>(row)); });
+    BestEffort([&] { ApplyProperty(control, static_cast<std::int32_t>(row)); });
 }
 
 void DesignClipboard::ApplyProperty(Control& control, std::int32_t row) const {

@@ -23,7 +23,7 @@ DesignTool::DesignTool(FormDesigner& designer, Selection& selection, DesignTool*
 
 DesignTool::~DesignTool() {
   ClearScreen();
-  Attempt([&] { m_Selection.ShowHandles(true); });
+  BestEffort([&] { m_Selection.ShowHandles(true); });
   m_InUse = nullptr;
   Module().designDragging = false;
 }
@@ -75,7 +75,7 @@ bool DesignTool::CanContinue() const {
   const DesignSurface* surface = m_Designer->GetSurface();
   if (!surface || !IsTargetThere()) return false;
   const Ref<Widget>& container = m_Start.container;
-  return !container || AttemptOr(false, [&] { return surface->Find(container->Name()) == container; });
+  return !container || BestEffortOr(false, [&] { return surface->Find(container->Name()) == container; });
 }
 
 void DesignTool::MoveTo(ScreenPoint cursor) {
@@ -112,8 +112,8 @@ void DesignTool::ShowOutline() const {
 void DesignTool::ClearScreen() const {
   DesignSurface* surface = m_Designer->GetSurface();
   if (!surface) return;
-  Attempt([&] { surface->ShowOutline({}, 0); });
-  Attempt([&] { surface->HideTooltip(); });
+  BestEffort([&] { surface->ShowOutline({}, 0); });
+  BestEffort([&] { surface->HideTooltip(); });
 }
 
 Text DesignTool::TooltipText() const {

@@ -53,10 +53,10 @@ bool DragTool::IsTargetThere() const { return Designer().IsAlive(*m_Control); }
 void DragTool::Run() {
   if (!FollowMouse()) return;
   const FormRect dragged = Result();
-  Attempt([&] { m_Control->SetLeft(dragged.left); });
-  Attempt([&] { m_Control->SetTop(dragged.top); });
-  Attempt([&] { m_Control->SetWidth(dragged.width); });
-  if (!ClassOf(*m_Control).design.hasFixedHeight) Attempt([&] { m_Control->SetHeight(dragged.height); });
+  BestEffort([&] { m_Control->SetLeft(dragged.left); });
+  BestEffort([&] { m_Control->SetTop(dragged.top); });
+  BestEffort([&] { m_Control->SetWidth(dragged.width); });
+  if (!ClassOf(*m_Control).design.hasFixedHeight) BestEffort([&] { m_Control->SetHeight(dragged.height); });
   if (Designer().IsAlive(*m_Control)) Designer().SetCtrl(m_Control);
 }
 

@@ -103,8 +103,8 @@ void FormDesigner::DetachSurface() {
   m_Document.Detach(m_Surface);
   m_Selection->Detach();
   if (m_Surface) {
-    Attempt([&] { m_Surface->SetListener(nullptr); });
-    Attempt([&] { m_Surface->SetScreenPointer(PointerShape::Default); });  // in the middle of a paste
+    BestEffort([&] { m_Surface->SetListener(nullptr); });
+    BestEffort([&] { m_Surface->SetScreenPointer(PointerShape::Default); });  // in the middle of a paste
   }
   m_Surface = nullptr;
   m_Document.Clear();
@@ -133,7 +133,7 @@ bool FormDesigner::IsForm(const IControl& control) {
 bool FormDesigner::IsAlive(const IControl& control) const {
   const Ref<Object> widget = control.BoundObject();
   if (!m_Surface || !widget) return false;
-  return AttemptOr(false, [&] { return m_Surface->Find(control.Name()).get() == widget.get(); });
+  return BestEffortOr(false, [&] { return m_Surface->Find(control.Name()).get() == widget.get(); });
 }
 
 void FormDesigner::SetCtrl(Ref<IControl> control) {
@@ -171,12 +171,12 @@ void FormDesigner::ChangeControlName(Ref<Object> control, const Text& newName) {
 void FormDesigner::AttachLinks() {
   const Ref<Collection> controls = ControlCollection();
   for (const Ref<IControl>& control : ControlsOf(*controls))
-    Attempt([&] { control->AttachControls(*controls); });
+    BestEffort([&] { control->AttachControls(*controls); });
 }
 
 bool FormDesigner::ProjectRead(const Text& fileName) {
   const Ref<FormDesigner> keepAlive(this);
-  return AttemptOr(false, [&] { return m_Document.Read(fileName); });
+  return BestEffortOr(false, [&] { return m_Document.Read(fileName); });
 }
 
 bool FormDesigner::ProjectSave(const Text& fileName, std::optional<bool> isTemporary) {

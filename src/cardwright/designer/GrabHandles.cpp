@@ -43,7 +43,7 @@ GrabHandles::GrabHandles(DesignSurface& surface, HandleListener& listener, int s
 
 GrabHandles::~GrabHandles() {
   for (const Handle& handle : m_Handles)
-    Attempt([&] { m_Surface.Handle(handle.index).SetListener(nullptr); });
+    BestEffort([&] { m_Surface.Handle(handle.index).SetListener(nullptr); });
 }
 
 void GrabHandles::ShowAround(const Widget& widget, bool enabled) {

@@ -19,12 +19,12 @@ DesignSurface& Placer::Canvas() const { return m_Designer.Canvas(); }
 
 bool Placer::Place(const Placement& placement) {
   NewControl made;
-  if (!Attempt([&] { made = Create(placement); })) return false;
+  if (!BestEffort([&] { made = Create(placement); })) return false;
   if (!made.widget) return true;
   if (placement.source) {
     ApplyCopy(made, placement);
   } else {
-    Attempt([&] { Size(made, placement); });
+    BestEffort([&] { Size(made, placement); });
   }
   if (m_Designer.GetSurface()) AddToForm(made);
   return true;
@@ -92,26 +92,26 @@ void Placer::Size(const NewControl& made, const Placement& placement) const {
 // The new control is selected without an event unless its copied values raise one: hosts of pasted controls
 // listen to StateChanged.
 void Placer::ApplyCopy(const NewControl& made, const Placement& placement) {
-  Attempt([&] { Canvas().SetScreenPointer(PointerShape::Hourglass); });
+  BestEffort([&] { Canvas().SetScreenPointer(PointerShape::Hourglass); });
   placement.source->ApplyAppearance(*made.widget);
   if (made.control) {
-    Attempt([&] { made.control->FinishDrawing(); });
+    BestEffort([&] { made.control->FinishDrawing(); });
     placement.source->ApplyProperties(*made.control);
-    Attempt([&] { made.widget->Move(0, 0, made.widget->Width(), made.widget->Height()); });
-    Attempt([&] { KeepInContainer(*made.control, placement.container.get()); });
+    BestEffort([&] { made.widget->Move(0, 0, made.widget->Width(), made.widget->Height()); });
+    BestEffort([&] { KeepInContainer(*made.control, placement.container.get()); });
     m_Selection.Store(made.control);
   }
-  Attempt([&] { Canvas().SetScreenPointer(PointerShape::Default); });
+  BestEffort([&] { Canvas().SetScreenPointer(PointerShape::Default); });
 }
 
 // The width of a handle is subtracted in both axes; authors know the size that a pasted control gets.
 void Placer::KeepInContainer(Control& pasted, const Widget* container) const {
   const FormExtent room = RoomIn(container, Canvas());
   const float handle = m_Selection.HandleWidth();
-  Attempt([&] {
+  BestEffort([&] {
     if (pasted.Width() > room.width) pasted.SetWidth(room.width - handle);
   });
-  Attempt([&] {
+  BestEffort([&] {
     if (pasted.Height() > room.height) pasted.SetHeight(room.height - handle);
   });
 }
@@ -120,15 +120,15 @@ void Placer::KeepInContainer(Control& pasted, const Widget* container) const {
 // of the form: user names are unique.
 void Placer::AddToForm(const NewControl& made) {
   Widget& widget = *made.widget;
-  Attempt([&] { widget.SetVisible(true); });
+  BestEffort([&] { widget.SetVisible(true); });
   // Keeps text from being typed into a widget under design; classes without the property are ignored.
-  Attempt([&] { LetProperty(widget, u"Locked", Variant(true)); });
-  Attempt([&] { widget.SetZOrder(StackPosition::Front); });
+  BestEffort([&] { LetProperty(widget, u"Locked", Variant(true)); });
+  BestEffort([&] { widget.SetZOrder(StackPosition::Front); });
   if (!made.control) return;
   const Variant item{Ref<Object>(made.control)};
-  Attempt([&] { m_Designer.Controls().Add(item, Variant(ToLower(made.control->UserName()))); });
-  Attempt([&] { m_Designer.AppendToZList(made.control); });
-  Attempt([&] { m_Designer.SetCtrl(made.control); });
+  BestEffort([&] { m_Designer.Controls().Add(item, Variant(ToLower(made.control->UserName()))); });
+  BestEffort([&] { m_Designer.AppendToZList(made.control); });
+  BestEffort([&] { m_Designer.SetCtrl(made.control); });
 }
 
 }  // namespace cardwright

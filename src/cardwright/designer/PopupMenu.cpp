@@ -25,7 +25,7 @@ void FormDesigner::OpenSurfaceMenu() {
   SetMenuState(u"mnuCopy", false);
   SetMenuState(u"mnuCut", false);
   m_Menu->ShowControlItems(false);
-  Attempt([&] { ShowMenu(); });
+  BestEffort([&] { ShowMenu(); });
   SetMenuState(u"mnuCopy", true);
   SetMenuState(u"mnuCut", true);
   m_Menu->ShowControlItems(true);
@@ -41,7 +41,7 @@ void FormDesigner::OpenControlMenu(IControl&) {
     SetMenuState(u"mnuForeground", false);
     SetMenuState(u"mnuBackground", false);
   }
-  Attempt([&] { ShowMenu(); });
+  BestEffort([&] { ShowMenu(); });
   if (!locked) return;
   SetMenuState(u"mnuForeground", true);
   SetMenuState(u"mnuBackground", true);

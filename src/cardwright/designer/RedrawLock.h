@@ -17,7 +17,7 @@ class RedrawLock {
 
  private:
   void Lock(bool lock) const {
-    if (m_Surface) Attempt([&] { m_Surface->LockRedraw(lock); });
+    if (m_Surface) BestEffort([&] { m_Surface->LockRedraw(lock); });
   }
 
   DesignSurface* const& m_Surface;

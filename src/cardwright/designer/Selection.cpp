@@ -14,8 +14,8 @@ Selection::Selection(DesignSurface& surface, HandleListener& listener, int handl
 void Selection::Select(Ref<IControl> control) {
   m_Current = control;
   if (const Ref<Widget> widget = BoundWidget(*control)) {
-    Attempt([&] { widget->SetVisible(true); });
-    Attempt([&] {
+    BestEffort([&] { widget->SetVisible(true); });
+    BestEffort([&] {
       if (m_Handles) m_Handles->MoveInto(widget->Container().get());
     });
   }
@@ -27,17 +27,17 @@ void Selection::Select(Ref<IControl> control) {
 void Selection::ShowHandles(bool show) {
   if (!m_Handles) return;
   const Ref<Widget> widget = show && m_Current ? BoundWidget(*m_Current) : nullptr;
-  const bool isShown = widget && Attempt([&] { m_Handles->ShowAround(*widget, !m_IsLocked); });
-  if (!isShown) Attempt([&] { m_Handles->Hide(); });
+  const bool isShown = widget && BestEffort([&] { m_Handles->ShowAround(*widget, !m_IsLocked); });
+  if (!isShown) BestEffort([&] { m_Handles->Hide(); });
 }
 
 void Selection::ReleaseHandles() {
   ShowHandles(false);
-  if (m_Handles) Attempt([&] { m_Handles->MoveInto(nullptr); });
+  if (m_Handles) BestEffort([&] { m_Handles->MoveInto(nullptr); });
 }
 
 void Selection::RaiseMoveHandle() {
-  if (m_Handles) Attempt([&] { m_Handles->RaiseMoveHandle(); });
+  if (m_Handles) BestEffort([&] { m_Handles->RaiseMoveHandle(); });
 }
 
 float Selection::HandleWidth() const {
@@ -47,7 +47,7 @@ float Selection::HandleWidth() const {
 
 void Selection::ParkFocus() {
   if (!m_Surface) return;
-  Attempt([&] {
+  BestEffort([&] {
     PictureWidget& holder = m_Surface->FocusHolder();
     holder.Move(-holder.Width(), -holder.Height(), holder.Width(), holder.Height());
     if (!holder.IsVisible()) holder.SetVisible(true);

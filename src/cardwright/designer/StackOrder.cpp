@@ -12,10 +12,10 @@ void StackOrder::Append(const Ref<IControl>& control) {
 void StackOrder::Remove(const IControl& control) { m_Controls->Remove(Variant(control.Name())); }
 
 void StackOrder::Restack(const Ref<IControl>& control, StackPosition position) {
-  Attempt([&] { Remove(*control); });
-  Attempt([&] { Append(control); });
-  Attempt([&] { control->SetZOrder(static_cast<std::int16_t>(position)); });
-  if (const Ref<Widget> widget = BoundWidget(*control)) Attempt([&] { widget->SetZOrder(position); });
+  BestEffort([&] { Remove(*control); });
+  BestEffort([&] { Append(control); });
+  BestEffort([&] { control->SetZOrder(static_cast<std::int16_t>(position)); });
+  if (const Ref<Widget> widget = BoundWidget(*control)) BestEffort([&] { widget->SetZOrder(position); });
 }
 
 }  // namespace cardwright

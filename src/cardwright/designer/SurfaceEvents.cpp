@@ -86,7 +86,7 @@ void FormDesigner::EndAdding() {
   if (IsAdding()) {
     m_TypeToAdd = ControlTypeEnum::ctDefault;
     Variant args[] = {Variant(kSelectionTool)};
-    Attempt([&] { RaiseEvent(u"StateChanged", args); });
+    BestEffort([&] { RaiseEvent(u"StateChanged", args); });
   }
   ShowArrowPointer();
   Module().designDragging = false;
@@ -124,16 +124,16 @@ void FormDesigner::SetOuterSize(float width, float height) {
 
 void FormDesigner::UserControl_Resize() {
   const Ref<FormDesigner> keepAlive(this);
-  Attempt([&] { SetGrid(m_GridStep); });
+  BestEffort([&] { SetGrid(m_GridStep); });
   if (IsBusy() || !m_Surface) return;
   m_AreEventsSuspended = true;
   m_OuterSize->Store(*m_Surface);
-  Attempt([&] {
+  BestEffort([&] {
     const Ref<IControl> form = Form();
     if (auto* resized = dynamic_cast<CForm*>(form.get())) resized->OnDesignerResized();
   });
-  Attempt([&] { RaiseEvent(u"Resize"); });
-  Attempt([&] {
+  BestEffort([&] { RaiseEvent(u"Resize"); });
+  BestEffort([&] {
     const ScaleMode scale = Canvas().Scale();
     const FormExtent size = m_OuterSize->Stored();
     RaiseNeedResize(ScaleToTwips(size.width, scale), ScaleToTwips(size.height, scale));

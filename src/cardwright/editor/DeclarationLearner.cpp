@@ -98,7 +98,7 @@ class SelectionKeeper {
  public:
   explicit SelectionKeeper(Lexipad& pad) : m_Pad(pad), m_Start(pad.SelStart()), m_Length(pad.SelLength()) {}
   ~SelectionKeeper() {
-    Attempt([this] {
+    BestEffort([this] {
       m_Pad.SetSelStart(m_Start);
       if (m_Length > 0) m_Pad.SetSelLength(m_Length);
     });

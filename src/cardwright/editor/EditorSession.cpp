@@ -61,12 +61,12 @@ void EditorSession::SetUp() {
   m_Core.pad->SetImageLockMaxHeight(-1);
   m_Core.language = kVbscriptName;
   if (Module().scriptLanguage.IsEmpty()) Module().scriptLanguage = kVbscriptName;
-  Attempt([&] { ReadSyntaxSettings(*m_Core.pad); });
-  Attempt([&] { m_Core.language = EditorSettings::OfGlobal().Read(kLanguageSetting, kVbscriptName); });
-  Attempt([&] { ApplyLanguage(m_Core.language); });
-  Attempt([&] { HandleSelection(); });
-  Attempt([&] { SetNewSource({}); });
-  Attempt([&] { m_Help.ReadPlace(); });
+  BestEffort([&] { ReadSyntaxSettings(*m_Core.pad); });
+  BestEffort([&] { m_Core.language = EditorSettings::OfGlobal().Read(kLanguageSetting, kVbscriptName); });
+  BestEffort([&] { ApplyLanguage(m_Core.language); });
+  BestEffort([&] { HandleSelection(); });
+  BestEffort([&] { SetNewSource({}); });
+  BestEffort([&] { m_Help.ReadPlace(); });
   m_Core.isModified = false;
 
   m_Core.pad->SetListener(this);
@@ -81,11 +81,11 @@ void EditorSession::SetUp() {
 void EditorSession::DetachSurface() {
   if (!m_Core.HasSurface()) return;
   EditorSurface& surface = m_Core.Surface();
-  Attempt([&] { m_Help.SaveVisible(); });
-  Attempt([&] { m_Help.SavePlace(); });
-  Attempt([&] { surface.SetTimer(false); });
-  Attempt([&] { surface.Description().SetVisible(false); });
-  Attempt([&] { surface.PopupList()->SetCompletionListener(nullptr); });
+  BestEffort([&] { m_Help.SaveVisible(); });
+  BestEffort([&] { m_Help.SavePlace(); });
+  BestEffort([&] { surface.SetTimer(false); });
+  BestEffort([&] { surface.Description().SetVisible(false); });
+  BestEffort([&] { surface.PopupList()->SetCompletionListener(nullptr); });
   surface.SetListener(nullptr);
   m_Core.pad->SetListener(nullptr);
   m_Core.pad->SetLexipadListener(nullptr);
@@ -100,7 +100,7 @@ void EditorSession::DetachSurface() {
 void EditorSession::ApplyLanguage(const Text& language) {
   if (std::optional<LexipadLanguage> table = LanguageTable(language)) {
     if (Module().formControlsObject)
-      Attempt(
+      BestEffort(
           [&] { table->constants += ToText(GetProperty(*Module().formControlsObject, u"ConstantNames")); });
     m_Core.pad->SetLanguage(*std::move(table));
   }
@@ -224,7 +224,7 @@ bool EditorSession::CheckModify() {
 bool EditorSession::TerminateRequested() {
   const Ref<EditorSession> keepAlive(this);
   if (CheckModify()) return false;
-  Attempt([&] { EditorSettings::OfGlobal().Save(kLanguageSetting, m_Core.language); });
+  BestEffort([&] { EditorSettings::OfGlobal().Save(kLanguageSetting, m_Core.language); });
   m_Completion.PutAside();
   m_Core.Surface().UnloadSearch();
   return true;

@@ -66,7 +66,7 @@ class EditorSession final : public RefCounted,
   template <class Work>
   void Handle(Work&& work) {
     const Ref<EditorSession> keepAlive(this);
-    Attempt(work);
+    BestEffort(work);
   }
   void ApplyLanguage(const Text& language);
   void ReadScriptText(const Text& path);

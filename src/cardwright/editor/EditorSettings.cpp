@@ -23,12 +23,12 @@ Text EditorSettings::Read(std::u16string_view key, std::u16string_view fallback)
 }
 
 float EditorSettings::ReadNumber(std::u16string_view key, float fallback) const {
-  return AttemptOr(fallback, [&] { return ToSingle(Variant(Read(key, ToText(Variant(fallback))))); });
+  return BestEffortOr(fallback, [&] { return ToSingle(Variant(Read(key, ToText(Variant(fallback))))); });
 }
 
 void EditorSettings::Save(std::u16string_view key, std::u16string_view value) const {
   if (!IsNamed() || !Module().desktop) return;
-  Attempt([&] { Module().desktop->Settings().Save(m_App, m_Section, key, value); });
+  BestEffort([&] { Module().desktop->Settings().Save(m_App, m_Section, key, value); });
 }
 
 void EditorSettings::SaveNumber(std::u16string_view key, float value) const {

@@ -53,7 +53,7 @@ void Lexipad::SetMaxLineLength(std::int32_t length) {
 }
 
 PadUpdate::~PadUpdate() {
-  Attempt([this] { m_Pad->EndUpdate(); });
+  BestEffort([this] { m_Pad->EndUpdate(); });
 }
 
 }  // namespace cardwright

@@ -122,7 +122,7 @@ void Navigator::OnControlChosen() {
   if (index >= 0 && index == m_LastControl) return FocusPad(m_Core);
   m_Core.eventsCombo->Clear();
   if (index == 0) {
-    const bool isReadable = Attempt([this] { FillProcedures(); });
+    const bool isReadable = BestEffort([this] { FillProcedures(); });
     if (!m_IsSyncing && m_Core.eventsCombo->ListCount() > 0) m_Core.eventsCombo->SetListIndex(0);
     if (!isReadable) return;  // so that the list is filled again at the next choice
   } else if (index > 0) {
@@ -255,7 +255,7 @@ void Navigator::FollowCaret() {
 // A script that does not compile leaves the list of its procedures half filled.
 void Navigator::SelectControl(std::u16string_view name) {
   const int index = name.empty() ? 0 : FindEntry(*m_Core.controlsCombo, name);
-  Attempt([&] { m_Core.controlsCombo->SetListIndex(index); });
+  BestEffort([&] { m_Core.controlsCombo->SetListIndex(index); });
 }
 
 void Navigator::SelectEvent(std::u16string_view event) {

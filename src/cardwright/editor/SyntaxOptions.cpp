@@ -40,7 +40,7 @@ void AssignFont(Lexipad& pad, Text name, double size) {
 void ReadFont(Lexipad& pad, const EditorSettings& settings) {
   const FontValues now = pad.GetFont()->Values();
   const Text name = settings.Read(kFontNameKey, now.name);
-  const double size = AttemptOr(now.size, [&] {
+  const double size = BestEffortOr(now.size, [&] {
     const Text saved = settings.Read(kFontSizeKey, {});
     return saved.IsEmpty() ? now.size : ToFontSize(ToDouble(Variant(saved)));
   });
@@ -49,12 +49,12 @@ void ReadFont(Lexipad& pad, const EditorSettings& settings) {
 
 void ReadColor(Lexipad& pad, const EditorSettings& settings, std::u16string_view name) {
   const Text now = ToText(GetProperty(pad, name));
-  Attempt([&] { LetProperty(pad, name, Variant(ToLong(Variant(settings.Read(name, now))))); });
+  BestEffort([&] { LetProperty(pad, name, Variant(ToLong(Variant(settings.Read(name, now))))); });
 }
 
 void ReadBold(Lexipad& pad, const EditorSettings& settings, std::u16string_view name) {
   const Text now = FlagText(ToBoolean(GetProperty(pad, name)));
-  Attempt([&] { LetProperty(pad, name, Variant(ToLong(Variant(settings.Read(name, now))) != 0)); });
+  BestEffort([&] { LetProperty(pad, name, Variant(ToLong(Variant(settings.Read(name, now))) != 0)); });
 }
 
 }  // namespace

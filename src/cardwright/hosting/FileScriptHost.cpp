@@ -28,7 +28,7 @@ FileScriptHost::FileScriptHost(const ScriptJob& job, const ScriptLanguage& langu
       m_Engine(language.makeEngine(*this)) {
   m_Signal.emplace(*m_Engine);
   // Called from handlers of the toolkit, which no error may leave. Output that fails is reported at the end.
-  m_Environment.writeLine = [this](const Text& line) { Attempt([&] { m_Streams.out->WriteLine(line); }); };
+  m_Environment.writeLine = [this](const Text& line) { BestEffort([&] { m_Streams.out->WriteLine(line); }); };
   m_Engine->SetTimeout(-1);
   m_Engine->AddObject(u"WScript", MakeRef<WScript>(*this), false);
 }

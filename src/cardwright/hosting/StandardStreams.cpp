@@ -29,8 +29,8 @@ StandardStreams StandardStreams::OfProcess() {
 
 void StandardStreams::WriteErrorLine(std::u16string_view line) const {
   // A closed pipe at the other end must not fail the script.
-  Attempt([&] { out->Flush(); });
-  Attempt([&] { error->WriteLine(Text(line)); });
+  BestEffort([&] { out->Flush(); });
+  BestEffort([&] { error->WriteLine(Text(line)); });
 }
 
 }  // namespace cardwright

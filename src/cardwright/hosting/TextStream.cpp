@@ -44,7 +44,7 @@ TextStream::TextStream(FileHandle file, Access access, TextEncoding encoding, Li
       m_Buffering(buffering) {}
 
 TextStream::~TextStream() {
-  if (m_File.IsOpen()) Attempt([&] { Flush(); });
+  if (m_File.IsOpen()) BestEffort([&] { Flush(); });
 }
 
 const MemberTable& TextStream::Members() const {

@@ -28,7 +28,7 @@ struct CAttributeSelector::Tables {
   static constexpr Field Link{Stored<Member>.get, [](TableControl& c, const Variant& name) {
                                 Stored<Member>.set(c, name);
                                 if (!c.Designer()) return;
-                                Attempt([&] { c.AttachControls(c.Designer()->Controls()); });
+                                BestEffort([&] { c.AttachControls(c.Designer()->Controls()); });
                               }};
   static constexpr Field kThemes = Stored<&CAttributeSelector::m_ThemeSelectorName>;
   static constexpr Field kFeatures = Stored<&CAttributeSelector::m_FeatureSelectorName>;

@@ -99,7 +99,7 @@ Ref<HostWindow> CForm::Host() const {
 
 Text CForm::Caption() const {
   Text caption;
-  const bool known = Attempt([&] {
+  const bool known = BestEffort([&] {
     const Ref<HostWindow> host = Host();
     if (!host) Raise(ErrorNumber::ObjectNotSet);
     caption = host->Caption();
@@ -116,7 +116,7 @@ void CForm::SetCaption(const Text& caption) {
 
 float CForm::HostSize(float (HostWindow::*size)() const, float (FormOwner::*outer)() const) const {
   float value = 0;
-  const bool known = Attempt([&] {
+  const bool known = BestEffort([&] {
     const Ref<HostWindow> host = Host();
     if (!host) Raise(ErrorNumber::ObjectNotSet);
     value = (host.get()->*size)();

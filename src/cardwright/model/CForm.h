@@ -8,7 +8,7 @@ namespace cardwright {
 
 class ProjectReader;
 class ProjectWriter;
-class BestEffort;
+class BestEffortSteps;
 
 /// The root of a form, and its project file: always the first object of its owner's collection. It has no
 /// widget; its size, colours and title are those of its owner and of the owner's host window.
@@ -66,7 +66,7 @@ class CForm final : public TableControl {
   void SetImage(const Variant& picture);
   void RefreshAttributeList();
 
-  void ReadProject(const ProjectReader& project, BestEffort& step);
+  void ReadProject(const ProjectReader& project, BestEffortSteps& step);
   void ReadAppearance(const SectionReader& form);
   void ReadTitle(const SectionReader& form);
   void ReadTheme(const SectionReader& form);

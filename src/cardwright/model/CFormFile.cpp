@@ -3,7 +3,7 @@
 
 #include <filesystem>
 
-#include "cardwright/model/BestEffort.h"
+#include "cardwright/model/BestEffortSteps.h"
 #include "cardwright/model/CForm.h"
 #include "cardwright/model/ControlClasses.h"
 #include "cardwright/model/FileKeys.h"
@@ -43,13 +43,13 @@ bool CForm::Read(const Text& filePath, const Text&) {
   if (!project) return false;
   Module().scriptContent = Text();
   Module().scriptLanguage = Text();
-  BestEffort step;
+  BestEffortSteps step;
   ReadProject(*project, step);
   step([&] { FinishRead(); });
   return step.Result();
 }
 
-void CForm::ReadProject(const ProjectReader& project, BestEffort& step) {
+void CForm::ReadProject(const ProjectReader& project, BestEffortSteps& step) {
   const SectionReader form = project.Section(kForm);
   // What holds if the key cannot be read as a number.
   step([&] { Module().formScaleMode = ScaleMode::Twips; });
@@ -65,7 +65,7 @@ void CForm::ReadProject(const ProjectReader& project, BestEffort& step) {
   step([&] { m_Image = project.Image(); });
   std::int16_t count = 0;
   step([&] { count = ToInteger(Variant(ReadNumber(form, u"ControlsNumber", Variant(u"0")))); });
-  for (int i = 1; i <= count; ++i) Attempt([&] { ReadControl(project.Section(ControlSection(i)), i); });
+  for (int i = 1; i <= count; ++i) BestEffort([&] { ReadControl(project.Section(ControlSection(i)), i); });
   step([&] { ReadStacking(project.Section(kStacking)); });
   step([&] {
     ProjectScript script = project.Script();
@@ -77,22 +77,22 @@ void CForm::ReadProject(const ProjectReader& project, BestEffort& step) {
 void CForm::ReadAppearance(const SectionReader& form) {
   Surface& surface = Canvas();
   if (Designer()) {
-    Attempt([&] { Designer()->ApplyScaleAndGrid(); });
+    BestEffort([&] { Designer()->ApplyScaleAndGrid(); });
     Designer()->SuspendEvents(true);
   } else {
-    Attempt([&] { surface.SetScale(Module().formScaleMode); });
+    BestEffort([&] { surface.SetScale(Module().formScaleMode); });
   }
-  Attempt([&] { SetBackColor(ToLong(form.GetValue(u"BackColor", Variant(surface.BackColor())))); });
-  Attempt([&] {
+  BestEffort([&] { SetBackColor(ToLong(form.GetValue(u"BackColor", Variant(surface.BackColor())))); });
+  BestEffort([&] {
     const Ref<Font> font = surface.GetFont();
     font->Assign(ReadFontKeys(font->Values(), form));
   });
-  Attempt([&] {
+  BestEffort([&] {
     const double width = ReadNumber(form, u"Width", Variant(Width()));
     const double height = ReadNumber(form, u"Height", Variant(Height()));
     Owner()->SetOuterSize(ToSingle(Variant(width)), ToSingle(Variant(height)));
   });
-  Attempt([&] { ReadTitle(form); });
+  BestEffort([&] { ReadTitle(form); });
   if (!Designer()) return;
   Designer()->SuspendEvents(false);
   const ScaleMode scale = surface.Scale();
@@ -103,7 +103,7 @@ void CForm::ReadAppearance(const SectionReader& form) {
 // the host.
 void CForm::ReadTitle(const SectionReader& form) {
   const Text title = ToText(form.GetValue(u"Text", Variant(Caption())));
-  const bool shown = Attempt([&] {
+  const bool shown = BestEffort([&] {
     const Ref<HostWindow> host = Host();
     if (!host) Raise(ErrorNumber::ObjectNotSet);
     host->SetCaption(title);
@@ -130,9 +130,9 @@ void CForm::ReadControl(const SectionReader& section, int number) {
   if (!widget) return;
 
   const Ref<Control> control = controlClass->create();
-  Attempt([&] { control->BindObject(widget); });
-  Attempt([&] { control->SetParentForm(ParentForm()); });
-  Attempt([&] { control->SetName(widget->Name()); });
+  BestEffort([&] { control->BindObject(widget); });
+  BestEffort([&] { control->SetParentForm(ParentForm()); });
+  BestEffort([&] { control->SetName(widget->Name()); });
   if (control->ReadFrom(section))
     Elements().Add(Variant(Ref<Object>(control)), Variant(ToLower(control->UserName())));
 }
@@ -142,7 +142,7 @@ void CForm::ReadStacking(const SectionReader& stacking) {
   for (const Text& name : stacking.Keys()) {
     const Ref<IControl> control(FindControl(Elements(), name));
     if (!control) continue;
-    Attempt([&] {
+    BestEffort([&] {
       const auto position = ToInteger(Variant(Val(ToText(stacking.GetValue(name, Variant(u"0"))))));
       control->SetZOrder(position);
       // A widget knows two positions only and stays where it is for any other.
@@ -156,7 +156,7 @@ void CForm::ReadStacking(const SectionReader& stacking) {
 void CForm::FinishRead() {
   if (Input()) {
     for (const Ref<IControl>& control : ControlsOf(Elements()))
-      Attempt([&] { control->AttachControls(Elements()); });
+      BestEffort([&] { control->AttachControls(Elements()); });
     if (Input()) Input()->LayOut();
   }
   if (Designer()) Designer()->RaiseRefreshPropertyList();
@@ -165,7 +165,7 @@ void CForm::FinishRead() {
 bool CForm::SaveProject(const Text& filePath, bool isTemporary) {
   const Text folder = GetParentFolderName(filePath);
   if (!Owner() || (!folder.IsEmpty() && !FolderExists(folder))) return false;
-  BestEffort step;
+  BestEffortSteps step;
   step([&] {
     if (Elements().Count() <= 1) {
       std::error_code ignored;
@@ -181,32 +181,32 @@ bool CForm::SaveProject(const Text& filePath, bool isTemporary) {
 
 void CForm::WriteProject(ProjectWriter& project) const {
   SectionWriter form = project.Section(kForm);
-  Attempt([&] { WriteSettings(form); });
-  if (Designer()) Attempt([&] { project.WriteImage(m_Image.get()); });
+  BestEffort([&] { WriteSettings(form); });
+  if (Designer()) BestEffort([&] { project.WriteImage(m_Image.get()); });
   const std::vector<Ref<IControl>> controls = ControlsOf(Elements());
-  Attempt([&] { form.Write(u"ControlsNumber", Variant(static_cast<std::int32_t>(controls.size()) - 1)); });
+  BestEffort([&] { form.Write(u"ControlsNumber", Variant(static_cast<std::int32_t>(controls.size()) - 1)); });
   for (std::size_t i = 1; i < controls.size(); ++i) {
     SectionWriter section = project.Section(ControlSection(static_cast<std::int32_t>(i)));
-    Attempt([&] { controls[i]->SaveTo(section); });
+    BestEffort([&] { controls[i]->SaveTo(section); });
   }
   SectionWriter stacking = project.Section(kStacking);
-  if (Designer()) Attempt([&] { WriteStacking(stacking); });
-  Attempt(
+  if (Designer()) BestEffort([&] { WriteStacking(stacking); });
+  BestEffort(
       [&] { project.WriteScript({.language = Module().scriptLanguage, .content = Module().scriptContent}); });
 }
 
 void CForm::WriteSettings(SectionWriter& form) const {
   const Surface& surface = Canvas();
-  Attempt([&] { form.Write(u"ScaleMode", Variant(static_cast<std::int32_t>(Module().formScaleMode))); });
-  Attempt([&] { form.Write(u"BackColor", Variant(surface.BackColor())); });
-  Attempt([&] { WriteFontKeys(surface.GetFont()->Values(), form); });
-  Attempt([&] { form.Write(u"Text", Variant(Caption())); });
-  Attempt([&] { form.Write(u"Width", Variant(Width())); });
-  Attempt([&] { form.Write(u"Height", Variant(Height())); });
-  Attempt([&] { form.Write(u"ThemeName", Variant(m_ThemeName)); });
-  Attempt([&] { form.Write(u"FeatureType", Variant(m_FeatureType)); });
-  Attempt([&] { form.Write(u"StartMode", Variant(m_StartMode)); });
-  Attempt([&] { form.Write(u"ShowMenu", Variant(m_ShowMenu)); });
+  BestEffort([&] { form.Write(u"ScaleMode", Variant(static_cast<std::int32_t>(Module().formScaleMode))); });
+  BestEffort([&] { form.Write(u"BackColor", Variant(surface.BackColor())); });
+  BestEffort([&] { WriteFontKeys(surface.GetFont()->Values(), form); });
+  BestEffort([&] { form.Write(u"Text", Variant(Caption())); });
+  BestEffort([&] { form.Write(u"Width", Variant(Width())); });
+  BestEffort([&] { form.Write(u"Height", Variant(Height())); });
+  BestEffort([&] { form.Write(u"ThemeName", Variant(m_ThemeName)); });
+  BestEffort([&] { form.Write(u"FeatureType", Variant(m_FeatureType)); });
+  BestEffort([&] { form.Write(u"StartMode", Variant(m_StartMode)); });
+  BestEffort([&] { form.Write(u"ShowMenu", Variant(m_ShowMenu)); });
 }
 
 void CForm::WriteStacking(SectionWriter& stacking) const {

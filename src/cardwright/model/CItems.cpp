@@ -26,7 +26,7 @@ const MemberTable& CItems::Members() const {
 }
 
 Ref<CItem> CItems::Item(const Variant& index) const {
-  return AttemptOr(Ref<CItem>(), [&] {
+  return BestEffortOr(Ref<CItem>(), [&] {
     Variant found = m_Items->Item(index);
     return FromVariant<Ref<CItem>>(found);
   });
@@ -34,12 +34,12 @@ Ref<CItem> CItems::Item(const Variant& index) const {
 
 bool CItems::Add(Ref<CItem> item, std::optional<Variant> before) {
   ++m_LastKey;
-  return Attempt(
+  return BestEffort(
       [&] { m_Items->Add(Variant(item), Variant(ItemKey(u"Item_", m_LastKey)), std::move(before)); });
 }
 
 bool CItems::Remove(const Variant& index) {
-  Attempt([&] { m_Items->Remove(index); });
+  BestEffort([&] { m_Items->Remove(index); });
   return true;
 }
 

@@ -140,7 +140,7 @@ void CListBox::FinishRead(const SectionReader& section) {
     FillWidget();
   }
   // Fails for a list narrower than the margin.
-  Attempt([&] { FitColumn(Input() ? kColumnMargin : 0, Module().formScaleMode); });
+  BestEffort([&] { FitColumn(Input() ? kColumnMargin : 0, Module().formScaleMode); });
   if (!Input() || m_Text.IsEmpty()) return;
   SelectStoredText();
   const int selected = View().SelectedRow();

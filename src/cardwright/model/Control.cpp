@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "cardwright/model/Control.h"
 
-#include "cardwright/model/BestEffort.h"
+#include "cardwright/model/BestEffortSteps.h"
 #include "cardwright/model/FileKeys.h"
 #include "cardwright/platform/Files.h"
 #include "cardwright/shared/ModuleState.h"
@@ -87,7 +87,7 @@ bool Control::Read(const Text& filePath, const Text& sectionName) {
 
 bool Control::ReadFrom(const SectionReader& section) {
   if (!m_Obj) return false;
-  BestEffort step;
+  BestEffortSteps step;
   for (const FileKey& key : Table().keys) step([&] { ReadKey(*this, key, section); });
   step([&] {
     auto stored = section.Find(u"UserName");
@@ -112,13 +112,13 @@ bool Control::SaveTo(SectionWriter& section) const {
   // What was in a frame inside a deleted frame stays among the controls; without its widget there is nothing
   // to save.
   Text name;
-  if (!Attempt([&] { name = m_Obj->Name(); })) return false;
-  BestEffort step;
+  if (!BestEffort([&] { name = m_Obj->Name(); })) return false;
+  BestEffortSteps step;
   step([&] { section.Write(u"Type", Table().typeText); });
   step([&] { section.Write(u"Name", name); });
   step([&] { section.Write(u"UserName", m_UserName); });
   for (const FileKey& key : Table().keys) step([&] { WriteKey(*this, key, section); });
-  step([&] { section.Write(u"Container", AttemptOr(Text(), [&] { return ContainerName(*m_Obj); })); });
+  step([&] { section.Write(u"Container", BestEffortOr(Text(), [&] { return ContainerName(*m_Obj); })); });
   return step.Result();
 }
 
@@ -173,9 +173,9 @@ void Control::SelectInDesigner() {
 void Control::OpenDesignerMenu() {
   if (!HasOwnMenu()) return Designer()->OpenControlMenu(*this);
   const Ref<Widget> widget = m_Obj;
-  Attempt([&] { widget->SetEnabled(false); });
-  Attempt([&] { Designer()->OpenControlMenu(*this); });
-  Attempt([&] { widget->SetEnabled(true); });
+  BestEffort([&] { widget->SetEnabled(false); });
+  BestEffort([&] { Designer()->OpenControlMenu(*this); });
+  BestEffort([&] { widget->SetEnabled(true); });
 }
 
 Ref<Widget> BoundWidget(const IControl& control) {
@@ -183,7 +183,7 @@ Ref<Widget> BoundWidget(const IControl& control) {
 }
 
 bool FlagIsSet(const Text& flag) noexcept {
-  return AttemptOr(false, [&] { return ToBoolean(Variant(flag)); });
+  return BestEffortOr(false, [&] { return ToBoolean(Variant(flag)); });
 }
 
 }  // namespace cardwright

@@ -55,7 +55,7 @@ void WriteKey(const TableControl& control, const FileKey& key, SectionWriter& se
 FontValues ReadFontKeys(const FontValues& current, const SectionReader& section) {
   FontValues font = current;
   auto read = [&](std::u16string_view key, auto& member, auto convert) {
-    Attempt([&] { member = convert(ReadValue(section, key, [&] { return Variant(member); })); });
+    BestEffort([&] { member = convert(ReadValue(section, key, [&] { return Variant(member); })); });
   };
   read(u"FontName", font.name, [](const Variant& value) { return ToText(value); });
   read(u"FontSize", font.size, [](const Variant& value) { return ToFontSize(Val(ToText(value))); });

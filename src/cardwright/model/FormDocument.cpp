@@ -24,7 +24,7 @@ bool FormDocument::Read(const Text& fileName) const {
 }
 
 bool FormDocument::Save(const Text& fileName, bool isTemporary) const {
-  return AttemptOr(false, [&] {
+  return BestEffortOr(false, [&] {
     const Ref<IControl> first = Form();
     auto* form = dynamic_cast<CForm*>(first.get());
     return form ? form->SaveProject(fileName, isTemporary) : first && first->Save(fileName, {});
@@ -46,7 +46,7 @@ void FormDocument::Detach(Surface* surface) const {
   for (const Ref<IControl>& control : ControlsOf(*m_Controls)) {
     auto* table = dynamic_cast<TableControl*>(control.get());
     if (!table) continue;
-    if (surface && dynamic_cast<Control*>(table)) Attempt([&] { surface->Remove(control->Name()); });
+    if (surface && dynamic_cast<Control*>(table)) BestEffort([&] { surface->Remove(control->Name()); });
     table->ForgetOwner();
   }
 }

@@ -26,7 +26,7 @@ void HostListControl::Select(const Text& text) {
 void HostListControl::SelectText(TableControl& control, const Variant& text) {
   auto& self = As<HostListControl>(control);
   const Text wanted = ToText(text);
-  if (self.Designer() && BoundAs<HostListWidget>(self).ListCount() == 0) Attempt([&] { self.FillList(); });
+  if (self.Designer() && BoundAs<HostListWidget>(self).ListCount() == 0) BestEffort([&] { self.FillList(); });
   self.m_PendingText = Text();
   self.Select(wanted);
 }
@@ -51,8 +51,8 @@ void HostListControl::OnClick() {
 }
 
 void HostListControl::FinishRead(const SectionReader& section) {
-  Attempt([&] { FillList(); });
-  Attempt([&] {
+  BestEffort([&] { FillList(); });
+  BestEffort([&] {
     const auto stored = section.Find(u"Text");
     const Text wanted = stored ? ToText(*stored) : Bound()->DisplayText();
     Select(wanted);

@@ -31,11 +31,11 @@ bool RenameControl(Collection& controls, const Ref<Object>& object, const Text& 
   if (holder && holder != control.get()) return false;
   const Text oldName = control->UserName();
   // If the collection refuses the new key, the control keeps its old name.
-  if (!Attempt([&] { RenameInCollection(controls, *control, newName); })) return false;
-  Attempt([&] { control->SetName(newName); });
-  Attempt([&] { renamed(oldName, *control); });
+  if (!BestEffort([&] { RenameInCollection(controls, *control, newName); })) return false;
+  BestEffort([&] { control->SetName(newName); });
+  BestEffort([&] { renamed(oldName, *control); });
   for (const Ref<IControl>& other : ControlsOf(controls))
-    Attempt([&] { other->LinkControlNameChanged(oldName, newName); });
+    BestEffort([&] { other->LinkControlNameChanged(oldName, newName); });
   return true;
 }
 

@@ -18,7 +18,7 @@ Text StateControl::ReadSelected() const {
 // A text that is no boolean is stored, but does not change the widget.
 void StateControl::ApplySelected(const Text& selected) {
   m_Selected = Trim(selected).empty() ? Text(u"False") : selected;
-  Attempt([&] { Box().SetState(ToBoolean(Variant(m_Selected)) ? 1 : 0); });
+  BestEffort([&] { Box().SetState(ToBoolean(Variant(m_Selected)) ? 1 : 0); });
 }
 
 Variant StateControl::GetSelected(const TableControl& control) {

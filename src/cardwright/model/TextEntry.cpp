@@ -14,7 +14,7 @@ void TextEntry::OnGotFocus() {
 
 void TextEntry::LimitInput(std::int32_t maxLength, InputTypeEnum type) {
   if (!Bound()) return;
-  if (LimitsLength()) Attempt([&] { static_cast<TextWidget*>(Bound())->SetMaxLength(maxLength); });
+  if (LimitsLength()) BestEffort([&] { static_cast<TextWidget*>(Bound())->SetMaxLength(maxLength); });
   Bound()->SetTag(ToText(Variant(static_cast<std::int32_t>(type))));
 }
 

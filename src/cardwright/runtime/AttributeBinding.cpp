@@ -54,7 +54,7 @@ class DeferredValues {
   }
   void Show() const {
     for (const Entry& each : m_Values)
-      Attempt([&] {
+      BestEffort([&] {
         if (!EqualsNoCase(each.control->DisplayText(), each.value))
           each.control->SetRow(u"Text", Variant(each.value));
       });
@@ -74,7 +74,7 @@ void StoreControls(OrvClient& host, const Collection& controls, const FeatureCla
   // the first one. Existing projects depend on it, as they would store other values otherwise.
   Text value;
   ForEachBound(controls, attribs, [&](Control& control, const AttributeRecord& attribute) {
-    if (AttemptOr(false, [&] { return control.TakeValue(value); }))
+    if (BestEffortOr(false, [&] { return control.TakeValue(value); }))
       host.SetAttribute(features, attribute, value);
   });
 }
@@ -107,10 +107,10 @@ void AttributeBinding::LoadControls(OrvClient& host, const Collection& controls,
   const Ref<CAttribs> attribs = AttributesOf(host, feature.features);
   DeferredValues deferred;
   ForEachBound(controls, *attribs, [&](Control& control, const AttributeRecord& attribute) {
-    Attempt([&] { control.LimitInput(attribute.length, InputTypeOf(attribute)); });
+    BestEffort([&] { control.LimitInput(attribute.length, InputTypeOf(attribute)); });
     if (!hasValues) return;
     const Text value = host.GetAttribute(feature.features, attribute.name);
-    Attempt([&] { control.ShowValue(attribute.name, value); });
+    BestEffort([&] { control.ShowValue(attribute.name, value); });
     deferred.Add(control, value);
   });
   deferred.Show();

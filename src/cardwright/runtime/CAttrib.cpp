@@ -44,7 +44,7 @@ const MemberTable& CAttribs::Members() const {
 }
 
 Ref<CAttrib> CAttribs::Item(const Variant& index) const {
-  return AttemptOr(Ref<CAttrib>(), [&] {
+  return BestEffortOr(Ref<CAttrib>(), [&] {
     Variant found = m_Attribs->Item(index);
     return FromVariant<Ref<CAttrib>>(found);
   });
@@ -56,7 +56,7 @@ CAttrib* CAttribs::Find(std::u16string_view name) const noexcept {
 }
 
 void CAttribs::Add(Ref<CAttrib> attrib) {
-  Attempt([&] { m_Attribs->Add(Variant(attrib), Variant(attrib->Record().name)); });
+  BestEffort([&] { m_Attribs->Add(Variant(attrib), Variant(attrib->Record().name)); });
 }
 
 }  // namespace cardwright

@@ -10,7 +10,7 @@ namespace {
 
 void Print(const Text& text) {
   if (const Ref<Object> output = Module().debugOutput)
-    Attempt([&] { LetProperty(*output, u"SelText", Variant(text)); });
+    BestEffort([&] { LetProperty(*output, u"SelText", Variant(text)); });
 }
 
 Text DebugRule() { return Text(std::u16string(100, u'-')); }

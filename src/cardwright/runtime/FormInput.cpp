@@ -119,10 +119,10 @@ Ref<IControl> FormInput::FirstMissing() const {
   for (const Ref<IControl>& control : ControlsOf(*ControlCollection())) {
     // Only this spelling counts: a form in use that has another one has never required the value.
     const bool needed =
-        AttemptOr(false, [&] { return ToText(control->PropertyValue(u"IsNeeded")) == u"True"; });
+        BestEffortOr(false, [&] { return ToText(control->PropertyValue(u"IsNeeded")) == u"True"; });
     if (!needed) continue;
     if (auto* bound = dynamic_cast<Control*>(control.get()))
-      Attempt([&] { bound->TakeRequiredValue(value); });
+      BestEffort([&] { bound->TakeRequiredValue(value); });
     if (value.IsEmpty()) return control;
   }
   return nullptr;
@@ -134,7 +134,8 @@ void FormInput::ReportMissing(IControl& control) {
                                            : GetMessage(messages::AttributeMissing, {Variant(attribute)});
   if (Module().desktop)
     Module().desktop->ShowMessage(message, BoxStyle::Exclamation, GetMessage(messages::Warning));
-  if (auto* widget = dynamic_cast<Widget*>(control.BoundObject().get())) Attempt([&] { widget->SetFocus(); });
+  if (auto* widget = dynamic_cast<Widget*>(control.BoundObject().get()))
+    BestEffort([&] { widget->SetFocus(); });
 }
 
 namespace {

@@ -10,8 +10,8 @@ RedrawPause::RedrawPause(OrvClient host, End end) : m_Host(std::move(host)), m_E
 }
 
 RedrawPause::~RedrawPause() {
-  Attempt([&] { m_Host.ResumeRedraw(); });
-  if (m_End == End::Redraw) Attempt([&] { m_Host.Redraw(); });
+  BestEffort([&] { m_Host.ResumeRedraw(); });
+  if (m_End == End::Redraw) BestEffort([&] { m_Host.Redraw(); });
 }
 
 }  // namespace cardwright

@@ -90,8 +90,8 @@ Vellum::~Vellum() {
   module.attachedEditor = nullptr;
   SharedHost().SetEditor(nullptr);
   if (const Ref<ScriptControl> engine = module.scriptControl) {
-    Attempt([&] { engine->SetSiteWindow(0); });
-    if (!engine->Language().IsEmpty()) Attempt([&] { engine->Reset(); });
+    BestEffort([&] { engine->SetSiteWindow(0); });
+    if (!engine->Language().IsEmpty()) BestEffort([&] { engine->Reset(); });
   }
   module.scriptControl = nullptr;
   module.formControlsObject = nullptr;

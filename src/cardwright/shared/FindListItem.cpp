@@ -53,7 +53,7 @@ std::optional<int> FindByText(const Rows& rows, std::u16string_view text, const 
 
 template <class Rows>
 int Find(const Rows& rows, std::u16string_view text, const ListSearch& search) {
-  return AttemptOr(search.notFound, [&] {
+  return BestEffortOr(search.notFound, [&] {
     const auto row = search.byItemData ? FindByItemData(rows, text) : FindByText(rows, text, search);
     return row.value_or(search.notFound);
   });

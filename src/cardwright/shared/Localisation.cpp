@@ -42,7 +42,7 @@ void TranslateButton(Object& button) {
     const std::u16string_view key = position > 0 ? rest.substr(0, position - 1) : std::u16string_view();
     const bool isTooltip = EqualsNoCase(Trim(key), u"tooltip");
     rest = MidFrom(tag, position + 1);
-    Attempt(
+    BestEffort(
         [&] { LetProperty(button, isTooltip ? u"TooltipText" : u"Caption", GetMessage(NumberIn(rest))); });
     position = InStr(position + 1, rest, u';');
   } while (position > 0);
@@ -52,7 +52,7 @@ void TranslateToolbar(Object& toolbar) {
   const Variant buttons = GetProperty(toolbar, u"Buttons");
   const auto each = RequireObject(buttons).Enumerate();
   for (Variant button; each->Next(button);) {
-    Attempt([&] { TranslateButton(RequireObject(button)); });
+    BestEffort([&] { TranslateButton(RequireObject(button)); });
   }
 }
 
@@ -101,7 +101,7 @@ std::int32_t ParseCaptionTag(Object& widget, Text& param) {
 
 void TranslateControls(std::span<const Ref<Object>> widgets) {
   for (const Ref<Object>& widget : widgets) {
-    Attempt([&] {
+    BestEffort([&] {
       if (widget) TranslateControl(*widget);
     });
   }

@@ -38,7 +38,7 @@ std::optional<std::size_t> RowOf(std::span<const std::u16string_view> names, std
 std::int16_t PropertyIndexOf(std::span<const std::u16string_view> names, const Variant& index,
                              std::u16string_view hidden) {
   constexpr std::int16_t kNotFound = -1;
-  return AttemptOr(kNotFound, [&]() -> std::int16_t {
+  return BestEffortOr(kNotFound, [&]() -> std::int16_t {
     if (IsNumeric(index)) return ToInteger(index);
     const auto row = RowOf(names, hidden, ToText(index));
     return row ? static_cast<std::int16_t>(*row) : kNotFound;
@@ -47,7 +47,7 @@ std::int16_t PropertyIndexOf(std::span<const std::u16string_view> names, const V
 
 Text PropertyNameOf(std::span<const std::u16string_view> names, const Variant& index,
                     std::u16string_view hidden) {
-  return AttemptOr(Text(), [&]() -> Text {
+  return BestEffortOr(Text(), [&]() -> Text {
     if (!IsNumeric(index)) {
       const Text name = ToText(index);
       return RowOf(names, hidden, name) ? ToLower(name) : Text();
@@ -61,7 +61,7 @@ Text PropertyNameOf(std::span<const std::u16string_view> names, const Variant& i
 }
 
 Ref<Widget> ControlByName(const Surface& surface, std::u16string_view name) {
-  return AttemptOr(Ref<Widget>(), [&] { return surface.Find(name); });
+  return BestEffortOr(Ref<Widget>(), [&] { return surface.Find(name); });
 }
 
 }  // namespace cardwright

@@ -35,7 +35,7 @@ Text InBars(const FeatureClass& features) {
 std::int32_t NumberInField(std::u16string_view field) {
   const auto isDigit = [](char16_t c) { return c >= u'0' && c <= u'9'; };
   if (field.size() > 9 || !std::ranges::all_of(field, isDigit))
-    return AttemptOr(0, [&] { return ToLong(Variant(Val(field))); });
+    return BestEffortOr(0, [&] { return ToLong(Variant(Val(field))); });
   std::int32_t number = 0;
   for (const char16_t digit : field) number = number * 10 + (digit - u'0');
   return number;

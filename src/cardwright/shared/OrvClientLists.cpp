@@ -64,7 +64,7 @@ std::vector<ListedTheme> OrvClient::ListThemes() {
   if (reply.IsEmpty()) return themes;
   ReplyParts names(reply);
   // Names are listed even by a host that does not know this request and fails it.
-  ReplyParts types(AttemptOr(Text(), [&] { return m_Host->Request(u"THEME_FEATURE_TYPES"); }));
+  ReplyParts types(BestEffortOr(Text(), [&] { return m_Host->Request(u"THEME_FEATURE_TYPES"); }));
   ForEachName(
       names,
       [&](std::u16string_view name, int) {

@@ -9,7 +9,7 @@ namespace cardwright {
 void ShowScreenKeyboard() {
   const ModuleState& module = Module();
   if (!module.enableScreenKeyboard || !module.desktop) return;
-  Attempt([&] {
+  BestEffort([&] {
     Desktop& desktop = *module.desktop;
     desktop.Start(desktop.Settings().Get(u"Cardwright", u"ScreenKeyboard", u"Command", u"onboard"));
   });

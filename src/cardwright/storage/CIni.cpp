@@ -59,7 +59,7 @@ Text CIni::GetText(std::u16string_view section, std::u16string_view key, std::u1
 
 void CIni::WriteValue(const Text& section, const Text& key, const Variant& value) {
   // Saving a form must go on past a value that cannot be written, so nothing leaves this step.
-  Attempt([&] {
+  BestEffort([&] {
     RequireFile();
     const Variant& held = value.Deref();
     if (key.IsEmpty() || held.IsEmpty()) Raise(ErrorNumber::InvalidCall);

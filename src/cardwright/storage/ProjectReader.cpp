@@ -50,7 +50,7 @@ Ref<Picture> ProjectReader::Image() const {
   const SectionReader section = Section(kImageSection);
   std::vector<OleColor> colors;
   std::int64_t sum = 0;
-  const bool isRead = Attempt([&] {
+  const bool isRead = BestEffort([&] {
     for (std::size_t i = 0; i < kImageSize * kImageSize; ++i) {
       colors.push_back(ToLong(Val(section.GetText(PixelKey(i), u"-1"))));
       sum += colors.back();

@@ -53,7 +53,7 @@ bool ProjectWriter::Commit(Durability durability) {
 }
 
 void SectionWriter::Write(std::u16string_view key, const Variant& value) {
-  Attempt([&] {
+  BestEffort([&] {
     const Variant& held = value.Deref();
     if (!key.empty() && !held.IsEmpty())
       m_Project.m_IsChanged |= m_Project.m_File.Set(m_Name, key, StoredIniText(held));

@@ -109,7 +109,7 @@ template <class Call>
 void QtCompletionList::NotifyList(Call&& call) {
   if (!m_ListListener) return;
   const HandlerScope scope(*this);
-  Attempt([&] { call(*m_ListListener); });
+  BestEffort([&] { call(*m_ListListener); });
 }
 
 Text QtCompletionList::TypeName() const { return kCompletionList.typeName; }

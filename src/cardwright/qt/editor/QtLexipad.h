@@ -90,7 +90,7 @@ class QtLexipad final : public QtWidget<Lexipad> {
   void NotifyPad(Call&& call) {
     if (!m_PadListener) return;
     const HandlerScope scope(*this);
-    Attempt([&] { call(*m_PadListener); });
+    BestEffort([&] { call(*m_PadListener); });
   }
   void BeginEvents() { ++m_EventDepth; }
   void EndEvents();

@@ -65,7 +65,7 @@ void QtAttributeSelector::LinkFeatureSelector(Ref<ComboWidget> types) {
 /// A host that fails its request must not unwind the toolkit's event loop; the list then stays.
 void QtAttributeSelector::Follow(QMetaObject::Connection& link, const ChoiceNotice& choice) {
   link = QObject::connect(&choice, &ChoiceNotice::Changed, this,
-                          [this] { Attempt([&] { RefreshAttributes(); }); });
+                          [this] { BestEffort([&] { RefreshAttributes(); }); });
 }
 
 /// An entry of the combo box beyond the third is no feature type.
@@ -92,7 +92,7 @@ void QtAttributeSelector::RefreshAttributes() {
 
 QString QtAttributeSelector::Describe(const ListEntry& entry) const {
   QString text;
-  Attempt([&] {
+  BestEffort([&] {
     const auto attribute = OrvClient::At(ConnectionHandle()).Describe(m_Listed, {entry.name, entry.data});
     if (attribute) text = TypeText(*attribute);
   });

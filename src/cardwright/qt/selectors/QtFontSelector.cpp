@@ -98,7 +98,7 @@ void QtFontSelector::FollowFont() {
 }
 
 void QtFontSelector::RunDialog() {
-  Attempt([&] {
+  BestEffort([&] {
     const auto chosen = ChooseFont(*m_Box, ToQString(m_Title), m_Font->Values());
     const Ref<Font> font = m_Font;
     if (Native() && chosen) font->Assign(*chosen);

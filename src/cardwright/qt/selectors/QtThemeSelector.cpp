@@ -58,11 +58,11 @@ void QtThemeSelector::CreateNewTheme() {
   });
   if (!plan || !Native()) return;
   bool isCreated = false;
-  Attempt([&] {
+  BestEffort([&] {
     isCreated = OrvClient::At(ConnectionHandle()).CreateTheme({plan->name, plan->featureType});
   });
   if (!isCreated || !Native()) return;
-  Attempt([&] { RefreshThemes(); });
+  BestEffort([&] { RefreshThemes(); });
   if (!Native()) return;
   const int index = List().Find(plan->name);
   if (index < 0) return;

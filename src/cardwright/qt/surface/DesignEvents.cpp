@@ -40,7 +40,7 @@ bool QtDesignSurface::Notify(Call&& call) {
   if (!m_Listener) return true;
   const QPointer<QObject> self(this);
   const SurfaceState::Handling handling(*m_State);
-  Attempt([&] { call(*m_Listener); });
+  BestEffort([&] { call(*m_Listener); });
   return !self.isNull();
 }
 
@@ -162,7 +162,7 @@ void QtDesignSurface::AwaitFrame(int tries) {
   const auto less = [this](float size, float part) {
     return std::max(size - PixelsToScale(part, Scale()), 0.0F);
   };
-  Attempt([&] { Resize(less(Width(), frame.width), less(Height(), frame.height)); });
+  BestEffort([&] { Resize(less(Width(), frame.width), less(Height(), frame.height)); });
 }
 
 bool QtDesignSurface::IsFramed() const {

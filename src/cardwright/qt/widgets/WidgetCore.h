@@ -85,7 +85,7 @@ class WidgetCore : public QObject, private Font::User {
   void Notify(Call&& call) {
     if (!m_Listener) return;
     const HandlerScope scope(*this);
-    Attempt([&] { call(*m_Listener); });
+    BestEffort([&] { call(*m_Listener); });
   }
   void NotifyClick() {
     Notify([](WidgetListener& listener) { listener.OnClick(); });

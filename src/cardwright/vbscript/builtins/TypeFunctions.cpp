@@ -12,7 +12,7 @@ namespace {
 // The default value of an object, or the object itself where it has none or where the value needs arguments.
 Variant ValueOf(const Variant& value) {
   if (!value.IsObject() || !value.ObjectPtr()) return value;
-  return AttemptOr(value, [&] { return DefaultValue(value); });
+  return BestEffortOr(value, [&] { return DefaultValue(value); });
 }
 
 std::u16string_view TypeNameOf(VarType type) noexcept {

@@ -6,7 +6,7 @@
 namespace cardwright {
 
 /// Runs the steps of a routine that continues after failures: a numbered error ends only its own step.
-class BestEffort {
+class BestEffortSteps {
  public:
   template <class Step>
   void operator()(Step&& step) {
