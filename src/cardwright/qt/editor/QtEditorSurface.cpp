@@ -113,7 +113,13 @@ QtEditorSurface::QtEditorSurface(QWidget& canvas, std::function<bool()> isRunnin
   connect(qApp, &QApplication::focusChanged, this, &QtEditorSurface::OnFocusMoved);
 }
 
+// The widgets go after this, and what their end sets off must not come back here.
 QtEditorSurface::~QtEditorSurface() {
+  disconnect(qApp, nullptr, this, nullptr);
+  if (QWidget* const canvas = Native()) canvas->removeEventFilter(this);
+  if (QWidget* const popup = m_Popup->Native()) popup->removeEventFilter(this);
+  m_Timer.stop();
+  m_Listener = nullptr;
   delete m_Find.data();
   delete m_Description.data();
 }
