@@ -58,9 +58,13 @@ TEST_P(Scripts, PrintTheExpectedOutput) {
   const std::string expected = Expected(ReadAll(GetParam().string()));
   ASSERT_NE(expected, "") << "the script has no expectations";
   Outcome outcome = RunBesideTheExample(GetParam());
-  // Sometimes the leak checker itself fails at the end, when it stops all threads.
-  if (outcome.err.find("LeakSanitizer has encountered a fatal error") != std::string::npos)
+  // For some layouts of the heap the leak checker of GCC 12 misreads the thread-local storage of a module
+  // that was loaded late, and crashes itself. The script then runs again without it.
+  if (outcome.err.find("LeakSanitizer has encountered a fatal error") != std::string::npos) {
+    ::setenv("ASAN_OPTIONS", "detect_leaks=0", 1);
     outcome = RunBesideTheExample(GetParam());
+    ::unsetenv("ASAN_OPTIONS");
+  }
   EXPECT_EQ(outcome.out, expected);
   EXPECT_EQ(outcome.err, "");
   EXPECT_EQ(outcome.status, 0);
