@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "workbench/panes/Icons.h"
 
-#include <QPainterPath>
-
 #include "cardwright/qt/values/IconEngine.h"
 
 namespace cardwright::workbench {
@@ -42,22 +40,6 @@ void Page(const IconInk& ink) {
   Field(ink, 3, 1.5, 10, 13);
   Line(ink, {{5.5, 5}, {10.5, 5}});
 }
-void Turn(const IconInk& ink, bool back) {
-  ink.painter.save();
-  if (!back) {
-    ink.painter.translate(16, 0);
-    ink.painter.scale(-1, 1);
-  }
-  QPainterPath path(QPointF(3, 6));
-  path.lineTo(9.5, 6);
-  path.cubicTo(14.5, 6, 14.5, 13, 9.5, 13);
-  path.lineTo(6, 13);
-  ink.painter.drawPath(path);
-  ink.Accent();
-  Line(ink, {{6, 2.8}, {2.8, 6}, {6, 9.2}});
-  ink.painter.restore();
-}
-
 struct SignDrawing {
   Sign sign;
   IconEngine::Draw draw;
@@ -89,8 +71,8 @@ constexpr SignDrawing kSigns[] = {
        ink.Accent();
        Box(ink, 4.5, 9, 7, 5);
      }},
-    {Sign::Undo, [](const IconInk& ink) { Turn(ink, true); }},
-    {Sign::Redo, [](const IconInk& ink) { Turn(ink, false); }},
+    {Sign::Undo, [](const IconInk& ink) { ink.DrawTurn(true); }},
+    {Sign::Redo, [](const IconInk& ink) { ink.DrawTurn(false); }},
     {Sign::Cut,
      [](const IconInk& ink) {
        Line(ink, {{4, 1.5}, {10.2, 10.6}});

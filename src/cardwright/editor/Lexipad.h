@@ -118,7 +118,7 @@ class Lexipad : public Widget {
   virtual std::int32_t LineFromChar(std::int32_t position) const = 0;
   /// Length of the line at a position, without its end.
   virtual std::int32_t LineLength(std::int32_t position) const = 0;
-  /// Blanks that a tab stands for.
+  /// Width of a tab in spaces.
   virtual std::int32_t TabSize() const = 0;
   /// @}
 

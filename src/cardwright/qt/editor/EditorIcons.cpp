@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "cardwright/qt/editor/EditorIcons.h"
 
-#include <QPainterPath>
 #include <algorithm>
 
 #include "cardwright/automation/Text.h"
@@ -14,22 +13,6 @@ namespace {
 void Lens(const IconInk& ink, qreal x, qreal y) {
   ink.painter.drawEllipse(QPointF(x, y), 3.6, 3.6);
   ink.painter.drawLine(QPointF(x + 2.7, y + 2.7), QPointF(x + 6, y + 6));
-}
-
-void Turned(const IconInk& ink, bool back) {
-  ink.painter.save();
-  if (!back) {
-    ink.painter.translate(16, 0);
-    ink.painter.scale(-1, 1);
-  }
-  QPainterPath path(QPointF(3, 6));
-  path.lineTo(9.5, 6);
-  path.cubicTo(14.5, 6, 14.5, 13, 9.5, 13);
-  path.lineTo(6, 13);
-  ink.painter.drawPath(path);
-  ink.Accent();
-  ink.painter.drawPolyline(QPolygonF{{6, 2.8}, {2.8, 6}, {6, 9.2}});
-  ink.painter.restore();
 }
 
 void Disk(const IconInk& ink) {
@@ -99,8 +82,8 @@ constexpr EditorDrawing kEditorDrawings[] = {
     {u"find", [](const IconInk& ink) { Lens(ink, 7, 7); }},
     {u"findnext", &FindNext},
     {u"subst", &Swap},
-    {u"undo", [](const IconInk& ink) { Turned(ink, true); }},
-    {u"redo", [](const IconInk& ink) { Turned(ink, false); }},
+    {u"undo", [](const IconInk& ink) { ink.DrawTurn(true); }},
+    {u"redo", [](const IconInk& ink) { ink.DrawTurn(false); }},
     {u"props", &Sliders},
     {u"help", &Info},
     {u"method", [](const IconInk& ink) { Arrow(ink, false); }},

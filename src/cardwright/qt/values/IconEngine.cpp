@@ -2,6 +2,7 @@
 #include "cardwright/qt/values/IconEngine.h"
 
 #include <QApplication>
+#include <QPainterPath>
 #include <QPalette>
 
 namespace cardwright::qt {
@@ -26,6 +27,22 @@ void IconInk::Accent() const {
 void IconInk::Filled() const {
   painter.setPen(PenOf(line));
   painter.setBrush(background);
+}
+
+void IconInk::DrawTurn(bool back) const {
+  painter.save();
+  if (!back) {
+    painter.translate(kField, 0);
+    painter.scale(-1, 1);
+  }
+  QPainterPath path(QPointF(3, 6));
+  path.lineTo(9.5, 6);
+  path.cubicTo(14.5, 6, 14.5, 13, 9.5, 13);
+  path.lineTo(6, 13);
+  painter.drawPath(path);
+  Accent();
+  painter.drawPolyline(QPolygonF{{6, 2.8}, {2.8, 6}, {6, 9.2}});
+  painter.restore();
 }
 
 void IconEngine::paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State) {

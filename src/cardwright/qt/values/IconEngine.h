@@ -16,6 +16,8 @@ struct IconInk {
   void Lines() const;
   void Accent() const;
   void Filled() const;
+  /// The turned arrow of undo, or its mirror image of redo.
+  void DrawTurn(bool back) const;
 };
 
 /// Draws an icon for each size and state.
